@@ -1,0 +1,51 @@
+// Numbered records of one fixed length. docs/formats/record-file.md has the layout.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "storage/program_folder.h"
+#include "storage/tagged_value.h"
+
+namespace tarnwell::storage {
+
+// Open for one operation, closed by the destructor. Opening makes the file if it is missing. Record
+// numbers start at 1. A record that was never written, a file that couldn't be opened and a stored
+// length that can't be true all read as the empty value.
+class RecordFile {
+ public:
+  RecordFile(ProgramFolder& folder, std::string_view name, int record_length);
+
+  bool is_open() const { return file_ != nullptr; }
+
+  std::string GetText(int record);
+  TaggedValue GetTagged(int record);
+  std::int16_t GetInteger(int record);
+  // The first `size` bytes of the record, zero bytes where the file ends before.
+  std::string GetStructure(int record, std::size_t size);
+
+  // A value that doesn't fit in the record isn't written and the old one stays. False when nothing
+  // was written. Bytes behind the value stay as they are.
+  bool PutText(int record, std::string_view text);
+  bool PutTagged(int record, const TaggedValue& value);
+  bool PutInteger(int record, std::int16_t value);
+  bool PutStructure(int record, std::string_view bytes);
+
+  // Calls `visit` with each record's number and bytes (always record_length of them, zero bytes
+  // where the file ends before) from `first` to the file's end, reading in large pieces.
+  void Scan(int first, const std::function<void(int, std::string_view)>& visit);
+
+  // False if the last write could not be brought to its end. Also closes.
+  bool Close();
+
+ private:
+  std::unique_ptr<File> file_;
+  int record_length_;
+};
+
+}  // namespace tarnwell::storage

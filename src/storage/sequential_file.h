@@ -1,0 +1,54 @@
+// Comma-and-line separated values, texts in quotes. docs/formats/sequential-file.md has the grammar.
+
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "storage/program_folder.h"
+
+namespace tarnwell::storage {
+
+// Reads the whole file at once. A missing file is at its end from the start.
+class SequentialReader {
+ public:
+  SequentialReader(ProgramFolder& folder, std::string_view name);
+  explicit SequentialReader(std::string content) : content_(std::move(content)) {}
+
+  bool AtEnd() const { return place_ >= content_.size(); }
+  // A quoted text up to its closing quote, or an unquoted run up to the next comma or line end,
+  // without the blanks around it. Empty at the end.
+  std::string Next();
+
+ private:
+  std::string content_;
+  std::size_t place_ = 0;
+};
+
+// Collects lines; Save replaces the file whole.
+class SequentialWriter {
+ public:
+  using Value = std::variant<double, std::string_view>;
+
+  // One line: texts in quotes, numbers bare, commas between them, CR LF behind. A double quote
+  // inside a text is not escaped: a reader stops the value at it.
+  void WriteLine(std::initializer_list<Value> values);
+  void WriteText(std::string_view text) { WriteLine({text}); }
+
+  bool Save(ProgramFolder& folder, std::string_view name) const;
+  const std::string& content() const { return content_; }
+
+ private:
+  std::string content_;
+};
+
+// A name list: one quoted text a line, in list order. A missing file is an empty list.
+std::vector<std::string> ReadNameList(ProgramFolder& folder, std::string_view name);
+bool WriteNameList(ProgramFolder& folder, std::string_view name,
+                   const std::vector<std::string>& names);
+
+}  // namespace tarnwell::storage

@@ -1,0 +1,46 @@
+// Fields packed one behind the other without padding, little-endian.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tarnwell::storage {
+
+class StructureWriter {
+ public:
+  // Cut or padded on the right with blanks to `width` bytes.
+  StructureWriter& FixedText(std::string_view text, std::size_t width);
+  StructureWriter& Int16(std::int16_t value);
+  StructureWriter& Int32(std::int32_t value);
+  StructureWriter& Float(float value);
+  StructureWriter& Double(double value);
+  // A 2-byte length and the bytes; cut at 65,535.
+  StructureWriter& Text(std::string_view text);
+
+  const std::string& bytes() const { return bytes_; }
+
+ private:
+  std::string bytes_;
+};
+
+// Reads what a StructureWriter wrote. Past the end every field is empty.
+class StructureReader {
+ public:
+  explicit StructureReader(std::string_view bytes) : rest_(bytes) {}
+
+  // All `width` bytes as they stand, blanks and zero bytes included.
+  std::string FixedText(std::size_t width);
+  std::int16_t Int16();
+  std::int32_t Int32();
+  float Float();
+  double Double();
+  std::string Text();
+
+ private:
+  std::string_view rest_;
+};
+
+}  // namespace tarnwell::storage
