@@ -27,7 +27,8 @@ class ProgramFolder {
   const std::string& path() const { return user_folder_; }
   FileSystem& files() const { return files_; }
 
-  // Opens the user's own file; in mode kRead a supplied file of that name stands in for a missing one.
+  // Opens the user's own file; in mode kRead a supplied file of that name stands in for a missing
+  // one.
   std::unique_ptr<File> Open(std::string_view name, OpenMode mode);
   // Whole content, the user's own before the supplied one; empty when there is none, when it can't
   // be read, or when it is larger than `kMaxWholeFile` bytes.

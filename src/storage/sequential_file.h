@@ -1,4 +1,5 @@
-// Comma-and-line separated values, texts in quotes. docs/formats/sequential-file.md has the grammar.
+// Comma-and-line separated values, texts in quotes. docs/formats/sequential-file.md has the
+// grammar.
 
 #pragma once
 

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace tarnwell::forms {
+
+struct CommandStyle {
+  std::string_view tool_tip = {};
+  bool cancel = false;  // Esc on the form presses it
+};
+
+// A button. "&" in its caption marks the mnemonic, "&&" is a plain ampersand.
+class Command : public Control {
+ public:
+  Command(Container& parent, std::string_view name, std::string_view caption,
+          CommandStyle style = {})
+      : Control(parent, name), caption_(caption), cancel_(style.cancel) {
+    SetToolTip(style.tool_tip);
+  }
+
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string_view caption) {
+    caption_ = caption;
+    Changed();
+  }
+  bool cancel() const { return cancel_; }
+
+  // One of a row of buttons that stay down: painted in the selected colour and drawn flat.
+  bool selected() const { return selected_; }
+  void SetSelected(bool selected) {
+    selected_ = selected;
+    Changed();
+  }
+
+  void Click() {
+    if (Reachable()) Run(on_click);
+  }
+  std::function<void()> on_click;
+
+ private:
+  std::string caption_;
+  bool cancel_;
+  bool selected_ = false;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,36 @@
+// Boxes that stop everything until they are answered.
+
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "forms/color.h"
+
+namespace tarnwell::forms {
+
+enum class Icon { kNone, kInformation, kExclamation, kQuestion, kCritical };
+enum class Buttons { kOk, kYesNo, kYesNoCancel };
+// The numbers that ProgramVariables::Answer keeps.
+enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
+
+struct MessageBox {
+  std::string title;
+  std::string text;  // lines parted by '\n'
+  Icon icon = Icon::kInformation;
+  Buttons buttons = Buttons::kOk;
+  int default_button = 1;  // 1-based
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  // Closing the box by other means answers Cancel where there is such a button, No to Yes/No, else
+  // OK.
+  virtual Answer Message(const MessageBox& box) = 0;
+  // Empty when it was cancelled.
+  virtual std::optional<Color> ChooseColor(Color start) = 0;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,70 @@
+#include "forms/form.h"
+
+#include <algorithm>
+
+#include "forms/command.h"
+
+namespace tarnwell::forms {
+namespace {
+
+void Collect(const Container& container, std::vector<Control*>& controls) {
+  for (Control* control : container.children()) {
+    controls.push_back(control);
+    if (auto* inner = dynamic_cast<Container*>(control)) Collect(*inner, controls);
+  }
+}
+
+}  // namespace
+
+Form::Form(Context& context, std::string_view name, std::string_view caption)
+    : context_(context), name_(name), caption_(caption) {}
+
+void Form::SetCaption(std::string_view caption) {
+  caption_ = caption;
+  changed_.Notify();
+}
+
+void Form::SetStatus(std::string_view status) {
+  status_ = status;
+  changed_.Notify();
+}
+
+void Form::SetBackground(std::optional<Color> color) {
+  background_ = color;
+  changed_.Notify();
+}
+
+std::vector<Control*> Form::AllControls() const {
+  std::vector<Control*> controls;
+  Collect(*this, controls);
+  return controls;
+}
+
+Control* Form::Find(std::string_view name) const {
+  const auto controls = AllControls();
+  const auto found = std::ranges::find(controls, name, &Control::name);
+  return found == controls.end() ? nullptr : *found;
+}
+
+void Form::PressEscape() {
+  for (Control* control : AllControls()) {
+    auto* command = dynamic_cast<Command*>(control);
+    if (command && command->cancel() && command->Reachable()) return command->Click();
+  }
+}
+
+forms::Answer Form::Message(const MessageBox& box) {
+  const forms::Answer answer = context_.dialogs.Message(box);
+  context_.variables.Answer = static_cast<double>(answer);
+  return answer;
+}
+
+void Form::MoveFocus(Control* control) {
+  Control* before = focus_;
+  focus_ = control;
+  if (before) before->Changed();
+  control->Changed();
+  changed_.Notify();
+}
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,90 @@
+// A screen: controls, handlers and working values, without a widget.
+
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/color.h"
+#include "forms/context.h"
+#include "forms/control.h"
+#include "forms/menu.h"
+
+namespace tarnwell::forms {
+
+enum class UnloadCause { kCloseBox, kProgram };
+
+class Form : public Container {
+ public:
+  Form(Context& context, std::string_view name, std::string_view caption);
+
+  // The life of a form, in this order; Activate comes each time the form gets on top.
+  virtual void Load() {}
+  virtual void Activate() {}
+  // False keeps the form.
+  virtual bool QueryUnload(UnloadCause) { return true; }
+  virtual void Unload() {}
+  // The window has a new size, or was maximised or restored.
+  virtual void Resized() {}
+
+  const std::string& name() const { return name_; }
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string_view caption);
+  const std::string& status() const { return status_; }  // panel 1 of the status bar
+  void SetStatus(std::string_view status);
+  const std::optional<Color>& background() const { return background_; }
+  void SetBackground(std::optional<Color> color);
+
+  // The menu bar. The menus hang below one item that is never shown itself.
+  MenuItem& menus() { return menus_; }
+  // What a right-click pops up; nullptr for nothing.
+  MenuItem* popup_menu() const { return popup_menu_; }
+  // Help page of the whole screen, 0 for none.
+  int help_context() const { return help_context_; }
+
+  Control* focus() const { return focus_; }
+  // Every control, in the order of their making, those in panels too.
+  std::vector<Control*> AllControls() const;
+  // By fixed name; nullptr if there is none.
+  Control* Find(std::string_view name) const;
+  void PressEscape();
+
+  Form& form() override { return *this; }
+  bool Reachable() const override { return on_top_; }
+
+  // Caption, status, background or focus changed.
+  [[nodiscard]] Subscription OnChanged(Notifier::Listener listener) {
+    return changed_.Subscribe(std::move(listener));
+  }
+
+ protected:
+  // Shows the box and keeps the answer's code in the program's variables.
+  forms::Answer Message(const MessageBox& box);
+  bool Confirmed(const MessageBox& box) { return Message(box) == forms::Answer::kYes; }
+  void SetPopupMenu(MenuItem& menu) { popup_menu_ = &menu; }
+  void SetHelpContext(int context) { help_context_ = context; }
+
+  Context& context_;
+
+ private:
+  friend class Control;
+  friend class Navigator;
+  void MoveFocus(Control* control);
+
+  std::string name_;
+  std::string caption_;
+  std::string status_;
+  std::optional<Color> background_;
+  MenuItem menus_{"", ""};
+  MenuItem* popup_menu_ = nullptr;
+  Control* focus_ = nullptr;
+  int help_context_ = 0;
+  bool on_top_ = false;
+  bool modal_ = false;
+  Notifier changed_;
+};
+
+}  // namespace tarnwell::forms

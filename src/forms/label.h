@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace tarnwell::forms {
+
+enum class LabelRole { kText, kHeading, kTitle, kNote };
+
+// A text that the form sets. It can be clicked where it has an `on_click`.
+class Label : public Control {
+ public:
+  Label(Container& parent, std::string_view name, std::string_view caption = {},
+        LabelRole role = LabelRole::kText)
+      : Control(parent, name), caption_(caption), role_(role) {}
+
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string_view caption) {
+    caption_ = caption;
+    Changed();
+  }
+  LabelRole role() const { return role_; }
+
+  void Click() {
+    if (Reachable()) Run(on_click);
+  }
+  std::function<void()> on_click;
+
+ private:
+  std::string caption_;
+  LabelRole role_;
+};
+
+// A supplied picture, by its file name in the program's folder or among the supplied files.
+class Picture : public Control {
+ public:
+  Picture(Container& parent, std::string_view name, std::string_view file)
+      : Control(parent, name), file_(file) {}
+
+  const std::string& file() const { return file_; }
+
+  void Click() {
+    if (Reachable()) Run(on_click);
+  }
+  std::function<void()> on_click;
+
+ private:
+  std::string file_;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,70 @@
+// Menus as data: the bar of a form, its submenus and entries.
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/notifier.h"
+
+namespace tarnwell::forms {
+
+// An entry, a submenu or a separator. An entry that is hidden, disabled or without a form on top
+// of the others ignores Click.
+class MenuItem {
+ public:
+  using Handler = std::function<void()>;
+
+  MenuItem(std::string_view name, std::string_view caption) : name_(name), caption_(caption) {}
+  MenuItem(const MenuItem&) = delete;
+  MenuItem& operator=(const MenuItem&) = delete;
+
+  // Adds to this submenu and returns what was added. A name may be empty.
+  MenuItem& AddEntry(std::string_view name, std::string_view caption, Handler on_click);
+  MenuItem& AddSubmenu(std::string_view name, std::string_view caption);
+  void AddSeparator();
+
+  const std::string& name() const { return name_; }
+  const std::string& caption() const { return caption_; }
+  bool separator() const { return caption_.empty(); }
+  bool submenu() const { return !on_click_; }
+  const std::vector<std::unique_ptr<MenuItem>>& items() const { return items_; }
+
+  bool enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  bool visible() const { return visible_; }
+  void SetVisible(bool visible);
+  bool checked() const { return checked_; }
+  void SetChecked(bool checked);
+  // Shows a mark that comes and goes with SetChecked.
+  bool checkable() const { return checkable_; }
+  void SetCheckable() { checkable_ = true; }
+
+  void Click();
+  // The submenu is about to open: the form brings its entries up to date.
+  void Open();
+  Handler on_open;
+
+  // The entry of that name below this one, or nullptr.
+  MenuItem* Find(std::string_view name);
+
+  [[nodiscard]] Subscription OnChanged(Notifier::Listener listener) {
+    return changed_.Subscribe(std::move(listener));
+  }
+
+ private:
+  std::string name_;
+  std::string caption_;
+  Handler on_click_;
+  std::vector<std::unique_ptr<MenuItem>> items_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool checked_ = false;
+  bool checkable_ = false;
+  Notifier changed_;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/color.h"
+#include "forms/control.h"
+
+namespace tarnwell::forms {
+
+// A part of a form that is shown, hidden and disabled as a whole. Its caption, where it has one, is
+// its title. A panel without a caption that only groups is a Panel too.
+class Panel : public Control, public Container {
+ public:
+  Panel(Container& parent, std::string_view name, std::string_view caption = {})
+      : Control(parent, name), caption_(caption) {}
+
+  Form& form() override { return Control::form(); }
+  bool Reachable() const override { return Control::Reachable(); }
+
+  const std::string& caption() const { return caption_; }
+  void SetCaption(std::string_view caption) {
+    caption_ = caption;
+    Changed();
+  }
+
+  // Empty for the look's own colour.
+  const std::optional<Color>& background() const { return background_; }
+  void SetBackground(std::optional<Color> color) {
+    background_ = color;
+    Changed();
+  }
+
+ private:
+  std::string caption_;
+  std::optional<Color> background_;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "storage/tagged_value.h"
+
+namespace tarnwell::forms {
+
+// The small block that all screens share. It lasts for the run.
+struct ProgramVariables {
+  std::int16_t SmallerScreen = 0;  // 9 smaller-screen display, 0 full screen
+  std::int16_t MainArea = 0;       // index of the main button last chosen, 0 to 4
+  std::int16_t SplashShown = 0;    // 99 once the splash screen was shown
+  storage::TaggedValue StartBackColor;
+  std::int16_t FormHeight = 0;  // the work area's client, in twips, cut to 32767
+  std::int16_t FormWidth = 0;
+  double Answer = 0;        // code of the last message box: 1 OK, 2 Cancel, 6 Yes, 7 No
+  std::string DateStyle;    // "OTHER" selects day-first captions; nothing sets it
+  std::string CompanyLine;  // put behind captions and heads when not empty; nothing sets it
+
+  bool day_first() const { return DateStyle == "OTHER"; }
+};
+
+}  // namespace tarnwell::forms

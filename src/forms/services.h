@@ -1,0 +1,72 @@
+// What a form may ask of the world around it. The desktop lends real ones, tests hand in fakes.
+
+#pragma once
+
+#include <functional>
+
+#include "text/date.h"
+
+namespace tarnwell::forms {
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  virtual text::Moment Now() = 0;  // local time
+  text::Date Today() { return Now().date; }
+};
+
+class EventLoop {
+ public:
+  virtual ~EventLoop() = default;
+  // Lets waiting input and repainting happen, then returns.
+  virtual void Yield() = 0;
+  // As Yield, but may sleep a little first: for loops that wait for the clock.
+  virtual void WaitALittle() = 0;
+  // Handles input until `done` holds.
+  virtual void RunUntil(const std::function<bool()>& done) = 0;
+};
+
+// A twip is a twentieth of a point; a pixel of a standard display has 15 of them.
+inline constexpr int kTwipsPerPixel = 15;
+
+struct Size {
+  int width = 0;   // twips
+  int height = 0;  // twips
+  friend bool operator==(const Size&, const Size&) = default;
+};
+
+// The one window that all forms share.
+class Window {
+ public:
+  virtual ~Window() = default;
+  virtual Size screen() = 0;
+  virtual Size size() = 0;
+  virtual void SetSize(Size size) = 0;
+  virtual void SetMinimumSize(Size size) = 0;
+  virtual bool maximized() = 0;
+  virtual void SetMaximized(bool maximized) = 0;
+  virtual void CenterOnScreen() = 0;
+  virtual void SetHourglass(bool on) = 0;
+  virtual void Beep() = 0;
+};
+
+// Shows the help page of a context number; does nothing where there is no such page.
+class HelpViewer {
+ public:
+  virtual ~HelpViewer() = default;
+  virtual void Show(int context) = 0;
+};
+
+// The wait shape of the pointer for the length of a handler.
+class Hourglass {
+ public:
+  explicit Hourglass(Window& window) : window_(window) { window_.SetHourglass(true); }
+  ~Hourglass() { window_.SetHourglass(false); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Window& window_;
+};
+
+}  // namespace tarnwell::forms

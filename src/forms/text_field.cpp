@@ -1,0 +1,38 @@
+#include "forms/text_field.h"
+
+#include <algorithm>
+
+namespace tarnwell::forms {
+
+void TextField::SetText(std::string_view text) {
+  text_ = text;
+  Changed();
+}
+
+void TextField::SetMarked(bool marked) {
+  if (marked_ == marked) return;
+  marked_ = marked;
+  Changed();
+}
+
+void TextField::Type(std::string_view text) {
+  if (!Reachable()) return;
+  std::string typed(text.substr(0, max_length_));
+  std::ranges::replace_if(
+      typed, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  const bool different = typed != text_;
+  SetText(typed);
+  if (different) Run(on_change);
+}
+
+void TextField::PressEnter() {
+  if (Reachable()) Run(on_enter);
+}
+
+void TextField::Click() {
+  if (!Reachable()) return;
+  Focus();
+  Run(on_click);
+}
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "forms/control.h"
+
+namespace tarnwell::forms {
+
+struct TextFieldStyle {
+  std::size_t max_length = 255;  // characters that can be typed
+  std::string_view spoken_name = {};
+};
+
+// One line of text in code page 1252. What the program sets may be longer than what can be typed.
+class TextField : public Control {
+ public:
+  TextField(Container& parent, std::string_view name, TextFieldStyle style = {})
+      : Control(parent, name), max_length_(style.max_length) {
+    SetSpokenName(style.spoken_name);
+  }
+
+  const std::string& text() const { return text_; }
+  void SetText(std::string_view text);
+  std::size_t max_length() const { return max_length_; }
+
+  // The row in hand is marked.
+  bool marked() const { return marked_; }
+  void SetMarked(bool marked);
+
+  // A person made this the content. Cut to max_length, blank for control characters.
+  void Type(std::string_view text);
+  void PressEnter();
+  void Click();
+
+  std::function<void()> on_change;  // after Type only
+  std::function<void()> on_enter;
+  std::function<void()> on_click;
+
+ private:
+  std::string text_;
+  std::size_t max_length_;
+  bool marked_ = false;
+};
+
+}  // namespace tarnwell::forms
