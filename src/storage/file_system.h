@@ -41,14 +41,19 @@ class FileSystem {
   virtual ~FileSystem() = default;
 
   virtual std::unique_ptr<File> Open(const std::string& path, OpenMode mode) = 0;
+  // True for a plain file.
   virtual bool Exists(const std::string& path) = 0;
   virtual bool Rename(const std::string& from, const std::string& to) = 0;
   // A missing file is no error.
   virtual bool Remove(const std::string& path) = 0;
+  // Who may read and write `to` becomes who may read and write `from`, where the machine can.
+  virtual void CopyPermissions(const std::string& from, const std::string& to) = 0;
+  // The folder's names are on the disk when it returns true.
   virtual bool FlushFolder(const std::string& path) = 0;
+  // Makes a folder and those above it; one that is there already is no error.
   virtual bool MakeFolder(const std::string& path) = 0;
-  // The names of the plain files in a folder, in no order. Empty when it can't be read.
-  virtual std::vector<std::string> List(const std::string& folder) = 0;
+  // The names of the plain files in a folder, in no order; none when it can't be read.
+  virtual std::optional<std::vector<std::string>> List(const std::string& folder) = 0;
 };
 
 // The machine's own file system.

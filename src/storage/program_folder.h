@@ -2,23 +2,25 @@
 
 #pragma once
 
-#include <map>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "storage/file_system.h"
+#include "storage/folder_names.h"
 
 namespace tarnwell::storage {
 
 // True for a name that stays inside the folder: not empty, no separator ("/", "\", ":"), no control
 // character, not "." or "..", not longer than a file system takes (255 bytes of UTF-8), and none of
-// the names that this program keeps for itself.
+// the names that the store keeps for itself (file_names::kOwnPrefix).
 bool IsPlainFileName(std::string_view name);
 
 // File names are texts of code page 1252 and become UTF-8 here. Names that differ only in capitals
-// reach one file. A name that isn't plain makes the operation fail.
+// reach one file, the one that is there whatever its capitals. A name that isn't plain makes the
+// operation fail, and so does a folder that is gone, full or read-only: what was there stays.
 class ProgramFolder {
  public:
   // `supplied` is the folder of installed read-only files; empty for none.
@@ -33,7 +35,8 @@ class ProgramFolder {
   // Whole content, the user's own before the supplied one; empty when there is none, when it can't
   // be read, or when it is larger than `kMaxWholeFile` bytes.
   std::optional<std::string> ReadWhole(std::string_view name);
-  // Replaces the file whole: at any instant the name holds the old or the new content.
+  // Replaces the file whole: at any instant the name holds the old or the new content, and when it
+  // returns true the new one is on the disk.
   bool WriteWhole(std::string_view name, std::string_view content);
   // A missing file is no error; supplied files are never touched.
   bool Delete(std::string_view name);
@@ -41,18 +44,20 @@ class ProgramFolder {
   bool Exists(std::string_view name);
   // Length in bytes of the user's own file, 0 when there is none.
   std::uint64_t Length(std::string_view name);
-  // Removes what interrupted saves left behind.
+  // Removes what interrupted saves left behind. For the start of the program, under its FolderLock.
   void SweepOrphans();
 
   static constexpr std::uint64_t kMaxWholeFile = 256u << 20;
 
  private:
-  std::string PathFor(std::string_view name);
+  std::unique_ptr<File> OpenSupplied(std::string_view name);
+  // The path of a file that wasn't located; none when it may exist under other capitals.
+  std::optional<std::string> NewPath(std::string_view name) const;
 
   FileSystem& files_;
   std::string user_folder_;
-  std::string supplied_folder_;
-  std::map<std::string, std::string, std::less<>> names_on_disk_;  // folded name to UTF-8 name
+  FolderNames user_names_;
+  FolderNames supplied_names_;
 };
 
 }  // namespace tarnwell::storage

@@ -16,7 +16,8 @@ namespace tarnwell::storage {
 
 // Open for one operation, closed by the destructor. Opening makes the file if it is missing. Record
 // numbers start at 1. A record that was never written, a file that couldn't be opened and a stored
-// length that can't be true all read as the empty value.
+// length that can't be true all read as the empty value. A file that may not be changed can be
+// read.
 class RecordFile {
  public:
   RecordFile(ProgramFolder& folder, std::string_view name, int record_length);
@@ -40,10 +41,18 @@ class RecordFile {
   // where the file ends before) from `first` to the file's end, reading in large pieces.
   void Scan(int first, const std::function<void(int, std::string_view)>& visit);
 
-  // False if the last write could not be brought to its end. Also closes.
+  // False if the file wasn't open or can't say that all is written. Also closes.
   bool Close();
 
  private:
+  std::size_t Width() const { return static_cast<std::size_t>(record_length_); }
+  std::uint64_t OffsetOf(int record) const {
+    return (static_cast<std::uint64_t>(record) - 1) * Width();
+  }
+  // The record's first `size` bytes, fewer where the record or the file ends before.
+  std::string Read(int record, std::size_t size);
+  bool Write(int record, std::string_view bytes);
+
   std::unique_ptr<File> file_;
   int record_length_;
 };

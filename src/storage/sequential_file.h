@@ -26,6 +26,8 @@ class SequentialReader {
   std::string Next();
 
  private:
+  void SkipPast(std::size_t end);
+
   std::string content_;
   std::size_t place_ = 0;
 };
@@ -36,7 +38,8 @@ class SequentialWriter {
   using Value = std::variant<double, std::string_view>;
 
   // One line: texts in quotes, numbers bare, commas between them, CR LF behind. A double quote
-  // inside a text is not escaped: a reader stops the value at it.
+  // inside a text is not escaped: a reader stops the value at it. A number that isn't finite is
+  // written as 0.
   void WriteLine(std::initializer_list<Value> values);
   void WriteText(std::string_view text) { WriteLine({text}); }
 

@@ -26,7 +26,8 @@ class StructureWriter {
   std::string bytes_;
 };
 
-// Reads what a StructureWriter wrote. Past the end every field is empty.
+// Reads what a StructureWriter wrote. A field that isn't whole is empty, and so is all behind it; a
+// number that isn't finite is 0.
 class StructureReader {
  public:
   explicit StructureReader(std::string_view bytes) : rest_(bytes) {}

@@ -17,9 +17,10 @@ struct SerialDate {
 using TaggedValue = std::variant<std::monostate, std::int16_t, std::int32_t, float, double,
                                  SerialDate, std::string>;
 
-// The stored bytes: a 2-byte tag, then the payload.
+// The stored bytes: a 2-byte tag, then the payload. A text is cut at 65,535 characters.
 std::string PackTagged(const TaggedValue& value);
-// Reads a value from the front of `bytes`; an unknown tag or a payload that isn't whole is empty.
+// Reads a value from the front of `bytes`; an unknown tag, a payload that isn't whole and a number
+// that isn't finite are empty.
 TaggedValue UnpackTagged(std::string_view bytes);
 
 // The number in a value: a number as it is, a text by its leading number, empty as 0.

@@ -2,8 +2,11 @@
 
 #pragma once
 
+#include <concepts>
 #include <string>
 #include <string_view>
+
+#include "text/rounded_decimal.h"
 
 namespace tarnwell::text {
 
@@ -13,6 +16,12 @@ namespace tarnwell::text {
 // ($1,234.50, negative in parentheses) and "Percent" (two decimals). Rounding is half away from
 // zero on the decimal digits of the number. Not a number or infinite gives the empty text.
 std::string FormatNumber(double value, std::string_view mask);
+
+// A single-precision number counts with its own digits: 0.1f is 0.1, not 0.10000000149.
+template <std::same_as<float> Single>
+std::string FormatNumber(Single value, std::string_view mask) {
+  return FormatNumber(WidenByDigits(value), mask);
+}
 
 // A text by a mask of "@" places and literal blanks. With "!" the places fill from the left: the
 // text is padded on the right to their count and cut behind it. Without "!" it is padded on the

@@ -1,0 +1,170 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <limits>
+#include <utility>
+
+#include "storage/file_system.h"
+
+namespace tarnwell::storage {
+namespace {
+
+// Repeats a system call that a signal broke off.
+template <typename Call>
+auto Retry(Call call) {
+  auto result = call();
+  while (result == -1 && errno == EINTR) result = call();
+  return result;
+}
+
+int OpenDescriptor(const std::string& path, int flags) {
+  return Retry([&] { return ::open(path.c_str(), flags | O_CLOEXEC, 0666); });
+}
+
+// A descriptor is gone after close, even if a signal broke the call off.
+bool CloseDescriptor(int descriptor) { return ::close(descriptor) == 0 || errno == EINTR; }
+
+bool IsPlainFile(const std::string& path) {
+  struct stat status;
+  return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+class PosixFile : public File {
+ public:
+  explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
+  ~PosixFile() override { Close(); }
+  PosixFile(const PosixFile&) = delete;
+  PosixFile& operator=(const PosixFile&) = delete;
+
+  std::ptrdiff_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
+    std::size_t done = 0;
+    while (done < buffer.size()) {
+      const std::uint64_t place = offset + done;
+      if (place > kLastOffset) break;
+      const ssize_t count = Retry([&] {
+        return ::pread(descriptor_, buffer.data() + done, buffer.size() - done,
+                       static_cast<off_t>(place));
+      });
+      if (count < 0) return -1;
+      if (count == 0) break;
+      done += static_cast<std::size_t>(count);
+    }
+    return static_cast<std::ptrdiff_t>(done);
+  }
+
+  bool WriteAt(std::uint64_t offset, std::string_view bytes) override {
+    while (!bytes.empty()) {
+      if (offset > kLastOffset) return false;
+      const ssize_t count = Retry([&] {
+        return ::pwrite(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(offset));
+      });
+      if (count <= 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+      offset += static_cast<std::uint64_t>(count);
+    }
+    return true;
+  }
+
+  std::optional<std::uint64_t> Size() override {
+    struct stat status;
+    if (::fstat(descriptor_, &status) != 0) return std::nullopt;
+    return static_cast<std::uint64_t>(status.st_size);
+  }
+
+  bool Flush() override {
+    return Retry([&] { return ::fdatasync(descriptor_); }) == 0;
+  }
+
+  bool Close() override {
+    if (descriptor_ == kClosed) return true;
+    return CloseDescriptor(std::exchange(descriptor_, kClosed));
+  }
+
+ private:
+  static constexpr int kClosed = -1;
+  static constexpr auto kLastOffset = static_cast<std::uint64_t>(std::numeric_limits<off_t>::max());
+
+  int descriptor_;
+};
+
+int FlagsOf(OpenMode mode) {
+  switch (mode) {
+    case OpenMode::kRead:
+      return O_RDONLY;
+    case OpenMode::kReadWrite:
+      return O_RDWR;
+    case OpenMode::kCreate:
+      return O_RDWR | O_CREAT;
+    case OpenMode::kCreateFresh:
+      return O_RDWR | O_CREAT | O_EXCL;
+  }
+  return O_RDONLY;
+}
+
+class PosixFileSystem : public FileSystem {
+ public:
+  std::unique_ptr<File> Open(const std::string& path, OpenMode mode) override {
+    const int descriptor = OpenDescriptor(path, FlagsOf(mode));
+    return descriptor < 0 ? nullptr : std::make_unique<PosixFile>(descriptor);
+  }
+
+  bool Exists(const std::string& path) override { return IsPlainFile(path); }
+
+  bool Rename(const std::string& from, const std::string& to) override {
+    return std::rename(from.c_str(), to.c_str()) == 0;
+  }
+
+  bool Remove(const std::string& path) override {
+    return ::unlink(path.c_str()) == 0 || errno == ENOENT;
+  }
+
+  void CopyPermissions(const std::string& from, const std::string& to) override {
+    struct stat status;
+    if (::stat(from.c_str(), &status) == 0) (void)::chmod(to.c_str(), status.st_mode & 0777);
+  }
+
+  bool FlushFolder(const std::string& path) override {
+    const int descriptor = OpenDescriptor(path, O_RDONLY | O_DIRECTORY);
+    if (descriptor < 0) return false;
+    // Some file systems of the network know no flush of a folder and have nothing to flush.
+    const bool is_flushed =
+        Retry([&] { return ::fsync(descriptor); }) == 0 || errno == EINVAL || errno == ENOTSUP;
+    return CloseDescriptor(descriptor) && is_flushed;
+  }
+
+  bool MakeFolder(const std::string& path) override {
+    for (auto slash = path.find('/', 1); slash != std::string::npos;
+         slash = path.find('/', slash + 1)) {
+      ::mkdir(path.substr(0, slash).c_str(), 0777);  // the last call tells whether it all worked
+    }
+    if (::mkdir(path.c_str(), 0777) == 0) return true;
+    struct stat status;
+    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  }
+
+  std::optional<std::vector<std::string>> List(const std::string& folder) override {
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(::opendir(folder.c_str()), ::closedir);
+    if (!stream) return std::nullopt;
+    std::vector<std::string> names;
+    while (const dirent* entry = ::readdir(stream.get())) {
+      const bool is_plain =
+          entry->d_type == DT_REG || ((entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) &&
+                                      IsPlainFile(folder + "/" + entry->d_name));
+      if (is_plain) names.emplace_back(entry->d_name);
+    }
+    return names;
+  }
+};
+
+}  // namespace
+
+FileSystem& RealFileSystem() {
+  static PosixFileSystem files;
+  return files;
+}
+
+}  // namespace tarnwell::storage

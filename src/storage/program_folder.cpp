@@ -1,0 +1,120 @@
+#include "storage/program_folder.h"
+
+#include <algorithm>
+
+#include "storage/file_names.h"
+#include "storage/whole_file_save.h"
+#include "text/code_page_1252.h"
+#include "text/letters.h"
+
+namespace tarnwell::storage {
+namespace {
+
+constexpr std::size_t kLongestName = 255;  // bytes of UTF-8
+
+// The code page leaves five places of its upper half to control characters.
+bool IsForbidden(char letter) {
+  const auto code = static_cast<unsigned char>(letter);
+  return code < 0x20 || code == 0x7F || code == 0x81 || code == 0x8D || code == 0x8F ||
+         code == 0x90 || code == 0x9D || letter == '/' || letter == '\\' || letter == ':';
+}
+
+bool IsOwnName(std::string_view name) {
+  return text::EqualIgnoringCase(name.substr(0, file_names::kOwnPrefix.size()),
+                                 file_names::kOwnPrefix);
+}
+
+}  // namespace
+
+bool IsPlainFileName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.size() <= kLongestName &&
+         std::none_of(name.begin(), name.end(), IsForbidden) && !IsOwnName(name) &&
+         text::ToUtf8(name).size() <= kLongestName;
+}
+
+ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,
+                             std::string supplied_folder)
+    : files_(files),
+      user_folder_(std::move(user_folder)),
+      user_names_(files, user_folder_),
+      supplied_names_(files, std::move(supplied_folder)) {}
+
+std::unique_ptr<File> ProgramFolder::Open(std::string_view name, OpenMode mode) {
+  if (!IsPlainFileName(name)) return nullptr;
+  const bool is_fresh = mode == OpenMode::kCreateFresh;
+  const OpenMode existing = mode == OpenMode::kCreate ? OpenMode::kReadWrite : mode;
+  if (const auto path = user_names_.Known(name); path && !is_fresh) {
+    if (auto file = files_.Open(*path, existing)) return file;
+  }
+  if (const auto path = user_names_.Locate(name)) {
+    return is_fresh ? nullptr : files_.Open(*path, existing);
+  }
+  if (mode == OpenMode::kRead) return OpenSupplied(name);
+  if (mode == OpenMode::kReadWrite) return nullptr;
+  const auto new_path = NewPath(name);
+  auto file = new_path ? files_.Open(*new_path, OpenMode::kCreateFresh) : nullptr;
+  if (file) user_names_.Learn(name);
+  return file;
+}
+
+std::unique_ptr<File> ProgramFolder::OpenSupplied(std::string_view name) {
+  if (const auto path = supplied_names_.Known(name)) {
+    if (auto file = files_.Open(*path, OpenMode::kRead)) return file;
+  }
+  const auto path = supplied_names_.Locate(name);
+  return path ? files_.Open(*path, OpenMode::kRead) : nullptr;
+}
+
+std::optional<std::string> ProgramFolder::ReadWhole(std::string_view name) {
+  const auto file = Open(name, OpenMode::kRead);
+  const auto size = file ? file->Size() : std::nullopt;
+  if (!size || *size > kMaxWholeFile) return std::nullopt;
+  std::string content(static_cast<std::size_t>(*size), '\0');
+  const std::ptrdiff_t count = file->ReadAt(0, content);
+  if (count < 0) return std::nullopt;
+  content.resize(static_cast<std::size_t>(count));
+  return content;
+}
+
+bool ProgramFolder::WriteWhole(std::string_view name, std::string_view content) {
+  if (!IsPlainFileName(name)) return false;
+  auto path = user_names_.Locate(name);
+  if (!path) path = NewPath(name);
+  if (!path || !SaveWhole(files_, user_folder_, *path, content)) return false;
+  user_names_.Learn(name);
+  return true;
+}
+
+bool ProgramFolder::Delete(std::string_view name) {
+  if (!IsPlainFileName(name)) return false;
+  const auto path = user_names_.Locate(name);
+  if (!path) return user_names_.is_listed();
+  if (!files_.Remove(*path)) return false;
+  user_names_.Forget(name);
+  return true;
+}
+
+bool ProgramFolder::Copy(std::string_view source, std::string_view target) {
+  const auto content = ReadWhole(source);
+  return content && WriteWhole(target, *content);
+}
+
+bool ProgramFolder::Exists(std::string_view name) {
+  return IsPlainFileName(name) && (user_names_.Locate(name) || supplied_names_.Locate(name));
+}
+
+std::uint64_t ProgramFolder::Length(std::string_view name) {
+  if (!IsPlainFileName(name)) return 0;
+  const auto path = user_names_.Locate(name);
+  const auto file = path ? files_.Open(*path, OpenMode::kRead) : nullptr;
+  return file ? file->Size().value_or(0) : 0;
+}
+
+void ProgramFolder::SweepOrphans() { SweepSiblings(files_, user_folder_); }
+
+std::optional<std::string> ProgramFolder::NewPath(std::string_view name) const {
+  if (!user_names_.is_listed()) return std::nullopt;
+  return user_folder_ + "/" + text::ToUtf8(name);
+}
+
+}  // namespace tarnwell::storage

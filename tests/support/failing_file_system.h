@@ -1,0 +1,110 @@
+// A file system that fails on demand.
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "storage/file_system.h"
+
+namespace tarnwell::testing {
+
+// Passes every call on to the wrapped one unless the test wants it to fail. Calls are counted from
+// 1, those to files as well. A write that fails has written its first half, as on a full disk.
+class FailingFileSystem : public storage::FileSystem {
+ public:
+  explicit FailingFileSystem(storage::FileSystem& wrapped) : wrapped_(wrapped) {}
+
+  // Asked before each call with its number; true makes it fail. It may also end the process.
+  void FailWhen(std::function<bool(int)> fails) { fails_ = std::move(fails); }
+  void FailAt(int call) {
+    FailWhen([call](int number) { return number == call; });
+  }
+  void FailFrom(int call) {
+    FailWhen([call](int number) { return number >= call; });
+  }
+  void Vanish() { FailFrom(0); }
+  // The disk is full after so many more bytes.
+  void AllowBytes(std::uint64_t count) { room_ = count; }
+  void MakeReadOnly() { is_read_only_ = true; }
+
+  int calls() const { return static_cast<int>(log_.size()); }
+  // The names of the calls so far.
+  const std::vector<std::string>& log() const { return log_; }
+
+  std::unique_ptr<storage::File> Open(const std::string& path, storage::OpenMode mode) override {
+    const bool is_denied = is_read_only_ && mode != storage::OpenMode::kRead;
+    auto file = Fails("open") || is_denied ? nullptr : wrapped_.Open(path, mode);
+    return file ? std::make_unique<FailingFile>(*this, std::move(file)) : nullptr;
+  }
+  bool Exists(const std::string& path) override {
+    return !Fails("exists") && wrapped_.Exists(path);
+  }
+  bool Rename(const std::string& from, const std::string& to) override {
+    return !Fails("rename") && !is_read_only_ && wrapped_.Rename(from, to);
+  }
+  bool Remove(const std::string& path) override {
+    return !Fails("remove") && !is_read_only_ && wrapped_.Remove(path);
+  }
+  void CopyPermissions(const std::string& from, const std::string& to) override {
+    if (!Fails("copy permissions")) wrapped_.CopyPermissions(from, to);
+  }
+  bool FlushFolder(const std::string& path) override {
+    return !Fails("flush folder") && wrapped_.FlushFolder(path);
+  }
+  bool MakeFolder(const std::string& path) override {
+    return !Fails("make folder") && !is_read_only_ && wrapped_.MakeFolder(path);
+  }
+  std::optional<std::vector<std::string>> List(const std::string& folder) override {
+    return Fails("list") ? std::nullopt : wrapped_.List(folder);
+  }
+
+ private:
+  class FailingFile : public storage::File {
+   public:
+    FailingFile(FailingFileSystem& owner, std::unique_ptr<storage::File> wrapped)
+        : owner_(owner), wrapped_(std::move(wrapped)) {}
+
+    std::ptrdiff_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
+      return owner_.Fails("read") ? -1 : wrapped_->ReadAt(offset, buffer);
+    }
+    bool WriteAt(std::uint64_t offset, std::string_view bytes) override {
+      const std::size_t room = owner_.Fails("write") ? bytes.size() / 2 : bytes.size();
+      const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(room, owner_.room_));
+      owner_.room_ -= count;
+      return wrapped_->WriteAt(offset, bytes.substr(0, count)) && count == bytes.size();
+    }
+    std::optional<std::uint64_t> Size() override {
+      return owner_.Fails("size") ? std::nullopt : wrapped_->Size();
+    }
+    bool Flush() override { return !owner_.Fails("flush") && wrapped_->Flush(); }
+    // Closes in any case, as the machine does.
+    bool Close() override {
+      const bool fails = owner_.Fails("close");
+      return wrapped_->Close() && !fails;
+    }
+
+   private:
+    FailingFileSystem& owner_;
+    std::unique_ptr<storage::File> wrapped_;
+  };
+
+  bool Fails(const char* call) {
+    log_.emplace_back(call);
+    return fails_ && fails_(calls());
+  }
+
+  storage::FileSystem& wrapped_;
+  std::function<bool(int)> fails_;
+  std::vector<std::string> log_;
+  std::uint64_t room_ = std::numeric_limits<std::uint64_t>::max();
+  bool is_read_only_ = false;
+};
+
+}  // namespace tarnwell::testing
