@@ -34,8 +34,8 @@ const std::set<std::pair<std::string, std::string>> kPassages = {
 // Only storage's door to the disk speaks to the operating system.
 const std::string kSystemRoom = "storage";
 
-// The one place that spells the names of all files, settings included.
-const std::string kFileNames = "storage/file_names.h";
+// The list of every file name that the program owns, settings included: a header and its source.
+const std::string kFileNames = "storage/file_names.";
 
 std::string RoomOf(std::string_view path) { return std::string(path.substr(0, path.find('/'))); }
 
@@ -73,8 +73,10 @@ std::string FaultOf(const SourceFile& file, const std::string& line) {
   if (std::regex_search(line, match, kInclude)) {
     return match[1] == "<" ? FaultOfForeign(room, match[2]) : FaultOfOurs(room, match[2]);
   }
+  static const std::regex kSettingsFile("GColor|Gcolor");
   const std::string code = line.substr(0, line.find("//"));
-  if (room != "settings" && file.path != kFileNames && code.find("GColor") != std::string::npos) {
+  if (room != "settings" && !file.path.starts_with(kFileNames) &&
+      std::regex_search(code, kSettingsFile)) {
     return "only the settings room spells the settings files";
   }
   return "";
