@@ -27,6 +27,7 @@ class Command : public Control {
     Changed();
   }
   bool cancel() const { return cancel_; }
+  void SetCancel(bool cancel) { cancel_ = cancel; }
 
   // One of a row of buttons that stay down: painted in the selected colour and drawn flat.
   bool selected() const { return selected_; }

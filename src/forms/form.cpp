@@ -59,6 +59,11 @@ forms::Answer Form::Message(const MessageBox& box) {
   return answer;
 }
 
+void Form::SetBusy(bool busy) {
+  busy_ = busy;
+  menus_.SetEnabled(!busy);
+}
+
 void Form::MoveFocus(Control* control) {
   Control* before = focus_;
   focus_ = control;

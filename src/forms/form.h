@@ -52,6 +52,9 @@ class Form : public Container {
   Control* Find(std::string_view name) const;
   void PressEscape();
 
+  // A long run is under way: the menus are dead and the form can't be closed.
+  bool busy() const { return busy_; }
+
   Form& form() override { return *this; }
   bool Reachable() const override { return on_top_; }
 
@@ -61,6 +64,18 @@ class Form : public Container {
   }
 
  protected:
+  // Makes the form busy for its own lifetime.
+  class BusyScope {
+   public:
+    explicit BusyScope(Form& form) : form_(form) { form_.SetBusy(true); }
+    ~BusyScope() { form_.SetBusy(false); }
+    BusyScope(const BusyScope&) = delete;
+    BusyScope& operator=(const BusyScope&) = delete;
+
+   private:
+    Form& form_;
+  };
+
   // Shows the box and keeps the answer's code in the program's variables.
   forms::Answer Message(const MessageBox& box);
   bool Confirmed(const MessageBox& box) { return Message(box) == forms::Answer::kYes; }
@@ -73,6 +88,7 @@ class Form : public Container {
   friend class Control;
   friend class Navigator;
   void MoveFocus(Control* control);
+  void SetBusy(bool busy);
 
   std::string name_;
   std::string caption_;
@@ -83,7 +99,7 @@ class Form : public Container {
   Control* focus_ = nullptr;
   int help_context_ = 0;
   bool on_top_ = false;
-  bool modal_ = false;
+  bool busy_ = false;
   Notifier changed_;
 };
 

@@ -10,6 +10,7 @@ MenuItem& MenuItem::AddEntry(std::string_view name, std::string_view caption, Ha
 
 MenuItem& MenuItem::AddSubmenu(std::string_view name, std::string_view caption) {
   items_.push_back(std::make_unique<MenuItem>(name, caption));
+  items_.back()->parent_ = this;
   return *items_.back();
 }
 
@@ -34,7 +35,7 @@ void MenuItem::SetChecked(bool checked) {
 }
 
 void MenuItem::Click() {
-  if (visible_ && enabled_ && on_click_) on_click_();
+  if (Reachable() && on_click_) on_click_();
 }
 
 void MenuItem::Open() {

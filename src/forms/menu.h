@@ -12,8 +12,8 @@
 
 namespace tarnwell::forms {
 
-// An entry, a submenu or a separator. An entry that is hidden, disabled or without a form on top
-// of the others ignores Click.
+// An entry, a submenu or a separator. An entry ignores Click when it, or a menu around it, is
+// hidden or disabled.
 class MenuItem {
  public:
   using Handler = std::function<void()>;
@@ -43,6 +43,7 @@ class MenuItem {
   bool checkable() const { return checkable_; }
   void SetCheckable() { checkable_ = true; }
 
+  bool Reachable() const { return visible_ && enabled_ && (!parent_ || parent_->Reachable()); }
   void Click();
   // The submenu is about to open: the form brings its entries up to date.
   void Open();
@@ -59,6 +60,7 @@ class MenuItem {
   std::string name_;
   std::string caption_;
   Handler on_click_;
+  MenuItem* parent_ = nullptr;
   std::vector<std::unique_ptr<MenuItem>> items_;
   bool enabled_ = true;
   bool visible_ = true;

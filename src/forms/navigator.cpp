@@ -48,7 +48,6 @@ Form* Navigator::Push(std::string_view name, bool modal) {
   if (factory == factories_.end()) return nullptr;
   std::unique_ptr<Form> form = factory->second(*context_);
   Form* loaded = form.get();
-  loaded->modal_ = modal;
   if (top()) top()->on_top_ = false;
   stack_.push_back(std::move(form));
   loaded->on_top_ = true;
@@ -81,7 +80,7 @@ void Navigator::Unload(Form& form) {
 }
 
 bool Navigator::Close(Form& form) {
-  if (!form.QueryUnload(UnloadCause::kCloseBox)) return false;
+  if (form.busy() || !form.QueryUnload(UnloadCause::kCloseBox)) return false;
   Unload(form);
   return true;
 }

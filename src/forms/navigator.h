@@ -41,7 +41,7 @@ class Navigator {
   void ShowModal(std::string_view name);
   // Without a question: its Unload routine runs and the form below gets on top.
   void Unload(Form& form);
-  // Asks the form first, as when its window is closed. False if it stays.
+  // Asks the form first, as when its window is closed. False if it stays; a busy form does.
   bool Close(Form& form);
   // At once: no further form is asked, nothing more is saved.
   void EndProgram();

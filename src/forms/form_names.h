@@ -1,0 +1,15 @@
+// The names under which forms are shown. Program start-up maps them to their classes.
+
+#pragma once
+
+namespace tarnwell::forms::form_names {
+
+inline constexpr const char* kStartfrm = "Startfrm";
+inline constexpr const char* kSplash1 = "Splash1";
+inline constexpr const char* kAbout1 = "About1";
+inline constexpr const char* kWorkArea1 = "WorkArea1";
+inline constexpr const char* kInfoAdv = "InfoAdv";
+inline constexpr const char* kToolsandInfo1 = "ToolsandInfo1";
+inline constexpr const char* kZcalandar1 = "Zcalandar1";
+
+}  // namespace tarnwell::forms::form_names

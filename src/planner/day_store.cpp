@@ -1,0 +1,69 @@
+#include "planner/day_store.h"
+
+#include "storage/record_file.h"
+#include "storage/structure.h"
+#include "text/letters.h"
+
+namespace tarnwell::planner {
+namespace {
+
+constexpr int kRecordLength = 900;
+constexpr std::size_t kStoredBytes = 850;
+constexpr std::size_t kTimeWidth = 10;
+constexpr std::size_t kEntryWidth = 50;
+constexpr std::size_t kMarkerWidth = 10;
+constexpr const char* kMarker = "Full";
+
+storage::RecordFile OpenYear(storage::ProgramFolder& folder, text::Date date) {
+  return storage::RecordFile(folder, PlannerYearFileName(text::YearOf(date)), kRecordLength);
+}
+
+int RecordOf(text::Date date) { return DayRecordNumber(text::MonthOf(date), text::DayOf(date)); }
+
+PlannerDay Unpack(std::string_view bytes) {
+  storage::StructureReader fields(bytes);
+  PlannerDay day;
+  for (DayRow& row : day.rows) row.time = text::TrimRight(fields.FixedText(kTimeWidth));
+  for (DayRow& row : day.rows) row.entry = text::TrimRight(fields.FixedText(kEntryWidth));
+  day.saved = text::TrimRight(fields.FixedText(kMarkerWidth)) == kMarker;
+  return day.saved ? day : PlannerDay{};
+}
+
+std::string Pack(const DayRows& rows) {
+  storage::StructureWriter fields;
+  for (const DayRow& row : rows) fields.FixedText(row.time, kTimeWidth);
+  for (const DayRow& row : rows) fields.FixedText(row.entry, kEntryWidth);
+  fields.FixedText(kMarker, kMarkerWidth);
+  return fields.bytes();
+}
+
+}  // namespace
+
+int DayRecordNumber(unsigned month, unsigned day) {
+  const int number = static_cast<int>(day);
+  switch (month) {
+    case 10:
+      return 320 + number;
+    case 11:
+      return 360 + number;
+    case 12:
+      return 400 + number;
+    default:
+      return 10 * number + static_cast<int>(month);
+  }
+}
+
+std::string PlannerYearFileName(int year) { return " " + std::to_string(year) + ".Cal"; }
+
+std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date) {
+  auto file = OpenYear(folder, date);
+  if (!file.is_open()) return std::nullopt;
+  return Unpack(file.GetStructure(RecordOf(date), kStoredBytes));
+}
+
+bool WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {
+  auto file = OpenYear(folder, date);
+  return file.PutStructure(RecordOf(date), Pack(rows)) && file.Close();
+}
+
+}  // namespace tarnwell::planner

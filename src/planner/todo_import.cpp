@@ -1,0 +1,41 @@
+#include "planner/todo_import.h"
+
+#include "storage/sequential_file.h"
+#include "text/date_reading.h"
+#include "text/letters.h"
+
+namespace tarnwell::planner {
+namespace {
+
+constexpr const char* kToDoFile = "TODOActv.FIL";
+constexpr std::size_t kDateWidth = 10;
+
+}  // namespace
+
+std::vector<ToDoItem> ReadToDoItems(storage::ProgramFolder& folder) {
+  std::vector<ToDoItem> items;
+  storage::SequentialReader reader(folder, kToDoFile);
+  while (!reader.AtEnd()) {
+    const std::string entry = text::Trim(reader.Next());
+    const std::string date = reader.Next();
+    reader.Next();
+    const auto day = text::ReadDate(text::Right(date, kDateWidth));
+    if (!entry.empty() && day) items.push_back({*day, entry});
+  }
+  return items;
+}
+
+bool PlaceToDoEntry(DayRows& rows, const std::string& entry) {
+  if (!text::Trim(rows.back().entry).empty()) return false;
+  for (DayRow& row : rows) {
+    if (!text::Trim(row.time).empty()) continue;
+    if (row.entry == entry) return false;
+    if (text::Trim(row.entry).empty()) {
+      row = {"", entry};
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace tarnwell::planner

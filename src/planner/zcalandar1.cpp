@@ -1,0 +1,307 @@
+#include "planner/zcalandar1.h"
+
+#include "forms/form_names.h"
+#include "forms/help_menu.h"
+#include "forms/navigator.h"
+#include "planner/day_copy.h"
+#include "planner/day_sort.h"
+#include "planner/day_store.h"
+#include "planner/todo_import.h"
+#include "settings/planner_settings.h"
+#include "text/date_mask.h"
+
+namespace tarnwell::planner {
+namespace {
+
+constexpr const char* kTitle = "Daily Planner";
+
+// Every half hour from 6:00 AM to 10:00 PM.
+std::vector<std::string> TimesOffered() {
+  std::vector<std::string> times;
+  for (int minutes = 6 * 60; minutes <= 22 * 60; minutes += 30) {
+    times.push_back(text::FormatDate({{}, std::chrono::minutes(minutes)}, "h:nn AM/PM"));
+  }
+  return times;
+}
+
+}  // namespace
+
+Zcalandar1::Zcalandar1(forms::Context& context)
+    : Form(context, forms::form_names::kZcalandar1,
+           "Tools and Program Information - Daily Planner"),
+      calendar_options(*this, context.folder) {
+  import_panel.SetVisible(false);
+  exit.SetCancel(true);
+  picker.on_pick = [this] { PickDay(); };
+  timer.on_tick = [this] {
+    clock.SetCaption(text::FormatDate(context_.clock.Now(), "h:nn AM/PM"));
+    picker.SetToday(context_.clock.Today());
+  };
+  time_picker.on_pick = [this] { PickTime(); };
+  sort_time.on_pick = [this](int index) { settings::WriteSortTime(context_.folder, index); };
+  save.on_click = [this] { Save(); };
+  clear_entries.on_click = [this] { ClearEntries(); };
+  exit.on_click = [this] { Exit(); };
+  calendar_options.on_change = [this] { picker.SetLook(LookOf(calendar_options.options())); };
+  calendar_options.on_close = [this] { CloseCalendarOptions(); };
+  BuildRows();
+  BuildMenus();
+}
+
+void Zcalandar1::BuildMenus() {
+  forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
+  save_entry_ = &options.AddEntry("mOS", "&Save", [this] { save.Click(); });
+  clear_entry_ = &options.AddEntry("mOClr", "Clear &Entries", [this] { clear_entries.Click(); });
+  options.AddEntry("mOCal", "Calendar &Display Options", [this] { OpenCalendarOptions(); });
+  options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); });
+  options.AddSeparator();
+  options.AddEntry("mOE", "E&xit", [this] { Exit(); });
+  forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
+  edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
+                [this] { CopyDay(); });
+  paste_entry_ = &edit.AddEntry("mEPaste", "&Paste all entries from another day",
+                                [this] { PasteCopiedDay(); });
+  paste_entry_->SetEnabled(false);
+  SetPopupMenu(options);
+  forms::AddHelpMenu(*this, context_);
+}
+
+void Zcalandar1::BuildRows() {
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    const int row = static_cast<int>(i);
+    const std::string number = " " + std::to_string(row + 1);
+    times[i].SetSpokenName("Time" + number);
+    entries[i].SetSpokenName("Appointment/Activity" + number);
+    for (forms::TextField* field : {&times[i], &entries[i]}) {
+      field->on_focus = [this, row] { TakeRowInHand(row); };
+      field->on_change = [this, row] { Typed(row); };
+      field->on_click = [this] {
+        if (!loaded_) RefuseRowWithoutDay();
+      };
+    }
+    times[i].on_enter = [this, i] { entries[i].Focus(); };
+    entries[i].on_enter = [this, i] { times[(i + 1) % kRowsPerDay].Focus(); };
+  }
+}
+
+void Zcalandar1::Load() {
+  const forms::Hourglass hourglass(context_.window);
+  time_picker.SetItems(TimesOffered());
+  calendar_options.Load();
+  picker.SetLook(LookOf(calendar_options.options()));
+  sort_time.Choose(settings::ReadSortTime(context_.folder));
+  timer.Tick();
+  picker.SetDate(context_.clock.Today());
+  ShowDay(picker.date());
+  times[0].Focus();
+}
+
+void Zcalandar1::TakeRowInHand(int row) {
+  row_in_hand_ = row;
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    times[i].SetMarked(static_cast<int>(i) == row);
+    entries[i].SetMarked(static_cast<int>(i) == row);
+  }
+  time_picker.Select(forms::ComboBox::kNone);
+}
+
+void Zcalandar1::Typed(int row) {
+  if (!loaded_) {
+    times[static_cast<std::size_t>(row)].SetText({});
+    entries[static_cast<std::size_t>(row)].SetText({});
+    return RefuseRowWithoutDay();
+  }
+  MarkChanged();
+}
+
+void Zcalandar1::RefuseRowWithoutDay() {
+  Message({"Data Entry", "Please select a Day before entering data!", forms::Icon::kInformation});
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    times[i].SetEnabled(false);
+    entries[i].SetEnabled(false);
+  }
+}
+
+void Zcalandar1::PickTime() {
+  const auto row = static_cast<std::size_t>(row_in_hand_);
+  times[row].SetText(time_picker.text());
+  entries[row].Focus();
+  MarkChanged();
+}
+
+void Zcalandar1::PickDay() {
+  if (picker.date() == loaded_ || !LeaveLoadedDay()) return;
+  ShowDay(picker.date());
+}
+
+// Offers to save the day on screen before another one takes its place. False, with the picker back
+// on that day, when the save failed: the rows are all that is left of the user's work.
+bool Zcalandar1::LeaveLoadedDay() {
+  if (!unsaved_ || !loaded_) return true;
+  if (Confirmed({kTitle, "Save changes/entries before next action?", forms::Icon::kQuestion,
+                 forms::Buttons::kYesNo}) &&
+      SaveUnder(*loaded_) == SaveResult::kFailed) {
+    picker.SetDate(loaded_);
+    return false;
+  }
+  unsaved_ = false;
+  return true;
+}
+
+void Zcalandar1::ShowDay(std::optional<text::Date> date) {
+  const auto stored = date ? ReadDay(context_.folder, *date) : std::nullopt;
+  loaded_ = stored ? date : std::nullopt;
+  unsaved_ = false;
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    times[i].SetEnabled(true);
+    entries[i].SetEnabled(true);
+  }
+  ShowRows(stored ? stored->rows : DayRows{});
+  EnableCommands(stored.has_value(), stored && stored->saved);
+  const char* mask = context_.variables.day_first() ? "dd mmmm, yyyy - ddd" : "mmmm dd, yyyy - ddd";
+  date_caption.SetCaption(loaded_ ? text::FormatDate(*loaded_, mask) : std::string());
+}
+
+void Zcalandar1::ShowRows(const DayRows& rows) {
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    times[i].SetText(rows[i].time);
+    entries[i].SetText(rows[i].entry);
+  }
+}
+
+void Zcalandar1::MarkChanged() {
+  unsaved_ = true;
+  EnableCommands(true, true);
+}
+
+void Zcalandar1::EnableCommands(bool day_commands, bool clear_commands) {
+  save.SetEnabled(day_commands);
+  save_entry_->SetEnabled(day_commands);
+  clear_entries.SetEnabled(clear_commands);
+  clear_entry_->SetEnabled(clear_commands);
+}
+
+DayRows Zcalandar1::Rows() {
+  DayRows rows;
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) rows[i] = {times[i].text(), entries[i].text()};
+  return rows;
+}
+
+void Zcalandar1::Save() {
+  if (loaded_) SaveUnder(*loaded_);
+}
+
+Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date) {
+  if (!HasRows(Rows()) &&
+      !Confirmed({"Save", "There are currently No Entries to Save!\nSave anyway?",
+                  forms::Icon::kQuestion, forms::Buttons::kYesNo, 2})) {
+    return SaveResult::kDeclined;
+  }
+  const forms::Hourglass hourglass(context_.window);
+  const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(context_.folder));
+  ShowRows(SortDay(Rows(), option));
+  if (!WriteDay(context_.folder, date, Rows())) return SaveResult::kFailed;
+  unsaved_ = false;
+  EnableCommands(true, true);
+  Message({"Save File Command", "Entries Have Been Time Sorted and File Saved.",
+           forms::Icon::kInformation});
+  return SaveResult::kSaved;
+}
+
+void Zcalandar1::Exit() {
+  if (unsaved_ && loaded_) {
+    const forms::Answer answer = Message({kTitle, "Save changes/entries before exiting?",
+                                          forms::Icon::kQuestion, forms::Buttons::kYesNoCancel});
+    if (answer == forms::Answer::kCancel) return;
+    if (answer == forms::Answer::kYes && SaveUnder(*loaded_) == SaveResult::kFailed) return;
+  }
+  context_.navigator.Unload(*this);
+}
+
+bool Zcalandar1::QueryUnload(forms::UnloadCause) {
+  if (!unsaved_ || !loaded_) return true;
+  return !Confirmed({kTitle, "Save changes/entries before exiting?", forms::Icon::kQuestion,
+                     forms::Buttons::kYesNo}) ||
+         SaveUnder(*loaded_) != SaveResult::kFailed;
+}
+
+void Zcalandar1::ClearEntries() {
+  SetStatus("Clear Entries");
+  if (!HasRows(Rows())) {
+    Message(
+        {"Clear Entries", "There are currently No Entries to Clear!", forms::Icon::kInformation});
+  } else if (Confirmed({"Clear Entries", "Clear all Entries for " + date_caption.caption() + "?",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2})) {
+    ShowRows({});
+    MarkChanged();
+  }
+  SetStatus({});
+}
+
+void Zcalandar1::CopyDay() {
+  copied_ = Rows();
+  const bool found = HasRows(copied_);
+  paste_entry_->SetEnabled(found);
+  if (found) return;
+  Message({"Copy all entries for pasteing to another day", "No Entries to Copy have been found!",
+           forms::Icon::kInformation});
+}
+
+void Zcalandar1::PasteCopiedDay() {
+  if (!loaded_) return RefuseRowWithoutDay();
+  DayRows rows = Rows();
+  if (!PasteDay(rows, copied_)) return;
+  ShowRows(rows);
+  MarkChanged();
+}
+
+void Zcalandar1::OpenCalendarOptions() {
+  day.SetVisible(false);
+  calendar_options.panel.SetVisible(true);
+}
+
+void Zcalandar1::CloseCalendarOptions() {
+  calendar_options.panel.SetVisible(false);
+  day.SetVisible(true);
+}
+
+void Zcalandar1::ImportToDo() {
+  if (!loaded_ ||
+      !Confirmed({"To Do List Import Function", "Do you want to Import To Do List Items?",
+                  forms::Icon::kQuestion, forms::Buttons::kYesNo})) {
+    return;
+  }
+  // The day is read again at the end, which would drop what isn't saved.
+  if (!LeaveLoadedDay()) return;
+  const auto items = ReadToDoItems(context_.folder);
+  if (items.empty()) {
+    Message({"Import To Do List Items", "No To Do List Items to Import have been found!",
+             forms::Icon::kInformation});
+    return ShowDay(loaded_);
+  }
+  const text::Date on_screen = *loaded_;
+  const BusyScope busy(*this);
+  day.SetVisible(false);
+  picker.SetEnabled(false);
+  import_panel.SetVisible(true);
+  import_progress.Start(static_cast<int>(items.size()));
+  for (const ToDoItem& item : items) {
+    if (item.date >= on_screen) ImportInto(item.date, item.entry);
+    import_progress.SetValue(import_progress.value() + 1);
+    context_.loop.Yield();
+  }
+  import_panel.SetVisible(false);
+  picker.SetEnabled(true);
+  day.SetVisible(true);
+  picker.SetDate(on_screen);
+  ShowDay(on_screen);
+}
+
+void Zcalandar1::ImportInto(text::Date date, const std::string& entry) {
+  auto stored = ReadDay(context_.folder, date);
+  if (!stored || !PlaceToDoEntry(stored->rows, entry)) return;
+  const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(context_.folder));
+  WriteDay(context_.folder, date, SortDay(stored->rows, option));
+}
+
+}  // namespace tarnwell::planner

@@ -1,0 +1,45 @@
+#include "program/program.h"
+
+#include "forms/form_names.h"
+#include "planner/zcalandar1.h"
+#include "reference/infoadv.h"
+#include "reference/toolsandinfo1.h"
+#include "shell/about1.h"
+#include "shell/splash1.h"
+#include "shell/startfrm.h"
+#include "workarea/workarea1.h"
+
+namespace tarnwell::program {
+namespace {
+
+template <typename FormClass>
+std::unique_ptr<forms::Form> Make(forms::Context& context) {
+  return std::make_unique<FormClass>(context);
+}
+
+void RegisterForms(forms::Navigator& navigator) {
+  using namespace forms::form_names;
+  navigator.Register(kStartfrm, Make<shell::Startfrm>);
+  navigator.Register(kSplash1, Make<shell::Splash1>);
+  navigator.Register(kAbout1, Make<shell::About1>);
+  navigator.Register(kWorkArea1, Make<workarea::WorkArea1>);
+  navigator.Register(kInfoAdv, Make<reference::InfoAdv>);
+  navigator.Register(kToolsandInfo1, Make<reference::ToolsandInfo1>);
+  navigator.Register(kZcalandar1, Make<planner::Zcalandar1>);
+}
+
+}  // namespace
+
+Program::Program(const Services& services)
+    : context_{services.folder, services.clock, services.dialogs, services.loop,
+               services.window, services.help,  variables_,       navigator_} {
+  navigator_.SetContext(context_);
+  RegisterForms(navigator_);
+}
+
+void Program::Start() {
+  context_.folder.SweepOrphans();
+  navigator_.Show(forms::form_names::kStartfrm);
+}
+
+}  // namespace tarnwell::program

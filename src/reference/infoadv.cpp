@@ -1,0 +1,21 @@
+#include "reference/infoadv.h"
+
+#include "forms/form_names.h"
+#include "forms/help_menu.h"
+
+namespace tarnwell::reference {
+namespace {
+
+constexpr int kScreenHelp = 3066;
+
+}  // namespace
+
+InfoAdv::InfoAdv(forms::Context& context)
+    : MainScreen(
+          context, forms::form_names::kInfoAdv, "Information Advisor", forms::kInformationAdvisor,
+          {"&Company Data", "&Employee Data", "&Tools and Program Information", "&Exit Program"}) {
+  SetHelpContext(kScreenHelp);
+  forms::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});
+}
+
+}  // namespace tarnwell::reference

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "forms/command.h"
+#include "forms/label.h"
+#include "forms/main_buttons.h"
+#include "forms/panel.h"
+
+namespace tarnwell::reference {
+
+// The screen "Tools and Program Information": the way to the planner.
+class ToolsandInfo1 : public forms::MainScreen {
+ public:
+  explicit ToolsandInfo1(forms::Context& context);
+
+  forms::Label title{*this, "Label1", "Tools and Program Information", forms::LabelRole::kTitle};
+  forms::Panel side{*this, "SSPanel2"};
+  forms::Command planner{side, "SSCommand11(5)", "Daily Planner Function"};
+};
+
+}  // namespace tarnwell::reference

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "forms/color.h"
+#include "forms/command.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/panel.h"
+
+namespace tarnwell::shell {
+
+// The start screen. It stays loaded under everything for the whole run.
+class Startfrm : public forms::Form {
+ public:
+  explicit Startfrm(forms::Context& context);
+
+  forms::Panel center{*this, "SSPanel1"};
+  forms::Label neutral{center, "Label1", "Welcome to"};
+  forms::Label product{center, "Label2", "Tarnwell", forms::LabelRole::kTitle};
+  forms::Label purpose{center, "Label3", "Everything a small company keeps, in one place"};
+  forms::Label today{center, "Label4", {}, forms::LabelRole::kHeading};
+  forms::Label hidden_title{center, "Label8"};
+  forms::Picture emblem{center, "Image1", "tarnwell.svg"};
+  forms::Picture scene{center, "Image2", "start-scene.svg"};
+  forms::Command begin{center, "Command2", "&Click to Begin Program"};
+  // 0 full screen, 1 smaller screen, 2 exit.
+  forms::ControlArray<forms::Command, 3> commands{center, "Command1", ""};
+
+  forms::Panel reminder{*this, "SSPanel3", "Daily Planner Reminder"};
+  forms::Label reminder_text{reminder, "Label5",
+                             "You have an appointment or activity listed for today."};
+  forms::Label reminder_clock{reminder, "Label6"};
+  forms::Command view_planner{reminder, "Command3", "&View"};
+  forms::Command close_reminder{reminder, "Command4", "&Close"};
+
+  void Load() override { RunLoadRoutine(); }
+  void Activate() override;
+  bool QueryUnload(forms::UnloadCause cause) override;
+  void Resized() override;
+
+ private:
+  void BuildMenus();
+  void RunLoadRoutine();
+  bool ScreenIsLargeEnough();
+  void TakeDisplay();
+  void TakeBackground();
+  void ShowReminder();
+  void ShowClock();
+  void ShowDisplayButtons();
+
+  void FullScreen();
+  void SmallerScreen();
+  void ReturnToSmallerScreen();
+  void DefaultScreenSize();
+  void FollowWindowState();
+  void RepeatLoadRoutine();
+
+  void ChooseBackground();
+  void Begin();
+  void Exit();
+  void KeepNormalSize();
+  void KeepWindowSize();
+
+  forms::MenuItem* full_screen_entry_ = nullptr;
+  forms::MenuItem* smaller_screen_entry_ = nullptr;
+  bool loading_ = false;
+};
+
+}  // namespace tarnwell::shell
