@@ -28,7 +28,7 @@ HelpPage ParseHelpPage(const std::string& html);
 std::string ReadFile(const std::filesystem::path& path);
 
 // The numbers that the code of one file asks help pages by: those of four digits in a statement
-// that speaks of help.
-std::set<int> HelpContexts(const std::string& code);
+// that speaks of help, or anywhere in a file whose name does.
+std::set<int> HelpContexts(const std::string& file_name, const std::string& code);
 
 }  // namespace tarnwell::docs
