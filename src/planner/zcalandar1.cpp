@@ -19,7 +19,8 @@ constexpr const char* kTitle = "Daily Planner";
 std::vector<std::string> TimesOffered() {
   std::vector<std::string> times;
   for (int minutes = 6 * 60; minutes <= 22 * 60; minutes += 30) {
-    times.push_back(text::FormatDate({{}, std::chrono::minutes(minutes)}, "h:nn AM/PM"));
+    times.push_back(text::FormatDate({text::MakeDate(2000, 1, 1), std::chrono::minutes(minutes)},
+                                     "h:nn AM/PM"));
   }
   return times;
 }

@@ -30,9 +30,13 @@ class FailingFileSystem : public storage::FileSystem {
     FailWhen([call](int number) { return number >= call; });
   }
   void Vanish() { FailFrom(0); }
+  // All calls work again.
+  void Recover() {
+    FailWhen([](int) { return false; });
+  }
   // The disk is full after so many more bytes.
   void AllowBytes(std::uint64_t count) { room_ = count; }
-  void MakeReadOnly() { is_read_only_ = true; }
+  void MakeReadOnly(bool is_read_only = true) { is_read_only_ = is_read_only; }
 
   int calls() const { return static_cast<int>(log_.size()); }
   // The names of the calls so far.

@@ -1,0 +1,121 @@
+// The way between the main screens, and out of the program.
+
+#include <gtest/gtest.h>
+
+#include "forms/main_buttons.h"
+#include "planner/zcalandar1.h"
+#include "reference/infoadv.h"
+#include "reference/toolsandinfo1.h"
+#include "shell/startfrm.h"
+#include "support/program_rig.h"
+#include "workarea/workarea1.h"
+
+namespace tarnwell {
+namespace {
+
+using forms::Answer;
+
+class NavigationTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    rig.Start();
+    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    ASSERT_EQ(rig.top(), "WorkArea1");
+  }
+  workarea::WorkArea1& hub() { return rig.Get<workarea::WorkArea1>("WorkArea1"); }
+  reference::ToolsandInfo1& tools() { return rig.Get<reference::ToolsandInfo1>("ToolsandInfo1"); }
+  int main_area() { return rig.program->variables().MainArea; }
+
+  testing::ProgramRig rig;
+};
+
+TEST_F(NavigationTest, TheHubShowsTheAreaOfItsButton) {
+  EXPECT_EQ(hub().main_buttons.selected(), forms::kCompanyData);
+  hub().main_buttons[forms::kEmployeeData].Click();
+  EXPECT_EQ(hub().area_title.caption(), "Employee Data");
+  EXPECT_EQ(hub().main_buttons.selected(), forms::kEmployeeData);
+  EXPECT_EQ(main_area(), forms::kEmployeeData);
+}
+
+TEST_F(NavigationTest, AScreenAboveTheHubHandsOverToAnyOther) {
+  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  ASSERT_EQ(rig.top(), "ToolsandInfo1");
+  tools().main_buttons[forms::kToolsAndProgramInformation].Click();  // its own
+  EXPECT_EQ(rig.top(), "ToolsandInfo1");
+
+  tools().main_buttons[forms::kInformationAdvisor].Click();
+  EXPECT_EQ(rig.top(), "InfoAdv");
+  EXPECT_EQ(rig.navigator().Find("ToolsandInfo1"), nullptr);
+
+  rig.ClickMenu("mOTab(3)");
+  EXPECT_EQ(rig.top(), "ToolsandInfo1");
+  rig.ClickMenu("mOTab(1)");
+  EXPECT_EQ(rig.top(), "WorkArea1");
+  EXPECT_EQ(hub().area_title.caption(), "Employee Data");
+  EXPECT_FALSE(rig.navigator().ended());
+}
+
+TEST_F(NavigationTest, TheMenusOfTheScreensAboveListTheFourOthers) {
+  const auto captions = [&] {
+    std::string text;
+    for (const auto& item : rig.navigator().top()->menus().items()[0]->items()) {
+      text += item->caption() + "|";
+    }
+    return text;
+  };
+  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  EXPECT_EQ(captions(), "&Comapny Data|&Employee Data|&Information Advisor|&Exit Program|");
+  rig.ClickMenu("mOTab(2)");
+  EXPECT_EQ(captions(),
+            "&Company Data|&Employee Data|&Tools and Program Information|&Exit Program|");
+}
+
+TEST_F(NavigationTest, ClosingAScreenAboveTheHubByItsBoxEndsTheProgram) {
+  hub().main_buttons[forms::kInformationAdvisor].Click();
+  rig.navigator().Close(*rig.navigator().top());
+  EXPECT_TRUE(rig.navigator().ended());
+}
+
+TEST_F(NavigationTest, ClosingTheHubByItsBoxLeadsBackToTheStartScreen) {
+  rig.navigator().Close(hub());
+  EXPECT_EQ(rig.top(), "Startfrm");
+  EXPECT_FALSE(rig.navigator().ended());
+}
+
+TEST_F(NavigationTest, ExitAsksAndNoOrCancelReturnsToWhatWasOnShow) {
+  hub().main_buttons[forms::kEmployeeData].Click();
+  for (Answer answer : {Answer::kNo, Answer::kCancel}) {
+    rig.dialogs.Expect("Exit", "Exit Tarnwell?", answer);
+    hub().main_buttons[forms::kExitProgram].Click();
+    EXPECT_EQ(hub().main_buttons.selected(), forms::kEmployeeData);
+    EXPECT_EQ(main_area(), forms::kEmployeeData);
+  }
+  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kNo);
+  tools().main_buttons[forms::kExitProgram].Click();
+  EXPECT_EQ(rig.top(), "ToolsandInfo1");
+  rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kYes);
+  tools().main_buttons[forms::kExitProgram].Click();
+  EXPECT_TRUE(rig.navigator().ended());
+}
+
+TEST_F(NavigationTest, ThePlannerReturnsToTheScreenThatOpenedIt) {
+  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  tools().planner.Click();
+  ASSERT_EQ(rig.top(), "Zcalandar1");
+  tools().main_buttons[forms::kCompanyData].Click();  // covered by the planner
+  EXPECT_EQ(rig.top(), "Zcalandar1");
+  rig.navigator().top()->PressEscape();
+  EXPECT_EQ(rig.top(), "ToolsandInfo1");
+}
+
+TEST_F(NavigationTest, EachScreenHasItsHelp) {
+  EXPECT_EQ(hub().help_context(), 3010);
+  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  EXPECT_EQ(tools().help_context(), 3014);
+  tools().main_buttons[forms::kInformationAdvisor].Click();
+  EXPECT_EQ(rig.navigator().top()->help_context(), 3066);
+}
+
+}  // namespace
+}  // namespace tarnwell

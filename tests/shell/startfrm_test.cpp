@@ -1,0 +1,212 @@
+#include "shell/startfrm.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "planner/day_store.h"
+#include "planner/zcalandar1.h"
+#include "settings/display_settings.h"
+#include "storage/record_file.h"
+#include "support/program_rig.h"
+
+namespace tarnwell::shell {
+namespace {
+
+using forms::Answer;
+
+class StartfrmTest : public ::testing::Test {
+ protected:
+  void Start() { rig.Start(); }
+  Startfrm& form() { return rig.Get<Startfrm>("Startfrm"); }
+  storage::RecordFile GColor3() { return storage::RecordFile(rig.folder, "GColor3.Fil", 20); }
+  storage::TaggedValue StoredBackground() { return settings::ReadStartBackground(rig.folder); }
+  void SaveToday(const planner::DayRow& row) {
+    planner::DayRows rows;
+    rows[3] = row;
+    ASSERT_TRUE(planner::WriteDay(rig.folder, rig.clock.Today(), rows));
+  }
+
+  testing::ProgramRig rig;
+};
+
+TEST_F(StartfrmTest, AFirstRunIsMaximisedAndBlueWithTodaysDateAndWithoutAReminder) {
+  Start();
+  EXPECT_TRUE(rig.window.is_maximized);
+  EXPECT_EQ(form().background(), 0xFF0000);
+  EXPECT_EQ(form().today.caption(), "March 9, 2026");
+  EXPECT_FALSE(form().reminder.visible());
+  EXPECT_TRUE(form().commands[1].visible());
+  EXPECT_FALSE(form().commands[0].visible());
+  EXPECT_EQ(form().focus(), &form().begin);
+  EXPECT_EQ(rig.window.hourglasses, 0);
+  EXPECT_EQ(rig.program->variables().SplashShown, 99);
+}
+
+TEST_F(StartfrmTest, TheSplashStaysFourSecondsAndComesOnce) {
+  const auto before = rig.clock.now.time_of_day;
+  Start();
+  EXPECT_EQ((rig.clock.now.time_of_day - before).count(), 4);
+  rig.ClickMenu("mOPDefault");
+  EXPECT_EQ((rig.clock.now.time_of_day - before).count(), 4);
+}
+
+TEST_F(StartfrmTest, StoredSizesBelowTheLeastBecomeTheDefault) {
+  const struct {
+    float height, width;
+    forms::Size expected;
+  } cases[] = {
+      {11000, 15000, {15100, 11200}}, {11150, 15100, {15100, 11150}},
+      {13000, 17000, {17000, 13000}}, {0, 0, {15100, 11200}},
+      {-5, 3e9f, {480000, 11200}},    {NAN, NAN, {15100, 11200}},
+  };
+  for (const auto& c : cases) {
+    settings::WriteSmallerScreen(rig.folder, true);
+    settings::WriteWindowSize(rig.folder, c.height, c.width);
+    Start();
+    EXPECT_FALSE(rig.window.is_maximized);
+    EXPECT_EQ(rig.window.normal_size, c.expected) << c.height << " by " << c.width;
+    EXPECT_EQ(rig.program->variables().SmallerScreen, 9);
+  }
+}
+
+TEST_F(StartfrmTest, AScreenThatIsTooSmallEndsTheProgramAfterTheBox) {
+  rig.window.screen_size = {800 * 15, 600 * 15};
+  rig.dialogs.Expect(
+      "Wessoby Display Option",
+      "Monitor Resolution Settings (Screen Area) and Program Size requirements are at least 1024 "
+      "by "
+      "768 or Higher.\n\nIf you do not set your screen resolution to this setting or higher this "
+      "program will not function properly!");
+  Start();
+  EXPECT_TRUE(rig.navigator().ended());
+
+  rig.window.screen_size = {1024 * 15, 768 * 15};
+  Start();
+  EXPECT_FALSE(rig.navigator().ended());
+}
+
+TEST_F(StartfrmTest, DisplayEntriesStoreTheChoiceAndTheSize) {
+  Start();
+  rig.window.normal_size = {16005, 12345};
+  rig.ClickMenu("mOPS");
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+  EXPECT_EQ(GColor3().GetTagged(36), storage::TaggedValue(12345.0f));
+  EXPECT_EQ(GColor3().GetTagged(37), storage::TaggedValue(16005.0f));
+  EXPECT_FALSE(rig.window.is_maximized);
+  EXPECT_TRUE(form().commands[0].visible());
+
+  rig.ClickMenu("mOPF");
+  EXPECT_EQ(GColor3().GetText(35), "No");
+  EXPECT_TRUE(rig.window.is_maximized);
+
+  rig.ClickMenu("mOPDefault");
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+  EXPECT_EQ(GColor3().GetTagged(36), storage::TaggedValue(std::int16_t{11200}));
+  EXPECT_EQ(GColor3().GetTagged(37), storage::TaggedValue(std::int16_t{15100}));
+  EXPECT_EQ(rig.window.normal_size, (forms::Size{15100, 11200}));
+}
+
+TEST_F(StartfrmTest, TheWindowsOwnButtonsChangeTheSetting) {
+  Start();
+  rig.window.is_maximized = false;
+  form().Resized();
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+  EXPECT_EQ(rig.program->variables().SmallerScreen, 9);
+  rig.window.is_maximized = true;
+  form().Resized();
+  EXPECT_EQ(GColor3().GetText(35), "No");
+  EXPECT_EQ(rig.program->variables().SmallerScreen, 0);
+}
+
+TEST_F(StartfrmTest, TheButtonsLeadToTheOtherDisplay) {
+  settings::WriteWindowSize(rig.folder, 12000, 15500);
+  Start();
+  form().commands[1].Click();
+  EXPECT_EQ(rig.window.normal_size, (forms::Size{15500, 12000}));
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+  form().commands[0].Click();
+  EXPECT_TRUE(rig.window.is_maximized);
+  EXPECT_EQ(GColor3().GetText(35), "No");
+}
+
+TEST_F(StartfrmTest, LeavingKeepsANormalSizedWindowForTheNextStart) {
+  Start();
+  form().PressEscape();
+  EXPECT_TRUE(rig.navigator().ended());
+  EXPECT_EQ(GColor3().GetText(35), "");  // full screen writes nothing
+
+  Start();
+  rig.window.is_maximized = false;
+  rig.navigator().Close(form());
+  EXPECT_TRUE(rig.navigator().ended());
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+}
+
+TEST_F(StartfrmTest, TheBackgroundIsAskedForStoredAndComesBack) {
+  const std::string title = "Background Color";
+  const std::string text =
+      "Select New Color or Use System Default Color?\nYes = Color Selection Panel will "
+      "appear.\nNo = Current System Default Color will be selected.";
+  Start();
+  rig.dialogs.Expect(title, text, Answer::kCancel);
+  rig.ClickMenu("mOBC");
+  EXPECT_TRUE(storage::IsEmpty(StoredBackground()));
+
+  rig.dialogs.Expect(title, text, Answer::kYes);
+  rig.dialogs.ExpectColor(std::nullopt);
+  rig.ClickMenu("mOBC");
+  EXPECT_TRUE(storage::IsEmpty(StoredBackground()));
+  EXPECT_EQ(rig.dialogs.last_start_color, 0xFF0000);
+
+  rig.dialogs.Expect(title, text, Answer::kYes);
+  rig.dialogs.ExpectColor(0x336699);
+  rig.ClickMenu("mOBC");
+  EXPECT_EQ(StoredBackground(), storage::TaggedValue(std::int32_t{0x336699}));
+  Start();
+  EXPECT_EQ(form().background(), 0x336699);
+
+  rig.dialogs.Expect(title, text, Answer::kNo);
+  rig.ClickMenu("mOBC");
+  EXPECT_EQ(StoredBackground(), storage::TaggedValue(std::string("Def")));
+  Start();
+  EXPECT_EQ(form().background(), forms::kNeutral);
+}
+
+TEST_F(StartfrmTest, OnlyAnAppointmentTextOfTodayBringsTheReminder) {
+  SaveToday({"9:30 AM", ""});
+  Start();
+  EXPECT_FALSE(form().reminder.visible());
+  SaveToday({"9:30 AM", "Dentist"});
+  Start();
+  EXPECT_TRUE(form().reminder.visible());
+  EXPECT_EQ(form().reminder_clock.caption(), "2:05 PM");
+  form().close_reminder.Click();
+  EXPECT_FALSE(form().reminder.visible());
+}
+
+TEST_F(StartfrmTest, TheReminderLeadsToThePlanner) {
+  SaveToday({"9:30 AM", "Dentist"});
+  Start();
+  form().view_planner.Click();
+  EXPECT_FALSE(form().reminder.visible());
+  EXPECT_EQ(rig.top(), "Zcalandar1");
+  EXPECT_EQ(rig.Get<planner::Zcalandar1>("Zcalandar1").entries[3].text(), "Dentist");
+}
+
+TEST_F(StartfrmTest, AboutIsModalAndHelpOpensByNumber) {
+  Start();
+  rig.loop.during_modal = [&] {
+    EXPECT_EQ(rig.top(), "About1");
+    form().begin.Click();  // lies below a modal form
+    EXPECT_EQ(rig.top(), "About1");
+    rig.navigator().top()->PressEscape();
+  };
+  rig.ClickMenu("mHAbout");
+  EXPECT_EQ(rig.top(), "Startfrm");
+  rig.ClickMenu("mHI");
+  EXPECT_EQ(rig.help.shown, std::vector<int>{1000});
+}
+
+}  // namespace
+}  // namespace tarnwell::shell

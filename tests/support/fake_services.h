@@ -1,0 +1,127 @@
+// The world as a test lends it to the program: everything is told beforehand and recorded.
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/dialogs.h"
+#include "forms/services.h"
+#include "text/date.h"
+
+namespace tarnwell::testing {
+
+class FakeClock : public forms::Clock {
+ public:
+  text::Moment now{text::MakeDate(2026, 3, 9), std::chrono::hours(14) + std::chrono::minutes(5)};
+
+  text::Moment Now() override { return now; }
+  void AddSeconds(int seconds) { now.time_of_day += std::chrono::seconds(seconds); }
+};
+
+// Is told the answers beforehand. A box that nobody expected fails the test, and so does an answer
+// that no box asked for.
+class ScriptedDialogs : public forms::Dialogs {
+ public:
+  struct Expected {
+    std::string title;
+    std::string text;
+    forms::Answer answer = forms::Answer::kOk;
+  };
+
+  ~ScriptedDialogs() override {
+    for (const Expected& box : expected_) ADD_FAILURE() << "never shown: " << box.title;
+  }
+
+  void Expect(std::string title, std::string text, forms::Answer answer = forms::Answer::kOk) {
+    expected_.push_back({std::move(title), std::move(text), answer});
+  }
+  void ExpectColor(std::optional<forms::Color> chosen) { colors_.push_back(chosen); }
+
+  forms::Answer Message(const forms::MessageBox& box) override {
+    last = box;
+    if (expected_.empty()) {
+      ADD_FAILURE() << "unexpected box: " << box.title << " / " << box.text;
+      return forms::Answer::kCancel;
+    }
+    const Expected next = expected_.front();
+    expected_.pop_front();
+    EXPECT_EQ(box.title, next.title);
+    EXPECT_EQ(box.text, next.text);
+    return next.answer;
+  }
+
+  std::optional<forms::Color> ChooseColor(forms::Color start) override {
+    last_start_color = start;
+    if (colors_.empty()) {
+      ADD_FAILURE() << "unexpected colour dialogue";
+      return std::nullopt;
+    }
+    const auto chosen = colors_.front();
+    colors_.pop_front();
+    return chosen;
+  }
+
+  forms::MessageBox last;
+  forms::Color last_start_color = 0;
+
+ private:
+  std::deque<Expected> expected_;
+  std::deque<std::optional<forms::Color>> colors_;
+};
+
+// Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.
+class FakeEventLoop : public forms::EventLoop {
+ public:
+  explicit FakeEventLoop(FakeClock& clock) : clock_(clock) {}
+
+  void Yield() override {
+    ++yields;
+    if (on_yield) on_yield();
+  }
+  void WaitALittle() override { clock_.AddSeconds(1); }
+  void RunUntil(const std::function<bool()>& done) override {
+    if (!done() && during_modal) during_modal();
+    EXPECT_TRUE(done()) << "a modal form was left open";
+  }
+
+  int yields = 0;
+  std::function<void()> on_yield;
+  std::function<void()> during_modal;
+
+ private:
+  FakeClock& clock_;
+};
+
+class FakeWindow : public forms::Window {
+ public:
+  forms::Size screen() override { return screen_size; }
+  forms::Size size() override { return is_maximized ? screen_size : normal_size; }
+  void SetSize(forms::Size size) override { normal_size = size; }
+  void SetMinimumSize(forms::Size) override {}
+  bool maximized() override { return is_maximized; }
+  void SetMaximized(bool maximized) override { is_maximized = maximized; }
+  void CenterOnScreen() override { ++centered; }
+  void SetHourglass(bool on) override { hourglasses += on ? 1 : -1; }
+  void Beep() override { ++beeps; }
+
+  forms::Size screen_size{1920 * 15, 1080 * 15};
+  forms::Size normal_size{16000, 12000};
+  bool is_maximized = false;
+  int centered = 0;
+  int hourglasses = 0;
+  int beeps = 0;
+};
+
+class FakeHelp : public forms::HelpViewer {
+ public:
+  void Show(int context) override { shown.push_back(context); }
+  std::vector<int> shown;
+};
+
+}  // namespace tarnwell::testing
