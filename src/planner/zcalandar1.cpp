@@ -77,9 +77,9 @@ void Zcalandar1::BuildMenus() {
 void Zcalandar1::BuildRows() {
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {
     const int row = static_cast<int>(i);
-    const std::string number = " " + std::to_string(row + 1);
-    times[i].SetSpokenName("Time" + number);
-    entries[i].SetSpokenName("Appointment/Activity" + number);
+    const std::string number = std::to_string(row + 1);
+    times[i].SetSpokenName("Time " + number);
+    entries[i].SetSpokenName("Appointment/Activity " + number);
     for (forms::TextField* field : {&times[i], &entries[i]}) {
       field->on_focus = [this, row] { TakeRowInHand(row); };
       field->on_change = [this, row] { Typed(row); };
@@ -89,7 +89,7 @@ void Zcalandar1::BuildRows() {
     }
     times[i].on_enter = [this, i] { entries[i].Focus(); };
     entries[i].on_enter = [this, i] { times[(i + 1) % kRowsPerDay].Focus(); };
-    recurrence_buttons[i].SetSpokenName("Recurrence Option" + number);
+    recurrence_buttons[i].SetSpokenName("Recurrence Option " + number);
     recurrence_buttons[i].on_click = [this, row] { OpenRecurrence(row); };
   }
 }
