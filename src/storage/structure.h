@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -26,11 +27,13 @@ class StructureWriter {
   std::string bytes_;
 };
 
-// Reads what a StructureWriter wrote. A field that isn't whole is empty, and so is all behind it; a
-// number that isn't finite is 0.
+// Reads what a StructureWriter wrote, from bytes that must outlive it. A field that isn't whole is
+// empty, and so is all behind it; a number that isn't finite is 0.
 class StructureReader {
  public:
   explicit StructureReader(std::string_view bytes) : rest_(bytes) {}
+  template <std::same_as<std::string> Temporary>
+  explicit StructureReader(Temporary&&) = delete;
 
   // All `width` bytes as they stand, blanks and zero bytes included.
   std::string FixedText(std::size_t width);
