@@ -1,5 +1,6 @@
 #include "planner/day_store.h"
 
+#include "storage/file_names.h"
 #include "storage/record_file.h"
 #include "storage/structure.h"
 #include "text/letters.h"
@@ -53,12 +54,14 @@ int DayRecordNumber(unsigned month, unsigned day) {
   }
 }
 
-std::string PlannerYearFileName(int year) { return " " + std::to_string(year) + ".Cal"; }
+std::string PlannerYearFileName(int year) { return storage::file_names::PlannerYear(year); }
 
 std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date) {
   auto file = OpenYear(folder, date);
   if (!file.is_open()) return std::nullopt;
-  return Unpack(file.GetStructure(RecordOf(date), kStoredBytes));
+  const std::string bytes = file.GetStructure(RecordOf(date), kStoredBytes);
+  if (file.has_failed()) return std::nullopt;
+  return Unpack(bytes);
 }
 
 bool WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {

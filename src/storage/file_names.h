@@ -1,7 +1,9 @@
-// Every file name that the program owns.
+// Every file name that the program owns. Capitals are as on the disks of old users; ProgramFolder
+// finds a file whatever its capitals. docs/formats/ has the pages of the kinds.
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace tarnwell::storage::file_names {
@@ -10,5 +12,84 @@ namespace tarnwell::storage::file_names {
 inline constexpr std::string_view kOwnPrefix = ".tarnwell-";
 inline constexpr std::string_view kLock = ".tarnwell-lock";
 inline constexpr std::string_view kSavePrefix = ".tarnwell-save-";  // and eight digits
+
+// Settings: colours, display, printer fonts, backgrounds, folders last used.
+inline constexpr std::string_view kGColor1 = "GColor1.Fil";
+inline constexpr std::string_view kGColor2 = "GColor2.Fil";
+inline constexpr std::string_view kGColor3 = "GColor3.Fil";
+inline constexpr std::string_view kGColor4 = "GColor4.Fil";
+inline constexpr std::string_view kHinv3 = "HINV3.Fil";
+inline constexpr std::string_view kGhinv1 = "GHINV1.Fil";
+inline constexpr std::string_view kCalendarOptions = "CalOpt.fil";
+inline constexpr std::string_view kPersonPictureFolder = "Gcolor17.Fil";
+inline constexpr std::string_view kVehiclePictureFolder = "GColor14.Fil";
+inline constexpr std::string_view kImageFolder = "GColor44.Fil";
+inline constexpr std::string_view kImageStartValue = "GColor5.Fil";  // supplied
+
+// Company documents.
+inline constexpr std::string_view kDocumentStatus = "Stat1.Fil";
+inline constexpr std::string_view kWorksheetTitles = "RAList.Fl2";
+inline constexpr std::string_view kDisclaimer = "EmployAction1.Fl2";
+inline constexpr std::string_view kRecoveryPlan = "DRPln1.Fl2";
+inline constexpr std::string_view kJobDescriptions = "JobHold.Fl5";
+inline constexpr std::string_view kDisciplinaryActions = "DiscpHold.Fl6";
+inline constexpr std::string_view kEvaluations = "EvalHold.Fl7";
+inline constexpr std::string_view kArchive = "ArchiveHold.Fla";
+
+// Company To Do list.
+inline constexpr std::string_view kToDoList = "TODOActv.FIL";
+inline constexpr std::string_view kToDoListGeneralSave = "TODOActv.Fl2";
+inline constexpr std::string_view kToDoNames = "TODONAME.FIL";
+inline constexpr std::string_view kLocation = "Location.Fil";
+
+// Business contacts, employees, document images. One record number joins the files of a row.
+inline constexpr std::string_view kContacts = "ADDBK1.Fil";
+inline constexpr std::string_view kContactIndex = "ADDBK2.Fil";
+inline constexpr std::string_view kContactPictures = "ADDBK3.Fil";
+inline constexpr std::string_view kEmployees = "Name1.Fil";
+inline constexpr std::string_view kEmployeeIndex = "Name2.Fil";
+inline constexpr std::string_view kEmployeePictures = "Name3.Fil";
+inline constexpr std::string_view kImages = "Photobk3.Fil";
+inline constexpr std::string_view kImageIndex = "Photobk4.Fil";
+
+// Vehicles.
+inline constexpr std::string_view kVehicleSlots = "CarMnt1.Fil";
+
+// Budget chart on its way to a printed page.
+inline constexpr std::string_view kChartPicture = "Chartxxx.jpg";
+
+// Supplied texts.
+inline constexpr std::string_view kDisclaimerText = "Misc1.Fl1";
+inline constexpr std::string_view kProgramInformation = "Misc2.Fl1";
+inline constexpr std::string_view kGettingStarted = "Misc8.Fl1";
+inline constexpr std::string_view kSampleIncidentReport = "Misc57.Fl1";
+inline constexpr std::string_view kWorksheetTemplate = "Misc59.Fl1";
+inline constexpr std::string_view kRecoveryPlanInformation = "Misc60.Fl1";
+inline constexpr std::string_view kRecoveryPlanTemplate = "DRPln1.Fl1";
+inline constexpr std::string_view kSamplePolicy = "SamplePol.Dat";
+inline constexpr std::string_view kHelp = "Tarnwell.chm";
+// The pictures behind grids, 1 to 16.
+std::string Wallpaper(int number);
+
+// Numbered documents; numbers stand in the name without leading zeros.
+std::string DocumentText(int number);
+std::string DocumentComments(int number);
+std::string DocumentTemplate(int number);
+std::string Worksheet(int number);
+
+// Year files. The blank in front of a planner's year is part of its name.
+std::string PlannerYear(int year);
+std::string BudgetYear(int year);
+std::string SickLeave(int year);
+std::string SickLeaveRows(int year);
+std::string Vacation(int year);
+std::string VacationRows(int year);
+std::string CalendarSheet(int year, unsigned month);
+
+// The files of the vehicle in a slot, from 1.
+std::string VehicleSheet(int slot);
+std::string VehicleMaintenance(int slot);
+std::string VehicleRepairs(int slot);
+std::string VehicleFuel(int slot);
 
 }  // namespace tarnwell::storage::file_names

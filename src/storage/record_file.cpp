@@ -23,6 +23,7 @@ std::string RecordFile::Read(int record, std::size_t size) {
   if (!file_ || record < 1) return {};
   std::string bytes(std::min(size, Width()), '\0');
   const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), bytes);
+  has_failed_ = has_failed_ || count < 0;
   bytes.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
   return bytes;
 }
@@ -76,17 +77,19 @@ bool RecordFile::PutStructure(int record, std::string_view bytes) { return Write
 void RecordFile::Scan(int first, const std::function<void(int, std::string_view)>& visit) {
   if (!file_ || first < 1) return;
   const std::size_t width = Width();
-  std::string piece(std::max(kScanPiece / width, std::size_t{1}) * width, '\0');
+  const std::size_t room = std::max(kScanPiece / width, std::size_t{1}) * width;
+  const auto piece = std::make_unique_for_overwrite<char[]>(room);
   for (int record = first;;) {
-    const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), piece);
+    const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), {piece.get(), room});
+    has_failed_ = has_failed_ || count < 0;
     if (count <= 0) return;
     const auto end = static_cast<std::size_t>(count);
     const std::size_t whole_end = (end + width - 1) / width * width;
-    std::fill(piece.begin() + count, piece.begin() + static_cast<std::ptrdiff_t>(whole_end), '\0');
+    std::fill(piece.get() + end, piece.get() + whole_end, '\0');
     for (std::size_t place = 0; place < whole_end; place += width) {
-      visit(record++, std::string_view(piece).substr(place, width));
+      visit(record++, {piece.get() + place, width});
     }
-    if (end < piece.size()) return;
+    if (end < room) return;
   }
 }
 

@@ -1,0 +1,127 @@
+// What the store costs on top of the system calls that it can't do without.
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "ratio_table.h"
+#include "storage/program_folder.h"
+#include "storage/record_file.h"
+#include "storage/sequential_file.h"
+
+namespace tarnwell::bench {
+namespace {
+
+using storage::ProgramFolder;
+using storage::RecordFile;
+
+// The bare side must really have done its work, else the ratio means nothing.
+void Check(bool worked, const char* what) {
+  if (worked) return;
+  std::perror(what);
+  std::exit(2);
+}
+
+bool IsWhole(ssize_t count, std::size_t size) { return count == static_cast<ssize_t>(size); }
+
+// A contact list at its largest: every record visited, its name looked at.
+void MeasureScan(RatioTable& table, ProgramFolder& folder) {
+  constexpr int kLength = 1190;
+  constexpr int kRecords = 20000;
+  const std::string path = folder.path() + "/ADDBK1.Fil";
+  std::string content(std::size_t{kLength} * kRecords, 'x');
+  Check(folder.WriteWhole("ADDBK1.Fil", content), "write the records");
+  std::size_t live = 0;
+  table.Measure(
+      "Scan 20,000 records of 1,190 bytes", 3, 21,
+      [&] {
+        RecordFile file(folder, "addbk1.fil", kLength);
+        file.Scan(1, [&](int, std::string_view record) { live += !record.starts_with("****"); });
+      },
+      [&] {
+        const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        Check(IsWhole(::read(descriptor, content.data(), content.size()), content.size()), "read");
+        ::close(descriptor);
+      });
+  Check(live == std::size_t{22} * kRecords, "scan every record");
+}
+
+// A year of the budget: 500 rows of 13 values and 12 more.
+void MeasureSave(RatioTable& table, ProgramFolder& folder) {
+  constexpr int kValues = 6512;
+  storage::SequentialWriter sample;
+  for (int value = 0; value < kValues; ++value) sample.WriteText("1234.50");
+  const std::string content = sample.content();
+  const std::string target = folder.path() + "/bare.Fil";
+  const std::string sibling = folder.path() + "/bare.tmp";
+  table.Measure(
+      "Save 6,512 quoted values as a whole file", 1.5, 41,
+      [&] {
+        storage::SequentialWriter writer;
+        for (int value = 0; value < kValues; ++value) writer.WriteText("1234.50");
+        Check(writer.Save(folder, "2026.Fil"), "save");
+      },
+      [&] {
+        const int file = ::open(sibling.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+        Check(IsWhole(::write(file, content.data(), content.size()), content.size()), "write");
+        Check(::fdatasync(file) == 0, "fdatasync");
+        ::close(file);
+        Check(std::rename(sibling.c_str(), target.c_str()) == 0, "rename");
+        const int directory = ::open(folder.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        Check(::fsync(directory) == 0, "fsync of the folder");
+        ::close(directory);
+      });
+}
+
+// A recurrence over a year: each day read, then written, the file opened anew for either.
+void MeasureDays(RatioTable& table, ProgramFolder& folder) {
+  constexpr int kLength = 900;
+  constexpr int kDays = 366;
+  const std::string path = folder.path() + "/ 2027.Cal";
+  const std::string day(850, 'd');
+  Check(folder.WriteWhole(" 2026.Cal", std::string(kLength * kDays, ' ')), "write the days");
+  Check(folder.WriteWhole(" 2027.Cal", std::string(kLength * kDays, ' ')), "write the days");
+  table.Measure(
+      "Read and write the 366 days of a planner year", 1.5, 41,
+      [&] {
+        for (int record = 1; record <= kDays; ++record) {
+          RecordFile(folder, " 2026.Cal", kLength).GetStructure(record, day.size());
+          Check(RecordFile(folder, " 2026.Cal", kLength).PutStructure(record, day), "put");
+        }
+      },
+      [&] {
+        std::string buffer(day.size(), '\0');
+        for (off_t place = 0; place < kDays * kLength; place += kLength) {
+          int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+          Check(IsWhole(::pread(file, buffer.data(), buffer.size(), place), day.size()), "pread");
+          ::close(file);
+          file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+          Check(IsWhole(::pwrite(file, day.data(), day.size(), place), day.size()), "pwrite");
+          ::close(file);
+        }
+      });
+}
+
+int Run(const std::string& parent) {
+  std::string path = parent + "/tarnwell-bench-XXXXXX";
+  Check(::mkdtemp(path.data()) != nullptr, "make a folder");
+  ProgramFolder folder(storage::RealFileSystem(), path);
+  RatioTable table;
+  MeasureScan(table, folder);
+  MeasureSave(table, folder);
+  MeasureDays(table, folder);
+  std::filesystem::remove_all(path);
+  return table.Print() ? 0 : 1;
+}
+
+}  // namespace
+}  // namespace tarnwell::bench
+
+int main(int count, char** arguments) {
+  return tarnwell::bench::Run(count > 1 ? arguments[1] : ".");
+}
