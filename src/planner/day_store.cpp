@@ -27,11 +27,12 @@ PlannerDay Unpack(std::string_view bytes) {
   for (DayRow& row : day.rows) row.time = text::TrimRight(fields.FixedText(kTimeWidth));
   for (DayRow& row : day.rows) row.entry = text::TrimRight(fields.FixedText(kEntryWidth));
   day.saved = text::TrimRight(fields.FixedText(kMarkerWidth)) == kMarker;
-  return day.saved ? day : PlannerDay{};
+  if (!day.saved) day.rows = {};
+  return day;
 }
 
 std::string Pack(const DayRows& rows) {
-  storage::StructureWriter fields;
+  storage::StructureWriter fields(kStoredBytes);
   for (const DayRow& row : rows) fields.FixedText(row.time, kTimeWidth);
   for (const DayRow& row : rows) fields.FixedText(row.entry, kEntryWidth);
   fields.FixedText(kMarker, kMarkerWidth);
