@@ -1,0 +1,23 @@
+// tarnwell-tour FOLDER PICTURES: the journey on the display at hand, with FOLDER for the user's
+// files. Prints what went otherwise; exits with 0 when all went well.
+
+#include <QApplication>
+#include <QTextStream>
+
+#include "desktop/journey.h"
+#include "desktop/widgets/look.h"
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  if (argc != 3) {
+    QTextStream(stderr) << "usage: tarnwell-tour FOLDER PICTURES\n";
+    return 2;
+  }
+  tarnwell::desktop::ApplyLook(application);
+  const QString supplied =
+      tarnwell::desktop::ChooseFolders(QApplication::applicationDirPath(), argv[1]).supplied;
+  const QStringList notes = tarnwell::testing::TravelJourney({{argv[1], supplied}, argv[2]});
+  for (const QString& note : notes) QTextStream(stderr) << note << "\n";
+  return notes.isEmpty() ? 0 : 1;
+}
