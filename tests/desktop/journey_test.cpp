@@ -1,4 +1,4 @@
-#include "desktop/journey.h"
+#include "tour/journey.h"
 
 #include <gtest/gtest.h>
 

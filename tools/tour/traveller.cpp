@@ -1,4 +1,4 @@
-#include "desktop/traveller.h"
+#include "tour/traveller.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "desktop/journey.h"
+#include "tour/journey.h"
 
-#include "desktop/traveller.h"
+#include "tour/traveller.h"
 
 namespace tarnwell::testing {
 namespace {
