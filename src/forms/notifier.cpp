@@ -7,7 +7,7 @@ namespace tarnwell::forms {
 Subscription Notifier::Subscribe(Listener listener) {
   auto token = std::make_shared<Listener>(std::move(listener));
   listeners_[next_++] = token;
-  return Subscription(token);
+  return Subscription(token, alive_);
 }
 
 void Notifier::Notify() {

@@ -12,10 +12,15 @@ class Subscription {
  public:
   Subscription() = default;
 
+  // The notifier is still there, and with it the object that it belongs to.
+  bool Connected() const { return !notifier_.expired(); }
+
  private:
   friend class Notifier;
-  explicit Subscription(std::shared_ptr<void> token) : token_(std::move(token)) {}
+  Subscription(std::shared_ptr<void> token, std::weak_ptr<const bool> notifier)
+      : token_(std::move(token)), notifier_(std::move(notifier)) {}
   std::shared_ptr<void> token_;
+  std::weak_ptr<const bool> notifier_;
 };
 
 // Calls its listeners in the order in which they came. A listener may end itself or others, and may
@@ -30,6 +35,7 @@ class Notifier {
  private:
   std::map<int, std::weak_ptr<Listener>> listeners_;
   int next_ = 0;
+  std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);
 };
 
 }  // namespace tarnwell::forms

@@ -13,6 +13,7 @@ About1::About1(forms::Context& context)
       version(*this, "Label2", kVersionText),
       maker(*this, "Label3", kMakersLine, forms::LabelRole::kNote),
       close(*this, "Command1", "&OK", {.cancel = true}) {
+  logo.SetSpokenName(kProductName);
   close.on_click = [this] { context_.navigator.Unload(*this); };
 }
 

@@ -12,7 +12,9 @@ Splash1::Splash1(forms::Context& context)
       logo(*this, "Image1", "tarnwell.svg"),
       product(*this, "Label1", kProductName, forms::LabelRole::kTitle),
       version(*this, "Label2", kVersionText),
-      maker(*this, "Label3", kMakersLine, forms::LabelRole::kNote) {}
+      maker(*this, "Label3", kMakersLine, forms::LabelRole::kNote) {
+  logo.SetSpokenName(kProductName);
+}
 
 void Splash1::Activate() {
   context_.loop.Yield();

@@ -43,6 +43,8 @@ Startfrm::Startfrm(forms::Context& context)
   commands[2].SetCaption("&Exit Program");
   commands[2].SetCancel(true);
 
+  emblem.SetSpokenName("Begin");
+  scene.SetSpokenName("Begin");
   begin.on_click = [this] { Begin(); };
   for (forms::Label* label : {&product, &purpose, &hidden_title}) label->on_click = begin.on_click;
   for (forms::Picture* picture : {&emblem, &scene}) picture->on_click = begin.on_click;
@@ -157,6 +159,8 @@ void Startfrm::ShowClock() {
 }
 
 void Startfrm::Activate() {
+  // The splash screen has gone, but the load routine that showed it is still under way.
+  if (loading_) return;
   if (reminder.visible()) ShowClock();
   FollowWindowState();
   if (const auto* color = std::get_if<std::int32_t>(&context_.variables.StartBackColor)) {

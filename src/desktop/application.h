@@ -1,0 +1,19 @@
+// The process: what is set up once, and a run of the program from its start to its end.
+
+#pragma once
+
+#include <QApplication>
+
+#include "desktop/services/folders.h"
+
+namespace tarnwell::desktop {
+
+// The program's name and look. The program ends when its forms say so, not with its last window:
+// between two forms none may be open.
+void Prepare(QApplication& application);
+
+// Runs the program on these folders, or raises the window of the run that has them already. The
+// result is the exit code of the process.
+int RunIn(const Folders& folders);
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,21 @@
+#include "desktop/desktop.h"
+
+#include "desktop/views/registry.h"
+
+namespace tarnwell::desktop {
+
+Desktop::Desktop(const Folders& folders)
+    : folder_(storage::RealFileSystem(), folders.user.toStdString(),
+              folders.supplied.toStdString()),
+      help_(folders.supplied.isEmpty() ? QString() : folders.supplied + QStringLiteral("/help")),
+      pictures_([this](std::string_view name) {
+        return QByteArray::fromStdString(folder_.ReadWhole(name).value_or(std::string()));
+      }),
+      window_([this](forms::Form& form) { return LookOf(form, pictures_); }, help_),
+      program_({folder_, clock_, dialogs_, loop_, window_, help_}) {
+  window_.Follow(program_.navigator());
+}
+
+void Desktop::Start() { program_.Start(); }
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,40 @@
+// A run of the program in its window: all services, the window and the forms, put together.
+
+#pragma once
+
+#include "desktop/main_window.h"
+#include "desktop/services/folders.h"
+#include "desktop/services/html_help_viewer.h"
+#include "desktop/services/message_dialogs.h"
+#include "desktop/services/qt_event_loop.h"
+#include "desktop/services/system_clock.h"
+#include "desktop/widgets/pictures.h"
+#include "program/program.h"
+#include "storage/program_folder.h"
+
+namespace tarnwell::desktop {
+
+class Desktop {
+ public:
+  explicit Desktop(const Folders& folders);
+
+  // Shows the splash and the start screen. The program may have ended when it comes back.
+  void Start();
+
+  MainWindow& window() { return window_; }
+  forms::Navigator& navigator() { return program_.navigator(); }
+  program::Program& program() { return program_; }
+  bool ended() { return navigator().ended(); }
+
+ private:
+  storage::ProgramFolder folder_;
+  SystemClock clock_;
+  MessageDialogs dialogs_;
+  QtEventLoop loop_;
+  HtmlHelpViewer help_;
+  PictureStore pictures_;
+  MainWindow window_;
+  program::Program program_;  // goes first: its forms need all the others
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,59 @@
+#include "desktop/form_page.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/menus.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+
+FormPage::FormPage(forms::Form& form, QWidget* view, forms::HelpViewer& help)
+    : form_(form), help_(help) {
+  const auto changed = [this] {
+    ShowBackground();
+    if (on_changed) on_changed();
+  };
+  form_subscription_ = form.OnChanged(changed);
+  menu_subscription_ = form.menus().OnChanged(changed);
+  setObjectName(FromCore(form.name()));
+  setAccessibleName(FromCore(form.caption()));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(view);
+  setAutoFillBackground(true);
+  ShowBackground();
+  for (const auto& item : form.menus().items()) menus_.push_back(MakeMenu(*item));
+  RunTimers(form, this);
+}
+
+void FormPage::ShowBackground() {
+  const QColor color = ToQColor(form_.background().value_or(forms::kNeutral));
+  if (palette().color(QPalette::Window) != color) setPalette(PaletteOn(color));
+}
+
+void FormPage::TakeFocus() {
+  if (!form_.focus()) return setFocus();
+  if (auto* widget = findChild<QWidget*>(FromCore(form_.focus()->name()))) {
+    widget->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void FormPage::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return form_.PressEscape();
+  if (event->key() == Qt::Key_F1 && form_.help_context() != 0) {
+    return help_.Show(form_.help_context());
+  }
+  QWidget::keyPressEvent(event);
+}
+
+void FormPage::contextMenuEvent(QContextMenuEvent* event) {
+  if (!form_.popup_menu()) return;
+  if (!popup_menu_) popup_menu_ = MakeMenu(*form_.popup_menu());
+  popup_menu_->popup(event->globalPos());
+}
+
+}  // namespace tarnwell::desktop

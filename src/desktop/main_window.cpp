@@ -1,0 +1,252 @@
+#include "desktop/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QWindow>
+#include <algorithm>
+
+#include "desktop/form_dialog.h"
+#include "desktop/services/nested_loop.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+// While a handler waits, what it holds can't be freed; try again after a while.
+constexpr std::chrono::milliseconds kSweepAgain{50};
+// How long a window manager may take to maximise a new window.
+constexpr std::chrono::milliseconds kManagersTime{150};
+
+int ToPixels(int twips) { return (twips + forms::kTwipsPerPixel - 1) / forms::kTwipsPerPixel; }
+
+QSize ToPixels(forms::Size size) { return {ToPixels(size.width), ToPixels(size.height)}; }
+
+forms::Size ToTwips(QSize size) {
+  return {size.width() * forms::kTwipsPerPixel, size.height() * forms::kTwipsPerPixel};
+}
+
+FormDialog* DialogOf(FormPage& page) { return dynamic_cast<FormDialog*>(page.window()); }
+
+}  // namespace
+
+MainWindow::MainWindow(MakeLook make_look, forms::HelpViewer& help)
+    : make_look_(std::move(make_look)),
+      help_(help),
+      stack_(new QStackedWidget),
+      status_(new QLabel) {
+  setCentralWidget(stack_);
+  status_->setTextFormat(Qt::PlainText);
+  status_->setAccessibleName(QStringLiteral("Status"));
+  status_->setContentsMargins(kSpace, 0, kSpace, 0);
+  statusBar()->addWidget(status_, 1);
+  sweep_.setInterval(kSweepAgain);
+  sweep_.callOnTimeout([this] { FreeRetired(); });
+  size_announcement_.setSingleShot(true);
+  size_announcement_.callOnTimeout([this] { AnnounceSize(); });
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::Follow(forms::Navigator& navigator) {
+  navigator_ = &navigator;
+  navigator.SetObserver(this);
+}
+
+void MainWindow::ComeForward() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+FormPage* MainWindow::PageOf(const forms::Form& form) const {
+  const auto found =
+      std::ranges::find_if(pages_, [&](FormPage* page) { return &page->form() == &form; });
+  return found == pages_.end() ? nullptr : *found;
+}
+
+void MainWindow::FormLoaded(forms::Form& form, bool modal) {
+  const FormLook look = make_look_(form);
+  auto* page = new FormPage(form, look.view, help_);
+  page->on_changed = [this, page] {
+    if (navigator_->top() == &page->form()) ShowChrome(*page);
+  };
+  pages_.push_back(page);
+  if (modal) {
+    new FormDialog(this, page, look.frameless, [this, &form] { navigator_->Close(form); });
+  } else {
+    stack_->addWidget(page);
+  }
+}
+
+void MainWindow::FormRaised(forms::Form& form) {
+  FormPage* page = PageOf(form);
+  if (!page) return;
+  if (FormDialog* dialog = DialogOf(*page)) {
+    ShowChrome(*page);
+    dialog->ShowOver(*this);
+  } else {
+    stack_->setCurrentWidget(page);
+    ShowChrome(*page);
+    if (!isVisible()) show();
+  }
+  page->TakeFocus();
+}
+
+void MainWindow::FormUnloaded(forms::Form& form) {
+  FormPage* page = PageOf(form);
+  if (!page) return;
+  std::erase(pages_, page);
+  if (FormDialog* dialog = DialogOf(*page)) {
+    dialog->hide();
+    retired_.emplace_back(dialog);
+  } else {
+    stack_->removeWidget(page);
+    page->hide();
+    retired_.emplace_back(page);
+  }
+  sweep_.start(0);
+}
+
+void MainWindow::FreeRetired() {
+  sweep_.setInterval(kSweepAgain);
+  if (NestedLoop::Any()) return;
+  sweep_.stop();
+  retired_.clear();
+  if (navigator_) navigator_->FreeUnloaded();
+}
+
+void MainWindow::ProgramEnded() {
+  SetHourglass(false);
+  for (FormPage* page : pages_) {
+    if (FormDialog* dialog = DialogOf(*page)) dialog->hide();
+  }
+  hide();
+  QCoreApplication::quit();
+}
+
+void MainWindow::ShowChrome(FormPage& page) {
+  if (FormDialog* dialog = DialogOf(page)) {
+    return dialog->setWindowTitle(FromCore(page.form().caption()));
+  }
+  setWindowTitle(FromCore(page.form().caption()));
+  status_->setText(FromCore(page.form().status()));
+  QList<QAction*> actions;
+  for (const auto& menu : page.menus()) actions << menu->menuAction();
+  if (menuBar()->actions() != actions) {
+    menuBar()->clear();
+    menuBar()->addActions(actions);
+  }
+  menuBar()->setEnabled(page.form().menus().enabled());
+}
+
+void MainWindow::CloseTop() {
+  if (navigator_ && !navigator_->ended() && navigator_->top()) {
+    navigator_->Close(*navigator_->top());
+  }
+}
+
+// The form decides whether the window goes; what it shows next comes through the navigator.
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  CloseTop();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  size_announcement_.start(0);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) size_announcement_.start(0);
+}
+
+// Keys that the page didn't get because nothing on it has the focus.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  if (stack_->currentWidget() && !stack_->currentWidget()->isAncestorOf(focusWidget())) {
+    QCoreApplication::sendEvent(stack_->currentWidget(), event);
+  } else {
+    QMainWindow::keyPressEvent(event);
+  }
+}
+
+// Later than the event, so that a form never meets its own change of the size inside a handler.
+void MainWindow::AnnounceSize() {
+  if (isMinimized() || !navigator_ || navigator_->ended() || !navigator_->top()) return;
+  navigator_->top()->Resized();
+}
+
+forms::Size MainWindow::screen() { return ToTwips(QMainWindow::screen()->size()); }
+
+// Forms count the frame and the title bar in.
+forms::Size MainWindow::size() { return ToTwips(frameSize()); }
+
+void MainWindow::SetSize(forms::Size size) {
+  wanted_size_ = ToPixels(size);
+  resize(wanted_size_ - Frame());
+}
+
+void MainWindow::SetMinimumSize(forms::Size size) {
+  least_size_ = ToPixels(size);
+  setMinimumSize(least_size_ - Frame());
+}
+
+QSize MainWindow::Frame() const { return frameSize() - QMainWindow::size(); }
+
+void MainWindow::SetMaximized(bool maximized) {
+  if (maximized == isMaximized()) return;
+  const QSize normal = normalGeometry().size();
+  setWindowState(maximized ? windowState() | Qt::WindowMaximized
+                           : windowState() & ~Qt::WindowMaximized);
+  // A window manager takes its time, but the size that forms read is the new one at once.
+  if (!maximized && normal.isValid()) resize(normal.expandedTo(minimumSize()));
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  QTimer::singleShot(kManagersTime, this, [this] { MeetFrame(); });
+}
+
+// The frame is known only now.
+void MainWindow::MeetFrame() {
+  if (!least_size_.isEmpty()) setMinimumSize(least_size_ - Frame());
+  if (isMaximized()) {
+    FillScreenUnmanaged();
+  } else if (!wanted_size_.isEmpty()) {
+    resize(wanted_size_ - Frame());
+  }
+  wanted_size_ = QSize();
+}
+
+// Where no window manager answers, a maximised window has to find its size itself. Past the widget,
+// which would take the size for the end of being maximised.
+void MainWindow::FillScreenUnmanaged() {
+  const QRect available = QMainWindow::screen()->availableGeometry();
+  if (Frame().isNull() && geometry() != available) windowHandle()->setGeometry(available);
+}
+
+void MainWindow::CenterOnScreen() {
+  QRect place = frameGeometry();
+  place.moveCenter(QMainWindow::screen()->availableGeometry().center());
+  move(place.topLeft());
+}
+
+void MainWindow::SetHourglass(bool on) {
+  if (on == hourglass_) return;
+  hourglass_ = on;
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void MainWindow::Beep() { QApplication::beep(); }
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,101 @@
+#include "desktop/services/message_dialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <vector>
+
+#include "desktop/services/nested_loop.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+QMessageBox::Icon IconOf(forms::Icon icon) {
+  switch (icon) {
+    case forms::Icon::kNone:
+      return QMessageBox::NoIcon;
+    case forms::Icon::kInformation:
+      return QMessageBox::Information;
+    case forms::Icon::kExclamation:
+      return QMessageBox::Warning;
+    case forms::Icon::kQuestion:
+      return QMessageBox::Question;
+    case forms::Icon::kCritical:
+      return QMessageBox::Critical;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// In the order that a default button's number counts; the last one answers Esc and the close box.
+std::vector<QMessageBox::StandardButton> ButtonsOf(forms::Buttons buttons) {
+  switch (buttons) {
+    case forms::Buttons::kOk:
+      return {QMessageBox::Ok};
+    case forms::Buttons::kYesNo:
+      return {QMessageBox::Yes, QMessageBox::No};
+    case forms::Buttons::kYesNoCancel:
+      return {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+  }
+  return {QMessageBox::Ok};
+}
+
+forms::Answer AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return forms::Answer::kYes;
+    case QMessageBox::No:
+      return forms::Answer::kNo;
+    case QMessageBox::Cancel:
+      return forms::Answer::kCancel;
+    default:
+      return forms::Answer::kOk;
+  }
+}
+
+// The window that has to wait for the answer.
+QWidget* Asker() {
+  QWidget* modal = QApplication::activeModalWidget();
+  return modal ? modal : QApplication::activeWindow();
+}
+
+// A box under the wait shape of the pointer would look as if it couldn't be answered.
+class PlainPointer {
+ public:
+  PlainPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~PlainPointer() { QApplication::restoreOverrideCursor(); }
+  PlainPointer(const PlainPointer&) = delete;
+  PlainPointer& operator=(const PlainPointer&) = delete;
+};
+
+}  // namespace
+
+forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
+  const NestedLoop nested;
+  const PlainPointer pointer;
+  QMessageBox window(Asker());
+  window.setWindowTitle(FromCore(box.title));
+  window.setTextFormat(Qt::PlainText);
+  window.setText(FromCore(box.text));
+  window.setIcon(IconOf(box.icon));
+  const auto buttons = ButtonsOf(box.buttons);
+  int number = 0;
+  for (const auto button : buttons) {
+    QPushButton* made = window.addButton(button);
+    if (++number == box.default_button) window.setDefaultButton(made);
+    window.setEscapeButton(made);
+  }
+  return AnswerOf(window.exec());
+}
+
+std::optional<forms::Color> MessageDialogs::ChooseColor(forms::Color start) {
+  const NestedLoop nested;
+  const PlainPointer pointer;
+  const QColor chosen = QColorDialog::getColor(ToQColor(start), Asker());
+  if (!chosen.isValid()) return std::nullopt;
+  return FromQColor(chosen);
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "forms/dialogs.h"
+
+namespace tarnwell::desktop {
+
+class MessageDialogs : public forms::Dialogs {
+ public:
+  forms::Answer Message(const forms::MessageBox& box) override;
+  std::optional<forms::Color> ChooseColor(forms::Color start) override;
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,29 @@
+#include "desktop/views/views.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+#include "shell/about1.h"
+#include "shell/splash1.h"
+
+namespace tarnwell::desktop {
+
+QWidget* View(shell::Splash1& form, PictureStore& pictures) {
+  return Card(Padded(Row(
+      {
+          Widget(form.logo, pictures),
+          Column(
+              {Spring(), Widget(form.product), Widget(form.version), Widget(form.maker), Spring()}),
+      },
+      kPageSpace)));
+}
+
+QWidget* View(shell::About1& form, PictureStore& pictures) {
+  return Padded(Column({
+      Row({Widget(form.logo, pictures),
+           Column({Spring(), Widget(form.product), Widget(form.version), Widget(form.maker),
+                   Spring()})},
+          kPageSpace),
+      Row({Spring(), Primary(Widget(form.close))}),
+  }));
+}
+
+}  // namespace tarnwell::desktop

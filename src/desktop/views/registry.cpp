@@ -1,0 +1,48 @@
+#include "desktop/views/registry.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "desktop/views/views.h"
+#include "forms/form_names.h"
+#include "planner/zcalandar1.h"
+#include "reference/infoadv.h"
+#include "reference/toolsandinfo1.h"
+#include "shell/about1.h"
+#include "shell/splash1.h"
+#include "shell/startfrm.h"
+#include "workarea/workarea1.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+template <typename FormClass>
+QWidget* Make(forms::Form& form, PictureStore& pictures) {
+  return View(static_cast<FormClass&>(form), pictures);
+}
+
+struct Entry {
+  const char* name;
+  QWidget* (*make)(forms::Form&, PictureStore&);
+  bool frameless = false;
+};
+
+constexpr Entry kViews[] = {
+    {forms::form_names::kStartfrm, Make<shell::Startfrm>},
+    {forms::form_names::kSplash1, Make<shell::Splash1>, true},
+    {forms::form_names::kAbout1, Make<shell::About1>},
+    {forms::form_names::kWorkArea1, Make<workarea::WorkArea1>},
+    {forms::form_names::kInfoAdv, Make<reference::InfoAdv>},
+    {forms::form_names::kToolsandInfo1, Make<reference::ToolsandInfo1>},
+    {forms::form_names::kZcalandar1, Make<planner::Zcalandar1>},
+};
+
+}  // namespace
+
+FormLook LookOf(forms::Form& form, PictureStore& pictures) {
+  const auto* entry = std::ranges::find(kViews, form.name(), &Entry::name);
+  if (entry == std::end(kViews)) return {};
+  return {entry->make(form, pictures), entry->frameless};
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,35 @@
+// One view for each form: the arrangement of its controls, nothing else.
+
+#pragma once
+
+#include <QWidget>
+
+namespace tarnwell::shell {
+class About1;
+class Splash1;
+class Startfrm;
+}  // namespace tarnwell::shell
+namespace tarnwell::workarea {
+class WorkArea1;
+}
+namespace tarnwell::reference {
+class InfoAdv;
+class ToolsandInfo1;
+}  // namespace tarnwell::reference
+namespace tarnwell::planner {
+class Zcalandar1;
+}
+
+namespace tarnwell::desktop {
+
+class PictureStore;
+
+QWidget* View(shell::Startfrm& form, PictureStore& pictures);
+QWidget* View(shell::Splash1& form, PictureStore& pictures);
+QWidget* View(shell::About1& form, PictureStore& pictures);
+QWidget* View(workarea::WorkArea1& form, PictureStore& pictures);
+QWidget* View(reference::InfoAdv& form, PictureStore& pictures);
+QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures);
+QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
+
+}  // namespace tarnwell::desktop

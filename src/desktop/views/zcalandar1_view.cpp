@@ -1,0 +1,57 @@
+#include "desktop/views/day_rows_widget.h"
+#include "desktop/views/recurrence_view.h"
+#include "desktop/views/views.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+#include "planner/zcalandar1.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+// A day's row, in letters: wider, and the eye loses the line.
+constexpr int kLettersOfRow = 105;
+
+QWidget* Day(planner::Zcalandar1& form) {
+  QWidget* sort_time = Widget(
+      form.sort_frame, Row({Widget(form.sort_time.option(0)), Widget(form.sort_time.option(1))}));
+  return Widget(
+      form.day,
+      Column({
+          Widget(form.date_caption),
+          new DayRowsWidget(form),
+          Row({sort_time, Spring(), WithIcon("save", Widget(form.save)),
+               WithIcon("clear", Widget(form.clear_entries)), WithIcon("exit", Widget(form.exit))}),
+          Spring(),
+      }));
+}
+
+QWidget* Options(forms::Panel& frame, forms::OptionGroup& group) {
+  QWidget* options = Column({}, kTightSpace);
+  for (int i = 0; i < group.size(); ++i) Append(options, Widget(group.option(i)));
+  return Widget(frame, Column({options, Spring()}, 0));
+}
+
+QWidget* CalendarOptions(planner::CalendarOptionsPanel& panel) {
+  return Widget(panel.panel, Column({
+                                 Row({Options(panel.weekday_frame, panel.weekday),
+                                      Column({Options(panel.week_numbers_frame, panel.week_numbers),
+                                              Options(panel.months_frame, panel.months),
+                                              Options(panel.today_frame, panel.mark_today)})}),
+                                 Row({Spring(), Widget(panel.close)}),
+                             }));
+}
+
+}  // namespace
+
+QWidget* View(planner::Zcalandar1& form, PictureStore&) {
+  QWidget* import_panel = Widget(form.import_panel, Widget(form.import_progress));
+  QWidget* in_turn = Column({Grow(AtMost(Day(form), kLettersOfRow)),
+                             AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
+                             AtTop(RecurrenceView(form.recurrence)), AtTop(import_panel)},
+                            0);
+  return Padded(
+      Row({Column({Widget(form.picker), Widget(form.clock), Spring()}), Grow(in_turn)}, kWideSpace),
+      kWideSpace);
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,47 @@
+#include "desktop/widgets/binding.h"
+
+#include <QEvent>
+
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+
+Binding::Binding(QWidget* widget, forms::Control& control, std::function<void()> show)
+    : QObject(widget),
+      widget_(widget),
+      control_(control),
+      show_(std::move(show)),
+      subscription_(control.OnChanged([this] { Show(); })) {
+  widget->setObjectName(FromCore(control.name()));
+  widget->installEventFilter(this);
+  NameForScreenReader(widget, control);
+  Show();
+}
+
+void Binding::Show() {
+  if (!subscription_.Connected()) return;
+  widget_->setEnabled(control_.enabled());
+  // A widget without a parent would open a window of its own; its place in a layout shows it.
+  if (widget_->parentWidget() || !control_.visible()) widget_->setVisible(control_.visible());
+  widget_->setToolTip(FromCore(control_.tool_tip()));
+  if (show_) show_();
+  // Only when the control has just got the focus: a change of its text must not fetch the focus
+  // back from an open menu.
+  const bool has_focus = control_.focused();
+  if (has_focus && !had_focus_ && !widget_->hasFocus()) widget_->setFocus(Qt::OtherFocusReason);
+  had_focus_ = has_focus;
+}
+
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget_ && event->type() == QEvent::FocusIn && subscription_.Connected()) {
+    control_.Focus();
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+void NameForScreenReader(QWidget* widget, const forms::Control& control, std::string_view caption) {
+  const QString spoken = Spoken(caption);
+  widget->setAccessibleName(spoken.isEmpty() ? FromCore(control.spoken_name()).trimmed() : spoken);
+}
+
+}  // namespace tarnwell::desktop

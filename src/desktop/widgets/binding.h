@@ -1,0 +1,49 @@
+// What ties a widget to its control, whichever of the two goes first.
+
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <functional>
+#include <utility>
+
+#include "forms/control.h"
+
+namespace tarnwell::desktop {
+
+// Lives as a child of the widget. It shows the control's common state on the widget (visible,
+// enabled, tool tip, focus), calls `show` for the rest, and forwards gestures as long as the
+// control is there.
+class Binding : public QObject {
+ public:
+  Binding(QWidget* widget, forms::Control& control, std::function<void()> show);
+
+  // What the widget's signals do: runs `gesture` unless the control has gone, then shows what came
+  // of it.
+  template <typename Gesture>
+  auto Forward(Gesture gesture) {
+    return [this, gesture = std::move(gesture)](auto&&... arguments) {
+      if (!subscription_.Connected()) return;
+      gesture(std::forward<decltype(arguments)>(arguments)...);
+      Show();
+    };
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Show();
+
+  QWidget* widget_;
+  forms::Control& control_;
+  std::function<void()> show_;
+  forms::Subscription subscription_;
+  bool had_focus_ = false;
+};
+
+// The accessible name: `caption` without its mnemonic, or where there is none the spoken name.
+void NameForScreenReader(QWidget* widget, const forms::Control& control,
+                         std::string_view caption = {});
+
+}  // namespace tarnwell::desktop

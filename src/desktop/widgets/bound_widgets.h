@@ -1,0 +1,44 @@
+// The bound widget of each kind of control. The caller places what it gets in a layout; the
+// widget's object name is the control's fixed name. Widget and control may go in either order.
+
+#pragma once
+
+#include <QWidget>
+
+#include "forms/choice.h"
+#include "forms/command.h"
+#include "forms/date_picker.h"
+#include "forms/label.h"
+#include "forms/panel.h"
+#include "forms/progress_bar.h"
+#include "forms/text_field.h"
+
+namespace tarnwell::desktop {
+
+class PictureStore;
+
+QWidget* Widget(forms::Command& command);
+QWidget* Widget(forms::TextField& field);
+QWidget* Widget(forms::Label& label);
+QWidget* Widget(forms::Picture& picture, PictureStore& pictures);
+QWidget* Widget(forms::Option& option);
+QWidget* Widget(forms::CheckBox& box);
+QWidget* Widget(forms::ComboBox& combo);
+QWidget* Widget(forms::DatePicker& picker);
+QWidget* Widget(forms::ProgressBar& bar);
+// A panel around `content`. With a caption it is a card with a title, else a plain area.
+QWidget* Widget(forms::Panel& panel, QWidget* content);
+
+// Makes every timer of the form tick as long as `owner` lives.
+void RunTimers(forms::Form& form, QObject* owner);
+
+// The command that a person most likely wants; painted in the accent colour.
+QWidget* Primary(QWidget* button);
+// A command with a small picture before its word, by the icon's name ("save").
+QWidget* WithIcon(const char* icon, QWidget* button);
+// Likewise for a command without a caption.
+QWidget* IconOnly(const char* icon, QWidget* button);
+// A label that breaks its lines at the width it is given.
+QWidget* Wrapped(QWidget* label);
+
+}  // namespace tarnwell::desktop

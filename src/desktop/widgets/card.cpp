@@ -1,0 +1,41 @@
+#include "desktop/widgets/card.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/look.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr qreal kCornerRadius = 7;
+
+}  // namespace
+
+void CardWidget::SetCard(bool card) {
+  card_ = card;
+  update();
+}
+
+void CardWidget::paintEvent(QPaintEvent*) {
+  if (!card_) return;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(palette().color(QPalette::Window));
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCornerRadius,
+                          kCornerRadius);
+}
+
+QWidget* Card(QWidget* content) {
+  auto* card = new CardWidget;
+  card->SetCard(true);
+  card->setPalette(PaletteOn(Qt::white));
+  auto* layout = new QVBoxLayout(card);
+  layout->setContentsMargins(kPageSpace, kPageSpace, kPageSpace, kPageSpace);
+  layout->addWidget(content);
+  return card;
+}
+
+}  // namespace tarnwell::desktop

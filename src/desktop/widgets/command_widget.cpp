@@ -1,0 +1,58 @@
+#include <QIcon>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QStyle>
+
+#include "desktop/widgets/binding.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+// Enter presses the button that has the focus, outside dialogs too.
+class Button : public QPushButton {
+ public:
+  Button() { setAutoDefault(false); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+    QPushButton::keyPressEvent(event);
+  }
+};
+
+}  // namespace
+
+QWidget* Widget(forms::Command& command) {
+  auto* button = new Button;
+  auto* binding = new Binding(button, command, [button, &command] {
+    button->setText(FromCore(command.caption()));
+    NameForScreenReader(button, command, command.caption());
+    SetMark(button, "selected", command.selected());
+    button->setCursor(command.no_drop() ? Qt::ForbiddenCursor : Qt::ArrowCursor);
+  });
+  QObject::connect(button, &QPushButton::clicked, binding,
+                   binding->Forward([&command](bool) { command.Click(); }));
+  return button;
+}
+
+QWidget* Primary(QWidget* button) {
+  SetMark(button, "primary", true);
+  return button;
+}
+
+QWidget* WithIcon(const char* icon, QWidget* button) {
+  if (auto* push_button = qobject_cast<QAbstractButton*>(button)) {
+    push_button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(icon))));
+  }
+  return button;
+}
+
+QWidget* IconOnly(const char* icon, QWidget* button) {
+  SetMark(button, "compact", true);
+  return WithIcon(icon, button);
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,60 @@
+#include <QLabel>
+#include <QMouseEvent>
+#include <functional>
+
+#include "desktop/widgets/binding.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+class TextLabel : public QLabel {
+ public:
+  std::function<void()> on_click;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    QLabel::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && on_click) on_click();
+  }
+};
+
+QFont FontOf(forms::LabelRole role) {
+  switch (role) {
+    case forms::LabelRole::kTitle:
+      return ScaledFont(TextSize::kTitle);
+    case forms::LabelRole::kHeading:
+      return ScaledFont(TextSize::kHeading);
+    case forms::LabelRole::kNote:
+      return ScaledFont(TextSize::kNote);
+    case forms::LabelRole::kText:
+      break;
+  }
+  return ScaledFont(TextSize::kText);
+}
+
+}  // namespace
+
+QWidget* Widget(forms::Label& label) {
+  auto* widget = new TextLabel;
+  widget->setTextFormat(Qt::PlainText);
+  widget->setFont(FontOf(label.role()));
+  auto* binding = new Binding(widget, label, [widget, &label] {
+    widget->setText(FromCore(label.caption()));
+    if (!label.caption().empty()) widget->setAccessibleName(FromCore(label.caption()));
+  });
+  if (label.on_click) {
+    widget->setCursor(Qt::PointingHandCursor);
+    widget->on_click = binding->Forward([&label] { label.Click(); });
+  }
+  return widget;
+}
+
+QWidget* Wrapped(QWidget* label) {
+  if (auto* text = qobject_cast<QLabel*>(label)) text->setWordWrap(true);
+  return label;
+}
+
+}  // namespace tarnwell::desktop

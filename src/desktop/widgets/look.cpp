@@ -1,0 +1,170 @@
+#include "desktop/widgets/look.h"
+
+#include <QFontDatabase>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QVariant>
+#include <algorithm>
+#include <cmath>
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr double kLeastPointSize = 10;
+constexpr double kAmpleContrast = 7;
+
+// Widgets that a person types in or presses keep their own light ground on every panel colour;
+// everything else takes its text colour from the palette of the panel around it.
+constexpr const char* kStyleSheet = R"(
+QPushButton {
+  background: #FFFFFF; color: #1C2530; border: 1px solid #AEB8C2; border-radius: 5px;
+  padding: 5px 13px; min-height: 1.25em;
+}
+QPushButton:hover { background: #F0F5FB; border-color: #7F97B2; }
+QPushButton:pressed { background: #DFE9F5; }
+QPushButton:focus { border: 2px solid #1F5FBF; padding: 4px 12px; }
+QPushButton:disabled { background: #F1F2F4; color: #7B858F; border-color: #D3D8DD; }
+QPushButton[compact="true"] { padding: 3px 6px; }
+QPushButton[compact="true"]:focus { padding: 2px 5px; }
+QPushButton[primary="true"] { background: #1F5FBF; color: #FFFFFF; border-color: #1F5FBF; }
+QPushButton[primary="true"]:hover { background: #2A6DD0; }
+QPushButton[primary="true"]:pressed { background: #184C9A; }
+QPushButton[primary="true"]:focus { border: 2px solid #FFC83D; }
+QPushButton[primary="true"]:disabled { background: #C3CEDC; border-color: #C3CEDC; color: #5E6873; }
+QPushButton[selected="true"] { background: #F4F5FF; color: #5555FF; border-color: #F4F5FF; }
+QPushButton[selected="true"]:focus { border: 2px solid #5555FF; }
+QLineEdit, QComboBox {
+  background: #FFFFFF; color: #1C2530; border: 1px solid #AEB8C2; border-radius: 4px;
+  padding: 3px 6px; min-height: 1.25em; selection-background-color: #1F5FBF;
+  selection-color: #FFFFFF;
+}
+QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
+QLineEdit[marked="true"] { background: #FFF6A0; }
+QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; color: #7B858F; border-color: #D3D8DD; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox::down-arrow { image: url(:/icons/down.svg); width: 12px; height: 12px; }
+QComboBox QAbstractItemView {
+  background: #FFFFFF; color: #1C2530; selection-background-color: #1F5FBF;
+  selection-color: #FFFFFF; border: 1px solid #AEB8C2;
+}
+QMenuBar { background: #FBFBFC; color: #1C2530; border-bottom: 1px solid #DDE1E6; padding: 1px 4px; }
+QMenuBar::item { padding: 4px 10px; border-radius: 4px; background: transparent; }
+QMenuBar::item:selected { background: #E1EAF6; }
+QMenu { background: #FFFFFF; color: #1C2530; border: 1px solid #C3CAD2; padding: 4px; }
+QMenu::item { padding: 5px 28px 5px 24px; border-radius: 4px; }
+QMenu::item:selected { background: #E1EAF6; color: #1C2530; }
+QMenu::item:disabled { color: #7B858F; }
+QMenu::separator { height: 1px; background: #DDE1E6; margin: 4px 8px; }
+QStatusBar { background: #FBFBFC; color: #1C2530; border-top: 1px solid #DDE1E6; }
+QStatusBar::item { border: none; }
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QMessageBox {
+  background: #FFFFFF;
+  messagebox-information-icon: url(:/icons/information.svg);
+  messagebox-warning-icon: url(:/icons/exclamation.svg);
+  messagebox-question-icon: url(:/icons/question.svg);
+  messagebox-critical-icon: url(:/icons/critical.svg);
+}
+QToolTip { background: #FFFFE6; color: #1C2530; border: 1px solid #AEB8C2; padding: 3px; }
+QProgressBar {
+  background: #FFFFFF; color: #1C2530; border: 1px solid #AEB8C2; border-radius: 4px;
+  text-align: center; min-height: 1.3em;
+}
+QProgressBar::chunk { background: #9CC0EE; border-radius: 3px; }
+)";
+
+double Linear(double channel) {
+  return channel <= 0.03928 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& color) {
+  return 0.2126 * Linear(color.redF()) + 0.7152 * Linear(color.greenF()) +
+         0.0722 * Linear(color.blueF());
+}
+
+QColor Blend(const QColor& a, const QColor& b, double share_of_b) {
+  const auto mix = [&](int x, int y) { return static_cast<int>(x + (y - x) * share_of_b); };
+  return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+}  // namespace
+
+QFont ScaledFont(TextSize size) {
+  QFont font = QApplication::font();
+  switch (size) {
+    case TextSize::kNote:
+      font.setPointSizeF(font.pointSizeF() * 0.9);
+      break;
+    case TextSize::kText:
+      break;
+    case TextSize::kStrong:
+      font.setWeight(QFont::DemiBold);
+      break;
+    case TextSize::kHeading:
+      font.setPointSizeF(font.pointSizeF() * 1.3);
+      font.setWeight(QFont::DemiBold);
+      break;
+    case TextSize::kTitle:
+      font.setPointSizeF(font.pointSizeF() * 2.1);
+      font.setWeight(QFont::DemiBold);
+      break;
+  }
+  return font;
+}
+
+QColor ToQColor(forms::Color color) {
+  return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
+}
+
+forms::Color FromQColor(const QColor& color) {
+  return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+  const auto [low, high] = std::minmax({Luminance(a), Luminance(b)});
+  return (high + 0.05) / (low + 0.05);
+}
+
+QPalette PaletteOn(const QColor& background) {
+  const QColor dark(0x1C, 0x25, 0x30);
+  const QColor light(Qt::white);
+  QColor text = Contrast(Qt::black, background) >= Contrast(light, background) ? dark : light;
+  // On a middling ground the softer dark isn't enough.
+  if (text == dark && Contrast(dark, background) < kAmpleContrast) text = Qt::black;
+  QPalette palette = QApplication::palette();
+  palette.setColor(QPalette::Window, background);
+  palette.setColor(QPalette::WindowText, text);
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, Blend(text, background, 0.45));
+  palette.setColor(QPalette::Mid, Blend(background, text, 0.22));
+  return palette;
+}
+
+void SetMark(QWidget* widget, const char* mark, bool on) {
+  if (widget->property(mark).toBool() == on) return;
+  widget->setProperty(mark, on);
+  widget->style()->unpolish(widget);
+  widget->style()->polish(widget);
+  widget->update();
+}
+
+void ApplyLook(QApplication& application) {
+  application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QFont font = application.font();
+  font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Inter"),
+                    QStringLiteral("Noto Sans"), QStringLiteral("Liberation Sans"), font.family()});
+  font.setPointSizeF(std::max(kLeastPointSize, font.pointSizeF()));
+  application.setFont(font);
+  QPalette palette;
+  palette.setColor(QPalette::Window, ToQColor(forms::kNeutral));
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::Highlight, kAccent);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(role, QColor(0x1C, 0x25, 0x30));
+    palette.setColor(QPalette::Disabled, role, QColor(0x7B, 0x85, 0x8F));
+  }
+  application.setPalette(palette);
+  application.setStyleSheet(QString::fromLatin1(kStyleSheet));
+}
+
+}  // namespace tarnwell::desktop

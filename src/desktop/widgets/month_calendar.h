@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "desktop/widgets/month_sheet.h"
+#include "forms/date_picker.h"
+
+namespace tarnwell::desktop {
+
+// One or two months side by side. Arrow keys pick the days around, Page Up and Page Down the same
+// day of the months around (with Ctrl: years), Home and End the month's first and last day,
+// Ctrl+Home today. The arrows in the head and the wheel turn the pages without picking.
+class MonthCalendar : public QWidget {
+ public:
+  MonthCalendar();
+
+  std::function<void(text::Date)> on_pick;
+
+  void Show(std::optional<text::Date> date, std::optional<text::Date> today,
+            const forms::DatePickerLook& look);
+
+  // Where a day of the shown months is painted; empty for others. For tests and screen readers.
+  QRect PlaceOf(text::Date date) const;
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  struct Metrics;
+  Metrics Measure() const;
+  Month ShownMonth(int pane) const;
+  int PaneOf(text::Date date) const;
+  void TurnPages(int months);
+  void Pick(text::Date date);
+  std::optional<text::Date> DayAt(const QPoint& point) const;
+  std::optional<text::Date> DayForKey(const QKeyEvent& event) const;
+
+  void PaintHead(QPainter& painter, int pane) const;
+  void PaintDays(QPainter& painter, int pane) const;
+  void PaintDay(QPainter& painter, const QRect& place, text::Date day) const;
+  void PaintWeekNumbers(QPainter& painter, int pane) const;
+  void PaintFoot(QPainter& painter) const;
+
+  std::optional<text::Date> date_;
+  std::optional<text::Date> today_;
+  forms::DatePickerLook look_;
+  Month first_shown_{std::chrono::year{2000}, std::chrono::January};
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,20 @@
+#include "desktop/widgets/text.h"
+
+#include "text/code_page_1252.h"
+
+namespace tarnwell::desktop {
+
+QString FromCore(std::string_view text) { return QString::fromStdString(text::ToUtf8(text)); }
+
+std::string ToCore(const QString& text) { return text::FromUtf8(text.toStdString()); }
+
+QString Spoken(std::string_view caption) {
+  std::string spoken;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    spoken += caption[i];
+  }
+  return FromCore(spoken).trimmed();
+}
+
+}  // namespace tarnwell::desktop

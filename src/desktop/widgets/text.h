@@ -1,0 +1,19 @@
+// The edge between the core's code page 1252 and Qt's Unicode.
+
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace tarnwell::desktop {
+
+QString FromCore(std::string_view text);
+
+// One byte for each character; what the code page can't hold becomes its nearest form or "?".
+std::string ToCore(const QString& text);
+
+// A caption as it is spoken: without the marks of its mnemonic, "&&" as one ampersand.
+QString Spoken(std::string_view caption);
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,165 @@
+#include "desktop/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/sample_form.h"
+#include "desktop/services/qt_event_loop.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+using testing::SampleForm;
+
+FormLook SampleLook(forms::Form& form) {
+  auto& sample = dynamic_cast<SampleForm&>(form);
+  return {Widget(sample.panel,
+                 Column({Widget(sample.city), Widget(sample.save), Widget(sample.leave)}))};
+}
+
+// The real window and the real event loop around made-up forms.
+class MainWindowTest : public ::testing::Test {
+ protected:
+  MainWindowTest() {
+    navigator_.SetContext(context_);
+    for (const char* name : {"Lower", "Upper"}) {
+      navigator_.Register(name, [name](forms::Context& context) {
+        return std::make_unique<SampleForm>(context, name);
+      });
+    }
+    window_.Follow(navigator_);
+    SampleForm::unloads = 0;
+  }
+
+  SampleForm& Form(const char* name) { return dynamic_cast<SampleForm&>(*navigator_.Find(name)); }
+  QPushButton* Button(const char* form, const char* name) {
+    return window_.PageOf(Form(form))->findChild<QPushButton*>(QLatin1String(name));
+  }
+
+  testing::TemporaryFolder temporary_;
+  storage::ProgramFolder folder_{storage::RealFileSystem(), temporary_.path()};
+  testing::FakeClock clock_;
+  testing::ScriptedDialogs dialogs_;
+  QtEventLoop loop_;
+  testing::FakeHelp help_;
+  forms::ProgramVariables variables_;
+  MainWindow window_{SampleLook, help_};
+  forms::Navigator navigator_;
+  forms::Context context_{folder_, clock_, dialogs_, loop_, window_, help_, variables_, navigator_};
+};
+
+TEST_F(MainWindowTest, TheTopFormLendsItsTitleMenusAndStatus) {
+  navigator_.Show("Lower");
+  navigator_.Show("Upper");
+  Form("Upper").SetCaption("Caf\xE9");
+  Form("Lower").SetCaption("Below");
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("Café"));
+  EXPECT_EQ(window_.menuBar()->actions().size(), 1);
+  window_.close();
+  EXPECT_EQ(SampleForm::unloads, 1);
+  EXPECT_TRUE(window_.isVisible());
+  EXPECT_EQ(window_.windowTitle(), QStringLiteral("Below"));
+}
+
+TEST_F(MainWindowTest, AFormThatRefusesKeepsTheWindow) {
+  navigator_.Show("Lower");
+  Form("Lower").stays = true;
+  window_.close();
+  EXPECT_TRUE(window_.isVisible());
+  EXPECT_EQ(SampleForm::unloads, 0);
+}
+
+TEST_F(MainWindowTest, EscapeAndF1ReachTheTopForm) {
+  navigator_.Show("Lower");
+  navigator_.Show("Upper");
+  auto* field = window_.PageOf(Form("Upper"))->findChild<QLineEdit*>(QStringLiteral("Text1"));
+  QTest::keyClick(field, Qt::Key_F1);
+  EXPECT_TRUE(help_.shown.empty());  // a form without a help page
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_EQ(navigator_.top()->name(), "Lower");
+}
+
+TEST_F(MainWindowTest, AFormAndItsWidgetsGoOnlyWhenNoHandlerIsLeft) {
+  navigator_.Show("Lower");
+  navigator_.Show("Upper");
+  SampleForm& upper = Form("Upper");
+  QPointer<QPushButton> button = Button("Upper", "Command1");
+  bool alive_in_handler = false;
+  upper.save.on_click = [&] {
+    navigator_.Unload(upper);
+    for (int i = 0; i < 20; ++i) loop_.WaitALittle();
+    alive_in_handler = !button.isNull() && upper.name() == "Upper";
+  };
+  button->click();
+  EXPECT_TRUE(alive_in_handler);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return button.isNull(); }, 2000));
+}
+
+TEST_F(MainWindowTest, ClosingTheWindowInALongRunIsSafe) {
+  navigator_.Show("Lower");
+  navigator_.Show("Upper");
+  SampleForm& upper = Form("Upper");
+  int steps = 0;
+  upper.save.on_click = [&] {
+    QTimer::singleShot(0, &window_, [this] { window_.close(); });
+    for (; steps < 50; ++steps) loop_.Yield();
+    upper.city.SetText("done");
+  };
+  Button("Upper", "Command1")->click();
+  EXPECT_EQ(steps, 50);
+  EXPECT_EQ(SampleForm::unloads, 1);
+  EXPECT_EQ(navigator_.top()->name(), "Lower");
+}
+
+TEST_F(MainWindowTest, AModalFormIsADialogThatOnlyItselfEnds) {
+  navigator_.Show("Lower");
+  bool was_dialog = false;
+  QTimer::singleShot(50, &window_, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    was_dialog = dialog && dialog->isAncestorOf(Button("Upper", "Command2"));
+    Form("Upper").stays = true;
+    dialog->close();
+    EXPECT_NE(navigator_.Find("Upper"), nullptr);
+    // A person can't close the window below a modal form.
+    EXPECT_FALSE(Form("Lower").save.Reachable());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  navigator_.ShowModal("Upper");
+  EXPECT_TRUE(was_dialog);
+  EXPECT_EQ(navigator_.top()->name(), "Lower");
+}
+
+TEST_F(MainWindowTest, TheEndInAModalWaitComesBackToTheCaller) {
+  navigator_.Show("Lower");
+  QTimer::singleShot(20, &window_, [&] { navigator_.EndProgram(); });
+  navigator_.ShowModal("Upper");
+  EXPECT_TRUE(navigator_.ended());
+  EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(MainWindowTest, SizesAreTwipsOfWholePixels) {
+  navigator_.Show("Lower");
+  forms::Window& window = window_;
+  window.SetMinimumSize({15100, 11200});
+  window.SetSize({15100, 11200});
+  EXPECT_EQ(window.size(), (forms::Size{1007 * 15, 747 * 15}));
+  EXPECT_EQ(window.screen(), (forms::Size{1024 * 15, 768 * 15}));
+  window.SetMaximized(true);
+  EXPECT_TRUE(window.maximized());
+  QTest::qWait(300);
+  EXPECT_TRUE(window.maximized());
+  EXPECT_EQ(window.size(), (forms::Size{1024 * 15, 768 * 15}));
+  window.SetMaximized(false);
+  EXPECT_EQ(window.size(), (forms::Size{1007 * 15, 747 * 15}));
+}
+
+}  // namespace
+}  // namespace tarnwell::desktop

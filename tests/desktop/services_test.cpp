@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include "desktop/services/folders.h"
+#include "desktop/services/html_help_viewer.h"
+#include "desktop/services/message_dialogs.h"
+#include "desktop/services/single_instance.h"
+#include "support/temporary_folder.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+using testing::TemporaryFolder;
+
+// Does `act` to the first modal window that comes.
+void WhenModal(std::function<void(QWidget*)> act) {
+  QTimer::singleShot(10, qApp, [act = std::move(act)] {
+    QWidget* modal = QApplication::activeModalWidget();
+    modal ? act(modal) : WhenModal(act);
+  });
+}
+
+TEST(Folders, TheExecutablesFolderIsUsedOnlyWhenItCarriesData) {
+  const struct {
+    const char* file;
+    bool portable;
+  } cases[] = {{"portable", true}, {"HINV3.Fil", true}, {"hinv3.fil", true}, {"tarnwell", false}};
+  for (const auto& one : cases) {
+    const TemporaryFolder executable;
+    const TemporaryFolder home;
+    executable.Write(one.file, "");
+    const QString own = QString::fromStdString(executable.path());
+    const QString per_user = QString::fromStdString(home.path()) + "/Tarnwell";
+    EXPECT_EQ(ChooseFolders(own, per_user).user, one.portable ? own : per_user) << one.file;
+    EXPECT_EQ(QDir(per_user).exists(), !one.portable) << one.file;
+  }
+}
+
+TEST(Folders, SuppliedFilesAreTheInstalledOnesOrThoseOfTheTreeAround) {
+  const TemporaryFolder root;
+  const QDir tree(QString::fromStdString(root.path()));
+  ASSERT_TRUE(tree.mkpath("bin") && tree.mkpath("build/dev/src/desktop") && tree.mkpath("data"));
+  const QString user = tree.filePath("user");
+  EXPECT_EQ(ChooseFolders(tree.filePath("build/dev/src/desktop"), user).supplied, QString());
+  root.Write("data/tarnwell.svg", "<svg/>");
+  EXPECT_EQ(ChooseFolders(tree.filePath("build/dev/src/desktop"), user).supplied,
+            tree.filePath("data"));
+  ASSERT_TRUE(tree.mkpath("share/tarnwell"));
+  EXPECT_EQ(ChooseFolders(tree.filePath("bin"), user).supplied, tree.filePath("share/tarnwell"));
+}
+
+TEST(MessageDialogs, ShowTheBoxAsItWasAskedFor) {
+  MessageDialogs dialogs;
+  WhenModal([](QWidget* modal) {
+    auto* box = qobject_cast<QMessageBox*>(modal);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->windowTitle(), QStringLiteral("Save – Café"));
+    EXPECT_EQ(box->text(), QStringLiteral("Line <b>one</b>\nLine two"));
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    EXPECT_EQ(box->icon(), QMessageBox::Question);
+    EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+    QTest::keyClick(box, Qt::Key_Return);
+  });
+  EXPECT_EQ(dialogs.Message({"Save \x96 Caf\xE9", "Line <b>one</b>\nLine two",
+                             forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2}),
+            forms::Answer::kNo);
+}
+
+TEST(MessageDialogs, ClosingTheBoxAnswersWithItsLastButton) {
+  const struct {
+    forms::Buttons buttons;
+    forms::Answer answer;
+  } cases[] = {{forms::Buttons::kOk, forms::Answer::kOk},
+               {forms::Buttons::kYesNo, forms::Answer::kNo},
+               {forms::Buttons::kYesNoCancel, forms::Answer::kCancel}};
+  for (const auto& one : cases) {
+    MessageDialogs dialogs;
+    WhenModal([](QWidget* modal) { modal->close(); });
+    EXPECT_EQ(dialogs.Message({"T", "t", forms::Icon::kNone, one.buttons}), one.answer);
+    WhenModal([](QWidget* modal) { QTest::keyClick(modal, Qt::Key_Escape); });
+    EXPECT_EQ(dialogs.Message({"T", "t", forms::Icon::kNone, one.buttons}), one.answer);
+  }
+}
+
+TEST(MessageDialogs, TheColourDialogueStartsWithTheColourAndMayBeCancelled) {
+  MessageDialogs dialogs;
+  WhenModal([](QWidget* modal) {
+    EXPECT_EQ(qobject_cast<QColorDialog*>(modal)->currentColor(), QColor(0, 0, 255));
+    qobject_cast<QColorDialog*>(modal)->setCurrentColor(QColor(255, 128, 0));
+    qobject_cast<QColorDialog*>(modal)->accept();
+  });
+  EXPECT_EQ(dialogs.ChooseColor(forms::kPureBlue), 0x0080FF);
+  WhenModal([](QWidget* modal) { qobject_cast<QDialog*>(modal)->reject(); });
+  EXPECT_EQ(dialogs.ChooseColor(forms::kPureBlue), std::nullopt);
+}
+
+TEST(HtmlHelpViewer, ShowsThePageOfAContextAndIgnoresAMissingOne) {
+  const TemporaryFolder pages;
+  pages.Write("1000.html", "<h1>Overview</h1>");
+  pages.Write("index.html", "<h1>Index</h1>");
+  HtmlHelpViewer viewer(QString::fromStdString(pages.path()));
+  const auto browser = []() -> QTextBrowser* {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* found = window->findChild<QTextBrowser*>(); found && window->isVisible()) {
+        return found;
+      }
+    }
+    return nullptr;
+  };
+  viewer.Show(4711);
+  EXPECT_EQ(browser(), nullptr);
+  viewer.Show(1000);
+  ASSERT_NE(browser(), nullptr);
+  EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
+  viewer.Show(4711);
+  EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
+}
+
+TEST(SingleInstance, ASecondStartInTheFolderCallsTheFirst) {
+  const TemporaryFolder folder;
+  const TemporaryFolder other_folder;
+  const QString path = QString::fromStdString(folder.path());
+  auto first = std::make_unique<SingleInstance>(path);
+  ASSERT_TRUE(first->first());
+  int calls = 0;
+  first->OnCall([&] { ++calls; });
+
+  const SingleInstance second(path + "/.");
+  EXPECT_FALSE(second.first());
+  EXPECT_TRUE(second.CallFirst());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return calls == 1; }, 2000));
+  EXPECT_TRUE(SingleInstance(QString::fromStdString(other_folder.path())).first());
+
+  first.reset();
+  EXPECT_FALSE(second.CallFirst());
+  EXPECT_TRUE(SingleInstance(path).first());
+}
+
+}  // namespace
+}  // namespace tarnwell::desktop

@@ -1,0 +1,92 @@
+#include "tour/journey.h"
+
+#include "tour/traveller.h"
+
+namespace tarnwell::testing {
+namespace {
+
+const QString kTime = QStringLiteral("9:30 AM");
+const QString kAppointment = QStringLiteral("Dentist");
+
+void GoToPlanner(Traveller& person) {
+  person.Click("Command2");
+  person.ExpectTop("WorkArea1");
+  person.TakePicture("company-data");
+  person.Click("SSCommand4(3)");
+  person.ExpectTop("ToolsandInfo1");
+  person.TakePicture("tools-and-program-info");
+  person.Click("SSCommand11(5)");
+  person.ExpectTop("Zcalandar1");
+}
+
+void WriteAppointment(Traveller& person) {
+  person.TakePicture("planner-empty");
+  person.Click("Text1(0)");
+  person.Type(kTime);
+  person.Press(Qt::Key_Return);
+  person.Type(kAppointment);
+  person.ExpectText("Text2(0)", kAppointment);
+  person.TakePicture("planner-filled");
+  person.Answer(
+      QStringLiteral("Save File Command"), QMessageBox::Ok, [&] { person.Click("Command1"); },
+      "planner-saved");
+}
+
+void LookAtCalendarOptions(Traveller& person) {
+  person.ChooseFromMenu("mOCal");
+  person.TakePicture("calendar-options");
+  person.Click("Command9");
+}
+
+void LookAtRecurrence(Traveller& person) {
+  person.Click("Option2(0)");
+  person.ExpectText("Label14", QStringLiteral(" Appointment: 9:30 AM Dentist "));
+  person.TakePicture("recurrence");
+  person.Click("SSCommand3");
+}
+
+void FirstDay(Traveller& person, desktop::Desktop& desktop) {
+  person.Use(desktop);
+  person.TakePictureSoon("splash");
+  desktop.Start();
+  person.ExpectTop("Startfrm");
+  person.TakePicture("start");
+  GoToPlanner(person);
+  WriteAppointment(person);
+  LookAtCalendarOptions(person);
+  LookAtRecurrence(person);
+  person.Press(Qt::Key_Escape);
+  person.ExpectTop("ToolsandInfo1");
+  person.Answer(
+      QStringLiteral("Exit"), QMessageBox::Yes, [&] { person.Click("SSCommand4(4)"); }, "exit");
+}
+
+void SecondDay(Traveller& person, desktop::Desktop& desktop) {
+  person.Use(desktop);
+  desktop.Start();
+  person.ExpectTop("Startfrm");
+  person.TakePicture("reminder");
+  person.Click("Command3");
+  person.ExpectTop("Zcalandar1");
+  person.ExpectText("Text1(0)", kTime);
+  person.ExpectText("Text2(0)", kAppointment);
+  person.TakePicture("planner-of-the-reminder");
+  person.Click("Command2");
+  person.ExpectTop("Startfrm");
+  person.Press(Qt::Key_Escape);
+}
+
+}  // namespace
+
+QStringList TravelJourney(const JourneyPlan& plan) {
+  Traveller person(plan.pictures);
+  QStringList left_running;
+  for (auto* day : {FirstDay, SecondDay}) {
+    desktop::Desktop desktop(plan.folders);
+    day(person, desktop);
+    if (!desktop.ended()) left_running << QStringLiteral("the program is still running");
+  }
+  return person.notes() + left_running;
+}
+
+}  // namespace tarnwell::testing

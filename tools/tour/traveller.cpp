@@ -1,0 +1,121 @@
+#include "tour/traveller.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::testing {
+namespace {
+
+constexpr int kMomentMs = 60;
+constexpr int kSplashIsUpMs = 1500;
+constexpr int kLookForBoxMs = 30;
+
+QString TextOf(QWidget* widget) {
+  if (auto* line = qobject_cast<QLineEdit*>(widget)) return line->text();
+  if (auto* label = qobject_cast<QLabel*>(widget)) return label->text();
+  return {};
+}
+
+}  // namespace
+
+QWidget* Traveller::Find(const char* control) {
+  forms::Form* top = desktop_->navigator().top();
+  desktop::FormPage* page = top ? desktop_->window().PageOf(*top) : nullptr;
+  auto* widget = page ? page->findChild<QWidget*>(QLatin1String(control)) : nullptr;
+  if (!widget || !widget->isVisible()) {
+    Note(QStringLiteral("%1 isn't to be seen").arg(QLatin1String(control)));
+    return nullptr;
+  }
+  return widget;
+}
+
+void Traveller::ExpectTop(const char* form) {
+  QTest::qWait(kMomentMs);
+  const forms::Form* top = desktop_->navigator().top();
+  const QString name = top ? desktop::FromCore(top->name()) : QString();
+  if (name != QLatin1String(form)) {
+    Note(QStringLiteral("%1 is on top instead of %2").arg(name, QLatin1String(form)));
+  }
+}
+
+void Traveller::ExpectText(const char* control, const QString& text) {
+  QWidget* widget = Find(control);
+  if (widget && TextOf(widget) != text) {
+    Note(QStringLiteral("%1 shows \"%2\" instead of \"%3\"")
+             .arg(QLatin1String(control), TextOf(widget), text));
+  }
+}
+
+void Traveller::Click(const char* control) {
+  if (QWidget* widget = Find(control)) QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void Traveller::Type(const QString& text) {
+  QWidget* focus = desktop_->window().focusWidget();
+  focus ? QTest::keyClicks(focus, text) : Note(QStringLiteral("nothing takes the keys"));
+}
+
+void Traveller::Press(Qt::Key key) {
+  QWidget* focus = desktop_->window().focusWidget();
+  QTest::keyClick(focus ? focus : &desktop_->window(), key);
+}
+
+void Traveller::ChooseFromMenu(const char* name) {
+  for (const auto& menu : desktop_->window().PageOf(*desktop_->navigator().top())->menus()) {
+    if (auto* action = menu->findChild<QAction*>(QLatin1String(name))) return action->trigger();
+  }
+  Note(QStringLiteral("no menu entry %1").arg(QLatin1String(name)));
+}
+
+void Traveller::Answer(const QString& title, QMessageBox::StandardButton button,
+                       const std::function<void()>& act, const char* picture) {
+  bool answered = false;
+  QTimer look;
+  look.callOnTimeout([&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || answered) return;
+    answered = true;
+    if (box->windowTitle() != title) Note(QStringLiteral("the box ") + box->windowTitle());
+    if (picture) TakePicture(picture);
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+  });
+  look.start(kLookForBoxMs);
+  act();
+  if (!answered) Note(QStringLiteral("no box ") + title);
+}
+
+// Windows lie on the screen as they would for a person, on any platform that Qt draws on.
+void Traveller::TakePicture(const char* name) {
+  if (pictures_.isEmpty()) return;
+  QTest::qWait(kMomentMs);
+  QImage picture(QGuiApplication::primaryScreen()->size(), QImage::Format_RGB32);
+  picture.fill(QColor(0x30, 0x34, 0x38));
+  QPainter painter(&picture);
+  QWidgetList windows{&desktop_->window()};
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (qobject_cast<QDialog*>(widget)) windows << widget;
+  }
+  for (QWidget* window : windows) {
+    if (window->isVisible()) painter.drawPixmap(window->geometry().topLeft(), window->grab());
+  }
+  const QString file = QStringLiteral("%1-%2.png")
+                           .arg(++pictures_taken_, 2, 10, QLatin1Char('0'))
+                           .arg(QLatin1String(name));
+  if (!picture.save(QDir(pictures_).filePath(file))) Note("can't save " + file);
+}
+
+void Traveller::TakePictureSoon(const char* name) {
+  QTimer::singleShot(kSplashIsUpMs, &desktop_->window(), [this, name] { TakePicture(name); });
+}
+
+}  // namespace tarnwell::testing

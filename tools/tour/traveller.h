@@ -1,0 +1,49 @@
+// Somebody who sits before the window.
+
+#pragma once
+
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+#include "desktop/desktop.h"
+
+namespace tarnwell::testing {
+
+// Clicks, types and looks. What isn't as expected is noted, and the journey goes on as far as it
+// can.
+class Traveller {
+ public:
+  explicit Traveller(QString pictures) : pictures_(std::move(pictures)) {}
+
+  // The program that the gestures below go to.
+  void Use(desktop::Desktop& desktop) { desktop_ = &desktop; }
+
+  void ExpectTop(const char* form);
+  void ExpectText(const char* control, const QString& text);
+  void Click(const char* control);
+  void Type(const QString& text);
+  void Press(Qt::Key key);
+  void ChooseFromMenu(const char* name);
+  // Does `act`, which brings a box of that title, and answers it.
+  void Answer(const QString& title, QMessageBox::StandardButton button,
+              const std::function<void()>& act, const char* picture = nullptr);
+  // Saves what is on the screen as the next picture.
+  void TakePicture(const char* name);
+  // The same, a little later: for a screen that comes and goes while the program is busy.
+  void TakePictureSoon(const char* name);
+
+  const QStringList& notes() const { return notes_; }
+
+ private:
+  QWidget* Find(const char* control);
+  void Note(const QString& text) { notes_ << text; }
+
+  QString pictures_;
+  desktop::Desktop* desktop_ = nullptr;
+  QStringList notes_;
+  int pictures_taken_ = 0;
+};
+
+}  // namespace tarnwell::testing
