@@ -38,7 +38,7 @@ Program::Program(const Services& services)
 }
 
 void Program::Start() {
-  context_.folder.SweepOrphans();
+  context_.folder.Recover();
   navigator_.Show(forms::form_names::kStartfrm);
 }
 

@@ -11,6 +11,7 @@ namespace tarnwell::storage::file_names {
 // The store's own files beside the user's; no user's file can have a name that begins so.
 inline constexpr std::string_view kOwnPrefix = ".tarnwell-";
 inline constexpr std::string_view kLock = ".tarnwell-lock";
+inline constexpr std::string_view kRedoNote = ".tarnwell-redo";
 inline constexpr std::string_view kSavePrefix = ".tarnwell-save-";  // and eight digits
 
 // Settings: colours, display, printer fonts, backgrounds, folders last used.

@@ -37,7 +37,8 @@ ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,
     : files_(files),
       user_folder_(std::move(user_folder)),
       user_names_(files, user_folder_),
-      supplied_names_(files, std::move(supplied_folder)) {}
+      supplied_names_(files, std::move(supplied_folder)),
+      redo_note_(files, user_folder_ + "/" + std::string(file_names::kRedoNote)) {}
 
 std::unique_ptr<File> ProgramFolder::Open(std::string_view name, OpenMode mode) {
   if (!IsPlainFileName(name)) return nullptr;
@@ -110,7 +111,38 @@ std::uint64_t ProgramFolder::Length(std::string_view name) {
   return file ? file->Size().value_or(0) : 0;
 }
 
-void ProgramFolder::SweepOrphans() { SweepSiblings(files_, user_folder_); }
+bool ProgramFolder::WriteAt(File& file, std::string_view name, std::uint64_t offset,
+                            std::string_view bytes) {
+  if (RedoNote::InFirstPage(offset, bytes.size()) == bytes.size()) {
+    return file.WriteAt(offset, bytes);
+  }
+  redo_note_.Set(name, offset, bytes);
+  const bool is_written = file.WriteAt(offset, bytes);
+  redo_note_.Clear();
+  return is_written;
+}
+
+void ProgramFolder::Recover() {
+  FinishTornWrite();
+  SweepSiblings(files_, user_folder_);
+}
+
+// Only a write that had begun is finished: where the first page isn't the noted one, the file was
+// never touched or has been exchanged since.
+void ProgramFolder::FinishTornWrite() {
+  if (const auto write = redo_note_.Read()) {
+    const auto file = Open(write->file, OpenMode::kReadWrite);
+    const std::string_view begun =
+        std::string_view(write->bytes)
+            .substr(0, RedoNote::InFirstPage(write->offset, write->bytes.size()));
+    std::string stored(begun.size(), '\0');
+    if (file && file->ReadAt(write->offset, stored) == static_cast<std::ptrdiff_t>(begun.size()) &&
+        stored == begun) {
+      file->WriteAt(write->offset, write->bytes);
+    }
+  }
+  redo_note_.Remove();
+}
 
 std::optional<std::string> ProgramFolder::NewPath(std::string_view name) const {
   if (!user_names_.is_listed()) return std::nullopt;

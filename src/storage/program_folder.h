@@ -10,6 +10,7 @@
 
 #include "storage/file_system.h"
 #include "storage/folder_names.h"
+#include "storage/redo_note.h"
 
 namespace tarnwell::storage {
 
@@ -38,19 +39,24 @@ class ProgramFolder {
   // Replaces the file whole: at any instant the name holds the old or the new content, and when it
   // returns true the new one is on the disk.
   bool WriteWhole(std::string_view name, std::string_view content);
+  // Writes to a file that Open gave for `name`. A process killed meanwhile leaves the old or the
+  // new bytes, the new ones perhaps only after Recover.
+  bool WriteAt(File& file, std::string_view name, std::uint64_t offset, std::string_view bytes);
   // A missing file is no error; supplied files are never touched.
   bool Delete(std::string_view name);
   bool Copy(std::string_view source, std::string_view target);
   bool Exists(std::string_view name);
   // Length in bytes of the user's own file, 0 when there is none.
   std::uint64_t Length(std::string_view name);
-  // Removes what interrupted saves left behind. For the start of the program, under its FolderLock.
-  void SweepOrphans();
+  // Finishes what a killed process left half written and removes what interrupted saves left
+  // behind. For the start of the program, under its FolderLock.
+  void Recover();
 
   static constexpr std::uint64_t kMaxWholeFile = 256u << 20;
 
  private:
   std::unique_ptr<File> OpenSupplied(std::string_view name);
+  void FinishTornWrite();
   // The path of a file that wasn't located; none when it may exist under other capitals.
   std::optional<std::string> NewPath(std::string_view name) const;
 
@@ -58,6 +64,7 @@ class ProgramFolder {
   std::string user_folder_;
   FolderNames user_names_;
   FolderNames supplied_names_;
+  RedoNote redo_note_;
 };
 
 }  // namespace tarnwell::storage

@@ -12,7 +12,7 @@ constexpr std::size_t kScanPiece = 256u << 10;  // bytes read at a time
 }  // namespace
 
 RecordFile::RecordFile(ProgramFolder& folder, std::string_view name, int record_length)
-    : record_length_(record_length) {
+    : folder_(folder), name_(name), record_length_(record_length) {
   if (record_length < 1) return;
   file_ = folder.Open(name, OpenMode::kCreate);
   // What may not be changed can still be read; a supplied file doesn't stand in here.
@@ -30,7 +30,7 @@ std::string RecordFile::Read(int record, std::size_t size) {
 
 bool RecordFile::Write(int record, std::string_view bytes) {
   if (!file_ || record < 1 || bytes.size() > Width()) return false;
-  return file_->WriteAt(OffsetOf(record), bytes);
+  return folder_.WriteAt(*file_, name_, OffsetOf(record), bytes);
 }
 
 std::string RecordFile::GetText(int record) {

@@ -55,6 +55,8 @@ class RecordFile {
   std::string Read(int record, std::size_t size);
   bool Write(int record, std::string_view bytes);
 
+  ProgramFolder& folder_;
+  std::string name_;
   std::unique_ptr<File> file_;
   int record_length_;
   bool has_failed_ = false;

@@ -22,9 +22,9 @@ Number FiniteOrZero(Number value) {
 }  // namespace
 
 StructureWriter& StructureWriter::FixedText(std::string_view text, std::size_t width) {
-  text = text.substr(0, width);
-  bytes_ += text;
-  bytes_.append(width - text.size(), ' ');
+  const std::size_t begin = bytes_.size();
+  bytes_.append(width, ' ');
+  text.copy(bytes_.data() + begin, width);
   return *this;
 }
 

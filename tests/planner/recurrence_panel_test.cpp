@@ -3,10 +3,12 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <random>
 
 #include "forms/form_names.h"
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
+#include "support/child_process.h"
 #include "support/program_rig.h"
 
 namespace tarnwell::planner {
@@ -427,6 +429,43 @@ TEST_F(RecurrencePanelTest, UnsavedChangesAreOfferedToBeSavedBeforeThePanelOpens
   form().recurrence_buttons[2].Click();
   EXPECT_TRUE(panel().panel.visible());
   EXPECT_EQ(panel().appointment.caption(), " Appointment: Call ");
+}
+
+TEST_F(RecurrencePanelTest, ARunKilledAtAnyMomentLeavesEachDayAsItWasOrWithTheEntry) {
+  constexpr int kRounds = 20;
+  constexpr int kDays = 1827;
+  const DayRow early{"7:00 AM", "Run"};
+  std::mt19937 random(20260309);
+  std::uniform_int_distribution<useconds_t> microseconds(0, 30000);
+  int interrupted = 0;
+  for (int round = 0; round < kRounds; ++round) {
+    for (int day = 0; day < kDays; ++day) {
+      SaveRows(text::AddDays(kToday, day),
+               day % 3 == 0 ? std::vector{early} : std::vector{DayRow{}});
+    }
+    SaveRows(kToday, {kDentist});
+    Open(kToday);
+    choice().modes.Pick(0);
+    testing::ChildProcess child([this] {
+      ExpectReport("1826");
+      panel().ok.Click();
+    });
+    ::usleep(microseconds(random));
+    child.Kill();
+    rig.Start();
+    int entered = 0;
+    for (int day = 1; day < kDays; ++day) {
+      DayRows before{};
+      if (day % 3 == 0) before[0] = early;
+      DayRows after = before;
+      after[day % 3 == 0 ? 1 : 0] = kDentist;
+      const auto stored = ReadDay(rig.folder, text::AddDays(kToday, day));
+      ASSERT_TRUE(stored && (stored->rows == before || stored->rows == after)) << day;
+      entered += stored->rows == after;
+    }
+    interrupted += entered > 0 && entered < kDays - 1;
+  }
+  EXPECT_GT(interrupted, 0) << "no kill ever hit a run";
 }
 
 }  // namespace

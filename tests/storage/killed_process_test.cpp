@@ -48,7 +48,7 @@ TEST(KilledProcessTest, ASaveThatEndsBeforeAnyCallLeavesTheWholeOldOrTheWholeNew
     code = child.Wait();
     EXPECT_THAT(disk.Read("a.fil"), AnyOf(old_content, new_content)) << call;
     EXPECT_TRUE(code == kKilled || disk.Read("a.fil") == new_content);
-    ProgramFolder(RealFileSystem(), disk.path()).SweepOrphans();
+    ProgramFolder(RealFileSystem(), disk.path()).Recover();
     EXPECT_THAT(disk.Names(), ElementsAre("a.fil")) << call;
   }
   EXPECT_EQ(code, 0);
@@ -69,7 +69,7 @@ TEST(KilledProcessTest, ASaverKilledAtAnyMomentLeavesOneOfItsContentsWhole) {
     child.Kill();
     EXPECT_THAT(disk.Read("a.fil"), AnyOf(one, other)) << round;
     orphans += static_cast<int>(disk.Names().size()) - 1;
-    ProgramFolder(RealFileSystem(), disk.path()).SweepOrphans();
+    ProgramFolder(RealFileSystem(), disk.path()).Recover();
     ASSERT_THAT(disk.Names(), ElementsAre("a.fil")) << round;
   }
   EXPECT_GT(orphans, 0) << "no kill ever hit a save";

@@ -39,7 +39,7 @@ TEST(WholeFileSaveTest, AFailureAtAnyCallLeavesTheWholeOldOrTheWholeNewContent) 
       is_saved = folder.WriteWhole("A.fil", new_content) && files.calls() < call;
       // Where every further call fails too, there is no removing the sibling.
       EXPECT_TRUE(from_then_on || disk.Names().size() == 1) << call;
-      ProgramFolder(RealFileSystem(), disk.path()).SweepOrphans();
+      ProgramFolder(RealFileSystem(), disk.path()).Recover();
       EXPECT_THAT(disk.Names(), ElementsAre("a.fil")) << call;
       EXPECT_THAT(disk.Read("a.fil"), AnyOf(old_content, new_content)) << call;
       EXPECT_TRUE(!is_saved || disk.Read("a.fil") == new_content);
@@ -84,7 +84,7 @@ TEST(WholeFileSaveTest, TheSweepTakesOrphansAndNothingElse) {
                            ".tarnwell", "a.fil", "x.tarnwell-save-0123abcd"}) {
     disk.Write(name, "x");
   }
-  ProgramFolder(RealFileSystem(), disk.path()).SweepOrphans();
+  ProgramFolder(RealFileSystem(), disk.path()).Recover();
   EXPECT_THAT(disk.Names(),
               ElementsAre(".tarnwell", ".tarnwell-lock", "a.fil", "x.tarnwell-save-0123abcd"));
 }
