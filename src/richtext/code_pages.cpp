@@ -44,7 +44,7 @@ void DecodeBytes(std::string_view bytes, int code_page, std::string& utf8) {
       utf8 += byte;
     } else if (code < ' ') {
       continue;
-    } else if (code_page == kSymbolCodePage) {
+    } else if (code_page == kSymbolCodePage && byte != ' ') {
       AppendUtf8(0xF000u + code, utf8);
     } else if (code < kFirstUpper) {
       utf8 += byte;
@@ -58,7 +58,7 @@ int CodePageOfCharset(int charset, int document) {
   switch (charset) {
     case 0:
       return 1252;
-    case 2:
+    case kSymbolCharset:
       return kSymbolCodePage;
     case 77:
       return 10000;

@@ -7,8 +7,10 @@
 
 namespace tarnwell::richtext {
 
-// The code page of fonts that hold symbols: a byte stands for the private character F000 + byte.
+// The code page of fonts that hold symbols: a byte but the blank stands for the private character
+// F000 + byte.
 inline constexpr int kSymbolCodePage = 42;
+inline constexpr int kSymbolCharset = 2;
 
 // Adds the UTF-8 of `bytes`. A tab is kept; other control characters are left out. A character past
 // 7F of a code page that isn't known, and a place that its code page leaves open, gives "?".

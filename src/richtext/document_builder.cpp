@@ -3,11 +3,12 @@
 #include <utility>
 
 #include "richtext/list_words.h"
+#include "richtext/runs.h"
 
 namespace tarnwell::richtext {
 namespace {
 
-constexpr std::size_t kLeastRoom = 64u << 20;
+constexpr std::size_t kLeastRoom = 16u << 20;
 constexpr std::size_t kRoomPerByte = 64;
 
 std::size_t SizeOf(const CharacterFormat& format) {
@@ -36,7 +37,10 @@ bool DocumentBuilder::SpendParagraph(const FormatState& state) {
 }
 
 void DocumentBuilder::AddRun(Run run) {
-  if (!Spend(sizeof run + SizeOf(run.format))) return;
+  if (Spend(sizeof run + SizeOf(run.format))) PushRun(std::move(run));
+}
+
+void DocumentBuilder::PushRun(Run run) {
   if (run.field > last_field_) last_field_ = run.field;
   paragraph_.runs.push_back(std::move(run));
 }
@@ -52,7 +56,8 @@ void DocumentBuilder::AddText(std::string_view utf8, const FormatState& state) {
       return;
     }
   }
-  AddRun({state.character, std::string(utf8), state.field});
+  Spend(sizeof(Run) + SizeOf(state.character));
+  PushRun({state.character, std::string(utf8), state.field});
 }
 
 void DocumentBuilder::AddPicture(Picture picture, const FormatState& state) {
@@ -60,18 +65,10 @@ void DocumentBuilder::AddPicture(Picture picture, const FormatState& state) {
 }
 
 void DocumentBuilder::AddOpaque(Opaque opaque, const FormatState& state) {
-  if (!paragraph_.runs.empty() && !opaque.resets_paragraph) {
-    Run& last = paragraph_.runs.back();
-    auto* const before = std::get_if<Opaque>(&last.content);
-    if (before != nullptr && !before->resets_paragraph && last.field == state.field &&
-        last.format == state.character) {
-      before->rtf += opaque.rtf;
-      return;
-    }
-  }
-  const bool has_format = !opaque.resets_paragraph;
-  AddRun({has_format ? state.character : CharacterFormat{}, std::move(opaque),
-          has_format ? state.field : kNoField});
+  CharacterFormat format = opaque.resets_paragraph ? CharacterFormat{} : state.character;
+  Run run{std::move(format), std::move(opaque), state.field};
+  if (!paragraph_.runs.empty() && TakeIn(run, paragraph_.runs.back())) return;
+  AddRun(std::move(run));
 }
 
 void DocumentBuilder::AddInPlace(std::string rtf, const FormatState& state) {
@@ -114,6 +111,10 @@ Paragraph DocumentBuilder::TakeParagraph(const FormatState& state) {
 
 void DocumentBuilder::EndParagraph(const FormatState& state) {
   if (!SpendParagraph(state)) return AddText("\n", state);
+  CloseParagraph(state);
+}
+
+void DocumentBuilder::CloseParagraph(const FormatState& state) {
   Paragraph paragraph = TakeParagraph(state);
   if (state.in_table) {
     cell_.push_back(std::move(paragraph));
@@ -132,20 +133,31 @@ void DocumentBuilder::EndSection(const FormatState& state) {
 }
 
 void DocumentBuilder::EndCell(const FormatState& state) {
-  if (!Spend(sizeof(Cell) + sizeof(Paragraph) + SizeOf(state.paragraph))) {
-    return AddText("\t", state);
-  }
+  if (!SpendParagraph(state)) return AddText("\t", state);
+  CloseCell(state);
+}
+
+void DocumentBuilder::CloseCell(const FormatState& state) {
   cell_.push_back(TakeParagraph(state));
   row_.push_back(std::exchange(cell_, {}));
 }
 
 void DocumentBuilder::EndRow() {
   if (row_.empty()) return;
-  TableRow row = row_definition_.MakeRow(std::exchange(row_, {}), blank_);
-  if (!Spend(sizeof row + row.cells.size() * (sizeof(Cell) + sizeof(Paragraph)))) return;
+  const std::size_t cells = row_definition_.CellsFor(row_.size());
+  if (!Spend(sizeof(TableRow) + cells * (sizeof(Cell) + sizeof(Paragraph)))) {
+    return EndRowAsParagraphs();
+  }
   Table* table = blocks_.empty() ? nullptr : std::get_if<Table>(&blocks_.back());
   if (table == nullptr) table = &std::get<Table>(blocks_.emplace_back(Table{}));
-  table->rows.push_back(std::move(row));
+  table->rows.push_back(row_definition_.MakeRow(std::exchange(row_, {}), blank_));
+}
+
+// A definition of many cells costs more than the few texts that make use of it.
+void DocumentBuilder::EndRowAsParagraphs() {
+  for (std::vector<Paragraph>& cell : std::exchange(row_, {})) {
+    for (Paragraph& paragraph : cell) blocks_.emplace_back(std::move(paragraph));
+  }
 }
 
 void DocumentBuilder::EndOpenRow() {
@@ -156,9 +168,9 @@ void DocumentBuilder::EndOpenRow() {
 void DocumentBuilder::Finish(const FormatState& state) {
   const bool in_table = state.in_table || !cell_.empty() || !row_.empty();
   if (!paragraph_.runs.empty() && in_table) {
-    EndCell(state);
+    CloseCell(state);
   } else if (!paragraph_.runs.empty()) {
-    EndParagraph(state);
+    CloseParagraph(state);
   }
   EndOpenRow();
 }

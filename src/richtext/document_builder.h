@@ -48,6 +48,10 @@ class DocumentBuilder {
   bool Spend(std::size_t size);
   bool SpendParagraph(const FormatState& state);
   void AddRun(Run run);
+  void PushRun(Run run);
+  void CloseParagraph(const FormatState& state);
+  void CloseCell(const FormatState& state);
+  void EndRowAsParagraphs();
   // Cells that no end of a row followed become a row of their own.
   void EndOpenRow();
   Paragraph TakeParagraph(const FormatState& state);

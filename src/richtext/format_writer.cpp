@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "richtext/code_pages.h"
 #include "richtext/rtf_words.h"
 #include "richtext/text_escape.h"
 
@@ -55,6 +56,13 @@ int WriterTables::FontNumber(const std::string& name) {
   }
   fonts_.push_back({next, name, 0, "\\fnil"});
   return next;
+}
+
+bool WriterTables::HoldsSymbols(const std::string& font) const {
+  const std::string& name = font.empty() ? default_font_ : font;
+  const auto own = std::find_if(fonts_.begin(), fonts_.end(),
+                                [&name](const Font& candidate) { return candidate.name == name; });
+  return own != fonts_.end() && own->charset == kSymbolCharset;
 }
 
 int WriterTables::ColorNumber(const std::optional<Color>& color) {

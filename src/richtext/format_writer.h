@@ -18,6 +18,7 @@ class WriterTables {
   explicit WriterTables(const RichDocument& document);
 
   int FontNumber(const std::string& name);
+  bool HoldsSymbols(const std::string& font) const;  // an empty name is the default font's
   int ColorNumber(const std::optional<Color>& color);
   bool HasOwnColor() const;  // an entry that stands for the view's own colour
   const std::string& default_font() const { return default_font_; }

@@ -38,7 +38,7 @@ void RowDefinition::Apply(const Token& token, std::string_view source, const For
   if (name.starts_with("brdr") || name == "brsp") return ApplyToBorder(token, source, tables);
   border_ = BorderOf(name, next_);
   kept_ = name.starts_with("cl") ? &next_.other : &row_.other;
-  in_border_ = border_ != nullptr || name.starts_with("trbrdr") || name.starts_with("cldg");
+  in_border_ = name != "cellx";
   if (border_ != nullptr) return;
   if (name == "cellx") {
     EndCell(LengthOf(token));

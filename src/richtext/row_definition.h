@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,6 +28,8 @@ class RowDefinition {
   bool InBorder() const { return in_border_; }
   void LeaveBorder() { in_border_ = false; }
 
+  // How many cells MakeRow makes of so many texts.
+  std::size_t CellsFor(std::size_t texts) const { return std::max(texts, row_.cells.size()); }
   // The row with these texts in its cells. A text without a cell of its own gets one an inch wide,
   // a cell without a text an empty one of the format `blank`.
   TableRow MakeRow(std::vector<std::vector<Paragraph>> texts, const CharacterFormat& blank) const;

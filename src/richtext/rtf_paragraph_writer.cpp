@@ -8,6 +8,8 @@ namespace tarnwell::richtext {
 namespace {
 
 constexpr std::size_t kPictureBytesPerLine = 64;
+constexpr std::string_view kDefaults = "\\pard";
+constexpr std::string_view kDefaultsAndSkip = "\\pard\\uc1";
 
 std::string Hex(std::string_view bytes) {
   constexpr char kDigits[] = "0123456789abcdef";
@@ -26,7 +28,7 @@ std::string Hex(std::string_view bytes) {
 
 void RtfWriter::WriteParagraph(const Paragraph& paragraph, int next, bool in_table) {
   fields_before_ = open_fields_.size();
-  WriteParagraphStart(paragraph, in_table);
+  WriteParagraphStart(paragraph, kDefaults, in_table);
   for (const Run& run : paragraph.runs) {
     LeaveFields(FieldOf(run), paragraph, in_table);
     EnterField(FieldOf(run));
@@ -35,8 +37,10 @@ void RtfWriter::WriteParagraph(const Paragraph& paragraph, int next, bool in_tab
   LeaveFields(next, paragraph, in_table);
 }
 
-void RtfWriter::WriteParagraphStart(const Paragraph& paragraph, bool in_table) {
-  Words(in_table ? "\\pard\\intbl" : "\\pard");
+void RtfWriter::WriteParagraphStart(const Paragraph& paragraph, std::string_view head,
+                                    bool in_table) {
+  Words(head);
+  if (in_table) Words("\\intbl");
   if (paragraph.format.list) WriteListItem(*paragraph.format.list);
   Words(ParagraphWords(paragraph.format));
   Words("\\plain");
@@ -49,8 +53,9 @@ void RtfWriter::WriteParagraphStart(const Paragraph& paragraph, bool in_table) {
 void RtfWriter::WriteListItem(const ListItem& item) {
   const bool is_listed = item.list_number > 0;
   if (!item.marker.empty()) {
-    Text(is_listed ? "{\\listtext " : "{\\pntext ");
-    Text(EscapeText(item.marker, document_.code_page));
+    Text(is_listed ? "{\\listtext" : "{\\pntext");
+    Words("\\plain");
+    WriteText(item.marker, {});
     Text("\\tab}");
   }
   if (!item.description.empty()) {
@@ -66,11 +71,8 @@ void RtfWriter::WriteRun(const Run& run, const Paragraph& paragraph, bool in_tab
   const auto* const opaque = std::get_if<Opaque>(&run.content);
   if (opaque != nullptr && opaque->resets_paragraph) {
     Text(opaque->rtf);
-    if (opaque->rtf.starts_with("\\uc")) Words("\\uc1");
-    Paragraph start;
-    start.format = paragraph.format;
-    start.mark = paragraph.mark;
-    return WriteParagraphStart(start, in_table);
+    const bool changes_skip = opaque->rtf.starts_with("\\uc");
+    return WriteParagraphStart(paragraph, changes_skip ? kDefaultsAndSkip : kDefaults, in_table);
   }
   const std::string words = CharacterWords(paragraph.mark, run.format, tables_);
   if (!words.empty()) {
@@ -78,13 +80,17 @@ void RtfWriter::WriteRun(const Run& run, const Paragraph& paragraph, bool in_tab
     Words(words);
   }
   if (const auto* const text = std::get_if<std::string>(&run.content)) {
-    Text(EscapeText(*text, document_.code_page));
+    WriteText(*text, run.format.font);
   } else if (opaque != nullptr) {
     Text(opaque->rtf);
   } else {
     WritePicture(std::get<Picture>(run.content));
   }
   if (!words.empty()) Text("}");
+}
+
+void RtfWriter::WriteText(std::string_view text, const std::string& font) {
+  Text(EscapeText(text, document_.code_page, tables_.HoldsSymbols(font)));
 }
 
 void RtfWriter::WritePicture(const Picture& picture) {
@@ -131,7 +137,7 @@ void RtfWriter::LeaveFields(int field, const Paragraph& paragraph, bool in_table
   // The end of a group brings back the paragraph's properties of its beginning.
   if (kept < fields_before_) {
     fields_before_ = kept;
-    WriteParagraphStart(paragraph, in_table);
+    WriteParagraphStart(paragraph, kDefaults, in_table);
   }
 }
 

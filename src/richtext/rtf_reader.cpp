@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "richtext/code_pages.h"
+#include "richtext/runs.h"
 #include "richtext/text_escape.h"
 
 namespace tarnwell::richtext {
@@ -28,6 +29,7 @@ RichDocument RtfReader::Read() && {
   document_.default_font = tables_.default_font;
   document_.fonts = std::move(tables_.fonts);
   document_.colors = std::move(tables_.colors);
+  SettleFields(document_);
   return std::move(document_);
 }
 
@@ -94,7 +96,8 @@ void RtfReader::AddText(std::string_view utf8) {
   if (utf8.empty()) return;
   BeginBody();
   if (!state().hidden) return builder_.AddText(utf8, state());
-  builder_.AddOpaque({EscapeText(utf8, tables_.code_page)}, state());
+  const bool in_symbol_font = state().text_code_page == kSymbolCodePage;
+  builder_.AddOpaque({EscapeText(utf8, tables_.code_page, in_symbol_font)}, state());
 }
 
 void RtfReader::TakeSymbol(const Token& token) {

@@ -129,7 +129,6 @@ void RtfReader::TakeParagraphWord(const KnownWord& word, const Token& token,
                                   std::string_view source) {
   builder_.row_definition().LeaveBorder();
   if (word.word == Word::kNesting) return TakeNestedTable(token.NumberOr(1));
-  if (word.word == Word::kInTable && !state().in_table) LeaveFields();
   ApplyParagraphWord(word, token, source, tables_, state());
 }
 

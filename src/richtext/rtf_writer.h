@@ -26,9 +26,11 @@ class RtfWriter {
 
   // `next` is the field of the first run that follows in the same cell, or outside tables.
   void WriteParagraph(const Paragraph& paragraph, int next, bool in_table);
-  void WriteParagraphStart(const Paragraph& paragraph, bool in_table);
+  // `head` is "\pard" and what must stand directly behind it.
+  void WriteParagraphStart(const Paragraph& paragraph, std::string_view head, bool in_table);
   void WriteListItem(const ListItem& item);
   void WriteRun(const Run& run, const Paragraph& paragraph, bool in_table);
+  void WriteText(std::string_view text, const std::string& font);
   void WritePicture(const Picture& picture);
 
   // Begins the fields that `field` stands in and that aren't open yet.

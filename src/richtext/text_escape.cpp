@@ -8,6 +8,8 @@
 namespace tarnwell::richtext {
 namespace {
 
+enum class Kind { kText, kSymbols, kName };
+
 bool IsPlain(char c) {
   return c >= ' ' && static_cast<unsigned char>(c) < 0x80 && c != '\\' && c != '{' && c != '}';
 }
@@ -71,19 +73,21 @@ std::string_view ControlOf(char32_t character) {
   }
 }
 
-std::string Escape(std::string_view utf8, int code_page, bool with_controls) {
+std::string Escape(std::string_view utf8, int code_page, Kind kind) {
+  const auto is_plain = [kind](char c) { return kind == Kind::kSymbols ? c == ' ' : IsPlain(c); };
   std::string out;
   out.reserve(utf8.size() + utf8.size() / 8);
   while (!utf8.empty()) {
-    const auto* const plain_end = std::find_if_not(utf8.begin(), utf8.end(), IsPlain);
+    const auto* const plain_end = std::find_if_not(utf8.begin(), utf8.end(), is_plain);
     out.append(utf8.begin(), plain_end);
     utf8.remove_prefix(static_cast<std::size_t>(plain_end - utf8.begin()));
     if (utf8.empty()) break;
     const char32_t character = TakeUtf8(utf8);
-    const std::string_view control = with_controls ? ControlOf(character) : std::string_view{};
+    const std::string_view control =
+        kind != Kind::kName ? ControlOf(character) : std::string_view{};
     if (!control.empty()) {
       out += control;
-    } else if (character >= 0x80) {
+    } else if (character >= 0x80 || (kind == Kind::kSymbols && character > ' ')) {
       AppendUnicode(character, code_page, out);
     } else if (character >= ' ') {
       out += '\\';
@@ -95,12 +99,12 @@ std::string Escape(std::string_view utf8, int code_page, bool with_controls) {
 
 }  // namespace
 
-std::string EscapeText(std::string_view utf8, int code_page) {
-  return Escape(utf8, code_page, true);
+std::string EscapeText(std::string_view utf8, int code_page, bool in_symbol_font) {
+  return Escape(utf8, code_page, in_symbol_font ? Kind::kSymbols : Kind::kText);
 }
 
 std::string EscapeName(std::string_view utf8, int code_page) {
-  return Escape(utf8, code_page, false);
+  return Escape(utf8, code_page, Kind::kName);
 }
 
 }  // namespace tarnwell::richtext
