@@ -157,7 +157,7 @@ void RtfReader::TakeListDescription(std::size_t begin) {
   BeginBody();
   const auto group = CaptureGroup(tokenizer_, begin);
   if (!group || states_.size() < 2 || depth_ >= states_.size()) return;
-  std::string rtf = group->Rtf(state().unicode_skip);
+  std::string rtf = group->Rtf(1);  // a group around it would keep it from the paragraph
   if (rtf.size() > kLongestDescription) return;
   std::optional<ListItem>& list = states_[states_.size() - 2].paragraph.list;
   if (!list) list.emplace();
