@@ -80,7 +80,8 @@ class RtfReader {
   bool body_begun_ = false;  // before, what isn't known belongs to the prologue
   bool ended_ = false;
   std::string_view styles_;  // read when the body begins, by when fonts and colours are known
-  // The last \pard: a nested table begins there if it turns out to be one.
+  // The \pard of this paragraph: a nested table begins there if it turns out to be one. 0: none, or
+  // one that is done with.
   std::size_t defaults_begin_ = 0;
   std::size_t defaults_depth_ = 0;
   std::size_t defaults_runs_ = 0;

@@ -78,9 +78,12 @@ void RtfReader::TakeFonts(std::size_t begin) {
 }
 
 void RtfReader::ResetFonts() {
-  for (FormatState& open : states_) tables_.SetFont(tables_.default_font, open);
   FormatState blank;
   ResetCharacter(tables_, blank);
+  for (FormatState& open : states_) {
+    open.character.font = blank.character.font;
+    open.text_code_page = blank.text_code_page;
+  }
   builder_.SetBlank(std::move(blank.character));
 }
 

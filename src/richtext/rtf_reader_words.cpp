@@ -49,7 +49,10 @@ void RtfReader::TakeWord(const Token& token) {
 }
 
 void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
-  if (word.word != Word::kUnicode && word.word != Word::kUnicodeSkip) BeginBody();
+  if (word.word != Word::kUnicode && word.word != Word::kUnicodeSkip) {
+    BeginBody();
+    defaults_begin_ = 0;
+  }
   switch (word.word) {
     case Word::kParagraphEnd:
       return builder_.EndParagraph(state());
@@ -148,12 +151,13 @@ void RtfReader::TakeNestedTable(int level) {
       defaults_depth_ == depth_ && defaults_runs_ == builder_.run_count() && defaults_begin_ > 0;
   if (level < 2 || !stands_first || tables_broken_) return;
   const std::size_t end = FindNestedTableEnd(tokenizer_.source(), defaults_begin_);
-  tables_broken_ = end <= defaults_begin_;
+  tables_broken_ = end < tokenizer_.place();  // never back: a walk goes over the source once
   if (tables_broken_) return;
   std::string rtf(tokenizer_.source().substr(defaults_begin_, end - defaults_begin_));
   if (state().unicode_skip != 1) {
     rtf.insert(0, "\\uc" + std::to_string(state().unicode_skip));
   }
+  defaults_begin_ = 0;
   builder_.AddOpaque({std::move(rtf), true}, state());
   tokenizer_.Seek(end);
 }

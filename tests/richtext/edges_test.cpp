@@ -123,6 +123,12 @@ TEST(Reading, ARowTakesItsCellsAsTheyCome) {
   EXPECT_EQ(table.rows[1].cells.at(1).right_edge, 2440);  // not defined: an inch
 }
 
+TEST(Reading, ANestedTableIsReadOnceHoweverItsLevelsAreSaid) {
+  const RichDocument document =
+      ReadBody("\\pard\\itap2 a\\cell\\row b\\itap2 c\\cell\\row\\pard\\itap2\\itap2 d\\par e");
+  EXPECT_LE(document.blocks.size(), 3u);
+}
+
 TEST(Reading, AFieldDoesNotGoOnIntoAnotherCell) {
   const RichDocument document = ReadBody(
       "\\trowd\\cellx1000\\cellx2000\\pard\\intbl{\\field{\\*\\fldinst X}{\\fldrslt a"
