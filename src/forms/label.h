@@ -33,13 +33,25 @@ class Label : public Control {
   LabelRole role_;
 };
 
-// A supplied picture, by its file name in the program's folder or among the supplied files.
+// A picture, by its file name in the program's folder or among the supplied files; empty for none.
 class Picture : public Control {
  public:
   Picture(Container& parent, std::string_view name, std::string_view file)
       : Control(parent, name), file_(file) {}
 
   const std::string& file() const { return file_; }
+  void SetFile(std::string_view file) {
+    file_ = file;
+    Changed();
+  }
+
+  // A frame stands around it: the one in hand of several.
+  bool marked() const { return marked_; }
+  void SetMarked(bool marked) {
+    if (marked_ == marked) return;
+    marked_ = marked;
+    Changed();
+  }
 
   void Click() {
     if (Reachable()) Run(on_click);
@@ -48,6 +60,7 @@ class Picture : public Control {
 
  private:
   std::string file_;
+  bool marked_ = false;
 };
 
 }  // namespace tarnwell::forms

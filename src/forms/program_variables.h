@@ -15,9 +15,11 @@ struct ProgramVariables {
   storage::TaggedValue StartBackColor;
   std::int16_t FormHeight = 0;  // the work area's client, in twips, cut to 32767
   std::int16_t FormWidth = 0;
-  double Answer = 0;        // code of the last message box: 1 OK, 2 Cancel, 6 Yes, 7 No
-  std::string DateStyle;    // "OTHER" selects day-first captions; nothing sets it
-  std::string CompanyLine;  // put behind captions and heads when not empty; nothing sets it
+  double Answer = 0;           // code of the last message box: 1 OK, 2 Cancel, 6 Yes, 7 No
+  std::string DateStyle;       // "OTHER" selects day-first captions; nothing sets it
+  std::string CompanyLine;     // put behind captions and heads when not empty; nothing sets it
+  std::string PanelColorNew;   // the panel colour saved last, as it is stored; empty for none
+  std::string PanelColorLast;  // the one that was last saved for all functions
 
   bool day_first() const { return DateStyle == "OTHER"; }
 };
