@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/dialogs.h"
+#include "forms/pages.h"
 #include "forms/program_variables.h"
 #include "forms/services.h"
 #include "storage/program_folder.h"
@@ -17,6 +18,8 @@ struct Context {
   EventLoop& loop;
   Window& window;
   HelpViewer& help;
+  Clipboard& clipboard;
+  Pages& pages;
   ProgramVariables& variables;
   Navigator& navigator;
 };

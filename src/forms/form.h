@@ -63,7 +63,8 @@ class Form : public Container {
     return changed_.Subscribe(std::move(listener));
   }
 
- protected:
+  // For the form and the panels that it owns.
+
   // Makes the form busy for its own lifetime.
   class BusyScope {
    public:
@@ -79,6 +80,8 @@ class Form : public Container {
   // Shows the box and keeps the answer's code in the program's variables.
   forms::Answer Message(const MessageBox& box);
   bool Confirmed(const MessageBox& box) { return Message(box) == forms::Answer::kYes; }
+
+ protected:
   void SetPopupMenu(MenuItem& menu) { popup_menu_ = &menu; }
   void SetHelpContext(int context) { help_context_ = context; }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "forms/control.h"
+#include "forms/page.h"
 
 namespace tarnwell::forms {
 
@@ -22,6 +24,12 @@ class Label : public Control {
     Changed();
   }
   LabelRole role() const { return role_; }
+  // Empty for the look's own.
+  const std::optional<Font>& font() const { return font_; }
+  void SetFont(const Font& font) {
+    font_ = font;
+    Changed();
+  }
 
   void Click() {
     if (Reachable()) Run(on_click);
@@ -31,6 +39,7 @@ class Label : public Control {
  private:
   std::string caption_;
   LabelRole role_;
+  std::optional<Font> font_;
 };
 
 // A picture, by its file name in the program's folder or among the supplied files; empty for none.

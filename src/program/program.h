@@ -16,6 +16,8 @@ struct Services {
   forms::EventLoop& loop;
   forms::Window& window;
   forms::HelpViewer& help;
+  forms::Clipboard& clipboard;
+  forms::Pages& pages;
 };
 
 class Program {

@@ -19,9 +19,12 @@ class FormRig {
   FakeEventLoop loop{clock};
   FakeWindow window;
   FakeHelp help;
+  FakeClipboard clipboard;
+  FakePages pages;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder, clock, dialogs, loop, window, help, variables, navigator};
+  forms::Context context{folder, clock,     dialogs, loop,      window,
+                         help,   clipboard, pages,   variables, navigator};
   forms::Form& form = ShowBlank();
 
  private:

@@ -20,7 +20,7 @@ class ProgramRig {
   // A new run of the program on the same folder.
   void Start() {
     program = std::make_unique<program::Program>(
-        program::Services{folder, clock, dialogs, loop, window, help});
+        program::Services{folder, clock, dialogs, loop, window, help, clipboard, pages});
     program->Start();
   }
 
@@ -49,6 +49,8 @@ class ProgramRig {
   FakeEventLoop loop{clock};
   FakeWindow window;
   FakeHelp help;
+  FakeClipboard clipboard;
+  FakePages pages;
   std::unique_ptr<program::Program> program;
 };
 
