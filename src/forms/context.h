@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/dialogs.h"
+#include "forms/folder_browser.h"
 #include "forms/pages.h"
 #include "forms/program_variables.h"
 #include "forms/services.h"
@@ -20,6 +21,7 @@ struct Context {
   HelpViewer& help;
   Clipboard& clipboard;
   Pages& pages;
+  FolderBrowser& folders;
   ProgramVariables& variables;
   Navigator& navigator;
 };

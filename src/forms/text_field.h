@@ -8,6 +8,9 @@
 
 namespace tarnwell::forms {
 
+// What becomes of a person's text: cut to `max_length`, blank for control characters.
+std::string TypedText(std::string_view text, std::size_t max_length);
+
 struct TextFieldStyle {
   std::size_t max_length = 255;  // characters that can be typed
   std::string_view spoken_name = {};
@@ -29,7 +32,7 @@ class TextField : public Control {
   bool marked() const { return marked_; }
   void SetMarked(bool marked);
 
-  // A person made this the content. Cut to max_length, blank for control characters.
+  // A person made this the content, as TypedText has it.
   void Type(std::string_view text);
   void PressEnter();
   void Click();

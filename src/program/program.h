@@ -18,6 +18,7 @@ struct Services {
   forms::HelpViewer& help;
   forms::Clipboard& clipboard;
   forms::Pages& pages;
+  forms::FolderBrowser& folders;
 };
 
 class Program {

@@ -6,11 +6,13 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "forms/dialogs.h"
+#include "forms/folder_browser.h"
 #include "forms/pages.h"
 #include "forms/services.h"
 #include "support/fixed_metrics.h"
@@ -146,6 +148,34 @@ class FakeClipboard : public forms::Clipboard {
   void SetRichText(std::string_view rtf) override { rich_text = rtf; }
   std::string text;
   std::string rich_text;
+};
+
+// The machine's folders, each with a "\\" behind its path. What isn't listed can't be read.
+class FakeFolders : public forms::FolderBrowser {
+ public:
+  struct Content {
+    std::vector<std::string> folders;
+    std::vector<std::string> files;
+  };
+
+  std::vector<std::string> Drives() override { return {"c:", "d:"}; }
+  std::string ProgramPath() override { return "c:\\Tarnwell"; }
+  std::optional<std::vector<std::string>> Folders(const std::string& path) override {
+    const auto found = readable.find(path);
+    return found == readable.end() ? std::nullopt : std::optional(found->second.folders);
+  }
+  std::optional<std::vector<std::string>> Files(const std::string& path) override {
+    const auto found = readable.find(path);
+    return found == readable.end() ? std::nullopt : std::optional(found->second.files);
+  }
+  bool WriteFile(const std::string& path, std::string_view content) override {
+    if (!refuse) written[path] = content;
+    return !refuse;
+  }
+
+  std::map<std::string, Content> readable{{"c:\\", {{"Tarnwell"}, {}}}, {"c:\\Tarnwell\\", {}}};
+  std::map<std::string, std::string> written;
+  bool refuse = false;
 };
 
 // A printer that keeps what it was given. `setup` is what its page-setup dialogue answers.

@@ -21,10 +21,11 @@ class FormRig {
   FakeHelp help;
   FakeClipboard clipboard;
   FakePages pages;
+  FakeFolders folders;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder, clock,     dialogs, loop,      window,
-                         help,   clipboard, pages,   variables, navigator};
+  forms::Context context{folder,    clock, dialogs, loop,      window,   help,
+                         clipboard, pages, folders, variables, navigator};
   forms::Form& form = ShowBlank();
 
  private:

@@ -20,7 +20,7 @@ class ProgramRig {
   // A new run of the program on the same folder.
   void Start() {
     program = std::make_unique<program::Program>(
-        program::Services{folder, clock, dialogs, loop, window, help, clipboard, pages});
+        program::Services{folder, clock, dialogs, loop, window, help, clipboard, pages, folders});
     program->Start();
   }
 
@@ -51,6 +51,7 @@ class ProgramRig {
   FakeHelp help;
   FakeClipboard clipboard;
   FakePages pages;
+  FakeFolders folders;
   std::unique_ptr<program::Program> program;
 };
 
