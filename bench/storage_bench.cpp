@@ -1,14 +1,13 @@
 // What the store costs on top of the system calls that it can't do without.
 
 #include <fcntl.h>
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <filesystem>
 #include <string>
 #include <vector>
 
+#include "bench_folder.h"
 #include "ratio_table.h"
 #include "storage/program_folder.h"
 #include "storage/record_file.h"
@@ -19,15 +18,6 @@ namespace {
 
 using storage::ProgramFolder;
 using storage::RecordFile;
-
-// The bare side must really have done its work, else the ratio means nothing.
-void Check(bool worked, const char* what) {
-  if (worked) return;
-  std::perror(what);
-  std::exit(2);
-}
-
-bool IsWhole(ssize_t count, std::size_t size) { return count == static_cast<ssize_t>(size); }
 
 // A contact list at its largest: every record visited, its name looked at.
 void MeasureScan(RatioTable& table, ProgramFolder& folder) {
@@ -108,14 +98,12 @@ void MeasureDays(RatioTable& table, ProgramFolder& folder) {
 }
 
 int Run(const std::string& parent) {
-  std::string path = parent + "/tarnwell-bench-XXXXXX";
-  Check(::mkdtemp(path.data()) != nullptr, "make a folder");
-  ProgramFolder folder(storage::RealFileSystem(), path);
+  const BenchFolder disk(parent);
+  ProgramFolder folder(storage::RealFileSystem(), disk.path());
   RatioTable table;
   MeasureScan(table, folder);
   MeasureSave(table, folder);
   MeasureDays(table, folder);
-  std::filesystem::remove_all(path);
   return table.Print() ? 0 : 1;
 }
 

@@ -36,6 +36,14 @@ class Command : public Control {
     Changed();
   }
 
+  // The pointer over it tells that a click would do nothing at present.
+  bool no_drop() const { return no_drop_; }
+  void SetNoDrop(bool no_drop) {
+    if (no_drop_ == no_drop) return;
+    no_drop_ = no_drop;
+    Changed();
+  }
+
   void Click() {
     if (Reachable()) Run(on_click);
   }
@@ -45,6 +53,7 @@ class Command : public Control {
   std::string caption_;
   bool cancel_;
   bool selected_ = false;
+  bool no_drop_ = false;
 };
 
 }  // namespace tarnwell::forms

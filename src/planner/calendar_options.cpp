@@ -1,11 +1,11 @@
 #include "planner/calendar_options.h"
 
+#include "storage/file_names.h"
 #include "storage/record_file.h"
 
 namespace tarnwell::planner {
 namespace {
 
-constexpr const char* kFile = "CalOpt.fil";
 constexpr int kRecordLength = 20;
 
 struct Field {
@@ -23,7 +23,7 @@ constexpr Field kFields[] = {
 }  // namespace
 
 CalendarOptions ReadCalendarOptions(storage::ProgramFolder& folder) {
-  storage::RecordFile file(folder, kFile, kRecordLength);
+  storage::RecordFile file(folder, storage::file_names::kCalendarOptions, kRecordLength);
   CalendarOptions options;
   for (const Field& field : kFields) {
     const int value = file.GetInteger(field.record);
@@ -33,7 +33,7 @@ CalendarOptions ReadCalendarOptions(storage::ProgramFolder& folder) {
 }
 
 void WriteCalendarOptions(storage::ProgramFolder& folder, const CalendarOptions& options) {
-  storage::RecordFile file(folder, kFile, kRecordLength);
+  storage::RecordFile file(folder, storage::file_names::kCalendarOptions, kRecordLength);
   for (const Field& field : kFields) {
     file.PutInteger(field.record, static_cast<std::int16_t>(options.*field.value));
   }

@@ -1,5 +1,6 @@
 #include "planner/day_store.h"
 
+#include "storage/file_names.h"
 #include "storage/record_file.h"
 #include "storage/structure.h"
 #include "text/letters.h"
@@ -26,11 +27,12 @@ PlannerDay Unpack(std::string_view bytes) {
   for (DayRow& row : day.rows) row.time = text::TrimRight(fields.FixedText(kTimeWidth));
   for (DayRow& row : day.rows) row.entry = text::TrimRight(fields.FixedText(kEntryWidth));
   day.saved = text::TrimRight(fields.FixedText(kMarkerWidth)) == kMarker;
-  return day.saved ? day : PlannerDay{};
+  if (!day.saved) day.rows = {};
+  return day;
 }
 
 std::string Pack(const DayRows& rows) {
-  storage::StructureWriter fields;
+  storage::StructureWriter fields(kStoredBytes);
   for (const DayRow& row : rows) fields.FixedText(row.time, kTimeWidth);
   for (const DayRow& row : rows) fields.FixedText(row.entry, kEntryWidth);
   fields.FixedText(kMarker, kMarkerWidth);
@@ -53,12 +55,14 @@ int DayRecordNumber(unsigned month, unsigned day) {
   }
 }
 
-std::string PlannerYearFileName(int year) { return " " + std::to_string(year) + ".Cal"; }
+std::string PlannerYearFileName(int year) { return storage::file_names::PlannerYear(year); }
 
 std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date) {
   auto file = OpenYear(folder, date);
   if (!file.is_open()) return std::nullopt;
-  return Unpack(file.GetStructure(RecordOf(date), kStoredBytes));
+  const std::string bytes = file.GetStructure(RecordOf(date), kStoredBytes);
+  if (file.has_failed()) return std::nullopt;
+  return Unpack(bytes);
 }
 
 bool WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {

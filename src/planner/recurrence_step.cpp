@@ -7,6 +7,10 @@
 namespace tarnwell::planner {
 namespace {
 
+void Trim(std::string& text) {
+  if (text.starts_with(' ') || text.ends_with(' ')) text = text::Trim(text);
+}
+
 bool Remove(const DayRow& appointment, DayRows& rows) {
   const auto row = std::find(rows.begin(), rows.end(), appointment);
   if (row == rows.end()) return false;
@@ -42,7 +46,10 @@ void ApplyToDay(RecurrenceRun& run, text::Date date, DayBook& book) {
   if (!date.ok()) return;
   std::optional<DayRows> rows = book.ReadDay(date);
   if (!rows) return;
-  for (DayRow& row : *rows) row = {text::Trim(row.time), text::Trim(row.entry)};
+  for (DayRow& row : *rows) {
+    Trim(row.time);
+    Trim(row.entry);
+  }
   if (!rows->back().entry.empty()) {
     ++run.counts.full_days;
     return;

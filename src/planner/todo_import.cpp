@@ -1,5 +1,6 @@
 #include "planner/todo_import.h"
 
+#include "storage/file_names.h"
 #include "storage/sequential_file.h"
 #include "text/date_reading.h"
 #include "text/letters.h"
@@ -7,14 +8,13 @@
 namespace tarnwell::planner {
 namespace {
 
-constexpr const char* kToDoFile = "TODOActv.FIL";
 constexpr std::size_t kDateWidth = 10;
 
 }  // namespace
 
 std::vector<ToDoItem> ReadToDoItems(storage::ProgramFolder& folder) {
   std::vector<ToDoItem> items;
-  storage::SequentialReader reader(folder, kToDoFile);
+  storage::SequentialReader reader(folder, storage::file_names::kToDoList);
   while (!reader.AtEnd()) {
     const std::string entry = text::Trim(reader.Next());
     const std::string date = reader.Next();

@@ -9,6 +9,7 @@
 #include "planner/todo_import.h"
 #include "settings/planner_settings.h"
 #include "text/date_mask.h"
+#include "text/letters.h"
 
 namespace tarnwell::planner {
 namespace {
@@ -30,7 +31,8 @@ std::vector<std::string> TimesOffered() {
 Zcalandar1::Zcalandar1(forms::Context& context)
     : Form(context, forms::form_names::kZcalandar1,
            "Tools and Program Information - Daily Planner"),
-      calendar_options(*this, context.folder) {
+      calendar_options(*this, context.folder),
+      recurrence(*this, context) {
   import_panel.SetVisible(false);
   exit.SetCancel(true);
   picker.on_pick = [this] { PickDay(); };
@@ -44,7 +46,9 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   clear_entries.on_click = [this] { ClearEntries(); };
   exit.on_click = [this] { Exit(); };
   calendar_options.on_change = [this] { picker.SetLook(LookOf(calendar_options.options())); };
-  calendar_options.on_close = [this] { CloseCalendarOptions(); };
+  calendar_options.on_close = [this] { UncoverRows(calendar_options.panel); };
+  recurrence.on_run = [this] { ShowDay(loaded_); };
+  recurrence.on_close = [this] { CloseRecurrence(); };
   BuildRows();
   BuildMenus();
 }
@@ -53,11 +57,14 @@ void Zcalandar1::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   save_entry_ = &options.AddEntry("mOS", "&Save", [this] { save.Click(); });
   clear_entry_ = &options.AddEntry("mOClr", "Clear &Entries", [this] { clear_entries.Click(); });
-  options.AddEntry("mOCal", "Calendar &Display Options", [this] { OpenCalendarOptions(); });
-  options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); });
+  row_menus_.push_back(&options.AddEntry("mOCal", "Calendar &Display Options",
+                                         [this] { CoverRows(calendar_options.panel); }));
+  row_menus_.push_back(
+      &options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); }));
   options.AddSeparator();
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
+  row_menus_.push_back(&edit);
   edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
                 [this] { CopyDay(); });
   paste_entry_ = &edit.AddEntry("mEPaste", "&Paste all entries from another day",
@@ -70,9 +77,9 @@ void Zcalandar1::BuildMenus() {
 void Zcalandar1::BuildRows() {
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {
     const int row = static_cast<int>(i);
-    const std::string number = " " + std::to_string(row + 1);
-    times[i].SetSpokenName("Time" + number);
-    entries[i].SetSpokenName("Appointment/Activity" + number);
+    const std::string number = std::to_string(row + 1);
+    times[i].SetSpokenName("Time " + number);
+    entries[i].SetSpokenName("Appointment/Activity " + number);
     for (forms::TextField* field : {&times[i], &entries[i]}) {
       field->on_focus = [this, row] { TakeRowInHand(row); };
       field->on_change = [this, row] { Typed(row); };
@@ -82,6 +89,8 @@ void Zcalandar1::BuildRows() {
     }
     times[i].on_enter = [this, i] { entries[i].Focus(); };
     entries[i].on_enter = [this, i] { times[(i + 1) % kRowsPerDay].Focus(); };
+    recurrence_buttons[i].SetSpokenName("Recurrence Option " + number);
+    recurrence_buttons[i].on_click = [this, row] { OpenRecurrence(row); };
   }
 }
 
@@ -137,11 +146,11 @@ void Zcalandar1::PickDay() {
 
 // Offers to save the day on screen before another one takes its place. False, with the picker back
 // on that day, when the save failed: the rows are all that is left of the user's work.
-bool Zcalandar1::LeaveLoadedDay() {
+bool Zcalandar1::LeaveLoadedDay(SaveNote note) {
   if (!unsaved_ || !loaded_) return true;
   if (Confirmed({kTitle, "Save changes/entries before next action?", forms::Icon::kQuestion,
                  forms::Buttons::kYesNo}) &&
-      SaveUnder(*loaded_) == SaveResult::kFailed) {
+      SaveUnder(*loaded_, note) == SaveResult::kFailed) {
     picker.SetDate(loaded_);
     return false;
   }
@@ -168,18 +177,33 @@ void Zcalandar1::ShowRows(const DayRows& rows) {
     times[i].SetText(rows[i].time);
     entries[i].SetText(rows[i].entry);
   }
+  MarkRowsWithoutText();
+}
+
+// A recurrence needs a text.
+void Zcalandar1::MarkRowsWithoutText() {
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    recurrence_buttons[i].SetNoDrop(text::Trim(entries[i].text()).empty());
+  }
 }
 
 void Zcalandar1::MarkChanged() {
   unsaved_ = true;
   EnableCommands(true, true);
+  MarkRowsWithoutText();
 }
 
 void Zcalandar1::EnableCommands(bool day_commands, bool clear_commands) {
   save.SetEnabled(day_commands);
-  save_entry_->SetEnabled(day_commands);
   clear_entries.SetEnabled(clear_commands);
-  clear_entry_->SetEnabled(clear_commands);
+  EnableMenus();
+}
+
+void Zcalandar1::EnableMenus() {
+  const bool rows_shown = day.visible();
+  save_entry_->SetEnabled(rows_shown && save.enabled());
+  clear_entry_->SetEnabled(rows_shown && clear_entries.enabled());
+  for (forms::MenuItem* menu : row_menus_) menu->SetEnabled(rows_shown);
 }
 
 DayRows Zcalandar1::Rows() {
@@ -192,7 +216,7 @@ void Zcalandar1::Save() {
   if (loaded_) SaveUnder(*loaded_);
 }
 
-Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date) {
+Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date, SaveNote note) {
   if (!HasRows(Rows()) &&
       !Confirmed({"Save", "There are currently No Entries to Save!\nSave anyway?",
                   forms::Icon::kQuestion, forms::Buttons::kYesNo, 2})) {
@@ -204,8 +228,10 @@ Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date) {
   if (!WriteDay(context_.folder, date, Rows())) return SaveResult::kFailed;
   unsaved_ = false;
   EnableCommands(true, true);
-  Message({"Save File Command", "Entries Have Been Time Sorted and File Saved.",
-           forms::Icon::kInformation});
+  if (note == SaveNote::kShown) {
+    Message({"Save File Command", "Entries Have Been Time Sorted and File Saved.",
+             forms::Icon::kInformation});
+  }
   return SaveResult::kSaved;
 }
 
@@ -256,14 +282,39 @@ void Zcalandar1::PasteCopiedDay() {
   MarkChanged();
 }
 
-void Zcalandar1::OpenCalendarOptions() {
+// A panel takes the rows' place; what works on the rows waits until it is closed.
+void Zcalandar1::CoverRows(forms::Panel& panel) {
   day.SetVisible(false);
-  calendar_options.panel.SetVisible(true);
+  panel.SetVisible(true);
+  EnableMenus();
 }
 
-void Zcalandar1::CloseCalendarOptions() {
-  calendar_options.panel.SetVisible(false);
+void Zcalandar1::UncoverRows(forms::Panel& panel) {
+  panel.SetVisible(false);
   day.SetVisible(true);
+  EnableMenus();
+}
+
+void Zcalandar1::OpenRecurrence(int row) {
+  const auto i = static_cast<std::size_t>(row);
+  if (!loaded_ || text::Trim(entries[i].text()).empty()) return;
+  if (unsaved_) {
+    // The rows stay on the screen, saved or not; the button is to be pressed again.
+    LeaveLoadedDay(SaveNote::kNone);
+    return;
+  }
+  recurrence_buttons[i].SetSelected(true);
+  row_of_recurrence_ = row;
+  picker.SetVisible(false);  // the date on screen holds until the panel is closed
+  CoverRows(recurrence.panel);
+  recurrence.Open(*loaded_, {times[i].text(), entries[i].text()});
+}
+
+void Zcalandar1::CloseRecurrence() {
+  recurrence_buttons[static_cast<std::size_t>(row_of_recurrence_)].SetSelected(false);
+  UncoverRows(recurrence.panel);
+  picker.SetVisible(true);
+  entries[static_cast<std::size_t>(row_of_recurrence_)].Focus();
 }
 
 void Zcalandar1::ImportToDo() {

@@ -16,6 +16,7 @@
 #include "forms/timer.h"
 #include "planner/calendar_options_panel.h"
 #include "planner/day_rows.h"
+#include "planner/recurrence_panel.h"
 
 namespace tarnwell::planner {
 
@@ -35,6 +36,8 @@ class Zcalandar1 : public forms::Form {
                                                            forms::TextFieldStyle{.max_length = 8}};
   forms::ControlArray<forms::TextField, kRowsPerDay> entries{
       day, "Text2", forms::TextFieldStyle{.max_length = 45}};
+  forms::ControlArray<forms::Command, kRowsPerDay> recurrence_buttons{
+      day, "Option2", "", forms::CommandStyle{.tool_tip = " Recurrence Option "}};
   forms::ComboBox time_picker{day, "Combo1", "Times to choose from"};
   forms::Panel sort_frame{day, "Frame7", "Sort Time:"};
   forms::OptionGroup sort_time{sort_frame, "Option7", {"First", "Last"}};
@@ -43,6 +46,7 @@ class Zcalandar1 : public forms::Form {
   forms::Command exit{day, "Command2", "E&xit"};
 
   CalendarOptionsPanel calendar_options;
+  RecurrencePanel recurrence;
 
   forms::Panel import_panel{*this, "SSPanel5", " Importing To Do List Items:"};
   forms::ProgressBar import_progress{import_panel, "ProgressBar2", "Items imported"};
@@ -55,6 +59,7 @@ class Zcalandar1 : public forms::Form {
 
  private:
   enum class SaveResult { kSaved, kDeclined, kFailed };
+  enum class SaveNote { kShown, kNone };  // whether a save is confirmed with a box
 
   void BuildMenus();
   void BuildRows();
@@ -64,32 +69,38 @@ class Zcalandar1 : public forms::Form {
   void PickTime();
 
   void PickDay();
-  bool LeaveLoadedDay();
+  bool LeaveLoadedDay(SaveNote note = SaveNote::kShown);
   void ShowDay(std::optional<text::Date> date);
   void ShowRows(const DayRows& rows);
   void MarkChanged();
   void EnableCommands(bool day_commands, bool clear_commands);
+  void EnableMenus();
+  void MarkRowsWithoutText();
   DayRows Rows();
 
   void Save();
-  SaveResult SaveUnder(text::Date date);
+  SaveResult SaveUnder(text::Date date, SaveNote note = SaveNote::kShown);
   void Exit();
   void ClearEntries();
   void CopyDay();
   void PasteCopiedDay();
 
-  void OpenCalendarOptions();
-  void CloseCalendarOptions();
+  void CoverRows(forms::Panel& panel);
+  void UncoverRows(forms::Panel& panel);
+  void OpenRecurrence(int row);
+  void CloseRecurrence();
   void ImportToDo();
   void ImportInto(text::Date date, const std::string& entry);
 
   forms::MenuItem* save_entry_ = nullptr;
   forms::MenuItem* clear_entry_ = nullptr;
   forms::MenuItem* paste_entry_ = nullptr;
+  std::vector<forms::MenuItem*> row_menus_;  // work on the rows or cover them
   bool unsaved_ = false;
   std::optional<text::Date> loaded_;  // the day on screen; the picker may have moved on already
   DayRows copied_;
   int row_in_hand_ = 0;
+  int row_of_recurrence_ = 0;
 };
 
 }  // namespace tarnwell::planner

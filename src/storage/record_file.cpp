@@ -23,6 +23,7 @@ std::string RecordFile::Read(int record, std::size_t size) {
   if (!file_ || record < 1) return {};
   std::string bytes(std::min(size, Width()), '\0');
   const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), bytes);
+  has_failed_ = has_failed_ || count < 0;
   bytes.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
   return bytes;
 }
@@ -80,6 +81,7 @@ void RecordFile::Scan(int first, const std::function<void(int, std::string_view)
   const auto piece = std::make_unique_for_overwrite<char[]>(room);
   for (int record = first;;) {
     const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), {piece.get(), room});
+    has_failed_ = has_failed_ || count < 0;
     if (count <= 0) return;
     const auto end = static_cast<std::size_t>(count);
     const std::size_t whole_end = (end + width - 1) / width * width;

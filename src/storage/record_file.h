@@ -23,6 +23,8 @@ class RecordFile {
   RecordFile(ProgramFolder& folder, std::string_view name, int record_length);
 
   bool is_open() const { return file_ != nullptr; }
+  // A read failed on the disk: the empty value that it gave is no answer.
+  bool has_failed() const { return has_failed_; }
 
   std::string GetText(int record);
   TaggedValue GetTagged(int record);
@@ -55,6 +57,7 @@ class RecordFile {
 
   std::unique_ptr<File> file_;
   int record_length_;
+  bool has_failed_ = false;
 };
 
 }  // namespace tarnwell::storage

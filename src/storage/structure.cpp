@@ -53,12 +53,12 @@ StructureWriter& StructureWriter::Text(std::string_view text) {
   return *this;
 }
 
-std::string StructureReader::FixedText(std::size_t width) {
+std::string_view StructureReader::FixedText(std::size_t width) {
   if (width > rest_.size()) {
     rest_ = {};
     return {};
   }
-  std::string text(rest_.substr(0, width));
+  const std::string_view text = rest_.substr(0, width);
   rest_.remove_prefix(width);
   return text;
 }

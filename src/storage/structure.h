@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -11,6 +12,10 @@ namespace tarnwell::storage {
 
 class StructureWriter {
  public:
+  StructureWriter() = default;
+  // For a structure of so many bytes, or about as many.
+  explicit StructureWriter(std::size_t size) { bytes_.reserve(size); }
+
   // Cut or padded on the right with blanks to `width` bytes.
   StructureWriter& FixedText(std::string_view text, std::size_t width);
   StructureWriter& Int16(std::int16_t value);
@@ -26,14 +31,16 @@ class StructureWriter {
   std::string bytes_;
 };
 
-// Reads what a StructureWriter wrote. A field that isn't whole is empty, and so is all behind it; a
-// number that isn't finite is 0.
+// Reads what a StructureWriter wrote, from bytes that must outlive it. A field that isn't whole is
+// empty, and so is all behind it; a number that isn't finite is 0.
 class StructureReader {
  public:
   explicit StructureReader(std::string_view bytes) : rest_(bytes) {}
+  template <std::same_as<std::string> Temporary>
+  explicit StructureReader(Temporary&&) = delete;
 
-  // All `width` bytes as they stand, blanks and zero bytes included.
-  std::string FixedText(std::size_t width);
+  // All `width` bytes as they stand, blanks and zero bytes included: a piece of the bytes read.
+  std::string_view FixedText(std::size_t width);
   std::int16_t Int16();
   std::int32_t Int32();
   float Float();

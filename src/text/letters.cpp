@@ -48,6 +48,9 @@ std::string Trim(std::string_view text) {
 }
 
 std::string TrimRight(std::string_view text) {
+  // Stored fields are mostly blanks; these go faster in one piece.
+  constexpr std::string_view kEightBlanks = "        ";
+  while (text.ends_with(kEightBlanks)) text.remove_suffix(kEightBlanks.size());
   return std::string(text.substr(0, text.find_last_not_of(' ') + 1));
 }
 

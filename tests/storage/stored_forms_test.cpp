@@ -6,7 +6,7 @@
 namespace tarnwell::storage {
 namespace {
 
-using namespace std::string_literals;
+using namespace std::literals;
 
 TEST(TaggedValueTest, EveryTypeHasItsTagAndPayload) {
   const std::pair<TaggedValue, std::string> cases[] = {
@@ -63,7 +63,7 @@ TEST(StructureTest, FieldsStandBehindEachOtherWithoutPadding) {
 }
 
 TEST(StructureTest, AFieldThatIsNotWholeIsEmptyAndSoIsAllBehindIt) {
-  StructureReader torn_text("\x04\0Yesterday is not four long"s.substr(0, 5));
+  StructureReader torn_text("\x04\0Yes"sv);
   EXPECT_EQ(torn_text.Text(), "");
   EXPECT_EQ(torn_text.FixedText(1), "");
   StructureReader torn_number("\x01\x02\x03");
@@ -72,7 +72,7 @@ TEST(StructureTest, AFieldThatIsNotWholeIsEmptyAndSoIsAllBehindIt) {
   StructureReader torn_width("abc");
   EXPECT_EQ(torn_width.FixedText(4), "");
   EXPECT_EQ(torn_width.FixedText(1), "");
-  StructureReader not_finite("\0\0\xC0\x7F\0\0\0\0\0\0\xF0\xFF"s);
+  StructureReader not_finite("\0\0\xC0\x7F\0\0\0\0\0\0\xF0\xFF"sv);
   EXPECT_EQ(not_finite.Float(), 0);
   EXPECT_EQ(not_finite.Double(), 0);
 }

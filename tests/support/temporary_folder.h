@@ -12,8 +12,8 @@
 
 namespace tarnwell::testing {
 
-// An empty folder of its own for one test, removed with all in it at the end. The helpers go past
-// the code under test, straight to the disk.
+// An empty folder of its own for one test, removed with all in it at the end. Its functions
+// go past the code under test, straight to the disk.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
