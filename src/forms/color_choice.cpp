@@ -109,6 +109,15 @@ void ColorChoice::Save() {
   changed_ = panel_chosen_ = background_chosen_ = false;
 }
 
+bool ColorChoice::Leave(Buttons buttons) {
+  if (!changed_) return true;
+  const Answer answer = ShowMessage(
+      context_,
+      {"Color Changes", "Save changes made to Panel and or Text Color?", Icon::kQuestion, buttons});
+  if (answer == Answer::kYes) Save();
+  return answer != Answer::kCancel;
+}
+
 Color ColorChoice::StartColor(ColorTarget target) const {
   switch (target) {
     case ColorTarget::kBackground:

@@ -43,6 +43,10 @@ class ColorChoice {
   // Stores the panel colour and the background, where they were chosen.
   void Save();
 
+  // The screen is about to be left: offers to keep what was chosen, with the buttons Yes and No and
+  // perhaps Cancel. False when the screen is to stay.
+  bool Leave(Buttons buttons);
+
   // Empty for the look's own colour.
   const std::optional<Color>& panel() const { return panel_; }
   Color background() const { return background_.value_or(kWhite); }

@@ -22,6 +22,12 @@ void TextField::SetMarked(bool marked) {
   Changed();
 }
 
+void TextField::SetColor(std::optional<Color> color) {
+  if (color_ == color) return;
+  color_ = color;
+  Changed();
+}
+
 void TextField::Type(std::string_view text) {
   if (!Reachable()) return;
   const std::string typed = TypedText(text, max_length_);

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "forms/color.h"
 #include "forms/control.h"
 
 namespace tarnwell::forms {
@@ -32,6 +34,10 @@ class TextField : public Control {
   bool marked() const { return marked_; }
   void SetMarked(bool marked);
 
+  // Of the text; empty for the look's own.
+  const std::optional<Color>& color() const { return color_; }
+  void SetColor(std::optional<Color> color);
+
   // A person made this the content, as TypedText has it.
   void Type(std::string_view text);
   void PressEnter();
@@ -45,6 +51,7 @@ class TextField : public Control {
   std::string text_;
   std::size_t max_length_;
   bool marked_ = false;
+  std::optional<Color> color_;
 };
 
 }  // namespace tarnwell::forms
