@@ -198,4 +198,16 @@ class FakePages : public forms::Pages {
   std::optional<forms::PageSetup> setup;
 };
 
+// Everything that is lent but the program's folder.
+struct FakeWorld {
+  FakeClock clock;
+  ScriptedDialogs dialogs;
+  FakeEventLoop loop{clock};
+  FakeWindow window;
+  FakeHelp help;
+  FakeClipboard clipboard;
+  FakePages pages;
+  FakeFolders folders;
+};
+
 }  // namespace tarnwell::testing

@@ -10,18 +10,10 @@
 
 namespace tarnwell::testing {
 
-class FormRig {
+class FormRig : public FakeWorld {
  public:
   TemporaryFolder temporary;
   storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
-  FakeClock clock;
-  ScriptedDialogs dialogs;
-  FakeEventLoop loop{clock};
-  FakeWindow window;
-  FakeHelp help;
-  FakeClipboard clipboard;
-  FakePages pages;
-  FakeFolders folders;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
   forms::Context context{folder,    clock, dialogs, loop,      window,   help,

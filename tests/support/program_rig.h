@@ -12,7 +12,7 @@
 
 namespace tarnwell::testing {
 
-class ProgramRig {
+class ProgramRig : public FakeWorld {
  public:
   explicit ProgramRig(storage::FileSystem& files = storage::RealFileSystem())
       : folder(files, temporary.path()) {}
@@ -44,14 +44,6 @@ class ProgramRig {
 
   TemporaryFolder temporary;
   storage::ProgramFolder folder;
-  FakeClock clock;
-  ScriptedDialogs dialogs;
-  FakeEventLoop loop{clock};
-  FakeWindow window;
-  FakeHelp help;
-  FakeClipboard clipboard;
-  FakePages pages;
-  FakeFolders folders;
   std::unique_ptr<program::Program> program;
 };
 
