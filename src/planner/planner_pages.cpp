@@ -17,12 +17,17 @@ PlannerPages::PlannerPages(forms::Form& form, forms::Context& context)
     : month(form),
       print(form, context,
             {.grid_lines_name = "Check83", .grid_lines_caption = "Print Grid Lines"}),
+      exporting(form, context, {.name_field = "Text100"}),
       form_(form),
       context_(context) {
   columns.Choose(0);
   columns.on_pick = [this](int) { print.Rebuild(); };
   month.print.on_click = [this] { PrintMonth(); };
   print.on_close = [this] { ClosePrint(); };
+  exporting.on_close = [this] {
+    month.panel.SetVisible(true);
+    if (on_export) on_export();
+  };
 }
 
 void PlannerPages::PrintDay(text::Date date, const DayRows& rows, forms::Panel& below) {
@@ -65,6 +70,12 @@ void PlannerPages::ClosePrint() {
   below_->SetVisible(true);
   form_.SetStatus(below_ == &month.panel ? "View Month" : "");
   if (on_print_close) on_print_close();
+}
+
+void PlannerPages::ExportMonth(std::string_view file_name) {
+  month.panel.SetVisible(false);
+  exporting.Open(month.grid, file_name);
+  if (on_export) on_export();
 }
 
 void PlannerPages::CopyDay(text::Date date, const DayRows& rows) {

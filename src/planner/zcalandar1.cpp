@@ -56,6 +56,7 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   print_options.on_click = [this] { PrintDay(); };
   pages.on_print = [this] { picker.SetVisible(false); };
   pages.on_print_close = [this] { ClosePrint(); };
+  pages.on_export = [this] { EnableMenus(); };
   colors.on_change = [this] { ShowColors(); };
   BuildRows();
   BuildMenus();
@@ -84,6 +85,10 @@ void Zcalandar1::BuildMenus() {
   paste_entry_ = &edit.AddEntry("mEPaste", "&Paste all entries from another day",
                                 [this] { PasteCopiedDay(); });
   paste_entry_->SetEnabled(false);
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  export_entry_ = &utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
+                                      [this] { pages.ExportMonth(kTitle + std::string(".xls")); });
+  export_entry_->SetEnabled(false);
   SetPopupMenu(options);
   forms::AddHelpMenu(*this, context_);
 }
@@ -221,6 +226,7 @@ void Zcalandar1::EnableMenus() {
   clear_entry_->SetEnabled(rows_shown && clear_entries.enabled());
   month_entry_->SetEnabled(rows_shown && view_month.enabled());
   paste_entry_->SetEnabled(rows_shown && HasRows(copied_));
+  export_entry_->SetEnabled(pages.month.panel.visible());
   for (forms::MenuItem* menu : row_menus_) menu->SetEnabled(rows_shown);
   for (forms::MenuItem* menu : copy_entries_) {
     menu->SetEnabled(pages.month.panel.visible() || (rows_shown && view_month.enabled()));
@@ -268,8 +274,8 @@ void Zcalandar1::Exit() {
 }
 
 void Zcalandar1::ShowColors() {
-  for (forms::Panel* panel : {&day, &pages.month.panel, &pages.print.panel, &recurrence.panel,
-                              &calendar_options.panel, &import_panel}) {
+  for (forms::Panel* panel : {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel,
+                              &recurrence.panel, &calendar_options.panel, &import_panel}) {
     panel->SetBackground(colors.panel());
   }
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {

@@ -107,6 +107,7 @@ class Zcalandar1 : public forms::Form {
   forms::MenuItem* clear_entry_ = nullptr;
   forms::MenuItem* paste_entry_ = nullptr;
   forms::MenuItem* month_entry_ = nullptr;
+  forms::MenuItem* export_entry_ = nullptr;
   std::vector<forms::MenuItem*> copy_entries_;  // of the day, or of the month while it is listed
   std::vector<forms::MenuItem*> row_menus_;     // work on the rows or cover them
   bool unsaved_ = false;

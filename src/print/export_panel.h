@@ -47,8 +47,8 @@ class ExportPanel {
   forms::Label files_heading{panel, "Label23", "File:"};
   forms::ListBox files{panel, "File1", "File"};
   forms::TextField name;
-  forms::Command save{panel, "SSCommand3", "Export File to Selected Folder"};
-  forms::Command close{panel, "SSCommand4", "Close"};
+  forms::Command save{panel, "SSCommand100(0)", "Export File to Selected Folder"};
+  forms::Command close{panel, "SSCommand100(1)", "Close"};
 
   // Shows the panel on the program's folder. The grid must live until it is closed.
   void Open(const forms::Grid& grid, std::string_view file_name);

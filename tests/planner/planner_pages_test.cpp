@@ -133,6 +133,26 @@ TEST_F(PlannerPagesTest, TheMonthIsPrintedFromItsPanel) {
   EXPECT_EQ(form().status(), "View Month");
 }
 
+TEST_F(PlannerPagesTest, TheMonthIsExportedFromItsPanel) {
+  EXPECT_FALSE(Enabled("mUExport"));
+  Store(9, {"9:00 AM", "Bank"});
+  form().view_month.Click();
+  rig.ClickMenu("mUExport");
+  print::ExportPanel& exporting = form().pages.exporting;
+  EXPECT_FALSE(form().pages.month.panel.visible());
+  for (const char* entry : {"mUExport", "mOCopy", "mOS"}) EXPECT_FALSE(Enabled(entry)) << entry;
+  EXPECT_EQ(exporting.name.text(), "Daily Planner.xls");
+  rig.dialogs.Expect("Export Function", "Export Completed to selected location!");
+  exporting.save.Click();
+  EXPECT_EQ(rig.folders.written["c:\\Tarnwell\\Daily Planner.xls"],
+            "Day\tTime\tAppointment/Activity\r\n 9th\t9:00 AM\tBank\r\n");
+  form().PressEscape();
+  EXPECT_TRUE(form().pages.month.grid.Reachable());
+  EXPECT_TRUE(Enabled("mUExport"));
+  form().pages.month.close.Click();
+  EXPECT_FALSE(Enabled("mUExport"));
+}
+
 TEST_F(PlannerPagesTest, WhatIsOnShowIsCopied) {
   rig.dialogs.Expect("Copy", "There are currently No Entries to Copy!");
   rig.ClickMenu("mECopy");
