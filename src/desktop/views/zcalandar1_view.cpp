@@ -11,6 +11,7 @@ namespace {
 
 // A day's row, in letters: wider, and the eye loses the line.
 constexpr int kLettersOfRow = 105;
+constexpr int kLettersOfPanel = 150;
 
 QWidget* Day(planner::Zcalandar1& form) {
   QWidget* sort_time = Widget(
@@ -64,9 +65,9 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
       Column({Grow(AtMost(Day(form), kLettersOfRow)),
               AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
               AtTop(RecurrenceView(form.recurrence)),
-              Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfRow)),
+              Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
               Grow(PagesView(form.pages, pictures)),
-              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfRow)), AtTop(import_panel)},
+              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)), AtTop(import_panel)},
              0);
   // What covers the rows and the calendar takes the whole width.
   QWidget* side = ShownWhile(

@@ -47,12 +47,11 @@ QTableView, QListView {
   border: 1px solid #AEB8C2; gridline-color: #DDE1E6; selection-background-color: #1F5FBF;
   selection-color: #FFFFFF;
 }
-QTableView::item { padding: 0 6px; }
 QListView::item { padding: 2px 6px; }
 QTableView:focus, QListView:focus { border-color: #1F5FBF; }
 QHeaderView { background: #EEF1F4; border: none; }
 QHeaderView::section {
-  background: #EEF1F4; color: #1C2530; font-weight: 600; padding: 4px 6px; border: none;
+  background: #EEF1F4; color: #1C2530; font-weight: 600; padding: 4px 3px; border: none;
   border-right: 1px solid #DDE1E6; border-bottom: 1px solid #AEB8C2;
 }
 QComboBox::drop-down { border: none; width: 20px; }
