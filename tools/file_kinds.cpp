@@ -105,11 +105,11 @@ constexpr std::string_view kFuelColumns[] = {"date", "previous", "current", "dri
 
 // In the order of their owners; a pattern that another one also fits stands behind it.
 constexpr FileKind kKinds[] = {
-    {"GColor1.Fil", "colours and backgrounds", kRecords, {}, 20, kGColor1},
-    {"GColor2.Fil", "panel colours", kRecords, {}, 20, kGColor2},
+    {"GColor1.Fil", "colours and backgrounds", kRecords, "gcolor1.md", 20, kGColor1},
+    {"GColor2.Fil", "panel colours", kRecords, "gcolor2.md", 20, kGColor2},
     {"GColor3.Fil", "display settings", kRecords, "gcolor3.md", 20, kGColor3},
     {"GColor3.hb1", "backup of the display settings", kRecords, "gcolor3.md", 20, kGColor3},
-    {"GColor4.Fil", "printer fonts", kRecords, {}, 40, kGColor4},
+    {"GColor4.Fil", "printer fonts", kRecords, "gcolor4.md", 40, kGColor4},
     {"Gcolor17.Fil", "picture folder of contacts and employees", kValues},
     {"GColor14.Fil", "picture folder of vehicles", kValues},
     {"GColor44.Fil", "picture folder of document images", kValues},

@@ -11,8 +11,10 @@ Desktop::Desktop(const Folders& folders)
       pictures_([this](std::string_view name) {
         return QByteArray::fromStdString(folder_.ReadWhole(name).value_or(std::string()));
       }),
+      pages_(pictures_),
+      folders_(folders.user),
       window_([this](forms::Form& form) { return LookOf(form, pictures_); }, help_),
-      program_({folder_, clock_, dialogs_, loop_, window_, help_}) {
+      program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_}) {
   window_.Follow(program_.navigator());
 }
 

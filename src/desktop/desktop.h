@@ -6,7 +6,10 @@
 #include "desktop/services/folders.h"
 #include "desktop/services/html_help_viewer.h"
 #include "desktop/services/message_dialogs.h"
+#include "desktop/services/qt_clipboard.h"
 #include "desktop/services/qt_event_loop.h"
+#include "desktop/services/qt_folder_browser.h"
+#include "desktop/services/qt_pages.h"
 #include "desktop/services/system_clock.h"
 #include "desktop/widgets/pictures.h"
 #include "program/program.h"
@@ -33,6 +36,9 @@ class Desktop {
   QtEventLoop loop_;
   HtmlHelpViewer help_;
   PictureStore pictures_;
+  QtClipboard clipboard_;
+  QtPages pages_;
+  QtFolderBrowser folders_;
   MainWindow window_;
   program::Program program_;  // goes first: its forms need all the others
 };

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "forms/dialogs.h"
+#include "forms/folder_browser.h"
+#include "forms/pages.h"
 #include "forms/program_variables.h"
 #include "forms/services.h"
 #include "storage/program_folder.h"
@@ -17,6 +19,9 @@ struct Context {
   EventLoop& loop;
   Window& window;
   HelpViewer& help;
+  Clipboard& clipboard;
+  Pages& pages;
+  FolderBrowser& folders;
   ProgramVariables& variables;
   Navigator& navigator;
 };

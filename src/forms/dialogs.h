@@ -6,6 +6,7 @@
 #include <string>
 
 #include "forms/color.h"
+#include "forms/page.h"
 
 namespace tarnwell::forms {
 
@@ -31,6 +32,8 @@ class Dialogs {
   virtual Answer Message(const MessageBox& box) = 0;
   // Empty when it was cancelled.
   virtual std::optional<Color> ChooseColor(Color start) = 0;
+  // A printer's font with its size, style and colour; empty when it was cancelled.
+  virtual std::optional<Font> ChooseFont(const Font& start) = 0;
 };
 
 }  // namespace tarnwell::forms

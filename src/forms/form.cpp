@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/command.h"
+#include "forms/message.h"
 
 namespace tarnwell::forms {
 namespace {
@@ -53,11 +54,7 @@ void Form::PressEscape() {
   }
 }
 
-forms::Answer Form::Message(const MessageBox& box) {
-  const forms::Answer answer = context_.dialogs.Message(box);
-  context_.variables.Answer = static_cast<double>(answer);
-  return answer;
-}
+forms::Answer Form::Message(const MessageBox& box) { return ShowMessage(context_, box); }
 
 void Form::SetBusy(bool busy) {
   busy_ = busy;

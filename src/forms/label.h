@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "forms/control.h"
+#include "forms/page.h"
 
 namespace tarnwell::forms {
 
@@ -22,6 +24,12 @@ class Label : public Control {
     Changed();
   }
   LabelRole role() const { return role_; }
+  // Empty for the look's own.
+  const std::optional<Font>& font() const { return font_; }
+  void SetFont(const Font& font) {
+    font_ = font;
+    Changed();
+  }
 
   void Click() {
     if (Reachable()) Run(on_click);
@@ -31,15 +39,28 @@ class Label : public Control {
  private:
   std::string caption_;
   LabelRole role_;
+  std::optional<Font> font_;
 };
 
-// A supplied picture, by its file name in the program's folder or among the supplied files.
+// A picture, by its file name in the program's folder or among the supplied files; empty for none.
 class Picture : public Control {
  public:
   Picture(Container& parent, std::string_view name, std::string_view file)
       : Control(parent, name), file_(file) {}
 
   const std::string& file() const { return file_; }
+  void SetFile(std::string_view file) {
+    file_ = file;
+    Changed();
+  }
+
+  // A frame stands around it: the one in hand of several.
+  bool marked() const { return marked_; }
+  void SetMarked(bool marked) {
+    if (marked_ == marked) return;
+    marked_ = marked;
+    Changed();
+  }
 
   void Click() {
     if (Reachable()) Run(on_click);
@@ -48,6 +69,7 @@ class Picture : public Control {
 
  private:
   std::string file_;
+  bool marked_ = false;
 };
 
 }  // namespace tarnwell::forms

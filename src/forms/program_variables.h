@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "forms/color.h"
+#include "forms/page.h"
 #include "storage/tagged_value.h"
 
 namespace tarnwell::forms {
@@ -15,9 +17,36 @@ struct ProgramVariables {
   storage::TaggedValue StartBackColor;
   std::int16_t FormHeight = 0;  // the work area's client, in twips, cut to 32767
   std::int16_t FormWidth = 0;
-  double Answer = 0;        // code of the last message box: 1 OK, 2 Cancel, 6 Yes, 7 No
-  std::string DateStyle;    // "OTHER" selects day-first captions; nothing sets it
-  std::string CompanyLine;  // put behind captions and heads when not empty; nothing sets it
+  double Answer = 0;           // code of the last message box: 1 OK, 2 Cancel, 6 Yes, 7 No
+  std::string DateStyle;       // "OTHER" selects day-first captions; nothing sets it
+  std::string CompanyLine;     // put behind captions and heads when not empty; nothing sets it
+  std::string PanelColorNew;   // the panel colour saved last, as it is stored; empty for none
+  std::string PanelColorLast;  // the one that was last saved for all functions
+
+  // The print settings, which all screens share.
+  std::string PrintFontName = "Times New Roman";
+  double PrintFontSize = 10;  // points
+  bool PrintFontBold = false;
+  bool PrintFontItalic = false;
+  bool PrintFontUnderline = false;
+  bool PrintFontStrike = false;
+  Color PrintFontColor = kBlack;
+  std::int16_t NoAsOfDate = 0;        // 1 leaves the "As of" line out
+  std::int16_t GridLinesOnPrint = 0;  // 1 prints the grid lines on each page
+
+  Font PrintFont() const {
+    return {PrintFontName,      PrintFontSize,   PrintFontBold, PrintFontItalic,
+            PrintFontUnderline, PrintFontStrike, PrintFontColor};
+  }
+  void SetPrintFont(const Font& font) {
+    PrintFontName = font.name;
+    PrintFontSize = font.size;
+    PrintFontBold = font.bold;
+    PrintFontItalic = font.italic;
+    PrintFontUnderline = font.underline;
+    PrintFontStrike = font.strike;
+    PrintFontColor = font.color;
+  }
 
   bool day_first() const { return DateStyle == "OTHER"; }
 };

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 #include "text/date.h"
 
@@ -48,6 +49,15 @@ class Window {
   virtual void CenterOnScreen() = 0;
   virtual void SetHourglass(bool on) = 0;
   virtual void Beep() = 0;
+};
+
+// The system's clipboard. What it held before is gone.
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  virtual void SetText(std::string_view text) = 0;
+  // The whole of an RTF document, under the format "Rich Text Format".
+  virtual void SetRichText(std::string_view rtf) = 0;
 };
 
 // Shows the help page of a context number; does nothing where there is no such page.

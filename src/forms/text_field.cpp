@@ -4,6 +4,13 @@
 
 namespace tarnwell::forms {
 
+std::string TypedText(std::string_view text, std::size_t max_length) {
+  std::string typed(text.substr(0, max_length));
+  std::ranges::replace_if(
+      typed, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  return typed;
+}
+
 void TextField::SetText(std::string_view text) {
   text_ = text;
   Changed();
@@ -15,11 +22,15 @@ void TextField::SetMarked(bool marked) {
   Changed();
 }
 
+void TextField::SetColor(std::optional<Color> color) {
+  if (color_ == color) return;
+  color_ = color;
+  Changed();
+}
+
 void TextField::Type(std::string_view text) {
   if (!Reachable()) return;
-  std::string typed(text.substr(0, max_length_));
-  std::ranges::replace_if(
-      typed, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+  const std::string typed = TypedText(text, max_length_);
   const bool different = typed != text_;
   SetText(typed);
   if (different) Run(on_change);

@@ -1,12 +1,17 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "forms/color.h"
 #include "forms/control.h"
 
 namespace tarnwell::forms {
+
+// What becomes of a person's text: cut to `max_length`, blank for control characters.
+std::string TypedText(std::string_view text, std::size_t max_length);
 
 struct TextFieldStyle {
   std::size_t max_length = 255;  // characters that can be typed
@@ -29,7 +34,11 @@ class TextField : public Control {
   bool marked() const { return marked_; }
   void SetMarked(bool marked);
 
-  // A person made this the content. Cut to max_length, blank for control characters.
+  // Of the text; empty for the look's own.
+  const std::optional<Color>& color() const { return color_; }
+  void SetColor(std::optional<Color> color);
+
+  // A person made this the content, as TypedText has it.
   void Type(std::string_view text);
   void PressEnter();
   void Click();
@@ -42,6 +51,7 @@ class TextField : public Control {
   std::string text_;
   std::size_t max_length_;
   bool marked_ = false;
+  std::optional<Color> color_;
 };
 
 }  // namespace tarnwell::forms

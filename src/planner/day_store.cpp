@@ -65,6 +65,18 @@ std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date dat
   return Unpack(bytes);
 }
 
+std::vector<PlannerDay> ReadMonth(storage::ProgramFolder& folder, int year, unsigned month) {
+  constexpr int kLeapYear = 2024;
+  const auto last = text::DayOf(text::AddDays(
+      text::MakeDate(month == 12 ? kLeapYear + 1 : kLeapYear, month % 12 + 1, 1), -1));
+  auto file = OpenYear(folder, text::MakeDate(year, month, 1));
+  std::vector<PlannerDay> days;
+  for (unsigned day = 1; day <= last && file.is_open(); ++day) {
+    days.push_back(Unpack(file.GetStructure(DayRecordNumber(month, day), kStoredBytes)));
+  }
+  return days;
+}
+
 bool WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {
   auto file = OpenYear(folder, date);
   return file.PutStructure(RecordOf(date), Pack(rows)) && file.Close();

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "planner/day_rows.h"
 #include "storage/program_folder.h"
@@ -24,6 +25,10 @@ std::string PlannerYearFileName(int year);
 
 // Makes the year's file if there is none. Empty when the file can't be read.
 std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date);
+
+// Likewise all days of a month, from the 1st, in one opening of the file; 29 for any February. No
+// days when the file can't be read.
+std::vector<PlannerDay> ReadMonth(storage::ProgramFolder& folder, int year, unsigned month);
 
 // Stores the rows as they stand, cut to 10 and 50 characters, and marks the day as saved. False
 // when that didn't work; the day is then as it was.

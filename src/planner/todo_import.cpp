@@ -1,5 +1,8 @@
 #include "planner/todo_import.h"
 
+#include "planner/day_sort.h"
+#include "planner/day_store.h"
+#include "settings/planner_settings.h"
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"
 #include "text/date_reading.h"
@@ -36,6 +39,13 @@ bool PlaceToDoEntry(DayRows& rows, const std::string& entry) {
     }
   }
   return false;
+}
+
+void ImportToDoItem(storage::ProgramFolder& folder, const ToDoItem& item) {
+  auto stored = ReadDay(folder, item.date);
+  if (!stored || !PlaceToDoEntry(stored->rows, item.entry)) return;
+  const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(folder));
+  WriteDay(folder, item.date, SortDay(stored->rows, option));
 }
 
 }  // namespace tarnwell::planner

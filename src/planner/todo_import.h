@@ -26,4 +26,8 @@ std::vector<ToDoItem> ReadToDoItems(storage::ProgramFolder& folder);
 // text, so the day is full, or a row without a time holds that very text already.
 bool PlaceToDoEntry(DayRows& rows, const std::string& entry);
 
+// Places the entry on its day on the disk, sorted as the planner's sort option says. A day that
+// can't be read or needn't change stays as it is.
+void ImportToDoItem(storage::ProgramFolder& folder, const ToDoItem& item);
+
 }  // namespace tarnwell::planner

@@ -32,7 +32,9 @@ Zcalandar1::Zcalandar1(forms::Context& context)
     : Form(context, forms::form_names::kZcalandar1,
            "Tools and Program Information - Daily Planner"),
       calendar_options(*this, context.folder),
-      recurrence(*this, context) {
+      recurrence(*this, context),
+      pages(*this, context),
+      colors(context, settings::PanelColor::kPlanner) {
   import_panel.SetVisible(false);
   exit.SetCancel(true);
   picker.on_pick = [this] { PickDay(); };
@@ -49,6 +51,13 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   calendar_options.on_close = [this] { UncoverRows(calendar_options.panel); };
   recurrence.on_run = [this] { ShowDay(loaded_); };
   recurrence.on_close = [this] { CloseRecurrence(); };
+  view_month.on_click = [this] { ViewMonth(); };
+  pages.month.close.on_click = [this] { CloseMonth(); };
+  print_options.on_click = [this] { PrintDay(); };
+  pages.on_print = [this] { picker.SetVisible(false); };
+  pages.on_print_close = [this] { ClosePrint(); };
+  pages.on_export = [this] { EnableMenus(); };
+  colors.on_change = [this] { ShowColors(); };
   BuildRows();
   BuildMenus();
 }
@@ -57,19 +66,29 @@ void Zcalandar1::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   save_entry_ = &options.AddEntry("mOS", "&Save", [this] { save.Click(); });
   clear_entry_ = &options.AddEntry("mOClr", "Clear &Entries", [this] { clear_entries.Click(); });
+  month_entry_ = &options.AddEntry("mOV", "&View Entire Month", [this] { view_month.Click(); });
+  row_menus_.push_back(
+      &options.AddEntry("mOP", "&Print Options", [this] { print_options.Click(); }));
+  copy_entries_.push_back(&options.AddEntry("mOCopy", "&Copy", [this] { Copy(); }));
   row_menus_.push_back(&options.AddEntry("mOCal", "Calendar &Display Options",
                                          [this] { CoverRows(calendar_options.panel); }));
   row_menus_.push_back(
       &options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); }));
+  options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(forms::ColorTarget::kPanel); });
+  options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(forms::ColorTarget::kText); });
   options.AddSeparator();
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
-  row_menus_.push_back(&edit);
-  edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
-                [this] { CopyDay(); });
+  copy_entries_.push_back(&edit.AddEntry("mECopy", "&Copy", [this] { Copy(); }));
+  row_menus_.push_back(&edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
+                                      [this] { CopyDay(); }));
   paste_entry_ = &edit.AddEntry("mEPaste", "&Paste all entries from another day",
                                 [this] { PasteCopiedDay(); });
   paste_entry_->SetEnabled(false);
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  export_entry_ = &utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
+                                      [this] { pages.ExportMonth(kTitle + std::string(".xls")); });
+  export_entry_->SetEnabled(false);
   SetPopupMenu(options);
   forms::AddHelpMenu(*this, context_);
 }
@@ -100,6 +119,7 @@ void Zcalandar1::Load() {
   calendar_options.Load();
   picker.SetLook(LookOf(calendar_options.options()));
   sort_time.Choose(settings::ReadSortTime(context_.folder));
+  colors.Load();
   timer.Tick();
   picker.SetDate(context_.clock.Today());
   ShowDay(picker.date());
@@ -195,6 +215,7 @@ void Zcalandar1::MarkChanged() {
 
 void Zcalandar1::EnableCommands(bool day_commands, bool clear_commands) {
   save.SetEnabled(day_commands);
+  view_month.SetEnabled(day_commands);
   clear_entries.SetEnabled(clear_commands);
   EnableMenus();
 }
@@ -203,7 +224,13 @@ void Zcalandar1::EnableMenus() {
   const bool rows_shown = day.visible();
   save_entry_->SetEnabled(rows_shown && save.enabled());
   clear_entry_->SetEnabled(rows_shown && clear_entries.enabled());
+  month_entry_->SetEnabled(rows_shown && view_month.enabled());
+  paste_entry_->SetEnabled(rows_shown && HasRows(copied_));
+  export_entry_->SetEnabled(pages.month.panel.visible());
   for (forms::MenuItem* menu : row_menus_) menu->SetEnabled(rows_shown);
+  for (forms::MenuItem* menu : copy_entries_) {
+    menu->SetEnabled(pages.month.panel.visible() || (rows_shown && view_month.enabled()));
+  }
 }
 
 DayRows Zcalandar1::Rows() {
@@ -242,14 +269,29 @@ void Zcalandar1::Exit() {
     if (answer == forms::Answer::kCancel) return;
     if (answer == forms::Answer::kYes && SaveUnder(*loaded_) == SaveResult::kFailed) return;
   }
+  if (!colors.Leave(forms::Buttons::kYesNoCancel)) return;
   context_.navigator.Unload(*this);
 }
 
+void Zcalandar1::ShowColors() {
+  for (forms::Panel* panel : {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel,
+                              &recurrence.panel, &calendar_options.panel, &import_panel}) {
+    panel->SetBackground(colors.panel());
+  }
+  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
+    times[i].SetColor(colors.text());
+    entries[i].SetColor(colors.text());
+  }
+}
+
 bool Zcalandar1::QueryUnload(forms::UnloadCause) {
-  if (!unsaved_ || !loaded_) return true;
-  return !Confirmed({kTitle, "Save changes/entries before exiting?", forms::Icon::kQuestion,
-                     forms::Buttons::kYesNo}) ||
-         SaveUnder(*loaded_) != SaveResult::kFailed;
+  if (unsaved_ && loaded_ &&
+      Confirmed({kTitle, "Save changes/entries before exiting?", forms::Icon::kQuestion,
+                 forms::Buttons::kYesNo}) &&
+      SaveUnder(*loaded_) == SaveResult::kFailed) {
+    return false;
+  }
+  return colors.Leave(forms::Buttons::kYesNo);
 }
 
 void Zcalandar1::ClearEntries() {
@@ -267,9 +309,8 @@ void Zcalandar1::ClearEntries() {
 
 void Zcalandar1::CopyDay() {
   copied_ = Rows();
-  const bool found = HasRows(copied_);
-  paste_entry_->SetEnabled(found);
-  if (found) return;
+  EnableMenus();
+  if (HasRows(copied_)) return;
   Message({"Copy all entries for pasteing to another day", "No Entries to Copy have been found!",
            forms::Icon::kInformation});
 }
@@ -317,6 +358,38 @@ void Zcalandar1::CloseRecurrence() {
   entries[static_cast<std::size_t>(row_of_recurrence_)].Focus();
 }
 
+void Zcalandar1::ViewMonth() {
+  SetStatus("View Month");
+  const bool was_unsaved = unsaved_;
+  if (!LeaveLoadedDay()) return SetStatus({});
+  if (was_unsaved) ShowDay(loaded_);
+  pages.month.Fill(context_.folder, *loaded_);
+  picker.SetVisible(false);  // the month on screen holds until the panel is closed
+  CoverRows(pages.month.panel);
+}
+
+void Zcalandar1::CloseMonth() {
+  UncoverRows(pages.month.panel);
+  picker.SetVisible(true);
+  SetStatus({});
+}
+
+void Zcalandar1::PrintDay() {
+  if (loaded_) pages.PrintDay(*loaded_, Rows(), day);
+}
+
+void Zcalandar1::ClosePrint() {
+  picker.SetVisible(day.visible());
+  // The month's guide lines and the sort time lie in one record.
+  sort_time.Choose(settings::ReadSortTime(context_.folder));
+  EnableMenus();
+}
+
+void Zcalandar1::Copy() {
+  if (pages.month.panel.visible()) return pages.CopyMonth();
+  if (loaded_) pages.CopyDay(*loaded_, Rows());
+}
+
 void Zcalandar1::ImportToDo() {
   if (!loaded_ ||
       !Confirmed({"To Do List Import Function", "Do you want to Import To Do List Items?",
@@ -338,7 +411,7 @@ void Zcalandar1::ImportToDo() {
   import_panel.SetVisible(true);
   import_progress.Start(static_cast<int>(items.size()));
   for (const ToDoItem& item : items) {
-    if (item.date >= on_screen) ImportInto(item.date, item.entry);
+    if (item.date >= on_screen) ImportToDoItem(context_.folder, item);
     import_progress.SetValue(import_progress.value() + 1);
     context_.loop.Yield();
   }
@@ -347,13 +420,6 @@ void Zcalandar1::ImportToDo() {
   day.SetVisible(true);
   picker.SetDate(on_screen);
   ShowDay(on_screen);
-}
-
-void Zcalandar1::ImportInto(text::Date date, const std::string& entry) {
-  auto stored = ReadDay(context_.folder, date);
-  if (!stored || !PlaceToDoEntry(stored->rows, entry)) return;
-  const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(context_.folder));
-  WriteDay(context_.folder, date, SortDay(stored->rows, option));
 }
 
 }  // namespace tarnwell::planner

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "forms/choice.h"
+#include "forms/color_choice.h"
 #include "forms/command.h"
 #include "forms/control_array.h"
 #include "forms/date_picker.h"
@@ -16,6 +17,7 @@
 #include "forms/timer.h"
 #include "planner/calendar_options_panel.h"
 #include "planner/day_rows.h"
+#include "planner/planner_pages.h"
 #include "planner/recurrence_panel.h"
 
 namespace tarnwell::planner {
@@ -43,10 +45,14 @@ class Zcalandar1 : public forms::Form {
   forms::OptionGroup sort_time{sort_frame, "Option7", {"First", "Last"}};
   forms::Command save{day, "Command1", "&Save"};
   forms::Command clear_entries{day, "Command3", "Clear &Entries"};
+  forms::Command view_month{day, "Command4", "&View Month"};
+  forms::Command print_options{day, "Command7", "&Print Options"};
   forms::Command exit{day, "Command2", "E&xit"};
 
   CalendarOptionsPanel calendar_options;
   RecurrencePanel recurrence;
+  PlannerPages pages;
+  forms::ColorChoice colors;
 
   forms::Panel import_panel{*this, "SSPanel5", " Importing To Do List Items:"};
   forms::ProgressBar import_progress{import_panel, "ProgressBar2", "Items imported"};
@@ -81,6 +87,7 @@ class Zcalandar1 : public forms::Form {
   void Save();
   SaveResult SaveUnder(text::Date date, SaveNote note = SaveNote::kShown);
   void Exit();
+  void ShowColors();
   void ClearEntries();
   void CopyDay();
   void PasteCopiedDay();
@@ -89,13 +96,20 @@ class Zcalandar1 : public forms::Form {
   void UncoverRows(forms::Panel& panel);
   void OpenRecurrence(int row);
   void CloseRecurrence();
+  void ViewMonth();
+  void CloseMonth();
+  void PrintDay();
+  void ClosePrint();
+  void Copy();
   void ImportToDo();
-  void ImportInto(text::Date date, const std::string& entry);
 
   forms::MenuItem* save_entry_ = nullptr;
   forms::MenuItem* clear_entry_ = nullptr;
   forms::MenuItem* paste_entry_ = nullptr;
-  std::vector<forms::MenuItem*> row_menus_;  // work on the rows or cover them
+  forms::MenuItem* month_entry_ = nullptr;
+  forms::MenuItem* export_entry_ = nullptr;
+  std::vector<forms::MenuItem*> copy_entries_;  // of the day, or of the month while it is listed
+  std::vector<forms::MenuItem*> row_menus_;     // work on the rows or cover them
   bool unsaved_ = false;
   std::optional<text::Date> loaded_;  // the day on screen; the picker may have moved on already
   DayRows copied_;

@@ -31,8 +31,9 @@ void RegisterForms(forms::Navigator& navigator) {
 }  // namespace
 
 Program::Program(const Services& services)
-    : context_{services.folder, services.clock, services.dialogs, services.loop,
-               services.window, services.help,  variables_,       navigator_} {
+    : context_{services.folder,  services.clock, services.dialogs,   services.loop,
+               services.window,  services.help,  services.clipboard, services.pages,
+               services.folders, variables_,     navigator_} {
   navigator_.SetContext(context_);
   RegisterForms(navigator_);
 }

@@ -16,6 +16,9 @@ struct Services {
   forms::EventLoop& loop;
   forms::Window& window;
   forms::HelpViewer& help;
+  forms::Clipboard& clipboard;
+  forms::Pages& pages;
+  forms::FolderBrowser& folders;
 };
 
 class Program {

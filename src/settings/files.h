@@ -2,12 +2,36 @@
 
 #pragma once
 
+#include "storage/file_names.h"
 #include "storage/record_file.h"
 
 namespace tarnwell::settings {
 
+// A record of one of the files with plain texts, GColor1.Fil to GColor3.Fil.
+struct RecordPlace {
+  std::string_view file;
+  int record;
+};
+
+inline storage::RecordFile OpenColors(storage::ProgramFolder& folder, std::string_view file) {
+  return storage::RecordFile(folder, file, 20);
+}
+
 inline storage::RecordFile OpenGColor3(storage::ProgramFolder& folder) {
-  return storage::RecordFile(folder, "GColor3.Fil", 20);
+  return OpenColors(folder, storage::file_names::kGColor3);
+}
+
+inline storage::RecordFile OpenGColor4(storage::ProgramFolder& folder) {
+  return storage::RecordFile(folder, storage::file_names::kGColor4, 40);
+}
+
+inline std::string ReadText(storage::ProgramFolder& folder, const RecordPlace& place) {
+  return OpenColors(folder, place.file).GetText(place.record);
+}
+
+inline void WriteText(storage::ProgramFolder& folder, const RecordPlace& place,
+                      std::string_view text) {
+  OpenColors(folder, place.file).PutText(place.record, text);
 }
 
 }  // namespace tarnwell::settings

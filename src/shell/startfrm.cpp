@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/color_choice.h"
 #include "forms/form_names.h"
 #include "forms/help_menu.h"
 #include "forms/navigator.h"
@@ -234,11 +235,7 @@ void Startfrm::RepeatLoadRoutine() {
 }
 
 void Startfrm::ChooseBackground() {
-  const forms::Answer answer = Message({"Background Color",
-                                        "Select New Color or Use System Default Color?\n"
-                                        "Yes = Color Selection Panel will appear.\n"
-                                        "No = Current System Default Color will be selected.",
-                                        forms::Icon::kInformation, forms::Buttons::kYesNoCancel});
+  const forms::Answer answer = forms::AskForColor(context_, "Background Color");
   if (answer == forms::Answer::kCancel) return;
   storage::TaggedValue stored = std::string("Def");
   forms::Color color = forms::kNeutral;

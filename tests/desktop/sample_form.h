@@ -57,9 +57,13 @@ struct SampleWorld {
   FakeEventLoop loop{clock};
   FakeWindow window;
   FakeHelp help;
+  FakeClipboard clipboard;
+  FakePages pages;
+  FakeFolders folders;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder, clock, dialogs, loop, window, help, variables, navigator};
+  forms::Context context{folder,    clock, dialogs, loop,      window,   help,
+                         clipboard, pages, folders, variables, navigator};
 
   SampleWorld() {
     navigator.SetContext(context);

@@ -9,8 +9,7 @@
 #include "forms/navigator.h"
 #include "forms/panel.h"
 #include "forms/text_field.h"
-#include "support/fake_services.h"
-#include "support/temporary_folder.h"
+#include "support/form_rig.h"
 
 namespace tarnwell::forms {
 namespace {
@@ -51,7 +50,6 @@ class SampleForm : public Form {
 class GesturesTest : public ::testing::Test {
  protected:
   GesturesTest() {
-    navigator.SetContext(context);
     navigator.Register("Sample", [](Context& c) { return std::make_unique<SampleForm>(c); });
     navigator.Register("Other",
                        [](Context& c) { return std::make_unique<Form>(c, "Other", "Other"); });
@@ -59,16 +57,8 @@ class GesturesTest : public ::testing::Test {
   }
   SampleForm& form() { return dynamic_cast<SampleForm&>(*navigator.Find("Sample")); }
 
-  testing::TemporaryFolder temporary;
-  storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
-  testing::FakeClock clock;
-  testing::ScriptedDialogs dialogs;
-  testing::FakeEventLoop loop{clock};
-  testing::FakeWindow window;
-  testing::FakeHelp help;
-  ProgramVariables variables;
-  Navigator navigator;
-  Context context{folder, clock, dialogs, loop, window, help, variables, navigator};
+  testing::FormRig rig;
+  Navigator& navigator = rig.navigator;
 };
 
 TEST_F(GesturesTest, OnlyWhatIsShownEnabledAndOnTopAnswers) {

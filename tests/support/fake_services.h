@@ -6,12 +6,16 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "forms/dialogs.h"
+#include "forms/folder_browser.h"
+#include "forms/pages.h"
 #include "forms/services.h"
+#include "support/fixed_metrics.h"
 #include "text/date.h"
 
 namespace tarnwell::testing {
@@ -67,12 +71,26 @@ class ScriptedDialogs : public forms::Dialogs {
     return chosen;
   }
 
+  void ExpectFont(std::optional<forms::Font> chosen) { fonts_.push_back(chosen); }
+  std::optional<forms::Font> ChooseFont(const forms::Font& start) override {
+    last_start_font = start;
+    if (fonts_.empty()) {
+      ADD_FAILURE() << "unexpected font dialogue";
+      return std::nullopt;
+    }
+    const auto chosen = fonts_.front();
+    fonts_.pop_front();
+    return chosen;
+  }
+
   forms::MessageBox last;
   forms::Color last_start_color = 0;
+  forms::Font last_start_font;
 
  private:
   std::deque<Expected> expected_;
   std::deque<std::optional<forms::Color>> colors_;
+  std::deque<std::optional<forms::Font>> fonts_;
 };
 
 // Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.
@@ -122,6 +140,74 @@ class FakeHelp : public forms::HelpViewer {
  public:
   void Show(int context) override { shown.push_back(context); }
   std::vector<int> shown;
+};
+
+class FakeClipboard : public forms::Clipboard {
+ public:
+  void SetText(std::string_view content) override { text = content; }
+  void SetRichText(std::string_view rtf) override { rich_text = rtf; }
+  std::string text;
+  std::string rich_text;
+};
+
+// The machine's folders, each with a "\\" behind its path. What isn't listed can't be read.
+class FakeFolders : public forms::FolderBrowser {
+ public:
+  struct Content {
+    std::vector<std::string> folders;
+    std::vector<std::string> files;
+  };
+
+  std::vector<std::string> Drives() override { return {"c:", "d:"}; }
+  std::string ProgramPath() override { return "c:\\Tarnwell"; }
+  std::optional<std::vector<std::string>> Folders(const std::string& path) override {
+    const auto found = readable.find(path);
+    return found == readable.end() ? std::nullopt : std::optional(found->second.folders);
+  }
+  std::optional<std::vector<std::string>> Files(const std::string& path) override {
+    const auto found = readable.find(path);
+    return found == readable.end() ? std::nullopt : std::optional(found->second.files);
+  }
+  bool WriteFile(const std::string& path, std::string_view content) override {
+    if (!refuse) written[path] = content;
+    return !refuse;
+  }
+
+  std::map<std::string, Content> readable{{"c:\\", {{"Tarnwell"}, {}}}, {"c:\\Tarnwell\\", {}}};
+  std::map<std::string, std::string> written;
+  bool refuse = false;
+};
+
+// A printer that keeps what it was given. `setup` is what its page-setup dialogue answers.
+class FakePages : public forms::Pages {
+ public:
+  forms::TextMetrics& metrics() override { return fixed_metrics; }
+  void Print(const forms::Document& document) override { printed.push_back(document); }
+  void CopyPage(const forms::Document& document, int page) override {
+    copied = document.pages.at(static_cast<std::size_t>(page));
+  }
+  std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup& start) override {
+    last_setup = start;
+    return setup;
+  }
+
+  FixedMetrics fixed_metrics;
+  std::vector<forms::Document> printed;
+  forms::Page copied;
+  forms::PageSetup last_setup;
+  std::optional<forms::PageSetup> setup;
+};
+
+// Everything that is lent but the program's folder.
+struct FakeWorld {
+  FakeClock clock;
+  ScriptedDialogs dialogs;
+  FakeEventLoop loop{clock};
+  FakeWindow window;
+  FakeHelp help;
+  FakeClipboard clipboard;
+  FakePages pages;
+  FakeFolders folders;
 };
 
 }  // namespace tarnwell::testing

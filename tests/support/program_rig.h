@@ -12,7 +12,7 @@
 
 namespace tarnwell::testing {
 
-class ProgramRig {
+class ProgramRig : public FakeWorld {
  public:
   explicit ProgramRig(storage::FileSystem& files = storage::RealFileSystem())
       : folder(files, temporary.path()) {}
@@ -20,7 +20,7 @@ class ProgramRig {
   // A new run of the program on the same folder.
   void Start() {
     program = std::make_unique<program::Program>(
-        program::Services{folder, clock, dialogs, loop, window, help});
+        program::Services{folder, clock, dialogs, loop, window, help, clipboard, pages, folders});
     program->Start();
   }
 
@@ -44,11 +44,6 @@ class ProgramRig {
 
   TemporaryFolder temporary;
   storage::ProgramFolder folder;
-  FakeClock clock;
-  ScriptedDialogs dialogs;
-  FakeEventLoop loop{clock};
-  FakeWindow window;
-  FakeHelp help;
   std::unique_ptr<program::Program> program;
 };
 

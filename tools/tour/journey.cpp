@@ -45,6 +45,33 @@ void LookAtRecurrence(Traveller& person) {
   person.Click("SSCommand3");
 }
 
+void LookAtMonth(Traveller& person) {
+  person.Click("Command4");
+  person.TakePicture("month");
+  person.ChooseFromMenu("mUExport");
+  person.ExpectText("Text100", QStringLiteral("Daily Planner.xls"));
+  person.TakePicture("export");
+  person.Click("SSCommand100(1)");
+  person.Click("Command6");
+  person.TakePicture("month-print");
+  person.Click("SSCommand80(2)");
+  person.Click("Command5");
+}
+
+void LookAtPrint(Traveller& person) {
+  person.Click("Command7");
+  person.TakePicture("print");
+  person.Click("Option83(1)");
+  person.Click("Check83");
+  person.Click("SSOption82(1)");
+  person.TakePicture("print-two-columns");
+  person.Click("SSCommand1");
+  person.TakePicture("print-enlarged");
+  person.Click("SSCommand2");
+  person.TakePicture("print-whole-page");
+  person.Click("SSCommand80(2)");
+}
+
 void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   person.Use(desktop);
   person.TakePictureSoon("splash");
@@ -55,6 +82,8 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   WriteAppointment(person);
   LookAtCalendarOptions(person);
   LookAtRecurrence(person);
+  LookAtMonth(person);
+  LookAtPrint(person);
   person.Press(Qt::Key_Escape);
   person.ExpectTop("ToolsandInfo1");
   person.Answer(

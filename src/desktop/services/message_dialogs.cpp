@@ -1,12 +1,12 @@
 #include "desktop/services/message_dialogs.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <vector>
 
-#include "desktop/services/nested_loop.h"
+#include "desktop/services/font_dialog.h"
+#include "desktop/services/modal_question.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
@@ -55,27 +55,11 @@ forms::Answer AnswerOf(int button) {
   }
 }
 
-// The window that has to wait for the answer.
-QWidget* Asker() {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal ? modal : QApplication::activeWindow();
-}
-
-// A box under the wait shape of the pointer would look as if it couldn't be answered.
-class PlainPointer {
- public:
-  PlainPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
-  ~PlainPointer() { QApplication::restoreOverrideCursor(); }
-  PlainPointer(const PlainPointer&) = delete;
-  PlainPointer& operator=(const PlainPointer&) = delete;
-};
-
 }  // namespace
 
 forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
-  const NestedLoop nested;
-  const PlainPointer pointer;
-  QMessageBox window(Asker());
+  const ModalQuestion question;
+  QMessageBox window(question.asker());
   window.setWindowTitle(FromCore(box.title));
   window.setTextFormat(Qt::PlainText);
   window.setText(FromCore(box.text));
@@ -91,11 +75,17 @@ forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
 }
 
 std::optional<forms::Color> MessageDialogs::ChooseColor(forms::Color start) {
-  const NestedLoop nested;
-  const PlainPointer pointer;
-  const QColor chosen = QColorDialog::getColor(ToQColor(start), Asker());
+  const ModalQuestion question;
+  const QColor chosen = QColorDialog::getColor(ToQColor(start), question.asker());
   if (!chosen.isValid()) return std::nullopt;
   return FromQColor(chosen);
+}
+
+std::optional<forms::Font> MessageDialogs::ChooseFont(const forms::Font& start) {
+  const ModalQuestion question;
+  FontDialog dialog(start, question.asker());
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.font();
 }
 
 }  // namespace tarnwell::desktop

@@ -1,4 +1,5 @@
 #include "desktop/views/day_rows_widget.h"
+#include "desktop/views/print_view.h"
 #include "desktop/views/recurrence_view.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -10,6 +11,7 @@ namespace {
 
 // A day's row, in letters: wider, and the eye loses the line.
 constexpr int kLettersOfRow = 105;
+constexpr int kLettersOfPanel = 150;
 
 QWidget* Day(planner::Zcalandar1& form) {
   QWidget* sort_time = Widget(
@@ -19,8 +21,10 @@ QWidget* Day(planner::Zcalandar1& form) {
       Column({
           Widget(form.date_caption),
           new DayRowsWidget(form),
-          Row({sort_time, Spring(), WithIcon("save", Widget(form.save)),
-               WithIcon("clear", Widget(form.clear_entries)), WithIcon("exit", Widget(form.exit))}),
+          Row({sort_time, Spring(), WithIcon("month", Widget(form.view_month)),
+               WithIcon("print", Widget(form.print_options))}),
+          Row({WithIcon("save", Widget(form.save)), WithIcon("clear", Widget(form.clear_entries)),
+               Spring(), WithIcon("exit", Widget(form.exit))}),
           Spring(),
       }));
 }
@@ -41,17 +45,35 @@ QWidget* CalendarOptions(planner::CalendarOptionsPanel& panel) {
                              }));
 }
 
+QWidget* MonthView(planner::MonthPanel& month, PictureStore& pictures) {
+  return Widget(
+      month.panel,
+      Column({Grow(Widget(month.grid, pictures)),
+              Row({WithIcon("print", Widget(month.print)), Spring(), Widget(month.close)})}));
+}
+
+QWidget* PagesView(planner::PlannerPages& pages, PictureStore& pictures) {
+  return PrintView(pages.print, pictures,
+                   {Widget(pages.columns.option(0)), Widget(pages.columns.option(1))});
+}
+
 }  // namespace
 
-QWidget* View(planner::Zcalandar1& form, PictureStore&) {
+QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
   QWidget* import_panel = Widget(form.import_panel, Widget(form.import_progress));
-  QWidget* in_turn = Column({Grow(AtMost(Day(form), kLettersOfRow)),
-                             AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
-                             AtTop(RecurrenceView(form.recurrence)), AtTop(import_panel)},
-                            0);
-  return Padded(
-      Row({Column({Widget(form.picker), Widget(form.clock), Spring()}), Grow(in_turn)}, kWideSpace),
-      kWideSpace);
+  QWidget* in_turn =
+      Column({Grow(AtMost(Day(form), kLettersOfRow)),
+              AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
+              AtTop(RecurrenceView(form.recurrence)),
+              Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
+              Grow(PagesView(form.pages, pictures)),
+              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)), AtTop(import_panel)},
+             0);
+  // What covers the rows and the calendar takes the whole width.
+  QWidget* side = ShownWhile(
+      form.picker, [&form] { return form.picker.visible(); },
+      Column({Widget(form.picker), Widget(form.clock), Spring()}));
+  return Padded(Row({side, Grow(in_turn)}, kWideSpace), kWideSpace);
 }
 
 }  // namespace tarnwell::desktop

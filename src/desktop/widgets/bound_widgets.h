@@ -4,11 +4,15 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 #include "forms/choice.h"
 #include "forms/command.h"
 #include "forms/date_picker.h"
+#include "forms/grid.h"
 #include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/page_preview.h"
 #include "forms/panel.h"
 #include "forms/progress_bar.h"
 #include "forms/text_field.h"
@@ -24,10 +28,17 @@ QWidget* Widget(forms::Picture& picture, PictureStore& pictures);
 QWidget* Widget(forms::Option& option);
 QWidget* Widget(forms::CheckBox& box);
 QWidget* Widget(forms::ComboBox& combo);
+QWidget* Widget(forms::ListBox& box);
+QWidget* Widget(forms::Grid& grid, PictureStore& pictures);
+QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures);
 QWidget* Widget(forms::DatePicker& picker);
 QWidget* Widget(forms::ProgressBar& bar);
 // A panel around `content`. With a caption it is a card with a title, else a plain area.
 QWidget* Widget(forms::Panel& panel, QWidget* content);
+
+// `content` is there as long as `shown` holds, which is asked again with each change of the
+// control.
+QWidget* ShownWhile(forms::Control& control, std::function<bool()> shown, QWidget* content);
 
 // Makes every timer of the form tick as long as `owner` lives.
 void RunTimers(forms::Form& form, QObject* owner);

@@ -1,10 +1,12 @@
 #include <QLabel>
 #include <QMouseEvent>
+#include <algorithm>
 #include <functional>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -35,6 +37,14 @@ QFont FontOf(forms::LabelRole role) {
   return ScaledFont(TextSize::kText);
 }
 
+// A sample of a large font mustn't push everything else off the screen.
+QFont SampleFont(const forms::Font& font) {
+  constexpr double kLargestSample = 24;  // points
+  QFont sample = ScreenFont(font);
+  sample.setPointSizeF(std::min(sample.pointSizeF(), kLargestSample));
+  return sample;
+}
+
 }  // namespace
 
 QWidget* Widget(forms::Label& label) {
@@ -43,6 +53,7 @@ QWidget* Widget(forms::Label& label) {
   widget->setFont(FontOf(label.role()));
   auto* binding = new Binding(widget, label, [widget, &label] {
     widget->setText(FromCore(label.caption()));
+    if (label.font()) widget->setFont(SampleFont(*label.font()));
     if (!label.caption().empty()) widget->setAccessibleName(FromCore(label.caption()));
   });
   if (label.on_click) {

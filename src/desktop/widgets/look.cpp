@@ -35,15 +35,26 @@ QPushButton[primary="true"]:disabled {
 }
 QPushButton[selected="true"] { background: #F4F5FF; color: #5555FF; border-color: #F4F5FF; }
 QPushButton[selected="true"]:focus { border: 2px solid #5555FF; }
+QComboBox { color: #1C2530; }
 QLineEdit, QComboBox {
-  background: #FFFFFF; color: #1C2530; border: 1px solid #AEB8C2; border-radius: 4px;
+  background: #FFFFFF; border: 1px solid #AEB8C2; border-radius: 4px;
   padding: 3px 6px; min-height: 1.25em; selection-background-color: #1F5FBF;
   selection-color: #FFFFFF;
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
-QLineEdit:disabled, QComboBox:disabled {
-  background: #F1F2F4; color: #7B858F; border-color: #D3D8DD;
+QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
+QComboBox:disabled { color: #7B858F; }
+QTableView, QListView {
+  border: 1px solid #AEB8C2; gridline-color: #DDE1E6; selection-background-color: #1F5FBF;
+  selection-color: #FFFFFF;
+}
+QListView::item { padding: 2px 6px; }
+QTableView:focus, QListView:focus { border-color: #1F5FBF; }
+QHeaderView { background: #EEF1F4; border: none; }
+QHeaderView::section {
+  background: #EEF1F4; color: #1C2530; font-weight: 600; padding: 4px 3px; border: none;
+  border-right: 1px solid #DDE1E6; border-bottom: 1px solid #AEB8C2;
 }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox::down-arrow { image: url(:/icons/down.svg); width: 12px; height: 12px; }

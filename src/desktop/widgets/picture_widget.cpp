@@ -3,9 +3,11 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <functional>
+#include <string>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/pictures.h"
 
 namespace tarnwell::desktop {
@@ -14,9 +16,23 @@ namespace {
 // Paints a drawing or a photograph as large as its place allows, in its own proportions.
 class PictureWidget : public QWidget {
  public:
-  explicit PictureWidget(const QByteArray& content) {
-    if (!drawing_.load(content)) photograph_.loadFromData(content);
+  explicit PictureWidget(const PictureStore& pictures) : pictures_(pictures) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+  }
+
+  void ShowFile(const std::string& file) {
+    if (file == file_) return;
+    file_ = file;
+    const QByteArray content = pictures_.Read(file);
+    photograph_ = {};
+    if (!drawing_.load(content)) photograph_.loadFromData(content);
+    updateGeometry();
+    update();
+  }
+
+  void SetMarked(bool marked) {
+    marked_ = marked;
+    update();
   }
 
   std::function<void()> on_click;
@@ -36,6 +52,9 @@ class PictureWidget : public QWidget {
     } else {
       painter.drawImage(place, photograph_);
     }
+    if (!marked_) return;
+    painter.setPen(QPen(kAccent, kFrameWidth));
+    painter.drawRect(QRectF(place).adjusted(1, 1, -1, -1));
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
@@ -46,6 +65,11 @@ class PictureWidget : public QWidget {
  private:
   QSize OwnSize() const { return drawing_.isValid() ? drawing_.defaultSize() : photograph_.size(); }
 
+  static constexpr double kFrameWidth = 3;
+
+  const PictureStore& pictures_;
+  std::string file_;
+  bool marked_ = false;
   QSvgRenderer drawing_;
   QImage photograph_;
 };
@@ -53,8 +77,11 @@ class PictureWidget : public QWidget {
 }  // namespace
 
 QWidget* Widget(forms::Picture& picture, PictureStore& pictures) {
-  auto* widget = new PictureWidget(pictures.Read(picture.file()));
-  auto* binding = new Binding(widget, picture, {});
+  auto* widget = new PictureWidget(pictures);
+  auto* binding = new Binding(widget, picture, [widget, &picture] {
+    widget->ShowFile(picture.file());
+    widget->SetMarked(picture.marked());
+  });
   if (picture.on_click) {
     widget->setCursor(Qt::PointingHandCursor);
     widget->on_click = binding->Forward([&picture] { picture.Click(); });

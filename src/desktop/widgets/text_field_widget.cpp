@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -35,6 +36,16 @@ void ShowText(QLineEdit* edit, const forms::TextField& field) {
   if (!edit->hasFocus()) edit->setCursorPosition(0);
 }
 
+void ShowColor(QLineEdit* edit, const forms::TextField& field) {
+  const QPalette usual = QApplication::palette(edit);
+  QPalette palette = edit->palette();
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Text,
+                     field.color() ? ToQColor(*field.color()) : usual.color(QPalette::Text));
+  }
+  if (palette != edit->palette()) edit->setPalette(palette);
+}
+
 }  // namespace
 
 QWidget* Widget(forms::TextField& field) {
@@ -42,6 +53,7 @@ QWidget* Widget(forms::TextField& field) {
   edit->setMaxLength(static_cast<int>(field.max_length()));
   auto* binding = new Binding(edit, field, [edit, &field] {
     ShowText(edit, field);
+    ShowColor(edit, field);
     SetMark(edit, "marked", field.marked());
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,

@@ -1,0 +1,103 @@
+#include "desktop/services/page_output.h"
+
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "desktop/widgets/page_painter.h"
+#include "desktop/widgets/text.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+constexpr int kClipboardDpi = 150;
+
+int ToTwips(double points) { return static_cast<int>(std::lround(points * kTwipsPerPoint)); }
+
+void PaintSheet(QPainter& painter, PagePainter& pages, int page, double pixels_per_twip) {
+  painter.save();
+  painter.scale(pixels_per_twip, pixels_per_twip);
+  pages.Paint(painter, page);
+  painter.restore();
+}
+
+}  // namespace
+
+QPageLayout LayoutOf(const forms::PageSetup& setup) {
+  const QSizeF paper(setup.paper_width / kTwipsPerPoint, setup.paper_height / kTwipsPerPoint);
+  const QMarginsF margins(setup.margins.left / kTwipsPerPoint, setup.margins.top / kTwipsPerPoint,
+                          setup.margins.right / kTwipsPerPoint,
+                          setup.margins.bottom / kTwipsPerPoint);
+  return {QPageSize(paper, QPageSize::Point, QString(), QPageSize::FuzzyMatch),
+          setup.landscape ? QPageLayout::Landscape : QPageLayout::Portrait, margins,
+          QPageLayout::Point};
+}
+
+forms::PageSetup SetupOf(const QPageLayout& layout) {
+  const QSizeF paper = layout.pageSize().size(QPageSize::Point);
+  const QMarginsF margins = layout.margins(QPageLayout::Point);
+  forms::PageSetup setup;
+  setup.paper_width = ToTwips(paper.width());
+  setup.paper_height = ToTwips(paper.height());
+  setup.landscape = layout.orientation() == QPageLayout::Landscape;
+  setup.margins = {ToTwips(margins.left()), ToTwips(margins.top()), ToTwips(margins.right()),
+                   ToTwips(margins.bottom())};
+  return setup;
+}
+
+bool PaintPages(const forms::Document& document, const PictureStore& pictures,
+                QPagedPaintDevice& device, int first, int last) {
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  const double scale = std::min(static_cast<double>(device.width()) / document.setup.width(),
+                                static_cast<double>(device.height()) / document.setup.height());
+  PagePainter pages(document, pictures);
+  for (int page = first; page <= last; ++page) {
+    if (page > first && !device.newPage()) return false;
+    PaintSheet(painter, pages, page, scale);
+  }
+  return painter.end();
+}
+
+bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file) {
+  QPdfWriter writer(file);
+  writer.setCreator(QStringLiteral("Tarnwell"));
+  writer.setResolution(forms::kTwipsPerInch);
+  QPageLayout layout = LayoutOf(document.setup);
+  layout.setMode(QPageLayout::FullPageMode);
+  writer.setPageLayout(layout);
+  return PaintPages(document, pictures, writer, 0, static_cast<int>(document.pages.size()) - 1);
+}
+
+QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page) {
+  if (page < 0 || page >= static_cast<int>(document.pages.size())) return {};
+  const double scale = static_cast<double>(kClipboardDpi) / forms::kTwipsPerInch;
+  QImage image(static_cast<int>(document.setup.width() * scale),
+               static_cast<int>(document.setup.height() * scale), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  PagePainter pages(document, pictures);
+  PaintSheet(painter, pages, page, scale);
+  return image;
+}
+
+QString TextOf(const forms::Page& page) {
+  std::vector<const forms::PlacedText*> texts;
+  for (const forms::Mark& mark : page) {
+    if (const auto* text = std::get_if<forms::PlacedText>(&mark)) texts.push_back(text);
+  }
+  std::ranges::stable_sort(
+      texts, [](const auto* a, const auto* b) { return a->y != b->y ? a->y < b->y : a->x < b->x; });
+  QString all;
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    if (i > 0) all += texts[i]->y == texts[i - 1]->y ? QLatin1Char('\t') : QLatin1Char('\n');
+    all += FromCore(texts[i]->text);
+  }
+  return all;
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,33 @@
+// Pages on their way out of the program.
+
+#pragma once
+
+#include <QImage>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QString>
+
+#include "desktop/widgets/pictures.h"
+#include "forms/page.h"
+
+namespace tarnwell::desktop {
+
+// The same sheet in Qt's terms, and back.
+QPageLayout LayoutOf(const forms::PageSetup& setup);
+forms::PageSetup SetupOf(const QPageLayout& layout);
+
+// Paints the pages `first` to `last`, counted from 0, on a sheet each. A sheet of other paper than
+// the pages were made for gets them whole, as large as it allows. False when the device fails.
+bool PaintPages(const forms::Document& document, const PictureStore& pictures,
+                QPagedPaintDevice& device, int first, int last);
+
+// False when the file can't be written.
+bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file);
+
+// One page, counted from 0, as a picture on white; null where there is no such page.
+QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page);
+
+// The texts of a page in reading order: a line for each height, tabs between what stands on it.
+QString TextOf(const forms::Page& page);
+
+}  // namespace tarnwell::desktop

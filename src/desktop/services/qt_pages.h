@@ -1,0 +1,25 @@
+#pragma once
+
+#include "desktop/widgets/page_fonts.h"
+#include "desktop/widgets/pictures.h"
+#include "forms/pages.h"
+
+namespace tarnwell::desktop {
+
+// The system's printers and its PDF file, by Qt's dialogues. Needs `pictures` to stay.
+class QtPages : public forms::Pages {
+ public:
+  explicit QtPages(const PictureStore& pictures) : pictures_(pictures) {}
+
+  forms::TextMetrics& metrics() override { return metrics_; }
+  void Print(const forms::Document& document) override;
+  // As a picture and as text.
+  void CopyPage(const forms::Document& document, int page) override;
+  std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup& start) override;
+
+ private:
+  const PictureStore& pictures_;
+  PageMetrics metrics_;
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,64 @@
+#include "desktop/views/print_view.h"
+
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+void AppendAll(QWidget* column, forms::OptionGroup& group) {
+  for (int i = 0; i < group.size(); ++i) Append(column, Widget(group.option(i)));
+}
+
+QWidget* Settings(print::PrintPanel& panel) {
+  return Grid({{Widget(panel.headings[0]), Widget(panel.values[0])},
+               {Widget(panel.headings[1]), Widget(panel.values[1])},
+               {Widget(panel.headings[2]), Widget(panel.values[2])}},
+              1);
+}
+
+QWidget* Options(print::PrintPanel& panel, std::initializer_list<QWidget*> own_options) {
+  QWidget* range = Column({}, kTightSpace);
+  AppendAll(range, panel.range);
+  QWidget* display = Column({}, kTightSpace);
+  AppendAll(display, panel.guide_lines);
+  QWidget* options = Column({}, kTightSpace);
+  if (panel.as_of) Append(options, Widget(*panel.as_of));
+  if (panel.grid_lines) Append(options, Widget(*panel.grid_lines));
+  AppendAll(options, panel.line_styles);
+  for (QWidget* own : own_options) Append(options, own);
+  return Column({
+      Settings(panel),
+      Widget(panel.sample),
+      Widget(panel.range_frame, range),
+      Widget(panel.options_frame, options),
+      Widget(panel.display_frame, display),
+      Spring(),
+      Widget(panel.commands[0]),
+      Widget(panel.commands[1]),
+      Widget(panel.commands[3]),
+  });
+}
+
+}  // namespace
+
+QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
+                   std::initializer_list<QWidget*> own_options) {
+  QWidget* commands = Row({Widget(panel.zoom)});
+  if (panel.auto_size) Append(commands, Widget(*panel.auto_size));
+  Append(commands, Grow(Widget(panel.progress)));
+  Append(commands, Spring());
+  Append(commands, Primary(Widget(panel.commands[4])));
+  Append(commands, Widget(panel.commands[2]));
+  // All that stands beside the preview makes room for an enlarged one.
+  QWidget* beside = ShownWhile(
+      panel.preview, [&panel] { return panel.preview.zoom() != forms::Zoom::kEnlarged; },
+      Options(panel, own_options));
+  return Widget(panel.panel,
+                Column({
+                    Grow(Row({Grow(Widget(panel.preview, pictures)), beside}, kWideSpace)),
+                    commands,
+                }));
+}
+
+}  // namespace tarnwell::desktop

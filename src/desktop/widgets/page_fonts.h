@@ -1,0 +1,37 @@
+// The fonts of printed pages.
+
+#pragma once
+
+#include <QFont>
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "forms/pages.h"
+
+namespace tarnwell::desktop {
+
+// At its size in points, as a sample on the screen.
+QFont ScreenFont(const forms::Font& font);
+
+// For a painter whose unit is a twip. Letters stand side by side without kerning or hinting, so
+// that a text is as wide as the sum of its letters, on any device and at any scale.
+QFont PageFont(const forms::Font& font);
+
+// Measures page fonts in twips, so pages break at the same places whatever the screen or printer.
+class PageMetrics : public forms::TextMetrics {
+ public:
+  int Width(const forms::Font& font, std::string_view text) override;
+  int LineHeight(const forms::Font& font) override;
+
+ private:
+  struct Measures {
+    std::array<double, 256> advances{};  // by the character in code page 1252
+    int line_height = 0;
+  };
+  const Measures& MeasuresOf(const forms::Font& font);
+
+  std::vector<std::pair<forms::Font, Measures>> known_;  // the last one used is first
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,104 @@
+// Printed pages as plain data: what stands where. Positions and sizes are in twips, 1440 an inch,
+// from the left top corner of the sheet.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "forms/color.h"
+
+namespace tarnwell::forms {
+
+inline constexpr int kTwipsPerInch = 1440;
+
+struct Font {
+  std::string name = "Times New Roman";
+  double size = 10;  // points
+  bool bold = false;
+  bool italic = false;
+  bool underline = false;
+  bool strike = false;
+  Color color = kBlack;
+
+  friend bool operator==(const Font&, const Font&) = default;
+};
+
+struct Margins {
+  int left = 100;
+  int top = 100;
+  int right = 100;
+  int bottom = 100;
+
+  friend bool operator==(const Margins&, const Margins&) = default;
+};
+
+// The sheet of paper. Letter, upright, unless the page-setup dialogue says otherwise.
+struct PageSetup {
+  int paper_width = 12240;   // of the sheet held upright
+  int paper_height = 15840;  // likewise
+  bool landscape = false;
+  Margins margins;
+
+  int width() const { return landscape ? paper_height : paper_width; }
+  int height() const { return landscape ? paper_width : paper_height; }
+
+  friend bool operator==(const PageSetup&, const PageSetup&) = default;
+};
+
+// One line of text; (x, y) is its left top corner.
+struct PlacedText {
+  int x = 0;
+  int y = 0;
+  int font = 0;  // place in Document::fonts
+  std::string text;
+
+  friend bool operator==(const PlacedText&, const PlacedText&) = default;
+};
+
+struct PlacedLine {
+  int x1 = 0;
+  int y1 = 0;
+  int x2 = 0;
+  int y2 = 0;
+  Color color = kBlack;
+
+  friend bool operator==(const PlacedLine&, const PlacedLine&) = default;
+};
+
+struct PlacedBox {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  std::optional<Color> edge = kBlack;
+  std::optional<Color> fill;
+
+  friend bool operator==(const PlacedBox&, const PlacedBox&) = default;
+};
+
+// A picture file, as large as its own proportions allow, in the middle of the box. One that can't
+// be read leaves the box empty.
+struct PlacedPicture {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  std::string file;
+
+  friend bool operator==(const PlacedPicture&, const PlacedPicture&) = default;
+};
+
+// What is listed later lies above what is listed before.
+using Mark = std::variant<PlacedText, PlacedLine, PlacedBox, PlacedPicture>;
+using Page = std::vector<Mark>;
+
+struct Document {
+  PageSetup setup;
+  std::vector<Font> fonts;
+  std::vector<Page> pages;
+};
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "forms/page.h"
+
+namespace tarnwell::forms {
+
+// How much room text takes, in twips.
+class TextMetrics {
+ public:
+  virtual ~TextMetrics() = default;
+  virtual int Width(const Font& font, std::string_view text) = 0;
+  // From the top of one line to the top of the next.
+  virtual int LineHeight(const Font& font) = 0;
+};
+
+// The printer of the system.
+class Pages {
+ public:
+  virtual ~Pages() = default;
+  virtual TextMetrics& metrics() = 0;
+  // All pages. Without a printer it does nothing.
+  virtual void Print(const Document& document) = 0;
+  // One page, counted from 0, onto the clipboard.
+  virtual void CopyPage(const Document& document, int page) = 0;
+  // The page-setup dialogue; empty when it was cancelled.
+  virtual std::optional<PageSetup> ChooseSetup(const PageSetup& start) = 0;
+};
+
+}  // namespace tarnwell::forms

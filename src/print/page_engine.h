@@ -1,0 +1,84 @@
+// Lays out pages: text at a position or line by line, down a column, from column to column and from
+// page to page.
+
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/pages.h"
+
+namespace tarnwell::print {
+
+enum class Align { kLeft, kRight, kCenter };
+
+// Positions are twips from the left top corner of the sheet. Between Start and End there is always
+// a page in hand.
+class PageEngine {
+ public:
+  explicit PageEngine(forms::TextMetrics& metrics) : metrics_(metrics) {}
+
+  // Drops the earlier document, and begins the first page in one column.
+  void Start(const forms::PageSetup& setup, const forms::Font& font);
+  // Drops the document and stays without pages.
+  void Clear() { document_ = {}; }
+  const forms::Document& document() const { return document_; }
+  int page_count() const { return static_cast<int>(document_.pages.size()); }
+
+  // Runs at the head of each page, the first one too. The font is put back behind it; the columns
+  // begin where it leaves the position. Nothing in it begins another page.
+  std::function<void()> on_new_page;
+
+  const forms::Font& font() const { return font_; }
+  void SetFont(const forms::Font& font);
+  int TextWidth(std::string_view text) { return metrics_.Width(font_, text); }
+  int LineHeight() { return metrics_.LineHeight(font_); }
+  forms::TextMetrics& metrics() { return metrics_; }
+
+  int page_width() const { return document_.setup.width(); }
+  int page_height() const { return document_.setup.height(); }
+  int top() const { return document_.setup.margins.top; }
+  int bottom() const { return page_height() - document_.setup.margins.bottom; }
+  // The edges of the column in hand; a page's head has one column.
+  int left() const;
+  int right() const { return left() + ColumnWidth(); }
+  int ColumnWidth() const;
+
+  // Where the next line goes.
+  int y() const { return y_; }
+  void MoveTo(int y) { y_ = y; }
+  void Skip(int height) { y_ += height; }
+  bool HasRoom(int height) const { return y_ + height <= bottom(); }
+
+  // Columns from the present position on, and from the head of later pages.
+  void SetColumns(int count, int gap);
+  int columns() const { return columns_; }
+  // The next column, or the first one of a new page.
+  void NextColumn();
+  void NewPage();
+
+  // Anywhere on the page in hand: x is the text's left edge, right edge or middle.
+  void TextAt(int x, int y, std::string_view text, Align align = Align::kLeft);
+  // One line in the column in hand, after a break where there is no room.
+  void Line(std::string_view text, Align align = Align::kLeft);
+  // As many lines as it takes.
+  void Paragraph(std::string_view text, Align align = Align::kLeft);
+  void Add(forms::Mark mark);
+
+ private:
+  int FontIndex();
+
+  forms::TextMetrics& metrics_;
+  forms::Document document_;
+  forms::Font font_;
+  int font_index_ = -1;
+  int y_ = 0;
+  int columns_ = 1;
+  int gap_ = 0;
+  int column_ = 0;
+  int column_top_ = 0;
+  bool in_head_ = false;
+};
+
+}  // namespace tarnwell::print

@@ -1,0 +1,203 @@
+#include "print/print_panel.h"
+
+#include <chrono>
+
+#include "forms/message.h"
+#include "print/report.h"
+#include "text/number_mask.h"
+
+namespace tarnwell::print {
+namespace {
+
+enum CommandIndex : std::size_t { kFont, kSetup, kClose, kCopy, kPrint };
+enum ValueIndex : std::size_t { kFontName, kFontSize, kOrientation };
+
+constexpr std::chrono::seconds kPatience{1};
+
+std::chrono::sys_seconds PointOf(const text::Moment& moment) {
+  return std::chrono::sys_days{moment.date} + moment.time_of_day;
+}
+
+}  // namespace
+
+PrintPanel::PrintPanel(forms::Container& parent, forms::Context& context,
+                       const PrintPanelStyle& style)
+    : panel(parent, "SSPanel80"), context_(context), engine_(context.pages.metrics()) {
+  panel.SetVisible(false);
+  progress.SetVisible(false);
+  BuildControls(style);
+  engine_.on_new_page = [this] { HeadPage(); };
+  commands[kFont].on_click = [this] { ChooseFont(); };
+  commands[kSetup].on_click = [this] { ChooseSetup(); };
+  commands[kClose].on_click = [this] { Close(); };
+  commands[kCopy].on_click = [this] { CopyPage(); };
+  commands[kPrint].on_click = [this] { context_.pages.Print(engine_.document()); };
+  zoom.on_click = [this] { ToggleZoom(); };
+  guide_lines.on_pick = [this](int option) { ChooseGuideLines(option); };
+  line_styles.on_pick = [this](int) { Rebuild(); };
+}
+
+void PrintPanel::BuildControls(const PrintPanelStyle& style) {
+  const std::string_view captions[] = {"Printer &Font", "&Page Setup", style.close_caption,
+                                       "C&opy Current Page", style.print_caption};
+  for (std::size_t i = 0; i < commands.size(); ++i) commands[i].SetCaption(captions[i]);
+  commands[kClose].SetCancel(true);
+  headings[kFontName].SetCaption("Printer Font:");
+  headings[kFontSize].SetCaption("Font Size:");
+  headings[kOrientation].SetCaption("Orientation:");
+  if (style.auto_size) {
+    auto_size.emplace(panel, "SSCommand2", "Auto Size");
+    auto_size->on_click = [this] {
+      preview.SetZoom(forms::Zoom::kWholePage);
+      zoom.SetCaption("Enlarge");
+    };
+  }
+  range_frame.SetVisible(!style.range_caption.empty());
+  if (!style.range_caption.empty()) {
+    range.Add(range_frame, "SSOption81(0)", style.range_caption);
+    range.Choose(0);
+  }
+  if (!style.as_of_caption.empty()) {
+    as_of.emplace(options_frame, "SSCheck81(0)", style.as_of_caption);
+    as_of->on_change = [this] { TakeChecks(); };
+  }
+  if (!style.grid_lines_caption.empty()) {
+    grid_lines.emplace(options_frame, style.grid_lines_name, style.grid_lines_caption);
+    grid_lines->on_change = [this] { TakeChecks(); };
+  }
+  if (!style.line_styles) return;
+  line_styles.Add(options_frame, "SSOption83(0)", "Print All Gridlines");
+  line_styles.Add(options_frame, "SSOption83(1)", "No Horizontal lines after Items");
+  line_styles.Add(options_frame, "SSOption83(2)", "No Gridlines");
+  line_styles.Choose(0);
+}
+
+void PrintPanel::Open(PrintJob job) {
+  job_ = std::move(job);
+  setup_.landscape = false;
+  setup_.margins = job_.margins;
+  TakeStoredFont();
+  ShowSettings();
+  panel.SetVisible(true);
+  Rebuild();
+}
+
+void PrintPanel::Close() {
+  if (!is_open()) return;
+  panel.SetVisible(false);
+  preview.SetDocument(nullptr);
+  engine_.Clear();
+  if (on_close) on_close();
+}
+
+void PrintPanel::TakeStoredFont() {
+  if (!job_.font) return;
+  const auto stored = settings::ReadPrinterFont(context_.folder, *job_.font);
+  if (stored.name.empty() || stored.size < 1 || stored.size > 1000) return;
+  context_.variables.PrintFontName = stored.name;
+  context_.variables.PrintFontSize = stored.size;
+}
+
+void PrintPanel::ShowSettings() {
+  ShowFont();
+  values[kOrientation].SetCaption(setup_.landscape ? " Landscape" : " Portrait");
+  const int option = settings::ReadGuideLines(context_.folder, job_.guide_lines);
+  guide_lines.Choose(option);
+  preview.SetGuideLines(option == 1);
+  preview.SetZoom(forms::Zoom::kNormal);
+  zoom.SetCaption("Enlarge");
+  if (as_of) as_of->SetChecked(context_.variables.NoAsOfDate != 1);
+  if (grid_lines) grid_lines->SetChecked(context_.variables.GridLinesOnPrint == 1);
+}
+
+void PrintPanel::ShowFont() {
+  const forms::Font font = context_.variables.PrintFont();
+  const bool whole = font.size == static_cast<int>(font.size);
+  values[kFontName].SetCaption(font.name + " ");
+  values[kFontSize].SetCaption(" " + text::FormatNumber(font.size, whole ? "0" : "0.0"));
+  sample.SetFont(font);
+}
+
+void PrintPanel::Rebuild() {
+  if (!is_open()) return;
+  const forms::Hourglass hourglass(context_.window);
+  preview.SetDocument(nullptr);
+  started_ = context_.clock.Now();
+  engine_.Start(setup_, context_.variables.PrintFont());
+  if (job_.printed_line) PrintedLine(engine_, context_.clock.Today());
+  if (job_.build) job_.build(engine_);
+  if (busy_) {
+    busy_.reset();
+    progress.SetVisible(false);
+    panel.SetEnabled(true);
+  }
+  preview.SetDocument(&engine_.document());
+}
+
+void PrintPanel::HeadPage() {
+  if (job_.as_of_line) AsOfLine(engine_, context_.variables, context_.clock.Today());
+  if (job_.page_head) job_.page_head(engine_);
+}
+
+void PrintPanel::ReportProgress(int done, int total) {
+  if (!busy_) {
+    if (PointOf(context_.clock.Now()) - PointOf(started_) <= kPatience) return;
+    busy_.emplace(panel.form());
+    panel.SetEnabled(false);
+    progress.Start(total);
+    progress.SetVisible(true);
+  }
+  progress.SetValue(done);
+  context_.loop.Yield();
+}
+
+void PrintPanel::ChooseFont() {
+  const auto font = context_.dialogs.ChooseFont(context_.variables.PrintFont());
+  if (!font) return;
+  context_.variables.SetPrintFont(*font);
+  if (job_.font) {
+    settings::WritePrinterFont(context_.folder, *job_.font, {font->name, font->size});
+  }
+  ShowFont();
+  Rebuild();
+}
+
+void PrintPanel::ChooseSetup() {
+  const auto setup = context_.pages.ChooseSetup(setup_);
+  if (!setup) return;
+  setup_ = *setup;
+  values[kOrientation].SetCaption(setup_.landscape ? " Landscape" : " Portrait");
+  Rebuild();
+}
+
+void PrintPanel::CopyPage() {
+  context_.pages.CopyPage(engine_.document(), preview.page());
+  forms::ShowMessage(context_,
+                     {"Copy Option", "Current Page has been copied to the Windows Clipboard.",
+                      forms::Icon::kInformation});
+  preview.Focus();
+}
+
+void PrintPanel::ToggleZoom() {
+  const bool enlarge = preview.zoom() != forms::Zoom::kEnlarged;
+  preview.SetZoom(enlarge ? forms::Zoom::kEnlarged : forms::Zoom::kNormal);
+  zoom.SetCaption(enlarge ? "Normal" : "Enlarge");
+}
+
+void PrintPanel::ChooseGuideLines(int option) {
+  preview.SetGuideLines(option == 1);
+  settings::WriteGuideLines(context_.folder, job_.guide_lines, option);
+}
+
+void PrintPanel::TakeChecks() {
+  if (as_of) context_.variables.NoAsOfDate = as_of->checked() ? 0 : 1;
+  if (grid_lines) context_.variables.GridLinesOnPrint = grid_lines->checked() ? 1 : 0;
+  Rebuild();
+}
+
+void ReportNothingToPrint(forms::Context& context) {
+  forms::ShowMessage(
+      context, {"Print", "There are currently No Entries to Print!", forms::Icon::kInformation});
+}
+
+}  // namespace tarnwell::print

@@ -1,0 +1,108 @@
+// The panel "Print Options" that every screen prints with.
+
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "forms/choice.h"
+#include "forms/command.h"
+#include "forms/context.h"
+#include "forms/control_array.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/page_preview.h"
+#include "forms/panel.h"
+#include "forms/progress_bar.h"
+#include "print/page_engine.h"
+#include "settings/print_settings.h"
+
+namespace tarnwell::print {
+
+// What a screen's panel looks like. A control with an empty caption isn't there.
+struct PrintPanelStyle {
+  std::string_view close_caption = "&Close Print Options";
+  std::string_view print_caption = "&Print";
+  std::string_view as_of_caption = "Print 'As of' date/each page";
+  std::string_view grid_lines_name = "SSCheck81(1)";
+  std::string_view grid_lines_caption = {};
+  std::string_view range_caption = {};
+  bool auto_size = true;
+  bool line_styles = false;  // the three choices of grid lines in reports
+};
+
+// What is printed.
+struct PrintJob {
+  std::function<void(PageEngine&)> build;      // the content
+  std::function<void(PageEngine&)> page_head;  // at the head of each page; may be empty
+  bool printed_line = true;                    // "Printed:  " and the date on the first page
+  bool as_of_line = false;                     // on each page, above its head
+  settings::GuideLines guide_lines = settings::GuideLines::kMainScreens;
+  std::optional<settings::PrinterFont> font;  // where the screen keeps a printer font
+  forms::Margins margins;
+};
+
+class PrintPanel {
+ public:
+  PrintPanel(forms::Container& parent, forms::Context& context, const PrintPanelStyle& style = {});
+
+  forms::Panel panel;
+  forms::PagePreview preview{panel, "VSP1", "Print preview"};
+  forms::ProgressBar progress{panel, "ProgressBar80", "Preparing the pages"};
+  forms::ControlArray<forms::Command, 5> commands{panel, "SSCommand80", std::string_view()};
+  forms::Command zoom{panel, "SSCommand1", "Enlarge"};
+  std::optional<forms::Command> auto_size;
+  forms::ControlArray<forms::Label, 3> headings{panel, "Label80"};
+  forms::ControlArray<forms::Label, 3> values{panel, "Panel3D80"};
+  forms::Label sample{panel, "Panel3D82", "AaBbYyZz"};
+  forms::Panel range_frame{panel, "SSFrame80(0)", "Print Range"};
+  forms::OptionGroup range;
+  forms::Panel display_frame{panel, "SSFrame80(1)", "Display Options"};
+  forms::OptionGroup guide_lines{
+      display_frame, "SSOption82", {"Do Not Display Guide Lines", "Display Guide Lines"}};
+  // A screen's own options go here too.
+  forms::Panel options_frame{panel, "SSFrame80(2)", "Print Options"};
+  std::optional<forms::CheckBox> as_of;
+  std::optional<forms::CheckBox> grid_lines;
+  forms::OptionGroup line_styles;
+
+  // Shows the panel with a preview of the job, upright.
+  void Open(PrintJob job);
+  bool is_open() const { return panel.visible(); }
+  // Hides it, without a question.
+  void Close();
+  // The job prints something else from now on: builds the preview anew. Nothing while closed.
+  void Rebuild();
+
+  // For long jobs, while they build: shows how far they are once that takes over a second, and lets
+  // the screen be painted. Nothing else works until the job is done.
+  void ReportProgress(int done, int total);
+
+  std::function<void()> on_close;
+
+ private:
+  void BuildControls(const PrintPanelStyle& style);
+  void ShowSettings();
+  void ShowFont();
+  void TakeStoredFont();
+  void ChooseFont();
+  void ChooseSetup();
+  void CopyPage();
+  void ToggleZoom();
+  void ChooseGuideLines(int option);
+  void TakeChecks();
+  void HeadPage();
+
+  forms::Context& context_;
+  PageEngine engine_;
+  PrintJob job_;
+  forms::PageSetup setup_;
+  text::Moment started_;
+  std::optional<forms::Form::BusyScope> busy_;
+};
+
+// The box that takes the panel's place when there is nothing to print.
+void ReportNothingToPrint(forms::Context& context);
+
+}  // namespace tarnwell::print

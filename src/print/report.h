@@ -1,0 +1,31 @@
+// The lines that reports have in common.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/program_variables.h"
+#include "print/page_engine.h"
+#include "text/date.h"
+
+namespace tarnwell::print {
+
+// Behind the company's name and a blank, where there is one.
+std::string CompanyTitle(const forms::ProgramVariables& variables, std::string_view title);
+
+// "Printed:  " and the date at the right edge of the page's head, in black; the position is then
+// 250 twips below the top margin.
+void PrintedLine(PageEngine& engine, text::Date today);
+
+// "As of  " and the date, in the order of `variables`.
+std::string AsOf(const forms::ProgramVariables& variables, text::Date today);
+
+// That text in the middle of the page's head, two points smaller, unless NoAsOfDate; the position
+// is then below it.
+void AsOfLine(PageEngine& engine, const forms::ProgramVariables& variables, text::Date today);
+
+// One line in the middle of the column, `larger` points above the font.
+void TitleLine(PageEngine& engine, std::string_view title, double larger);
+
+}  // namespace tarnwell::print

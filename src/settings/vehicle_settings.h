@@ -1,0 +1,17 @@
+#pragma once
+
+#include "storage/program_folder.h"
+
+namespace tarnwell::settings {
+
+// The unit of all vehicles' distances, as it is stored.
+enum class DistanceUnit { kMiles = 0, kKilometers = 1 };
+
+DistanceUnit ReadDistanceUnit(storage::ProgramFolder& folder);
+void WriteDistanceUnit(storage::ProgramFolder& folder, DistanceUnit unit);
+
+// The date checker refuses dates in the future. It is on unless it was switched off.
+bool ReadDateCheckerOn(storage::ProgramFolder& folder);
+void WriteDateCheckerOn(storage::ProgramFolder& folder, bool on);
+
+}  // namespace tarnwell::settings

@@ -1,0 +1,177 @@
+#include "print/print_panel.h"
+
+#include <gmock/gmock.h>
+
+#include "storage/record_file.h"
+#include "support/form_rig.h"
+
+namespace tarnwell::print {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::TextsOf;
+
+class PrintPanelTest : public ::testing::Test {
+ protected:
+  PrintJob Job() {
+    PrintJob job;
+    job.build = [this](PageEngine& engine) {
+      ++builds;
+      engine.Line("content");
+      if (second_page) engine.NewPage();
+      if (second_page) engine.Line("more");
+    };
+    job.font = settings::PrinterFont::kVehicles;
+    job.guide_lines = settings::GuideLines::kVehicles;
+    return job;
+  }
+  storage::RecordFile GColor3() { return storage::RecordFile(rig.folder, "GColor3.Fil", 20); }
+  std::vector<std::string> Shown() {
+    return TextsOf(
+        print.preview.document()->pages.at(static_cast<std::size_t>(print.preview.page())));
+  }
+
+  testing::FormRig rig;
+  PrintPanel print{rig.form, rig.context,
+                   PrintPanelStyle{.grid_lines_caption = "Print Grid Lines",
+                                   .range_caption = "Based on Options Selected",
+                                   .line_styles = true}};
+  int builds = 0;
+  bool second_page = false;
+};
+
+TEST_F(PrintPanelTest, OpensUprightWithAPreviewAndStoresNothing) {
+  EXPECT_FALSE(print.panel.visible());
+  settings::WriteGuideLines(rig.folder, settings::GuideLines::kVehicles, 1);
+  const std::string before = rig.temporary.Read("GColor3.Fil");
+  print.Open(Job());
+  EXPECT_EQ(builds, 1);
+  EXPECT_EQ(rig.temporary.Read("GColor3.Fil"), before);
+  EXPECT_TRUE(print.preview.guide_lines());
+  EXPECT_EQ(print.guide_lines.chosen(), 1);
+  EXPECT_EQ(print.values[0].caption(), "Times New Roman ");
+  EXPECT_EQ(print.values[1].caption(), " 10");
+  EXPECT_EQ(print.values[2].caption(), " Portrait");
+  EXPECT_TRUE(print.as_of->checked());
+  EXPECT_FALSE(print.grid_lines->checked());
+  EXPECT_THAT(Shown(), ElementsAre("Printed:  March 9, 2026", "content"));
+  EXPECT_EQ(rig.window.hourglasses, 0);
+  print.commands[2].Click();
+  EXPECT_FALSE(print.panel.visible());
+  EXPECT_EQ(print.preview.document(), nullptr);
+}
+
+TEST_F(PrintPanelTest, AChosenFontIsShownPrintedAndKept) {
+  print.Open(Job());
+  rig.dialogs.ExpectFont(std::nullopt);
+  print.commands[0].Click();
+  EXPECT_EQ(builds, 1);
+  const forms::Font font{"Arial", 12.5, true};
+  rig.dialogs.ExpectFont(font);
+  print.commands[0].Click();
+  EXPECT_EQ(rig.dialogs.last_start_font, forms::Font{});
+  EXPECT_EQ(builds, 2);
+  EXPECT_EQ(print.values[0].caption(), "Arial ");
+  EXPECT_EQ(print.values[1].caption(), " 12.5");
+  EXPECT_EQ(print.sample.font(), font);
+  EXPECT_EQ(print.preview.document()->fonts.back(), font);
+
+  rig.variables.SetPrintFont({});  // another run
+  print.Open(Job());
+  EXPECT_EQ(rig.variables.PrintFontName, "Arial");
+  EXPECT_EQ(rig.variables.PrintFontSize, 12.5);
+}
+
+TEST_F(PrintPanelTest, PageSetupTurnsThePageAndSetsItsMargins) {
+  print.Open(Job());
+  print.commands[1].Click();  // cancelled
+  EXPECT_EQ(builds, 1);
+  rig.pages.setup = forms::PageSetup{12000, 16000, true, {500, 600, 700, 800}};
+  print.commands[1].Click();
+  EXPECT_EQ(rig.pages.last_setup, forms::PageSetup{});
+  EXPECT_EQ(print.values[2].caption(), " Landscape");
+  EXPECT_EQ(print.preview.document()->setup.width(), 16000);
+  print.Open(Job());
+  EXPECT_EQ(print.preview.document()->setup, (forms::PageSetup{12000, 16000, false, {}}));
+}
+
+TEST_F(PrintPanelTest, ThePageOnShowIsCopiedAndAllPagesArePrinted) {
+  second_page = true;
+  print.Open(Job());
+  print.preview.TurnTo(7);
+  EXPECT_EQ(print.preview.page(), 1);
+  rig.dialogs.Expect("Copy Option", "Current Page has been copied to the Windows Clipboard.");
+  print.commands[3].Click();
+  EXPECT_THAT(TextsOf(rig.pages.copied), ElementsAre("more"));
+  print.commands[4].Click();
+  ASSERT_EQ(rig.pages.printed.size(), 1u);
+  EXPECT_EQ(rig.pages.printed[0].pages.size(), 2u);
+}
+
+TEST_F(PrintPanelTest, GuideLinesAreStoredWhenAPersonChoosesThem) {
+  print.Open(Job());
+  print.guide_lines.Pick(1);
+  EXPECT_EQ(GColor3().GetText(14), "1");
+  EXPECT_TRUE(print.preview.guide_lines());
+  print.guide_lines.Pick(0);
+  EXPECT_EQ(GColor3().GetText(14), "0");
+  EXPECT_EQ(builds, 1);
+}
+
+TEST_F(PrintPanelTest, ChecksHoldForTheRunAndChangeThePreview) {
+  auto job = Job();
+  job.printed_line = false;
+  job.as_of_line = true;
+  print.Open(job);
+  EXPECT_THAT(Shown(), ElementsAre("As of  March 09, 2026", "content"));
+  print.as_of->Check(false);
+  EXPECT_EQ(rig.variables.NoAsOfDate, 1);
+  EXPECT_THAT(Shown(), ElementsAre("content"));
+  print.grid_lines->Check(true);
+  EXPECT_EQ(rig.variables.GridLinesOnPrint, 1);
+  EXPECT_EQ(builds, 3);
+}
+
+TEST_F(PrintPanelTest, ThePreviewIsEnlargedAndBroughtBack) {
+  print.Open(Job());
+  print.zoom.Click();
+  EXPECT_EQ(print.preview.zoom(), forms::Zoom::kEnlarged);
+  EXPECT_EQ(print.zoom.caption(), "Normal");
+  print.auto_size->Click();
+  EXPECT_EQ(print.preview.zoom(), forms::Zoom::kWholePage);
+  EXPECT_EQ(print.zoom.caption(), "Enlarge");
+  print.zoom.Click();
+  print.zoom.Click();
+  EXPECT_EQ(print.preview.zoom(), forms::Zoom::kNormal);
+}
+
+TEST_F(PrintPanelTest, OnlyALongJobShowsHowFarItIs) {
+  auto job = Job();
+  bool slow = false;
+  int steps_seen = 0;
+  job.build = [&](PageEngine&) {
+    for (int i = 1; i <= 4; ++i) {
+      if (slow) rig.clock.AddSeconds(1);
+      print.ReportProgress(i, 4);
+    }
+  };
+  rig.loop.on_yield = [&] {
+    ++steps_seen;
+    EXPECT_TRUE(print.progress.visible());
+    EXPECT_TRUE(rig.form.busy());
+    print.commands[2].Click();
+    EXPECT_TRUE(print.is_open());
+  };
+  print.Open(job);
+  EXPECT_EQ(steps_seen, 0);
+  slow = true;
+  print.Rebuild();
+  EXPECT_EQ(steps_seen, 3);
+  EXPECT_EQ(print.progress.value(), 4);
+  EXPECT_FALSE(print.progress.visible());
+  EXPECT_FALSE(rig.form.busy());
+  EXPECT_TRUE(print.commands[2].Reachable());
+}
+
+}  // namespace
+}  // namespace tarnwell::print
