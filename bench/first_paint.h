@@ -18,8 +18,8 @@ class FirstPaint : public QObject {
   FirstPaint() { qApp->installEventFilter(this); }
 
   bool eventFilter(QObject* object, QEvent* event) override {
-    const auto* widget = qobject_cast<QWidget*>(object);
-    if (event->type() == QEvent::Paint && widget && widget->isWindow() && !painted_) {
+    // Any widget's: what covers its window whole is painted in the window's stead.
+    if (event->type() == QEvent::Paint && qobject_cast<QWidget*>(object) && !painted_) {
       painted_ = true;
       // Behind the paint event, when the window's content is on its way to the screen.
       QTimer::singleShot(0, [] { Tell(); });
