@@ -7,6 +7,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kDigits = 3;
+constexpr int kLettersOfRun = 105;
 
 QWidget* NumberBox(forms::TextField& field) { return OfLetters(Widget(field), kDigits); }
 
@@ -44,7 +45,7 @@ QWidget* Rules(planner::RecurrenceChoice& choice) {
 
 QWidget* Range(planner::RecurrenceChoice& choice) {
   return Widget(choice.range,
-                Column({
+                Card(Column({
                     Row({Widget(choice.beginning_label), Widget(choice.beginning), Spring()}),
                     Row({Widget(choice.end_kind.option(0)), NumberBox(choice.occurrences),
                          Widget(choice.occurrences_label), Spring()}),
@@ -55,7 +56,7 @@ QWidget* Range(planner::RecurrenceChoice& choice) {
                     AtStart(Widget(choice.calendar)),
                     Wrapped(Widget(choice.note)),
                     Spring(),
-                }));
+                })));
 }
 
 }  // namespace
@@ -65,6 +66,7 @@ QWidget* RecurrenceView(planner::RecurrencePanel& panel) {
       Widget(panel.run_panel,
              Column({Wrapped(Widget(panel.warning)),
                      Row({Grow(Widget(panel.progress)), Widget(panel.stop)}, kWideSpace)}));
+  AtMost(run, kLettersOfRun);
   return Widget(
       panel.panel,
       Column({
