@@ -1,7 +1,12 @@
-# What every target of ours compiles with. Warnings are errors.
+# What every target of ours compiles with. Warnings are errors, but not where a user builds the program
+# to run it: another year's compiler warns of other things.
 add_library(tarnwell_flags INTERFACE)
 target_compile_options(tarnwell_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<NOT:$<CONFIG:Release>>:-Werror>)
+# Fully optimised, GCC 12 sees strings overlap where two are joined by operator+, the content of an
+# empty std::optional used, and pointers dangle behind std::erase. The debug builds look for all three.
+target_compile_options(tarnwell_flags INTERFACE
+  $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict;-Wno-maybe-uninitialized;-Wno-dangling-pointer>)
 target_include_directories(tarnwell_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # tarnwell_room(NAME [DEPENDS room...]): the static library of one folder of src/, from all its

@@ -2,19 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-
-#include "desktop/widgets/look.h"
+#include "desktop/application.h"
 
 int main(int argc, char* argv[]) {
   ::testing::InitGoogleTest(&argc, argv);
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+  // The plain "offscreen" has a screen that the program refuses as too small.
+  const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
+  if (platform.isEmpty() || platform == QLatin1String("offscreen")) {
     qputenv("QT_QPA_PLATFORM",
             "offscreen:configfile=" TARNWELL_TEST_DATA "/desktop/screen-1024x768.json");
   }
   QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Tarnwell"));
-  QApplication::setQuitOnLastWindowClosed(false);
-  tarnwell::desktop::ApplyLook(application);
+  tarnwell::desktop::Prepare(application);
   return RUN_ALL_TESTS();
 }

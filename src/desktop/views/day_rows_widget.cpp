@@ -21,7 +21,8 @@ DayRowsWidget::DayRowsWidget(planner::Zcalandar1& form)
   grid_->addWidget(Widget(form.entry_heading), 0, kEntry);
   for (int row = 0; row < planner::kRowsPerDay; ++row) {
     const auto index = static_cast<std::size_t>(row);
-    grid_->addWidget(OfLetters(Widget(form.times[index]), kLettersOfTime), row + 1, kTime);
+    times_.push_back(OfLetters(Widget(form.times[index]), kLettersOfTime));
+    grid_->addWidget(times_.back(), row + 1, kTime);
     grid_->addWidget(Widget(form.entries[index]), row + 1, kEntry);
     grid_->addWidget(IconOnly("repeat", Widget(form.recurrence_buttons[index])), row + 1,
                      kRecurrence);
@@ -41,6 +42,8 @@ void DayRowsWidget::PlaceTimePicker(int row) {
   row_of_picker_ = row;
   grid_->removeWidget(time_picker_);
   grid_->addWidget(time_picker_, row + 1, kPicker);
+  // Tab walks a row from left to right: time, picker, entry, recurrence.
+  setTabOrder(times_[static_cast<std::size_t>(row)], time_picker_);
 }
 
 }  // namespace tarnwell::desktop

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QWidget>
+#include <vector>
 
 #include "forms/notifier.h"
 #include "planner/zcalandar1.h"
@@ -18,6 +19,7 @@ class DayRowsWidget : public QWidget {
 
   QGridLayout* grid_;
   QWidget* time_picker_;
+  std::vector<QWidget*> times_;  // of the rows, from the top
   int row_of_picker_ = -1;
   forms::Subscription subscription_;
 };

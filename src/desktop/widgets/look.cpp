@@ -30,7 +30,9 @@ QPushButton[primary="true"] { background: #1F5FBF; color: #FFFFFF; border-color:
 QPushButton[primary="true"]:hover { background: #2A6DD0; }
 QPushButton[primary="true"]:pressed { background: #184C9A; }
 QPushButton[primary="true"]:focus { border: 2px solid #FFC83D; }
-QPushButton[primary="true"]:disabled { background: #C3CEDC; border-color: #C3CEDC; color: #5E6873; }
+QPushButton[primary="true"]:disabled {
+  background: #C3CEDC; border-color: #C3CEDC; color: #5E6873;
+}
 QPushButton[selected="true"] { background: #F4F5FF; color: #5555FF; border-color: #F4F5FF; }
 QPushButton[selected="true"]:focus { border: 2px solid #5555FF; }
 QLineEdit, QComboBox {
@@ -40,14 +42,18 @@ QLineEdit, QComboBox {
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
-QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; color: #7B858F; border-color: #D3D8DD; }
+QLineEdit:disabled, QComboBox:disabled {
+  background: #F1F2F4; color: #7B858F; border-color: #D3D8DD;
+}
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox::down-arrow { image: url(:/icons/down.svg); width: 12px; height: 12px; }
 QComboBox QAbstractItemView {
   background: #FFFFFF; color: #1C2530; selection-background-color: #1F5FBF;
   selection-color: #FFFFFF; border: 1px solid #AEB8C2;
 }
-QMenuBar { background: #FBFBFC; color: #1C2530; border-bottom: 1px solid #DDE1E6; padding: 1px 4px; }
+QMenuBar {
+  background: #FBFBFC; color: #1C2530; border-bottom: 1px solid #DDE1E6; padding: 1px 4px;
+}
 QMenuBar::item { padding: 4px 10px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: #E1EAF6; }
 QMenu { background: #FFFFFF; color: #1C2530; border: 1px solid #C3CAD2; padding: 4px; }

@@ -1,0 +1,37 @@
+// Any bytes as a document: what was read, written and read again is the same document, and the
+// bytes of an unchanged one are saved as they were.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "richtext/html.h"
+#include "richtext/keep_unshown.h"
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
+#include "richtext/rich_text_writer.h"
+
+namespace {
+
+using namespace tarnwell::richtext;
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const RichDocument document = ReadRichText(bytes);
+  const std::string rtf = WriteRichText(document);
+  const RichDocument again = ReadRichText(rtf);
+  Require(again == document);
+  Require(WriteRichText(again) == rtf);
+  Require(SaveRichText(document, bytes) == bytes);
+  Require(PlainText(again).size() <= 6 * size + 64);
+  Require(ToHtml(document) == ToHtml(again));
+  return 0;
+}

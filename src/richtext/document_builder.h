@@ -1,0 +1,72 @@
+// Puts what a reader finds, in its order, into paragraphs, cells and rows.
+
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "richtext/format_reader.h"
+#include "richtext/rich_document.h"
+#include "richtext/row_definition.h"
+
+namespace tarnwell::richtext {
+
+// Memory stays within a bound by the size of the source: past it texts run on without further
+// formats and paragraphs, and what isn't text is left out. No sound document comes near.
+class DocumentBuilder {
+ public:
+  DocumentBuilder(std::size_t source_size, std::vector<Block>& blocks);
+
+  void AddText(std::string_view utf8, const FormatState& state);
+  void AddPicture(Picture picture, const FormatState& state);
+  void AddOpaque(Opaque opaque, const FormatState& state);
+  // A group, or a word with the blank that ends it. Behind a section break it belongs to that.
+  void AddInPlace(std::string rtf, const FormatState& state);
+
+  // The text that stands before the paragraph being read, in a list.
+  void SetMarker(std::string marker) { marker_ = std::move(marker); }
+
+  void EndParagraph(const FormatState& state);
+  void EndSection(const FormatState& state);
+  void EndCell(const FormatState& state);
+  void EndRow();
+  // A text without a paragraph's end, cells without a row's end.
+  void Finish(const FormatState& state);
+
+  // Of the row whose cells are being read.
+  RowDefinition& row_definition() { return row_definition_; }
+  // The format of cells that hold nothing.
+  void SetBlank(CharacterFormat blank) { blank_ = std::move(blank); }
+
+  std::size_t run_count() const { return paragraph_.runs.size(); }
+  bool HasField(int field) const { return last_field_ >= field; }
+
+ private:
+  bool Spend(std::size_t size);
+  bool SpendParagraph(const FormatState& state);
+  void AddRun(Run run);
+  void PushRun(Run run);
+  void CloseParagraph(const FormatState& state);
+  void CloseCell(const FormatState& state);
+  void EndRowAsParagraphs();
+  // Cells that no end of a row followed become a row of their own.
+  void EndOpenRow();
+  Paragraph TakeParagraph(const FormatState& state);
+  // The section break that nothing has followed yet; null if there is none.
+  std::string* OpenSectionBreak();
+
+  std::vector<Block>& blocks_;
+  std::size_t room_;
+  Paragraph paragraph_;
+  std::string marker_;
+  std::vector<Paragraph> cell_;
+  std::vector<std::vector<Paragraph>> row_;
+  RowDefinition row_definition_;
+  CharacterFormat blank_;
+  int last_field_ = kNoField;
+};
+
+}  // namespace tarnwell::richtext

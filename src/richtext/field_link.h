@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "richtext/rich_document.h"
+
+namespace tarnwell::richtext {
+
+// The address that a run of this field links to, in UTF-8, if it is one of the web or of mail;
+// empty if it isn't, or for kNoField.
+std::string LinkOf(const RichDocument& document, int field);
+
+}  // namespace tarnwell::richtext

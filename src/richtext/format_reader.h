@@ -1,0 +1,58 @@
+// Control words to formats.
+
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "richtext/rich_document.h"
+#include "richtext/rtf_tokenizer.h"
+#include "richtext/rtf_words.h"
+
+namespace tarnwell::richtext {
+
+// What a group inherits from the group around it and gives back at its end.
+struct FormatState {
+  CharacterFormat character;
+  ParagraphFormat paragraph;
+  TabStop next_tab;  // what the words before a tab's position said
+  int text_code_page = 1252;
+  int unicode_skip = 1;  // bytes behind a \u that stand for it in older readers
+  int field = kNoField;
+  bool hidden = false;
+  bool in_table = false;
+};
+
+struct Style {
+  CharacterFormat character;
+  ParagraphFormat paragraph;
+};
+
+// The tables at the head of a document.
+struct FormatTables {
+  int code_page = 1252;
+  int default_font = 0;
+  std::vector<Font> fonts;
+  std::vector<std::optional<Color>> colors;
+  std::map<int, Style> styles;
+
+  // The font's name and its text's code page; for a number that isn't listed the default font, or
+  // no name.
+  void SetFont(int number, FormatState& state) const;
+  std::optional<Color> ColorAt(int index) const;
+};
+
+// What stands after \plain.
+void ResetCharacter(const FormatTables& tables, FormatState& state);
+
+// `word` is a kCharacter or kKeptCharacter or kUnknown, `source` as WordSource gives it.
+void ApplyCharacterWord(const KnownWord& word, const Token& token, std::string_view source,
+                        const FormatTables& tables, FormatState& state);
+
+// `word` is a kParagraph, other than kNesting, or a kKeptParagraph.
+void ApplyParagraphWord(const KnownWord& word, const Token& token, std::string_view source,
+                        const FormatTables& tables, FormatState& state);
+
+}  // namespace tarnwell::richtext

@@ -1,0 +1,161 @@
+#include "richtext/format_writer.h"
+
+#include <algorithm>
+#include <array>
+
+#include "richtext/code_pages.h"
+#include "richtext/rtf_words.h"
+#include "richtext/text_escape.h"
+
+namespace tarnwell::richtext {
+namespace {
+
+std::string Number(std::string_view word, int number) {
+  std::string out = "\\";
+  out += word;
+  return out += std::to_string(number);
+}
+
+std::string Switch(std::string_view word, bool on) {
+  std::string out = "\\";
+  out += word;
+  return on ? out : out += '0';
+}
+
+std::string ScriptWord(Script script) {
+  constexpr std::array<const char*, 3> kWords = {"\\nosupersub", "\\super", "\\sub"};
+  return kWords.at(static_cast<std::size_t>(script));
+}
+
+std::string Tab(const TabStop& tab) {
+  constexpr std::array<const char*, 4> kKinds = {"", "\\tqc", "\\tqr", "\\tqdec"};
+  constexpr std::array<const char*, 7> kLeaders = {"",       "\\tldot", "\\tlmdot", "\\tlhyph",
+                                                   "\\tlul", "\\tlth",  "\\tleq"};
+  std::string out;
+  const bool is_bar = tab.kind == TabStop::Kind::kBar;
+  if (!is_bar) out += kKinds.at(static_cast<std::size_t>(tab.kind));
+  out += kLeaders.at(static_cast<std::size_t>(tab.leader));
+  return out += Number(is_bar ? "tb" : "tx", tab.position);
+}
+
+}  // namespace
+
+WriterTables::WriterTables(const RichDocument& document)
+    : fonts_(document.fonts), colors_(document.colors) {
+  const auto font = std::find_if(fonts_.begin(), fonts_.end(), [&document](const Font& candidate) {
+    return candidate.number == document.default_font;
+  });
+  if (font != fonts_.end()) default_font_ = font->name;
+}
+
+int WriterTables::FontNumber(const std::string& name) {
+  int next = 0;
+  for (const Font& font : fonts_) {
+    if (font.name == name) return font.number;
+    next = std::max(next, font.number + 1);
+  }
+  fonts_.push_back({next, name, 0, "\\fnil"});
+  return next;
+}
+
+bool WriterTables::HoldsSymbols(const std::string& font) const {
+  const std::string& name = font.empty() ? default_font_ : font;
+  const auto own = std::find_if(fonts_.begin(), fonts_.end(),
+                                [&name](const Font& candidate) { return candidate.name == name; });
+  return own != fonts_.end() && own->charset == kSymbolCharset;
+}
+
+int WriterTables::ColorNumber(const std::optional<Color>& color) {
+  if (colors_.empty()) colors_.emplace_back();
+  const auto place = std::find(colors_.begin(), colors_.end(), color);
+  const auto number = static_cast<int>(place - colors_.begin());
+  if (place == colors_.end()) colors_.push_back(color);
+  return number;
+}
+
+bool WriterTables::HasOwnColor() const {
+  return colors_.empty() ||
+         std::find(colors_.begin(), colors_.end(), std::nullopt) != colors_.end();
+}
+
+std::string WriterTables::Rtf(int code_page) const {
+  std::string rtf;
+  if (!fonts_.empty()) rtf += "{\\fonttbl";
+  for (const Font& font : fonts_) {
+    rtf += "{" + Number("f", font.number) + font.other + Number("fcharset", font.charset) + ' ' +
+           EscapeName(font.name, code_page) + ";}";
+  }
+  if (!fonts_.empty()) rtf += "}\n";
+  if (!colors_.empty()) rtf += "{\\colortbl";
+  for (const std::optional<Color>& color : colors_) {
+    if (color) {
+      rtf +=
+          Number("red", color->red) + Number("green", color->green) + Number("blue", color->blue);
+    }
+    rtf += ';';
+  }
+  if (!colors_.empty()) rtf += "}\n";
+  return rtf;
+}
+
+CharacterFormat DefaultCharacter(const WriterTables& tables) {
+  CharacterFormat format;
+  format.font = tables.default_font();
+  return format;
+}
+
+std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
+                           WriterTables& tables) {
+  const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
+  if (from.other != to.other || (lacks_color && !tables.HasOwnColor())) {
+    CharacterFormat plain = DefaultCharacter(tables);
+    plain.other = to.other;
+    return "\\plain" + to.other + CharacterWords(plain, to, tables);
+  }
+  std::string out;
+  const auto shown = [&tables](const std::string& font) {
+    return font.empty() ? tables.default_font() : font;
+  };
+  const std::string font = shown(to.font);
+  if (font != shown(from.font)) out += Number("f", tables.FontNumber(font));
+  if (to.half_points != from.half_points) out += Number("fs", to.half_points);
+  if (to.bold != from.bold) out += Switch("b", to.bold);
+  if (to.italic != from.italic) out += Switch("i", to.italic);
+  if (to.strike != from.strike) out += Switch("strike", to.strike);
+  if (to.underline != from.underline) {
+    const std::string_view word = UnderlineWord(static_cast<int>(to.underline));
+    out += word.empty() ? "\\ulnone" : "\\" + std::string(word);
+  }
+  if (to.script != from.script) out += ScriptWord(to.script);
+  if (to.color != from.color) out += Number("cf", tables.ColorNumber(to.color));
+  if (to.highlight != from.highlight) {
+    const int number = tables.ColorNumber(to.highlight);
+    out += Number("highlight", number) + Number("chcbpat", number);
+  }
+  return out;
+}
+
+std::string ParagraphWords(const ParagraphFormat& format) {
+  constexpr std::array<const char*, 4> kAlignments = {"\\ql", "\\qc", "\\qr", "\\qj"};
+  const bool styled = format.style != 0;
+  std::string out;
+  const auto number = [&](std::string_view word, int value) {
+    if (styled || value != 0) out += Number(word, value);
+  };
+  if (styled) out += Number("s", format.style);
+  if (styled || format.alignment != Alignment::kLeft) {
+    out += kAlignments.at(static_cast<std::size_t>(format.alignment));
+  }
+  number("fi", format.first_line_indent);
+  number("li", format.left_indent);
+  number("ri", format.right_indent);
+  number("sb", format.space_before);
+  number("sa", format.space_after);
+  number("sl", format.line_spacing);
+  number("slmult", format.line_spacing_is_multiple ? 1 : 0);
+  if (styled || format.page_break_before) out += Switch("pagebb", format.page_break_before);
+  for (const TabStop& tab : format.tabs) out += Tab(tab);
+  return out += format.other;
+}
+
+}  // namespace tarnwell::richtext

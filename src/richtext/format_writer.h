@@ -1,0 +1,46 @@
+// Formats to control words.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "richtext/rich_document.h"
+
+namespace tarnwell::richtext {
+
+// The fonts and colours of the document that is being written: its own, with their numbers, and
+// behind them those that it lacks.
+class WriterTables {
+ public:
+  explicit WriterTables(const RichDocument& document);
+
+  int FontNumber(const std::string& name);
+  bool HoldsSymbols(const std::string& font) const;  // an empty name is the default font's
+  int ColorNumber(const std::optional<Color>& color);
+  bool HasOwnColor() const;  // an entry that stands for the view's own colour
+  const std::string& default_font() const { return default_font_; }
+
+  // Both groups, as far as they hold anything.
+  std::string Rtf(int code_page) const;
+
+ private:
+  std::vector<Font> fonts_;
+  std::vector<std::optional<Color>> colors_;
+  std::string default_font_;
+};
+
+// What stands after \plain.
+CharacterFormat DefaultCharacter(const WriterTables& tables);
+
+// The words that change one format to the other; empty if nothing changes.
+std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
+                           WriterTables& tables);
+
+// The words behind \pard, without those of a list. In a paragraph with a style they name every
+// property, so that a reader needn't know the style.
+std::string ParagraphWords(const ParagraphFormat& format);
+
+}  // namespace tarnwell::richtext

@@ -1,0 +1,81 @@
+#include "richtext/plain_text.h"
+
+#include <algorithm>
+
+namespace tarnwell::richtext {
+namespace {
+
+void Append(const std::vector<Paragraph>& paragraphs, std::string& text);
+
+void Append(const Paragraph& paragraph, std::string& text) {
+  for (const Run& run : paragraph.runs) {
+    if (const auto* const part = std::get_if<std::string>(&run.content)) text += *part;
+  }
+}
+
+void Append(const Table& table, std::string& text) {
+  for (const TableRow& row : table.rows) {
+    if (&row != &table.rows.front()) text += '\n';
+    for (const Cell& cell : row.cells) {
+      if (&cell != &row.cells.front()) text += '\t';
+      Append(cell.paragraphs, text);
+    }
+  }
+}
+
+void Append(const std::vector<Paragraph>& paragraphs, std::string& text) {
+  for (const Paragraph& paragraph : paragraphs) {
+    if (&paragraph != &paragraphs.front()) text += '\n';
+    Append(paragraph, text);
+  }
+}
+
+void AppendParagraph(std::string_view line, RichDocument& document) {
+  Paragraph paragraph;
+  std::string text;
+  std::copy_if(line.begin(), line.end(), std::back_inserter(text), [](char c) {
+    return static_cast<unsigned char>(c) >= ' ' || c == '\t' || c == '\f';
+  });
+  if (!text.empty()) paragraph.runs.push_back({{}, std::move(text), kNoField});
+  document.blocks.emplace_back(std::move(paragraph));
+}
+
+}  // namespace
+
+std::string PlainText(const RichDocument& document) {
+  std::string text;
+  for (const Block& block : document.blocks) {
+    if (&block != &document.blocks.front()) text += '\n';
+    std::visit([&text](const auto& part) { Append(part, text); }, block);
+  }
+  return text;
+}
+
+bool IsBlank(const RichDocument& document) {
+  constexpr std::string_view kNoBreakSpace = "\u00A0";
+  const std::string text = PlainText(document);
+  std::string_view rest = text;
+  while (!rest.empty()) {
+    if (rest.starts_with(kNoBreakSpace)) {
+      rest.remove_prefix(kNoBreakSpace.size());
+    } else if (std::string_view(" \t\n\f").find(rest.front()) != std::string_view::npos) {
+      rest.remove_prefix(1);
+    } else {
+      return false;
+    }
+  }
+  return true;
+}
+
+RichDocument FromPlainText(std::string_view utf8) {
+  RichDocument document;
+  while (!utf8.empty()) {
+    const std::size_t end = std::min(utf8.find_first_of("\r\n"), utf8.size());
+    AppendParagraph(utf8.substr(0, end), document);
+    const bool is_pair = utf8.substr(end).starts_with("\r\n");
+    utf8.remove_prefix(std::min(end + (is_pair ? 2 : 1), utf8.size()));
+  }
+  return document;
+}
+
+}  // namespace tarnwell::richtext

@@ -1,0 +1,143 @@
+#include "richtext/rtf_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "richtext/code_pages.h"
+#include "richtext/runs.h"
+#include "richtext/text_escape.h"
+
+namespace tarnwell::richtext {
+namespace {
+
+constexpr std::size_t kMostStates = 256;
+
+}  // namespace
+
+RtfReader::RtfReader(std::string_view rtf)
+    : tokenizer_(rtf), states_(1), builder_(rtf.size(), document_.blocks) {}
+
+RichDocument RtfReader::Read() && {
+  while (!ended_) {
+    const Token token = tokenizer_.Next();
+    if (token.kind == TokenKind::kEnd) break;
+    Take(token);
+  }
+  LeaveFields();
+  builder_.Finish(state());
+  document_.code_page = tables_.code_page;
+  document_.default_font = tables_.default_font;
+  document_.fonts = std::move(tables_.fonts);
+  document_.colors = std::move(tables_.colors);
+  SettleFields(document_);
+  return std::move(document_);
+}
+
+void RtfReader::Take(const Token& token) {
+  if (skip_ > 0 && SkipFallback(token)) return;
+  switch (token.kind) {
+    case TokenKind::kGroupStart:
+      return PushGroup();
+    case TokenKind::kGroupEnd:
+      return PopGroup();
+    case TokenKind::kWord:
+      return TakeWord(token);
+    case TokenKind::kSymbol:
+      return TakeSymbol(token);
+    case TokenKind::kByte: {
+      const char byte = static_cast<char>(token.number);
+      return TakeBytes(std::string_view(&byte, 1));
+    }
+    case TokenKind::kText:
+      return TakeBytes(token.text);
+    default:
+      return;
+  }
+}
+
+// A byte, however it is written, and a control word count as one; a group's bounds end the
+// fallback.
+bool RtfReader::SkipFallback(const Token& token) {
+  if (token.kind == TokenKind::kGroupStart || token.kind == TokenKind::kGroupEnd) {
+    skip_ = 0;
+    return false;
+  }
+  if (token.kind != TokenKind::kText) {
+    --skip_;
+    return true;
+  }
+  const std::size_t skipped = std::min(static_cast<std::size_t>(skip_), token.text.size());
+  skip_ -= static_cast<int>(skipped);
+  if (skipped < token.text.size()) TakeBytes(token.text.substr(skipped));
+  return true;
+}
+
+void RtfReader::TakeBytes(std::string_view bytes) {
+  text_.clear();
+  joiner_.Flush(text_);
+  DecodeBytes(bytes, state().text_code_page, text_);
+  AddText(text_);
+}
+
+void RtfReader::TakeUnicode(int number) {
+  text_.clear();
+  if (number > 0xFFFF) {
+    joiner_.Flush(text_);
+    AppendUtf8(static_cast<char32_t>(number), text_);
+  } else {
+    const auto unit = static_cast<char16_t>(number & 0xFFFF);
+    if (unit >= ' ') joiner_.Take(unit, text_);
+  }
+  AddText(text_);
+  skip_ = state().unicode_skip;
+}
+
+void RtfReader::AddText(std::string_view utf8) {
+  if (utf8.empty()) return;
+  BeginBody();
+  if (!state().hidden) return builder_.AddText(utf8, state());
+  const bool in_symbol_font = state().text_code_page == kSymbolCodePage;
+  builder_.AddOpaque({EscapeText(utf8, tables_.code_page, in_symbol_font)}, state());
+}
+
+void RtfReader::TakeSymbol(const Token& token) {
+  switch (token.text.front()) {
+    case '\\':
+    case '{':
+    case '}':
+      return TakeBytes(token.text);
+    case '~':
+      return AddText("\u00A0");
+    case '-':
+      return AddText("\u00AD");
+    case '_':
+      return AddText("\u2011");
+    case '\t':
+      return AddText("\t");
+    case '\r':
+    case '\n':
+      BeginBody();
+      return builder_.EndParagraph(state());
+    case '*':
+      return TakeStar(token);
+    case '|':
+    case ':':
+      return KeepInPlace(std::string(tokenizer_.Source(token)));
+    default:
+      return;
+  }
+}
+
+void RtfReader::PushGroup() {
+  ++depth_;
+  if (depth_ < kMostStates) states_.push_back(states_.back());
+}
+
+void RtfReader::PopGroup() {
+  if (depth_ < kMostStates && states_.size() > 1) states_.pop_back();
+  if (!open_fields_.empty() && open_fields_.back().depth == depth_) EndField();
+  if (depth_ > 0) --depth_;
+  ended_ = depth_ == 0;
+}
+
+}  // namespace tarnwell::richtext

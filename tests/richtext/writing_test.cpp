@@ -1,0 +1,139 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_files.h"
+#include "richtext/rich_text_writer.h"
+
+namespace tarnwell::richtext {
+namespace {
+
+constexpr char kHead[] = "{\\rtf1\\ansi\\ansicpg1252\\deff0\n";
+
+TEST(Writing, EveryStoredDocumentComesBackTheSame) {
+  int count = 0;
+  for (const auto& file : std::filesystem::directory_iterator(TARNWELL_TEST_DATA "/rtf")) {
+    const std::string bytes = FileBytes(file.path().string());
+    const RichDocument document = ReadRichText(bytes);
+    const std::string rtf = WriteRichText(document);
+    EXPECT_EQ(ReadRichText(rtf), document) << file.path();
+    EXPECT_EQ(WriteRichText(ReadRichText(rtf)), rtf) << file.path();
+    EXPECT_EQ(SaveRichText(document, bytes), bytes) << file.path();
+    ++count;
+  }
+  EXPECT_GE(count, 19);
+}
+
+TEST(Writing, ADocumentOfEveryKindIsWrittenAsTheLayoutSays) {
+  const struct {
+    const char* name;
+    std::string body;
+  } cases[] = {
+      {"table.rtf",
+       "{\\colortbl;\\red0\\green0\\blue255;}\n"
+       "\\pard\\plain before\\par\n"
+       "\\trowd\\trgaph108\\trleft-108\\trrh400\n"
+       "\\clvertalt\\clbrdrt\\brdrs\\brdrw15\\brdrcf1\\clbrdrb\\brdrdb\\brdrw30\\cellx2000\n"
+       "\\clmgf\\cellx5000\n"
+       "\\pard\\intbl\\plain one\\par\n"
+       "\\pard\\intbl\\plain two\\cell\n"
+       "\\pard\\intbl\\qc\\plain three\\cell\n"
+       "\\row\n"
+       "\\trowd\\trgaph0\\trleft0\n"
+       "\\cellx3000\n"
+       "\\pard\\intbl\\plain alone\\cell\n"
+       "\\row\n"
+       "\\pard\\plain after\\par\n"},
+      {"table-inside-a-cell.rtf",
+       "\\trowd\\trgaph0\\trleft0\n"
+       "\\cellx5000\n"
+       "\\pard\\intbl\\plain before\\par\n"
+       "\\pard\\intbl\\plain\\pard\\intbl\\itap2 "
+       "inner\\nestcell{\\*\\nesttableprops\\trowd\\cellx1000"
+       "\\nestrow}{\\nonesttables\\par}\n"
+       "\\pard\\intbl\\plain behind\\cell\n"
+       "\\row\n"
+       "\\pard\\plain end\\par\n"},
+      {"pictures.rtf",
+       "\\pard\\plain a{\\pict\\picw10\\pich20\\pngblip\\picwgoal1440\\pichgoal2880\\picscalex50\n"
+       "89504e470d0a1a0a}b{\\*\\shppict{\\pict{\\*\\picprop\\shplid1}\\picw4\\pich3\\jpegblip"
+       "\\picwgoal60\\pichgoal45\n"
+       "ffd87b7d}}{\\nonshppict{\\pict\\wmetafile8 0102}}{\\pict\\wmetafile8\\picw1 0a0b}c\\par\n"},
+      {"fields-and-links.rtf",
+       "\\pard\\plain see {\\field{\\*\\fldinst{HYPERLINK \"https://example.com/a?b=1&c\"}}"
+       "{\\fldrslt{\\ul our page}}} page {\\field{\\*\\fldinst PAGE}{\\fldrslt 3}}"
+       "{\\field{\\*\\fldinst TC x}}{\\field{\\*\\fldinst XE}{\\fldrslt}}\\par\n"
+       "\\pard\\plain{\\field{\\*\\fldinst TOC}{\\fldrslt{\\field{\\*\\fldinst PAGEREF a}"
+       "{\\fldrslt One 1}}\\par\n"
+       "\\pard\\li200\\plain Two 2\\par\n"
+       "\\pard\\plain Three}}\\pard\\plain  3\\par\n"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(WriteRichText(TestDocument(c.name)), kHead + c.body + "}\n") << c.name;
+  }
+}
+
+TEST(Writing, WhatIsNotUnderstoodStaysInAChangedDocument) {
+  const std::string bytes = TestBytes("kept-pieces.rtf");
+  RichDocument document = ReadRichText(bytes);
+  std::get<std::string>(std::get<Paragraph>(document.blocks[0]).runs[0].content) = "Changed";
+  const std::string rtf = SaveRichText(document, bytes);
+  for (const char* piece :
+       {"{\\*\\panose 02020603}", "{\\*\\falt Times}", "\\deflang1033", "\\widowctrl",
+        "{\\stylesheet{\\fs20 Normal;}", "{\\info{\\title Agreement}{\\author A. Writer}}",
+        "{\\header\\pard\\qr Page \\chpgn\\par}", "\\keepn\\plain\\fs32\\b Changed\\par",
+        "loud{\\*\\bkmkstart here}er{\\footnote\\pard\\plain note}{\\*\\bkmkend here}",
+        "\\v  hidden} shown{\\*\\new\\bin3 }}}}\\par",
+        "\\sect\\sectd \\sbknone \\cols2 {\\footer\\pard F\\par}\n"}) {
+    EXPECT_NE(rtf.find(piece), std::string::npos) << piece;
+  }
+}
+
+TEST(Writing, AChangeTakenBackSavesTheOldBytes) {
+  const std::string bytes = TestBytes("character-formats.rtf");
+  RichDocument document = ReadRichText(bytes);
+  auto& text = std::get<std::string>(std::get<Paragraph>(document.blocks[0]).runs[0].content);
+  text += 'x';
+  EXPECT_NE(SaveRichText(document, bytes), bytes);
+  text.pop_back();
+  EXPECT_EQ(SaveRichText(document, bytes), bytes);
+}
+
+TEST(Writing, ADocumentMadeByAnEditorGetsTheTablesItNeeds) {
+  RichDocument document = FromPlainText("{Zoë} – 日\t№");
+  Paragraph& paragraph = std::get<Paragraph>(document.blocks[0]);
+  paragraph.runs[0].format.font = "Arial";
+  paragraph.runs[0].format.color = Color{1, 2, 3};
+  paragraph.format.list = ListItem{0, false, "•", 0, ""};
+  EXPECT_EQ(
+      WriteRichText(document),
+      std::string(kHead) +
+          "{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\n"
+          "{\\colortbl;\\red1\\green2\\blue3;}\n"
+          "\\pard{\\pntext\\plain\\u8226\\'95\\tab}{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'b7}}"
+          "\\plain{\\f0\\cf1\\{Zo\\u235\\'eb\\} \\u8211\\'96 \\u26085?\\tab \\u8470?}\\par\n"
+          "}\n");
+  const RichDocument again = ReadRichText(WriteRichText(document));
+  EXPECT_EQ(ParagraphAt(again, 0).runs, paragraph.runs);
+  EXPECT_EQ(ParagraphAt(again, 0).format.list->marker, "•");
+}
+
+TEST(Writing, CharactersPastTheFirstPlaneAreWrittenAsPairs) {
+  const std::string rtf = WriteRichText(FromPlainText("a😀1"));
+  EXPECT_EQ(rtf, std::string(kHead) + "\\pard\\plain a\\u-10179?\\u-8704?1\\par\n}\n");
+  EXPECT_EQ(PlainText(ReadRichText(rtf)), "a😀1");
+}
+
+TEST(Reading, MemoryIsBoundByTheSizeOfTheFile) {
+  constexpr int kParagraphs = 80'000;
+  std::string hostile = "{\\rtf1\\pard";
+  for (int i = 0; i < 100; ++i) hostile += "\\brdrs";
+  for (int i = 0; i < kParagraphs; ++i) hostile += "\\par";
+  const RichDocument document = ReadRichText(hostile + " end}");
+  EXPECT_LT(document.blocks.size(), std::size_t{kParagraphs});
+  EXPECT_TRUE(PlainText(document).ends_with("end"));
+}
+
+}  // namespace
+}  // namespace tarnwell::richtext
