@@ -46,17 +46,18 @@ QWidget* Rules(planner::RecurrenceChoice& choice) {
 QWidget* Range(planner::RecurrenceChoice& choice) {
   return Widget(choice.range,
                 Card(Column({
-                    Row({Widget(choice.beginning_label), Widget(choice.beginning), Spring()}),
-                    Row({Widget(choice.end_kind.option(0)), NumberBox(choice.occurrences),
-                         Widget(choice.occurrences_label), Spring()}),
-                    Row({Widget(choice.end_kind.option(1)), Widget(choice.end), Spring()}),
-                    Widget(choice.calendar_label),
-                    Row({Widget(choice.date_to_change.option(0)),
-                         Widget(choice.date_to_change.option(1)), Spring()}),
-                    AtStart(Widget(choice.calendar)),
-                    Wrapped(Widget(choice.note)),
-                    Spring(),
-                })));
+                         Row({Widget(choice.beginning_label), Widget(choice.beginning), Spring()}),
+                         Row({Widget(choice.end_kind.option(0)), NumberBox(choice.occurrences),
+                              Widget(choice.occurrences_label), Spring()}),
+                         Row({Widget(choice.end_kind.option(1)), Widget(choice.end), Spring()}),
+                         Widget(choice.calendar_label),
+                         Row({Widget(choice.date_to_change.option(0)),
+                              Widget(choice.date_to_change.option(1)), Spring()}),
+                         AtStart(Widget(choice.calendar)),
+                         Wrapped(Widget(choice.note)),
+                         Spring(),
+                     }),
+                     kSpace));
 }
 
 }  // namespace
@@ -71,8 +72,7 @@ QWidget* RecurrenceView(planner::RecurrencePanel& panel) {
       panel.panel,
       Column({
           Widget(panel.appointment),
-          Widget(panel.choice.panel,
-                 Row({Rules(panel.choice), Range(panel.choice), Spring()}, kWideSpace)),
+          Widget(panel.choice.panel, Row({Rules(panel.choice), Range(panel.choice), Spring()})),
           run,
           Row({Primary(Widget(panel.ok)), Widget(panel.remove), Widget(panel.cancel), Spring()}),
       }));
