@@ -347,6 +347,7 @@ void Zcalandar1::OpenRecurrence(int row) {
   recurrence_buttons[i].SetSelected(true);
   row_of_recurrence_ = row;
   picker.SetVisible(false);  // the date on screen holds until the panel is closed
+  clock.SetVisible(false);
   CoverRows(recurrence.panel);
   recurrence.Open(*loaded_, {times[i].text(), entries[i].text()});
 }
@@ -355,6 +356,7 @@ void Zcalandar1::CloseRecurrence() {
   recurrence_buttons[static_cast<std::size_t>(row_of_recurrence_)].SetSelected(false);
   UncoverRows(recurrence.panel);
   picker.SetVisible(true);
+  clock.SetVisible(true);
   entries[static_cast<std::size_t>(row_of_recurrence_)].Focus();
 }
 

@@ -7,6 +7,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kDigits = 3;
+constexpr int kLettersOfRun = 105;
 
 QWidget* NumberBox(forms::TextField& field) { return OfLetters(Widget(field), kDigits); }
 
@@ -44,18 +45,19 @@ QWidget* Rules(planner::RecurrenceChoice& choice) {
 
 QWidget* Range(planner::RecurrenceChoice& choice) {
   return Widget(choice.range,
-                Column({
-                    Row({Widget(choice.beginning_label), Widget(choice.beginning), Spring()}),
-                    Row({Widget(choice.end_kind.option(0)), NumberBox(choice.occurrences),
-                         Widget(choice.occurrences_label), Spring()}),
-                    Row({Widget(choice.end_kind.option(1)), Widget(choice.end), Spring()}),
-                    Widget(choice.calendar_label),
-                    Row({Widget(choice.date_to_change.option(0)),
-                         Widget(choice.date_to_change.option(1)), Spring()}),
-                    AtStart(Widget(choice.calendar)),
-                    Wrapped(Widget(choice.note)),
-                    Spring(),
-                }));
+                Card(Column({
+                         Row({Widget(choice.beginning_label), Widget(choice.beginning), Spring()}),
+                         Row({Widget(choice.end_kind.option(0)), NumberBox(choice.occurrences),
+                              Widget(choice.occurrences_label), Spring()}),
+                         Row({Widget(choice.end_kind.option(1)), Widget(choice.end), Spring()}),
+                         Widget(choice.calendar_label),
+                         Row({Widget(choice.date_to_change.option(0)),
+                              Widget(choice.date_to_change.option(1)), Spring()}),
+                         AtStart(Widget(choice.calendar)),
+                         Wrapped(Widget(choice.note)),
+                         Spring(),
+                     }),
+                     kSpace));
 }
 
 }  // namespace
@@ -65,12 +67,12 @@ QWidget* RecurrenceView(planner::RecurrencePanel& panel) {
       Widget(panel.run_panel,
              Column({Wrapped(Widget(panel.warning)),
                      Row({Grow(Widget(panel.progress)), Widget(panel.stop)}, kWideSpace)}));
+  AtMost(run, kLettersOfRun);
   return Widget(
       panel.panel,
       Column({
           Widget(panel.appointment),
-          Widget(panel.choice.panel,
-                 Row({Rules(panel.choice), Range(panel.choice), Spring()}, kWideSpace)),
+          Widget(panel.choice.panel, Row({Rules(panel.choice), Range(panel.choice), Spring()})),
           run,
           Row({Primary(Widget(panel.ok)), Widget(panel.remove), Widget(panel.cancel), Spring()}),
       }));

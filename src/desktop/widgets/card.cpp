@@ -28,12 +28,12 @@ void CardWidget::paintEvent(QPaintEvent*) {
                           kCornerRadius);
 }
 
-QWidget* Card(QWidget* content) {
+QWidget* Card(QWidget* content, int space) {
   auto* card = new CardWidget;
   card->SetCard(true);
   card->setPalette(PaletteOn(Qt::white));
   auto* layout = new QVBoxLayout(card);
-  layout->setContentsMargins(kPageSpace, kPageSpace, kPageSpace, kPageSpace);
+  layout->setContentsMargins(space, space, space, space);
   layout->addWidget(content);
   return card;
 }

@@ -45,6 +45,6 @@ QWidget* OfLetters(QWidget* field, int letters);
 QWidget* Padded(QWidget* content, int space = kPageSpace);
 
 // A white card with round corners, readable on any background.
-QWidget* Card(QWidget* content);
+QWidget* Card(QWidget* content, int space = kPageSpace);
 
 }  // namespace tarnwell::desktop
