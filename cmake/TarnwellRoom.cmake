@@ -1,7 +1,9 @@
 # What every target of ours compiles with. Warnings are errors.
 add_library(tarnwell_flags INTERFACE)
 target_compile_options(tarnwell_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+  # GCC 12 reports these where its optimizer has inlined std::string's + and std::erase.
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict -Wno-dangling-pointer>)
 target_include_directories(tarnwell_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # tarnwell_room(NAME [DEPENDS room...]): the static library of one folder of src/, from all its
