@@ -13,6 +13,7 @@
 #include "bench_folder.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "idle_services.h"
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
 #include "ratio_table.h"
@@ -36,6 +37,7 @@ class Dialogs : public forms::Dialogs {
     return box.buttons == forms::Buttons::kOk ? forms::Answer::kOk : forms::Answer::kYes;
   }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
+  std::optional<forms::Font> ChooseFont(const forms::Font&) override { return std::nullopt; }
 };
 class Window : public forms::Window {
   forms::Size screen() override { return {}; }
@@ -82,7 +84,8 @@ class GapMeter : public forms::EventLoop {
 class Planner {
  public:
   explicit Planner(storage::ProgramFolder& folder)
-      : context_{folder, clock_, dialogs_, loop_, window_, help_, variables_, navigator_} {
+      : context_{folder,     clock_, dialogs_, loop_,      window_,   help_,
+                 clipboard_, pages_, folders_, variables_, navigator_} {
     planner::DayRows rows;
     rows[0] = {"9:00 AM", "Stand-up meeting with the whole crew"};
     Check(planner::WriteDay(folder, kToday, rows), "write today");
@@ -123,6 +126,9 @@ class Planner {
   GapMeter loop_;
   Window window_;
   Help help_;
+  IdleClipboard clipboard_;
+  IdlePages pages_;
+  IdleFolders folders_;
   forms::ProgramVariables variables_;
   forms::Navigator navigator_;
   forms::Context context_;

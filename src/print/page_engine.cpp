@@ -73,7 +73,8 @@ void PageEngine::TextAt(int x, int y, std::string_view text, Align align) {
     const int width = TextWidth(text);
     x -= align == Align::kRight ? width : width / 2;
   }
-  Add(forms::PlacedText{x, y, FontIndex(), std::string(text)});
+  if (document_.pages.empty()) return;
+  document_.pages.back().emplace_back(forms::PlacedText{x, y, FontIndex(), std::string(text)});
 }
 
 void PageEngine::Line(std::string_view text, Align align) {

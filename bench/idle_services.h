@@ -1,0 +1,37 @@
+// What a form may ask for but no benchmark uses.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/folder_browser.h"
+#include "forms/pages.h"
+#include "forms/services.h"
+
+namespace tarnwell::bench {
+
+class IdleClipboard : public forms::Clipboard {
+  void SetText(std::string_view) override {}
+  void SetRichText(std::string_view) override {}
+};
+
+class IdlePages : public forms::Pages, private forms::TextMetrics {
+  forms::TextMetrics& metrics() override { return *this; }
+  int Width(const forms::Font&, std::string_view) override { return 0; }
+  int LineHeight(const forms::Font&) override { return 0; }
+  void Print(const forms::Document&) override {}
+  void CopyPage(const forms::Document&, int) override {}
+  std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup&) override { return {}; }
+};
+
+class IdleFolders : public forms::FolderBrowser {
+  std::vector<std::string> Drives() override { return {}; }
+  std::string ProgramPath() override { return {}; }
+  std::optional<std::vector<std::string>> Folders(const std::string&) override { return {}; }
+  std::optional<std::vector<std::string>> Files(const std::string&) override { return {}; }
+  bool WriteFile(const std::string&, std::string_view) override { return false; }
+};
+
+}  // namespace tarnwell::bench
