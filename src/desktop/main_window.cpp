@@ -143,6 +143,7 @@ void MainWindow::ShowChrome(FormPage& page) {
     menuBar()->addActions(actions);
   }
   menuBar()->setEnabled(page.form().menus().enabled());
+  menuBar()->setVisible(page.form().menus().visible());
 }
 
 void MainWindow::CloseTop() {

@@ -124,12 +124,20 @@ std::vector<std::string> MnemonicFaults(forms::Form& form) {
   return faults;
 }
 
+std::string Text(QSize size) {
+  return std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
 std::vector<std::string> CutOffFaults(QWidget& page) {
   std::vector<std::string> faults;
   for (QWidget* widget : page.findChildren<QWidget*>()) {
     // A combo box's own list isn't part of the page.
     if (!widget->isVisibleTo(&page) || widget->window() != page.window()) continue;
-    if (!TextFits(*widget)) faults.push_back("cut off: " + Describe(*widget));
+    if (!TextFits(*widget)) {
+      const QSize wanted = widget->sizeHint();
+      faults.push_back("cut off: " + Describe(*widget) + ", " + Text(widget->size()) + " of " +
+                       Text(wanted));
+    }
     if (SticksOut(*widget, page)) faults.push_back("sticks out: " + Describe(*widget));
   }
   return faults;

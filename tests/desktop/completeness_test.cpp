@@ -61,8 +61,8 @@ class Inspector : public forms::NavigatorObserver {
     window_.FormRaised(form);
     Inspect(form);
     for (forms::Control* control : form.AllControls()) {
-      // A calendar at its largest.
-      if (auto* picker = dynamic_cast<forms::DatePicker*>(control); picker && picker->visible()) {
+      // The calendar that has display options, at its largest.
+      if (auto* picker = dynamic_cast<forms::DatePicker*>(control); picker && picker->Reachable()) {
         picker->SetLook({.months = 2, .week_numbers = true, .mark_today = true});
         Inspect(form);
       }

@@ -67,6 +67,9 @@ TEST_F(MainWindowTest, TheTopFormLendsItsTitleMenusAndStatus) {
   Form("Lower").SetCaption("Below");
   EXPECT_EQ(window_.windowTitle(), QStringLiteral("Café"));
   EXPECT_EQ(window_.menuBar()->actions().size(), 1);
+  EXPECT_TRUE(window_.menuBar()->isVisible());
+  Form("Upper").menus().SetVisible(false);
+  EXPECT_FALSE(window_.menuBar()->isVisible());
   window_.close();
   EXPECT_EQ(SampleForm::unloads, 1);
   EXPECT_TRUE(window_.isVisible());

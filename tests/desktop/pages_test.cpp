@@ -148,16 +148,19 @@ TEST(Pages, TheDialoguesMayBeCancelledOnAMachineWithoutAPrinterToo) {
   EXPECT_EQ(pages.ChooseSetup(lying), lying);
 }
 
-TEST(QtClipboard, RichTextGoesOutUnderTheNamesThatOtherProgramsLookFor) {
+TEST(QtClipboard, RichTextGoesOutInEveryFormThatOtherProgramsLookFor) {
   QtClipboard clipboard;
   clipboard.SetText("Caf\xE9 \x80");
   EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Café €"));
-  const std::string rtf = "{\\rtf1 Caf\\'e9}";
+  const std::string rtf = "{\\rtf1 Caf\\'e9 {\\b bold}}";
   clipboard.SetRichText(rtf);
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   EXPECT_EQ(copied->data("text/rtf").toStdString(), rtf);
   EXPECT_EQ(copied->data("application/x-qt-windows-mime;value=\"Rich Text Format\"").toStdString(),
             rtf);
+  EXPECT_EQ(copied->text(), QStringLiteral("Café bold"));
+  EXPECT_TRUE(copied->html().contains(QStringLiteral("Café")));
+  EXPECT_TRUE(copied->html().contains(QStringLiteral("bold")));
 }
 
 }  // namespace

@@ -5,6 +5,9 @@
 #include <QMimeData>
 
 #include "desktop/widgets/text.h"
+#include "richtext/html.h"
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -24,6 +27,9 @@ void QtClipboard::SetRichText(std::string_view rtf) {
   const QByteArray bytes(rtf.data(), static_cast<qsizetype>(rtf.size()));
   auto* content = new QMimeData;
   for (const char* format : kRichTextFormats) content->setData(QLatin1String(format), bytes);
+  const richtext::RichDocument document = richtext::ReadRichText(rtf);
+  content->setHtml(QString::fromStdString(richtext::ToHtml(document)));
+  content->setText(QString::fromStdString(richtext::PlainText(document)));
   QGuiApplication::clipboard()->setMimeData(content);
 }
 

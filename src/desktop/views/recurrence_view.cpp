@@ -75,6 +75,7 @@ QWidget* RecurrenceView(planner::RecurrencePanel& panel) {
           Widget(panel.choice.panel, Row({Rules(panel.choice), Range(panel.choice), Spring()})),
           run,
           Row({Primary(Widget(panel.ok)), Widget(panel.remove), Widget(panel.cancel), Spring()}),
+          Spring(),
       }));
 }
 

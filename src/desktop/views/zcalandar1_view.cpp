@@ -64,7 +64,7 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
   QWidget* in_turn =
       Column({Grow(AtMost(Day(form), kLettersOfRow)),
               AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
-              AtTop(RecurrenceView(form.recurrence)),
+              Grow(RecurrenceView(form.recurrence)),
               Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
               Grow(PagesView(form.pages, pictures)),
               Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)), AtTop(import_panel)},
