@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bench_folder.h"
+#include "planner/day_store.h"
 #include "ratio_table.h"
 #include "storage/program_folder.h"
 #include "storage/record_file.h"
@@ -68,27 +69,34 @@ void MeasureSave(RatioTable& table, ProgramFolder& folder) {
       });
 }
 
-// A recurrence over a year: each day read, then written, the file opened anew for either.
+// A year of the planner: each day read, then written, the file opened anew for either.
 void MeasureDays(RatioTable& table, ProgramFolder& folder) {
-  constexpr int kLength = 900;
-  constexpr int kDays = 366;
+  constexpr std::size_t kDayBytes = 850;
+  std::vector<text::Date> days;
+  for (auto day = text::MakeDate(2028, 1, 1); text::YearOf(day) == 2028;
+       day = text::AddDays(day, 1))
+    days.push_back(day);
+  Check(days.size() == 366, "walk a leap year");
+  planner::DayRows rows;
+  rows[0] = {"9:30 AM", "Dentist"};
+  for (const text::Date day : days) Check(planner::WriteDay(folder, day, rows), "write the days");
+  Check(folder.Copy(" 2028.Cal", " 2027.Cal"), "copy the year");
   const std::string path = folder.path() + "/ 2027.Cal";
-  const std::string day(850, 'd');
-  Check(folder.WriteWhole(" 2026.Cal", std::string(kLength * kDays, ' ')), "write the days");
-  Check(folder.WriteWhole(" 2027.Cal", std::string(kLength * kDays, ' ')), "write the days");
   table.Measure(
       "Read and write the 366 days of a planner year", 1.5, 41,
       [&] {
-        for (int record = 1; record <= kDays; ++record) {
-          RecordFile(folder, " 2026.Cal", kLength).GetStructure(record, day.size());
-          Check(RecordFile(folder, " 2026.Cal", kLength).PutStructure(record, day), "put");
+        for (const text::Date day : days) {
+          const auto stored = planner::ReadDay(folder, day);
+          Check(stored && planner::WriteDay(folder, day, stored->rows), "rewrite a day");
         }
       },
       [&] {
-        std::string buffer(day.size(), '\0');
-        for (off_t place = 0; place < kDays * kLength; place += kLength) {
+        std::string day(kDayBytes, '\0');
+        for (const text::Date date : days) {
+          const off_t place =
+              900 * (planner::DayRecordNumber(text::MonthOf(date), text::DayOf(date)) - 1);
           int file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-          Check(IsWhole(::pread(file, buffer.data(), buffer.size(), place), day.size()), "pread");
+          Check(IsWhole(::pread(file, day.data(), day.size(), place), day.size()), "pread");
           ::close(file);
           file = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
           Check(IsWhole(::pwrite(file, day.data(), day.size(), place), day.size()), "pwrite");
