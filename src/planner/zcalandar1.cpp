@@ -365,6 +365,7 @@ void Zcalandar1::ViewMonth() {
   const bool was_unsaved = unsaved_;
   if (!LeaveLoadedDay()) return SetStatus({});
   if (was_unsaved) ShowDay(loaded_);
+  if (!loaded_) return SetStatus({});  // the day can't be read any more
   pages.month.Fill(context_.folder, *loaded_);
   picker.SetVisible(false);  // the month on screen holds until the panel is closed
   CoverRows(pages.month.panel);

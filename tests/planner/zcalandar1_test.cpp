@@ -327,5 +327,20 @@ TEST(Zcalandar1OnABadDiskTest, ADayThatCantBeReadTakesNoEntries) {
   EXPECT_EQ(form.entries[2].text(), "Found");
 }
 
+TEST(Zcalandar1OnABadDiskTest, AMonthOfADayThatCantBeReadAnyMoreStaysClosed) {
+  testing::FailingFileSystem files(storage::RealFileSystem());
+  testing::ProgramRig rig(files);
+  rig.Start();
+  rig.navigator().Show(forms::form_names::kZcalandar1);
+  auto& form = rig.Get<Zcalandar1>("Zcalandar1");
+  form.entries[0].Type("Dropped");
+  files.Vanish();
+  rig.dialogs.Expect("Daily Planner", "Save changes/entries before next action?", Answer::kNo);
+  form.view_month.Click();
+  EXPECT_FALSE(form.pages.month.panel.visible());
+  EXPECT_EQ(form.date_caption.caption(), "");
+  EXPECT_EQ(form.status(), "");
+}
+
 }  // namespace
 }  // namespace tarnwell::planner
