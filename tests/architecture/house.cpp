@@ -15,11 +15,10 @@ namespace {
 // The lowest floor first. A room may use itself and every floor below its own.
 const std::vector<std::set<std::string>> kFloors = {
     {"text"},
-    {"storage"},
+    {"storage", "richtext"},
     {"settings"},
     {"forms"},
-    {"richtext"},
-    {"print"},
+    {"print", "proofing"},
     {"shell", "workarea", "planner", "budget", "contacts", "employees", "images", "leave",
      "vehicles", "backup", "reference"},
     {"program"},
