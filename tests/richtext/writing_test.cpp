@@ -35,7 +35,7 @@ TEST(Writing, ADocumentOfEveryKindIsWrittenAsTheLayoutSays) {
        "\\pard\\plain before\\par\n"
        "\\trowd\\trgaph108\\trleft-108\\trrh400\n"
        "\\clvertalt\\clbrdrt\\brdrs\\brdrw15\\brdrcf1\\clbrdrb\\brdrdb\\brdrw30\\cellx2000\n"
-       "\\clmgf\\cellx5000\n"
+       "\\clmgf\\clcbpat1\\cellx5000\n"
        "\\pard\\intbl\\plain one\\par\n"
        "\\pard\\intbl\\plain two\\cell\n"
        "\\pard\\intbl\\qc\\plain three\\cell\n"
