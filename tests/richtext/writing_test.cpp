@@ -109,10 +109,10 @@ TEST(Writing, ADocumentMadeByAnEditorGetsTheTablesItNeeds) {
   EXPECT_EQ(
       WriteRichText(document),
       std::string(kHead) +
-          "{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\n"
+          "{\\fonttbl{\\f1\\fnil\\fcharset0 Arial;}}\n"
           "{\\colortbl;\\red1\\green2\\blue3;}\n"
           "\\pard{\\pntext\\plain\\u8226\\'95\\tab}{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'b7}}"
-          "\\plain{\\f0\\cf1\\{Zo\\u235\\'eb\\} \\u8211\\'96 \\u26085?\\tab \\u8470?}\\par\n"
+          "\\plain{\\f1\\cf1\\{Zo\\u235\\'eb\\} \\u8211\\'96 \\u26085?\\tab \\u8470?}\\par\n"
           "}\n");
   const RichDocument again = ReadRichText(WriteRichText(document));
   EXPECT_EQ(ParagraphAt(again, 0).runs, paragraph.runs);
