@@ -20,7 +20,9 @@ class IdleClipboard : public forms::Clipboard {
 class IdlePages : public forms::Pages, private forms::TextMetrics {
   forms::TextMetrics& metrics() override { return *this; }
   int Width(const forms::Font&, std::string_view) override { return 0; }
+  double Utf8Width(const forms::Font&, std::string_view) override { return 0; }
   int LineHeight(const forms::Font&) override { return 0; }
+  int Ascent(const forms::Font&) override { return 0; }
   void Print(const forms::Document&) override {}
   void CopyPage(const forms::Document&, int) override {}
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup&) override { return {}; }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -48,12 +49,15 @@ struct PageSetup {
   friend bool operator==(const PageSetup&, const PageSetup&) = default;
 };
 
-// One line of text; (x, y) is its left top corner.
+// One line of text, or a part of one; (x, y) is its left top corner.
 struct PlacedText {
   int x = 0;
   int y = 0;
   int font = 0;  // place in Document::fonts
   std::string text;
+  bool utf8 = false;     // else it is in code page 1252
+  bool goes_on = false;  // stands on the line of the text before it, with no gap between them
+  float stretch = 0;     // twips that each blank is wider than the font makes it
 
   friend bool operator==(const PlacedText&, const PlacedText&) = default;
 };
@@ -64,6 +68,7 @@ struct PlacedLine {
   int x2 = 0;
   int y2 = 0;
   Color color = kBlack;
+  int width = 10;
 
   friend bool operator==(const PlacedLine&, const PlacedLine&) = default;
 };
@@ -91,8 +96,19 @@ struct PlacedPicture {
   friend bool operator==(const PlacedPicture&, const PlacedPicture&) = default;
 };
 
+// A picture in hand, which fills the box. Pages and previews share its bytes.
+struct PlacedImage {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  std::shared_ptr<const std::string> bytes;  // of a PNG or JPEG file
+
+  friend bool operator==(const PlacedImage&, const PlacedImage&) = default;
+};
+
 // What is listed later lies above what is listed before.
-using Mark = std::variant<PlacedText, PlacedLine, PlacedBox, PlacedPicture>;
+using Mark = std::variant<PlacedText, PlacedLine, PlacedBox, PlacedPicture, PlacedImage>;
 using Page = std::vector<Mark>;
 
 struct Document {

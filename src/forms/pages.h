@@ -12,8 +12,12 @@ class TextMetrics {
  public:
   virtual ~TextMetrics() = default;
   virtual int Width(const Font& font, std::string_view text) = 0;
+  // Of a text in UTF-8 with any character. Parts of a line add up, so nothing is rounded.
+  virtual double Utf8Width(const Font& font, std::string_view utf8) = 0;
   // From the top of one line to the top of the next.
   virtual int LineHeight(const Font& font) = 0;
+  // From the top of a line to the base of its letters.
+  virtual int Ascent(const Font& font) = 0;
 };
 
 // The printer of the system.

@@ -19,13 +19,16 @@ void PageEngine::SetFont(const forms::Font& font) {
   font_index_ = -1;
 }
 
-int PageEngine::FontIndex() {
+int PageEngine::PlaceOf(const forms::Font& font) {
   auto& fonts = document_.fonts;
-  if (font_index_ < 0) {
-    const auto known = std::ranges::find(fonts, font_);
-    font_index_ = static_cast<int>(known - fonts.begin());
-    if (known == fonts.end()) fonts.push_back(font_);
-  }
+  const auto known = std::ranges::find(fonts, font);
+  const auto place = static_cast<int>(known - fonts.begin());
+  if (known == fonts.end()) fonts.push_back(font);
+  return place;
+}
+
+int PageEngine::FontIndex() {
+  if (font_index_ < 0) font_index_ = PlaceOf(font_);
   return font_index_;
 }
 
@@ -80,7 +83,7 @@ void PageEngine::TextAt(int x, int y, std::string_view text, Align align) {
 void PageEngine::Line(std::string_view text, Align align) {
   const int height = LineHeight();
   // What doesn't fit on an empty column either stays where it is.
-  if (!HasRoom(height) && y_ > column_top_) NextColumn();
+  if (!HasRoom(height) && !at_column_top()) NextColumn();
   const int x = align == Align::kLeft    ? left()
                 : align == Align::kRight ? right()
                                          : (left() + right()) / 2;

@@ -40,6 +40,8 @@ class PageEngine {
   int page_height() const { return document_.setup.height(); }
   int top() const { return document_.setup.margins.top; }
   int bottom() const { return page_height() - document_.setup.margins.bottom; }
+  // The height of a column that has a page to itself.
+  int column_height() const { return bottom() - column_top_; }
   // The edges of the column in hand; a page's head has one column.
   int left() const;
   int right() const { return left() + ColumnWidth(); }
@@ -54,6 +56,8 @@ class PageEngine {
   // Columns from the present position on, and from the head of later pages.
   void SetColumns(int count, int gap);
   int columns() const { return columns_; }
+  // Nothing stands in the column in hand yet.
+  bool at_column_top() const { return y_ <= column_top_; }
   // The next column, or the first one of a new page.
   void NextColumn();
   void NewPage();
@@ -65,6 +69,8 @@ class PageEngine {
   // As many lines as it takes.
   void Paragraph(std::string_view text, Align align = Align::kLeft);
   void Add(forms::Mark mark);
+  // The place of `font` in the document's fonts, for marks.
+  int PlaceOf(const forms::Font& font);
 
  private:
   int FontIndex();

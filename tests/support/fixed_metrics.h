@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -7,14 +8,20 @@
 
 namespace tarnwell::testing {
 
-// Every character is as wide as ten twips a point and every line as high as 24: at 10 points, 100
-// by 240 twips. Bold is a fifth wider.
+// Every character is as wide as ten twips a point and every line as high as 24, 18 of them above
+// the letters' base: at 10 points, 100 by 240 twips. Bold is a fifth wider.
 class FixedMetrics : public forms::TextMetrics {
  public:
   int Width(const forms::Font& font, std::string_view text) override {
     return static_cast<int>(font.size * (font.bold ? 12 : 10)) * static_cast<int>(text.size());
   }
+  double Utf8Width(const forms::Font& font, std::string_view utf8) override {
+    const auto characters = std::ranges::count_if(
+        utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; });
+    return static_cast<int>(font.size * (font.bold ? 12 : 10)) * static_cast<double>(characters);
+  }
   int LineHeight(const forms::Font& font) override { return static_cast<int>(font.size * 24); }
+  int Ascent(const forms::Font& font) override { return static_cast<int>(font.size * 18); }
 };
 
 // All texts of a page in the order of their printing.

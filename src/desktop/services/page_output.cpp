@@ -86,16 +86,27 @@ QImage ImageOf(const forms::Document& document, const PictureStore& pictures, in
 }
 
 QString TextOf(const forms::Page& page) {
-  std::vector<const forms::PlacedText*> texts;
+  struct Piece {
+    int x;
+    int y;
+    QString text;
+  };
+  std::vector<Piece> pieces;
   for (const forms::Mark& mark : page) {
-    if (const auto* text = std::get_if<forms::PlacedText>(&mark)) texts.push_back(text);
+    const auto* text = std::get_if<forms::PlacedText>(&mark);
+    if (!text) continue;
+    if (text->goes_on && !pieces.empty()) {
+      pieces.back().text += TextOf(*text);
+    } else {
+      pieces.push_back({text->x, text->y, TextOf(*text)});
+    }
   }
   std::ranges::stable_sort(
-      texts, [](const auto* a, const auto* b) { return a->y != b->y ? a->y < b->y : a->x < b->x; });
+      pieces, [](const auto& a, const auto& b) { return a.y != b.y ? a.y < b.y : a.x < b.x; });
   QString all;
-  for (std::size_t i = 0; i < texts.size(); ++i) {
-    if (i > 0) all += texts[i]->y == texts[i - 1]->y ? QLatin1Char('\t') : QLatin1Char('\n');
-    all += FromCore(texts[i]->text);
+  for (std::size_t i = 0; i < pieces.size(); ++i) {
+    if (i > 0) all += pieces[i].y == pieces[i - 1].y ? QLatin1Char('\t') : QLatin1Char('\n');
+    all += pieces[i].text;
   }
   return all;
 }

@@ -3,8 +3,8 @@
 #pragma once
 
 #include <QFont>
-#include <array>
-#include <utility>
+#include <memory>
+#include <unordered_map>
 #include <vector>
 
 #include "forms/pages.h"
@@ -22,16 +22,25 @@ QFont PageFont(const forms::Font& font);
 class PageMetrics : public forms::TextMetrics {
  public:
   int Width(const forms::Font& font, std::string_view text) override;
+  double Utf8Width(const forms::Font& font, std::string_view utf8) override;
   int LineHeight(const forms::Font& font) override;
+  int Ascent(const forms::Font& font) override;
 
  private:
   struct Measures {
-    std::array<double, 256> advances{};  // by the character in code page 1252
+    std::vector<double> advances;                 // by the character in code page 1252, once asked
+    std::unordered_map<char16_t, double> others;  // by the character in Unicode
     int line_height = 0;
+    int ascent = 0;
   };
-  const Measures& MeasuresOf(const forms::Font& font);
+  struct Known {
+    forms::Font font;
+    std::unique_ptr<Measures> measures;
+  };
+  Measures& MeasuresOf(const forms::Font& font);
+  const std::vector<double>& AdvancesOf(const forms::Font& font);
 
-  std::vector<std::pair<forms::Font, Measures>> known_;  // the last one used is first
+  std::vector<Known> known_;  // the last one used is first
 };
 
 }  // namespace tarnwell::desktop

@@ -10,11 +10,14 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kLineWidth = 10;  // twips
-
-QPen PenOf(forms::Color color) { return {ToQColor(color), kLineWidth}; }
+constexpr double kBoxLine = 10;  // twips
 
 }  // namespace
+
+QString TextOf(const forms::PlacedText& text) {
+  if (!text.utf8) return FromCore(text.text);
+  return QString::fromUtf8(text.text.data(), static_cast<qsizetype>(text.text.size()));
+}
 
 PagePainter::PagePainter(const forms::Document& document, const PictureStore& pictures)
     : document_(document), pictures_(pictures) {
@@ -35,18 +38,24 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedText& text) {
   const auto place = static_cast<std::size_t>(text.font);
   if (place >= faces_.size()) return;
   const Face& face = faces_[place];
-  painter.setFont(face.font);
+  if (text.stretch == 0) {
+    painter.setFont(face.font);
+  } else {
+    QFont stretched = face.font;
+    stretched.setWordSpacing(static_cast<double>(text.stretch));
+    painter.setFont(stretched);
+  }
   painter.setPen(face.color);
-  painter.drawText(QPointF(text.x, text.y + face.ascent), FromCore(text.text));
+  painter.drawText(QPointF(text.x, text.y + face.ascent), TextOf(text));
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedLine& line) {
-  painter.setPen(PenOf(line.color));
+  painter.setPen(QPen(ToQColor(line.color), line.width));
   painter.drawLine(line.x1, line.y1, line.x2, line.y2);
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedBox& box) {
-  painter.setPen(box.edge ? PenOf(*box.edge) : QPen(Qt::NoPen));
+  painter.setPen(box.edge ? QPen(ToQColor(*box.edge), kBoxLine) : QPen(Qt::NoPen));
   painter.setBrush(box.fill ? QBrush(ToQColor(*box.fill)) : QBrush(Qt::NoBrush));
   painter.drawRect(box.x, box.y, box.width, box.height);
 }
@@ -59,6 +68,15 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedPicture& pictu
   place.moveCenter(box.center());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawImage(place, image);
+}
+
+void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture) {
+  if (!picture.bytes) return;
+  const QImage image = QImage::fromData(QByteArray::fromRawData(
+      picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())));
+  if (image.isNull()) return;
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(picture.x, picture.y, picture.width, picture.height), image);
 }
 
 }  // namespace tarnwell::desktop

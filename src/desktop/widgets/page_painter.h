@@ -9,6 +9,8 @@
 
 namespace tarnwell::desktop {
 
+QString TextOf(const forms::PlacedText& text);
+
 // Paints the pages of a document wherever they are seen: in the preview, on paper, in a PDF and on
 // the clipboard. The painter's unit is a twip; the paper itself isn't painted. Needs the document
 // to stay.
@@ -30,6 +32,7 @@ class PagePainter {
   void PaintMark(QPainter& painter, const forms::PlacedLine& line);
   void PaintMark(QPainter& painter, const forms::PlacedBox& box);
   void PaintMark(QPainter& painter, const forms::PlacedPicture& picture);
+  void PaintMark(QPainter& painter, const forms::PlacedImage& picture);
 
   const forms::Document& document_;
   const PictureStore& pictures_;

@@ -1,0 +1,54 @@
+// How the characters of a formatted document look on paper.
+
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "print/page_engine.h"
+#include "richtext/rich_document.h"
+
+namespace tarnwell::print {
+
+struct RichStyle {
+  forms::Font font;
+  int place = 0;    // in the pages' fonts
+  int raise = 0;    // twips that the base of its letters stands above the line's; below 0 under it
+  int ascent = 0;   // above the line's base
+  int descent = 0;  // below it
+  std::optional<forms::Color> highlight;
+};
+
+// The looks of one document, made once each.
+class RichStyles {
+ public:
+  RichStyles(PageEngine& engine, const richtext::RichDocument& document);
+
+  // A look's number.
+  int Find(const richtext::CharacterFormat& format);
+  const RichStyle& at(int style) const { return styles_[static_cast<std::size_t>(style)]; }
+  double Width(int style, std::string_view utf8) {
+    return engine_.metrics().Utf8Width(at(style).font, utf8);
+  }
+
+ private:
+  using Key =
+      std::tuple<std::string, int, int, std::optional<forms::Color>, std::optional<forms::Color>>;
+
+  RichStyle Make(const richtext::CharacterFormat& format);
+  std::string FontName(const std::string& name) const;
+
+  PageEngine& engine_;
+  std::string default_font_;
+  std::map<Key, int> known_;
+  std::vector<RichStyle> styles_;
+  richtext::CharacterFormat last_format_;
+  int last_style_ = -1;
+};
+
+forms::Color ToPageColor(richtext::Color color);
+
+}  // namespace tarnwell::print
