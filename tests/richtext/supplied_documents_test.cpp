@@ -93,7 +93,7 @@ TEST(SuppliedDocuments, EachIsWhatItsNameSaysAndHasPlacesToFillIn) {
   }
 }
 
-TEST(SuppliedDocuments, AllOfThemIsShownInTwoFonts) {
+TEST(SuppliedDocuments, EverythingIsShownAndInOneOfTwoFonts) {
   for (const auto& [name, bytes] : SuppliedFiles()) {
     const RichDocument document = ReadRichText(bytes);
     EXPECT_TRUE(IsRtf(bytes) && !IsBlank(document)) << name;
