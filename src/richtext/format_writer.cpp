@@ -154,7 +154,7 @@ std::string ParagraphWords(const ParagraphFormat& format) {
   number("sa", format.space_after);
   number("sl", format.line_spacing);
   number("slmult", format.line_spacing_is_multiple ? 1 : 0);
-  if (styled || format.page_break_before) out += Switch("pagebb", format.page_break_before);
+  if (format.page_break_before) out += "\\pagebb";
   for (const TabStop& tab : format.tabs) out += Tab(tab);
   return out += format.other;
 }

@@ -41,7 +41,8 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
                            WriterTables& tables);
 
 // The words behind \pard, without those of a list. In a paragraph with a style they name every
-// property, so that a reader needn't know the style.
+// property, so that a reader needn't know the style; but \pagebb only where there is one, because
+// others read \pagebb0 as a break too.
 std::string ParagraphWords(const ParagraphFormat& format);
 
 }  // namespace tarnwell::richtext

@@ -36,6 +36,8 @@ void ApplyStyle(int number, const FormatTables& tables, FormatState& state) {
     const ParagraphFormat before = std::exchange(state.paragraph, style->second.paragraph);
     state.paragraph.list = before.list;
     state.paragraph.other = before.other;
+    // Writers name this one with every paragraph that has it, and have no word that takes it away.
+    state.paragraph.page_break_before = before.page_break_before;
     std::string other = std::move(state.character.other);
     state.character = style->second.character;
     state.character.other = std::move(other);

@@ -148,10 +148,21 @@ TEST(Writing, TextInAFontOfSymbolsIsNotTakenForItsBytes) {
 TEST(Writing, EveryPropertyIsNamedInAStyledParagraph) {
   const std::string rtf = WriteRichText(
       ReadBody("{\\stylesheet{\\s3\\qc\\li720\\b Head;}}\\pard\\plain\\s3\\ql\\li0\\b0 x\\par"));
-  EXPECT_NE(
-      rtf.find("\\pard\\s3\\ql\\fi0\\li0\\ri0\\sb0\\sa0\\sl0\\slmult0\\pagebb0\\plain x\\par"),
-      std::string::npos)
+  EXPECT_NE(rtf.find("\\pard\\s3\\ql\\fi0\\li0\\ri0\\sb0\\sa0\\sl0\\slmult0\\plain x\\par"),
+            std::string::npos)
       << rtf;
+}
+
+TEST(Writing, APageBreakBeforeIsTheParagraphsOwnAndNeverSwitchedOff) {
+  const RichDocument document = ReadBody(
+      "{\\stylesheet{\\s3\\pagebb Chapter;}}"
+      "\\pard\\s3 without\\par\\pard\\s3\\pagebb with\\par\\pard\\pagebb\\s3 before it\\par");
+  EXPECT_FALSE(ParagraphAt(document, 0).format.page_break_before);
+  EXPECT_TRUE(ParagraphAt(document, 1).format.page_break_before);
+  EXPECT_TRUE(ParagraphAt(document, 2).format.page_break_before);
+  const std::string rtf = WriteRichText(document);
+  EXPECT_EQ(rtf.find("\\pagebb0"), std::string::npos) << rtf;
+  EXPECT_EQ(ReadRichText(rtf), document);
 }
 
 }  // namespace
