@@ -55,7 +55,7 @@ constexpr RecordMeaning kCalendarOptions[] = {
 
 constexpr RecordMeaning kDocumentStatus[] = {
     {1, 48, Form::kText, "status of a document"},
-    {49, 70, Form::kText, "status of a worksheet"},
+    {49, 69, Form::kText, "status of a worksheet"},
 };
 
 constexpr RecordMeaning kWorksheetTitles[] = {{1, 20, Form::kText, "worksheet button"}};
@@ -119,7 +119,7 @@ constexpr FileKind kKinds[] = {
     {"Test1.hb1", "write test of a backup", kRecords, "hinv3.md", 10, kHinv3},
     {"GHINV1.Fil", "toolbars of document images", kRecords, {}, 10, kGhinv1},
 
-    {"Stat1.Fil", "status of documents", kRecords, {}, 20, kDocumentStatus},
+    {"Stat1.Fil", "status of documents", kRecords, "stat1.md", 20, kDocumentStatus},
     {"Stat1.hb1", "backup of the status of documents", kRecords, {}, 20, kDocumentStatus},
     {"RAList.Fl2", "titles of worksheets", kRecords, {}, 20, kWorksheetTitles},
     {"RAList.hb1", "backup of the titles of worksheets", kRecords, {}, 20, kWorksheetTitles},

@@ -1,8 +1,15 @@
 #pragma once
 
+#include "forms/color_choice.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/main_buttons.h"
+#include "forms/panel.h"
+#include "workarea/area_buttons.h"
+#include "workarea/document_printing.h"
+#include "workarea/document_view.h"
+#include "workarea/documents_pane.h"
+#include "workarea/recovery_plan_pane.h"
 
 namespace tarnwell::workarea {
 
@@ -14,16 +21,45 @@ class WorkArea1 : public forms::Form {
   forms::MainButtons main_buttons{*this};
   forms::Label date{*this, "Label1"};
   forms::Label area_title{*this, "Label2", {}, forms::LabelRole::kTitle};
+  forms::Panel areas{*this, "SSPanel3"};  // all that the print panel covers
+  AreaButtonColumn area_buttons{areas};
+  DocumentView document;
+  DocumentsPane documents;
+  RecoveryPlanPane recovery_plan;
+  DocumentPrinting printing;
+  forms::ColorChoice colors;
 
   void Load() override;
   void Activate() override;
+  bool QueryUnload(forms::UnloadCause cause) override;
 
  private:
+  void BuildMenus();
+  void BuildDocumentCommands();
+
   void Press(int index);
-  void ShowArea(int index);
+  void ShowMainArea(forms::MainArea main_area);
   void AskToExit();
 
-  int area_on_show_ = forms::kCompanyData;
+  void ChooseArea(Area area);
+  void EnterArea(Area area);
+  void LeaveArea();
+  void ExitDocument();
+  Pane* PaneOf(Area area);
+
+  void CopyDocument();
+  // The print panel lies over the areas, and their menu is dead.
+  void CoverAreas(bool covered);
+  void PrintAll(DocumentPrinting::Breaks breaks);
+  void EnableMenus();
+  void ShowColors();
+
+  forms::MainArea main_area_ = forms::kCompanyData;
+  Area area_ = kNoArea;
+  Pane* pane_ = nullptr;
+  std::vector<std::pair<forms::MenuItem*, forms::Command*>> command_entries_;  // as their command
+  forms::MenuItem* options_ = nullptr;
+  forms::MenuItem* copy_entry_ = nullptr;
 };
 
 }  // namespace tarnwell::workarea

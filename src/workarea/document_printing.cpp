@@ -1,0 +1,134 @@
+#include "workarea/document_printing.h"
+
+#include <optional>
+
+#include "forms/message.h"
+#include "print/rich_text.h"
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
+#include "storage/file_names.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+constexpr forms::Margins kMarginsOfAll{.left = 600, .top = 750, .right = 600, .bottom = 650};
+
+// What is said of a text that is empty. The first one's title belongs to another place; it is what
+// the user knows.
+struct EmptyText {
+  const char* title;
+  const char* kind;
+  bool is_unticked;
+};
+constexpr EmptyText kEmptyTexts[] = {
+    {"Action Taken", "Disclaimer or How to Use entries were", false},
+    {"Comments/Notes", "Comments/Notes were", true},
+    {"Policies and Procedures", "Document/Policy was", true},
+};
+
+}  // namespace
+
+DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
+    : print(parent, context, {.range_caption = "Print Selected Document"}),
+      texts{forms::CheckBox{print.range_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
+            forms::CheckBox{print.range_frame, "SSCheck80(4)", "Comments/Notes"},
+            forms::CheckBox{print.range_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
+      all_panel(parent, "SSPanel6", "Print All Current Policies and Documents"),
+      all_note(all_panel, "Label16",
+               "Prior to printing - all current policies will be loaded into the Print Preview "
+               "screen - this may take a couple of minutes to accomplish.  Once completed you can "
+               "then review them and click on the Print Button to Print all of them at one time."),
+      all_progress(all_panel, "ProgressBar1", "Documents loaded"),
+      context_(context) {
+  all_panel.SetVisible(false);
+  for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
+    texts[static_cast<std::size_t>(i)].on_change = [this, i] { Tick(i); };
+  }
+}
+
+void DocumentPrinting::Open(PrintedDocument document) {
+  if (richtext::IsBlank(document.text(document.on_show))) {
+    return print::ReportNothingToPrint(context_);
+  }
+  document_ = std::move(document);
+  for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
+    forms::CheckBox& box = texts[static_cast<std::size_t>(i)];
+    box.SetVisible(document_.has_texts);
+    box.SetChecked(i == document_.on_show);
+  }
+  print.range_frame.SetVisible(true);
+  print::PrintJob job;
+  job.build = [this](print::PageEngine& engine) { Build(engine); };
+  print.Open(std::move(job));
+}
+
+void DocumentPrinting::Tick(int text) {
+  forms::CheckBox& box = texts[static_cast<std::size_t>(text)];
+  if (unticking_ || !print.is_open()) return;
+  if (box.checked() && richtext::IsBlank(document_.text(text))) {
+    const EmptyText& empty = kEmptyTexts[text];
+    forms::ShowMessage(
+        context_,
+        {empty.title, "No " + std::string(empty.kind) + " found for " + document_.title + "!",
+         forms::Icon::kExclamation});
+    if (empty.is_unticked) {
+      unticking_ = true;
+      box.SetChecked(false);
+      unticking_ = false;
+    }
+    return;
+  }
+  print.Rebuild();
+}
+
+void DocumentPrinting::Build(print::PageEngine& engine) {
+  bool is_first = true;
+  for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
+    if (!texts[static_cast<std::size_t>(i)].checked()) continue;
+    const richtext::RichDocument text = document_.text(i);
+    if (richtext::IsBlank(text)) continue;
+    if (!is_first) engine.NewPage();
+    is_first = false;
+    print::AddRichText(engine, text);
+  }
+}
+
+void DocumentPrinting::OpenAll(Breaks breaks) {
+  print.range_frame.SetVisible(false);
+  print::PrintJob job;
+  job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };
+  job.printed_line = false;
+  job.margins = kMarginsOfAll;
+  print.Open(std::move(job));
+  if (printed_ > 0) return;
+  print.Close();
+  print::ReportNothingToPrint(context_);
+}
+
+void DocumentPrinting::BuildAll(print::PageEngine& engine, Breaks breaks) {
+  const forms::Form::BusyScope busy(all_panel.form());
+  print.panel.SetEnabled(false);
+  all_progress.Start(kLastDocument);
+  all_panel.SetVisible(true);
+  printed_ = 0;
+  for (int number = 0; number <= kLastDocument; ++number) {
+    all_progress.SetValue(number);
+    context_.loop.Yield();
+    const auto bytes = context_.folder.ReadWhole(storage::file_names::DocumentText(number));
+    if (!bytes) continue;
+    const richtext::RichDocument document = richtext::ReadRichText(*bytes);
+    if (richtext::IsBlank(document)) continue;
+    if (++printed_ > 1) {
+      if (breaks == Breaks::kPages) {
+        engine.NewPage();
+      } else {
+        engine.Paragraph(" ");
+      }
+    }
+    print::AddRichText(engine, document);
+  }
+  all_panel.SetVisible(false);
+  print.panel.SetEnabled(true);
+}
+
+}  // namespace tarnwell::workarea

@@ -1,0 +1,56 @@
+// What the hub prints: the texts of the document in hand, or all documents together.
+
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "forms/context.h"
+#include "forms/label.h"
+#include "forms/panel.h"
+#include "forms/progress_bar.h"
+#include "print/print_panel.h"
+#include "richtext/rich_document.h"
+#include "workarea/areas.h"
+
+namespace tarnwell::workarea {
+
+// A document with the texts that can be printed of it.
+struct PrintedDocument {
+  std::string title;
+  int on_show = kPolicyText;  // the text that is ticked when the panel opens
+  bool has_texts = false;     // there are all three to choose from
+  std::function<richtext::RichDocument(int text)> text;  // what it is at present
+};
+
+class DocumentPrinting {
+ public:
+  DocumentPrinting(forms::Container& parent, forms::Context& context);
+
+  print::PrintPanel print;
+  // One for each text of a document.
+  std::array<forms::CheckBox, 3> texts;
+  forms::Panel all_panel;
+  forms::Label all_note;
+  forms::ProgressBar all_progress;
+
+  enum class Breaks { kNone, kPages };
+
+  void Open(PrintedDocument document);
+  // Every document that has text, one behind the other.
+  void OpenAll(Breaks breaks);
+
+ private:
+  void Tick(int text);
+  void Build(print::PageEngine& engine);
+  void BuildAll(print::PageEngine& engine, Breaks breaks);
+  bool AnyText();
+
+  forms::Context& context_;
+  PrintedDocument document_;
+  bool unticking_ = false;
+  int printed_ = 0;
+};
+
+}  // namespace tarnwell::workarea

@@ -1,0 +1,45 @@
+#include "workarea/document_status.h"
+
+#include <algorithm>
+
+#include "storage/file_names.h"
+#include "storage/record_file.h"
+#include "text/letters.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+constexpr int kRecordLength = 20;
+
+constexpr std::string_view kWords[] = {" ",         "Pending", "Working",
+                                       "Completed", "Review",  kNotImplemented};
+
+}  // namespace
+
+std::span<const std::string_view> StatusWords() { return kWords; }
+
+void DocumentStatus::Read(storage::ProgramFolder& folder) {
+  storage::RecordFile file(folder, storage::file_names::kDocumentStatus, kRecordLength);
+  for (int record = 1; record <= kStatusRecords; ++record) {
+    words_[static_cast<std::size_t>(record)] = file.GetText(record);
+  }
+}
+
+bool DocumentStatus::Put(storage::ProgramFolder& folder, int record, std::string_view word) {
+  storage::RecordFile file(folder, storage::file_names::kDocumentStatus, kRecordLength);
+  if (!file.PutText(record, word) || !file.Close()) return false;
+  words_[static_cast<std::size_t>(record)] = word;
+  return true;
+}
+
+std::string_view DocumentStatus::operator[](int record) const {
+  if (record < 1 || record > kStatusRecords) return {};
+  return words_[static_cast<std::size_t>(record)];
+}
+
+int DocumentStatus::PlaceOf(int record) const {
+  const auto found = std::ranges::find(kWords, text::Trim((*this)[record]), text::Trim);
+  return found == std::end(kWords) ? 0 : static_cast<int>(found - std::begin(kWords));
+}
+
+}  // namespace tarnwell::workarea

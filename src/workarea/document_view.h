@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "forms/choice.h"
+#include "forms/command.h"
+#include "forms/context.h"
+#include "forms/label.h"
+#include "forms/panel.h"
+#include "forms/rich_text_box.h"
+#include "workarea/text_tools.h"
+
+namespace tarnwell::workarea {
+
+// The right part of the hub: a document in its text box, and what is done to it. The panes of the
+// areas share it and decide which file is on show.
+class DocumentView {
+ public:
+  DocumentView(forms::Container& parent, forms::Context& context);
+
+  forms::Panel panel;
+  forms::Label heading{panel, "Label6", {}, forms::LabelRole::kHeading};
+  forms::Label status_label{panel, "Label5", "Current Status:"};
+  forms::ComboBox status{panel, "Combo1", "Current Status"};
+  forms::Panel actions{panel, "SSFrame1", "Actions"};
+  forms::OptionGroup views;
+  forms::RichTextBox text{panel, "Rtext1", {.spoken_name = "Document"}};
+  forms::Command insert_template{panel, "SSCommand2", "&Insert Template"};
+  TextTools tools;
+  forms::Command print_options{panel, "SSCommand5", "&Print Options"};
+  forms::Command save{panel, "SSCommand6", "&Save"};
+  forms::Command exit{panel, "SSCommand7", "E&xit"};
+
+  // What can be done: nothing without a document, reading alone, or everything.
+  enum class Access { kNone, kRead, kEdit };
+  Access access() const { return access_; }
+  void SetAccess(Access access);
+
+  // Shows the file's document; a missing file gives an empty view.
+  void Open(std::string_view file);
+  // Shows another file's document as a new, unsaved text of the document in hand.
+  void OpenTemplate(std::string_view file);
+  void Clear();
+  // OpenTemplate, once the user agrees to lose what is on show, if there is anything. `kind` is the
+  // box's word for that.
+  void InsertTemplate(std::string_view file, std::string_view kind);
+
+  // Writes what is on show; where nobody changed what was read, its very bytes. False when the disk
+  // refused: the text stays, unsaved.
+  bool Write(std::string_view file);
+
+  bool unsaved() const { return unsaved_; }
+  // Before the text is left: offers to save it. False when it was to be saved and couldn't be.
+  bool Settle();
+
+  std::function<bool()> on_save;   // false when the disk refused
+  std::function<void()> on_state;  // something came or went that menus depend on
+
+ private:
+  void Load(std::string_view file);
+
+  forms::Context& context_;
+  std::string stored_;  // the bytes that the document on show was read from
+  bool unsaved_ = false;
+  Access access_ = Access::kNone;
+};
+
+}  // namespace tarnwell::workarea

@@ -1,0 +1,158 @@
+#include "workarea/documents_pane.h"
+
+#include "forms/message.h"
+#include "richtext/rich_text_reader.h"
+#include "storage/file_names.h"
+#include "text/letters.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+namespace file_names = storage::file_names;
+
+std::vector<std::string> StatusItems() { return {StatusWords().begin(), StatusWords().end()}; }
+
+void RemindOfReason(forms::Context& context) {
+  forms::ShowMessage(context, {"Safeguard Not Being Implemented",
+                               "If this safeguard is not being implemented, be sure and\n"
+                               "document in the Action Taken or Comments/Notes\n"
+                               "area why it is not being implemented!",
+                               forms::Icon::kInformation});
+}
+
+}  // namespace
+
+DocumentButtons::DocumentButtons(forms::Container& parent, const DocumentGroup& which)
+    : group(which), panel(parent, std::string(which.buttons).append("Panel")) {
+  for (const DocumentButton& button : group.documents) {
+    const std::string name = std::string(group.buttons) + "(" + std::to_string(button.index) + ")";
+    buttons.push_back(std::make_unique<forms::Command>(
+        panel, name, button.caption, forms::CommandStyle{.tool_tip = button.tool_tip}));
+  }
+  panel.SetVisible(false);
+}
+
+DocumentsPane::DocumentsPane(forms::Container& parent, forms::Context& context, DocumentView& view)
+    : context_(context), view_(view) {
+  for (const DocumentGroup& group : DocumentGroups()) {
+    groups.push_back(std::make_unique<DocumentButtons>(parent, group));
+    for (std::size_t i = 0; i < group.documents.size(); ++i) {
+      groups.back()->buttons[i]->on_click = [this, &group, i] { Choose(group, i); };
+    }
+  }
+}
+
+void DocumentsPane::Enter(Area area) {
+  status_.Read(context_.folder);
+  Paint(nullptr);
+  for (const auto& row : groups) {
+    row->panel.SetVisible(row->group.area == area);
+    if (row->group.area == area) group_ = &row->group;
+  }
+  view_.status.SetItems(StatusItems());
+  view_.views.Choose(text_);
+  for (forms::Control* own :
+       std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
+    own->SetVisible(true);
+  }
+  CloseDocument();
+}
+
+void DocumentsPane::Leave() {
+  for (const auto& row : groups) row->panel.SetVisible(false);
+  CloseDocument();
+}
+
+void DocumentsPane::Paint(const forms::Command* chosen) {
+  for (const auto& row : groups) {
+    for (const auto& button : row->buttons) button->SetSelected(button.get() == chosen);
+  }
+}
+
+void DocumentsPane::Choose(const DocumentGroup& group, std::size_t place) {
+  if (document_ == &group.documents[place] || !view_.Settle()) return;
+  document_ = &group.documents[place];
+  for (const auto& row : groups) {
+    if (&row->group == &group) Paint(row->buttons[place].get());
+  }
+  title_ = text::Trim(document_->tool_tip);
+  view_.heading.SetCaption(std::string(group.heading) + title_);
+  view_.status.SetEnabled(true);
+  view_.status.Select(status_.PlaceOf(StatusRecord(number())));
+  view_.actions.SetEnabled(true);
+  ShowText();
+}
+
+void DocumentsPane::CloseDocument() {
+  document_ = nullptr;
+  title_.clear();
+  Paint(nullptr);
+  view_.Clear();
+  view_.heading.SetCaption("");
+  view_.status.Select(forms::ComboBox::kNone);
+  view_.status.SetEnabled(false);
+  view_.actions.SetEnabled(false);
+  view_.SetAccess(DocumentView::Access::kNone);
+}
+
+void DocumentsPane::PickView(int option) {
+  if (!document_ || option == text_) return;
+  if (!view_.Settle()) return view_.views.Choose(text_);
+  text_ = option;
+  ShowText();
+}
+
+// The disclaimer is one text for all documents, and only read. Its sections begin with "<".
+void DocumentsPane::ShowText() {
+  const bool disclaimer = text_ == kDisclaimerText;
+  view_.Open(FileOf(text_));
+  view_.SetAccess(disclaimer ? DocumentView::Access::kRead : DocumentView::Access::kEdit);
+  view_.insert_template.SetEnabled(text_ == kPolicyText);
+  view_.tools.StartSearch(disclaimer ? "<" : kInsertionMark);
+}
+
+std::string DocumentsPane::FileOf(int text) const {
+  switch (text) {
+    case kDisclaimerText:
+      return std::string(file_names::kDisclaimer);
+    case kCommentsText:
+      return file_names::DocumentComments(number());
+    default:
+      return file_names::DocumentText(number());
+  }
+}
+
+PrintedDocument DocumentsPane::ToPrint() {
+  return {title_, text_, true, [this](int text) {
+            if (text == text_) return view_.text.document();
+            return richtext::ReadRichText(context_.folder.ReadWhole(FileOf(text)).value_or(""));
+          }};
+}
+
+bool DocumentsPane::Save() {
+  if (!document_ || text_ == kDisclaimerText) return true;
+  if (!view_.Write(FileOf(text_))) return false;
+  forms::ShowMessage(context_,
+                     {"File Save Command",
+                      text_ == kPolicyText ? "Document, Form, Policy, etc. Has Been Saved/Updated!"
+                                           : "File Has Been Saved/Updated!",
+                      forms::Icon::kInformation});
+  return true;
+}
+
+void DocumentsPane::InsertTemplate() {
+  view_.InsertTemplate(file_names::DocumentTemplate(number()), "Agreement/Doc.");
+}
+
+void DocumentsPane::PickStatus() {
+  if (!document_) return;
+  const int record = StatusRecord(number());
+  const std::string word = view_.status.text();
+  if (!status_.Put(context_.folder, record, word)) {
+    view_.status.Select(status_.PlaceOf(record));
+  } else if (word == kNotImplemented) {
+    RemindOfReason(context_);
+  }
+}
+
+}  // namespace tarnwell::workarea

@@ -1,0 +1,66 @@
+#include "workarea/recovery_plan_pane.h"
+
+#include "forms/message.h"
+#include "storage/file_names.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+namespace file_names = storage::file_names;
+
+constexpr const char* kTitle = "Disaster Recovery Plan";
+
+void ShowInformation(forms::Context& context) {
+  forms::ShowMessage(
+      context,
+      {"Disaster Recovery Plan Information",
+       "In response to a request from a user, we have included a copy of a sample Disaster "
+       "Recovery Plan. \n"
+       "This plan is for a larger organization and may or may not be applicable to your "
+       "organization.\n"
+       "Hopefully, it will give you some ideas on how to address disaster recovery in your "
+       "situation.\n"
+       "If you are a small provider then much of this plan can be cut down or covered in a few "
+       "sentences instead of the lists and so forth as contained in this plan.\n"
+       "You can use this template to make changes in this program and save your changes, etc. or "
+       "you can copy and paste this document into your word processor and work on it there.",
+       forms::Icon::kInformation});
+}
+
+}  // namespace
+
+void RecoveryPlanPane::Enter(Area) {
+  for (forms::Control* of_others :
+       std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
+    of_others->SetVisible(false);
+  }
+  view_.heading.SetCaption(std::string(" Document: ") + kTitle);
+  view_.tools.StartSearch(kInsertionMark);
+  const bool has_plan = context_.folder.Length(file_names::kRecoveryPlan) > 0;
+  view_.Open(has_plan ? file_names::kRecoveryPlan : file_names::kRecoveryPlanInformation);
+  view_.SetAccess(DocumentView::Access::kEdit);
+  if (!has_plan) ShowInformation(context_);
+}
+
+PrintedDocument RecoveryPlanPane::ToPrint() {
+  return {.title = kTitle, .text = [this](int) { return view_.text.document(); }};
+}
+
+bool RecoveryPlanPane::Save() {
+  if (!view_.Write(file_names::kRecoveryPlan)) return false;
+  forms::ShowMessage(context_, {"File Save Command", "Disaster Recovery Plan Has Been Saved!",
+                                forms::Icon::kInformation});
+  return true;
+}
+
+void RecoveryPlanPane::InsertTemplate() {
+  view_.InsertTemplate(file_names::kRecoveryPlanTemplate, "Disaster Recovery Plan.");
+}
+
+void RecoveryPlanPane::CloseDocument() {
+  view_.Clear();
+  view_.heading.SetCaption("");
+  view_.SetAccess(DocumentView::Access::kNone);
+}
+
+}  // namespace tarnwell::workarea

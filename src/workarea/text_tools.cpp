@@ -1,0 +1,138 @@
+#include "workarea/text_tools.h"
+
+#include "forms/message.h"
+#include "proofing/spelling.h"
+#include "proofing/synonyms.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+using richtext::Alignment;
+
+constexpr Alignment kAlignments[] = {Alignment::kLeft, Alignment::kCenter, Alignment::kRight};
+
+// The paragraphs of the document, checked where they stand.
+class CheckedDocument : public proofing::CheckedText {
+ public:
+  explicit CheckedDocument(forms::RichTextBox& text) : text_(text) {}
+
+  int parts() override { return text_.paragraph_count(); }
+  std::string part(int index) override { return text_.ParagraphText(index); }
+  void Show(int index, std::size_t offset, std::size_t length) override {
+    text_.Select(RangeOf(index, offset, length));
+  }
+  void Replace(int index, std::size_t offset, std::size_t length, std::string_view utf8) override {
+    text_.Replace(RangeOf(index, offset, length), utf8);
+    changed = true;
+  }
+
+  bool changed = false;
+
+ private:
+  static richtext::Range RangeOf(int paragraph, std::size_t offset, std::size_t length) {
+    return {{paragraph, static_cast<int>(offset)}, {paragraph, static_cast<int>(offset + length)}};
+  }
+
+  forms::RichTextBox& text_;
+};
+
+}  // namespace
+
+TextTools::TextTools(forms::Container& parent, forms::Context& context, forms::RichTextBox& text)
+    : font(parent, "SSCommand8", "&Font Select"),
+      spelling(parent, "SSCommand10", "Spell &Check"),
+      thesaurus(parent, "SSCommand9", "&Thesaurus"),
+      find_mark(parent, "SSCommand29", "Find Next Insertion Point"),
+      alignment_frame(parent, "SSFrame2", "Text Location"),
+      alignment(alignment_frame, "SSOption1", {"Left", "Center", "Right"}),
+      context_(context),
+      text_(text) {
+  font.on_click = [this] { ChooseFont(); };
+  spelling.on_click = [this] { CheckSpelling(); };
+  thesaurus.on_click = [this] { LookUp(); };
+  find_mark.on_click = [this] { FindMark(); };
+  alignment.on_pick = [this](int option) { Align(option); };
+  text_.on_selection = [this] { ShowAlignment(); };
+}
+
+void TextTools::StartSearch(std::string_view mark) {
+  mark_ = mark;
+  position_ = {};
+  ShowAlignment();
+}
+
+void TextTools::Enable(bool search, bool change) {
+  find_mark.SetEnabled(search);
+  for (forms::Control* tool :
+       std::initializer_list<forms::Control*>{&font, &spelling, &thesaurus, &alignment_frame}) {
+    tool->SetEnabled(change);
+  }
+}
+
+void TextTools::ChooseFont() {
+  const auto chosen = context_.dialogs.ChooseFont(text_.SelectionFont());
+  if (chosen) {
+    text_.SetSelectionFont(*chosen);
+    Changed();
+  }
+  text_.Focus();
+}
+
+void TextTools::Align(int option) {
+  text_.SetSelectionAlignment(kAlignments[option]);
+  Changed();
+  text_.Focus();
+}
+
+void TextTools::ShowAlignment() {
+  const Alignment shown = text_.SelectionAlignment();
+  int option = forms::OptionGroup::kNone;
+  for (int i = 0; i < alignment.size(); ++i) {
+    if (kAlignments[i] == shown) option = i;
+  }
+  alignment.Choose(option);
+}
+
+void TextTools::CheckSpelling() {
+  CheckedDocument document(text_);
+  proofing::CheckSpelling(context_, document);
+  if (document.changed) Changed();
+  forms::ShowMessage(
+      context_,
+      {"Spell Check", "Spell Check has been canceled or has reached the end of your document",
+       forms::Icon::kInformation});
+  text_.Focus();
+}
+
+void TextTools::LookUp() {
+  const std::string selected = text_.SelectedText();
+  richtext::Range range = text_.selection();
+  if (range.from.paragraph == range.to.paragraph) {
+    range.to.offset =
+        range.from.offset + static_cast<int>(proofing::WordToLookUp(selected).size());
+    text_.Select(range);
+  }
+  if (const auto synonym = proofing::LookUpSynonym(context_, selected)) {
+    text_.Replace(range, *synonym);
+    Changed();
+  }
+  text_.Focus();
+}
+
+void TextTools::FindMark() {
+  if (const auto found = text_.Find(mark_, position_)) {
+    position_ = found->to;
+    text_.Select(*found);
+  } else {
+    position_ = {};
+    forms::ShowMessage(context_, {"Search Document", "Search has reached the end of the document.",
+                                  forms::Icon::kInformation});
+  }
+  text_.Focus();
+}
+
+void TextTools::Changed() {
+  if (on_change) on_change();
+}
+
+}  // namespace tarnwell::workarea

@@ -1,0 +1,313 @@
+#include "workarea/workarea1.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
+#include "shell/startfrm.h"
+#include "support/failing_file_system.h"
+#include "support/format_page.h"
+#include "support/program_rig.h"
+
+namespace tarnwell::workarea {
+namespace {
+
+using forms::Answer;
+using ::testing::ElementsAre;
+
+constexpr const char* kSaveTitle = "Save Changes?";
+constexpr const char* kSaveText = "Save changes/entries before next action?";
+constexpr const char* kSaved = "File Save Command";
+constexpr const char* kTemplateQuestion =
+    "The program has detected an existing Agreement/Doc.\n"
+    "If you insert template and save file the existing file will be overwritten!\n"
+    "Insert new Template?";
+constexpr const char* kPlain = R"({\rtf1\ansi\deff0{\fonttbl{\f0 Times New Roman;}}\pard )";
+
+std::string Rtf(const std::string& text) { return kPlain + text + "\\par}\r\n"; }
+
+class WorkArea1Test : public ::testing::Test {
+ protected:
+  void SetUp() override { rig.temporary.Write("DRPln1.Fl2", Rtf("Our plan")); }
+  void Open() {
+    rig.Start();
+    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    ASSERT_EQ(rig.top(), "WorkArea1");
+  }
+  WorkArea1& hub() { return rig.Get<WorkArea1>("WorkArea1"); }
+  forms::Command& Button(std::string_view name) {
+    return dynamic_cast<forms::Command&>(*hub().Find(name));
+  }
+  void Press(std::string_view name) { Button(name).Click(); }
+  std::string Shown() { return richtext::PlainText(hub().document.text.document()); }
+  std::string Stored(const std::string& file) {
+    return richtext::PlainText(richtext::ReadRichText(rig.temporary.Read(file)));
+  }
+  void ExpectSaveQuestion(Answer answer) { rig.dialogs.Expect(kSaveTitle, kSaveText, answer); }
+  void ExpectSaved() {
+    rig.dialogs.Expect(kSaved, "Document, Form, Policy, etc. Has Been Saved/Updated!");
+  }
+
+  testing::ProgramRig rig;
+};
+
+TEST_F(WorkArea1Test, ADocumentIsStartedFromItsTemplateSavedAndFoundAgain) {
+  rig.temporary.Write("EmployPolicy5.Fl1", Rtf("This agreement"));
+  Open();
+  Press("SSCommand14(5)");
+  EXPECT_TRUE(Button("SSCommand14(5)").selected());
+  EXPECT_EQ(hub().document.heading.caption(), " Document: Employment Agreement");
+  EXPECT_EQ(Shown(), "");
+
+  hub().document.insert_template.Click();
+  EXPECT_EQ(Shown(), "This agreement");
+  EXPECT_FALSE(rig.folder.Exists("EmployPolicy5.Fl2"));
+  ExpectSaved();
+  hub().document.save.Click();
+  EXPECT_EQ(rig.temporary.Read("EmployPolicy5.Fl2"), Rtf("This agreement"));
+
+  hub().document.text.Type("Signed: ");
+  ExpectSaved();
+  hub().document.save.Click();
+  hub().document.exit.Click();
+  EXPECT_EQ(Shown(), "");
+  EXPECT_FALSE(Button("SSCommand14(5)").selected());
+  EXPECT_FALSE(hub().document.save.enabled());
+
+  Press("SSCommand14(5)");
+  EXPECT_EQ(Shown(), "Signed: This agreement");
+}
+
+TEST_F(WorkArea1Test, ATemplateReplacesATextOnlyOnYes) {
+  rig.temporary.Write("EmployPolicy0.Fl1", Rtf("Template"));
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Mine"));
+  Open();
+  Press("SSCommand14(0)");
+  for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
+    rig.dialogs.Expect("Insert Template", kTemplateQuestion, answer);
+    hub().document.insert_template.Click();
+    EXPECT_EQ(Shown(), "Mine");
+    EXPECT_FALSE(hub().document.unsaved());
+  }
+  EXPECT_EQ(rig.dialogs.last.default_button, 2);
+  rig.dialogs.Expect("Insert Template", kTemplateQuestion, Answer::kYes);
+  hub().document.insert_template.Click();
+  EXPECT_EQ(Shown(), "Template");
+  EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "Mine");
+  EXPECT_TRUE(hub().document.unsaved());
+}
+
+TEST_F(WorkArea1Test, EveryWayOutOfAnUnsavedTextAsksToSaveIt) {
+  Open();
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"another document", [&] { Press("SSCommand14(1)"); }},
+      {"another area", [&] { Press("SSCommand11(4)"); }},
+      {"another text", [&] { hub().document.views.Pick(kCommentsText); }},
+      {"exit", [&] { hub().document.exit.Click(); }},
+      {"a main button", [&] { hub().main_buttons[forms::kEmployeeData].Click(); }},
+      {"another screen", [&] { hub().main_buttons[forms::kToolsAndProgramInformation].Click(); }},
+  };
+  for (const auto& [way, leave] : ways) {
+    SCOPED_TRACE(way);
+    rig.Start();
+    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    Press("SSCommand14(0)");
+    hub().document.text.Type("Dropped");
+    ExpectSaveQuestion(Answer::kNo);
+    leave();
+    EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "");
+
+    rig.Start();
+    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    Press("SSCommand14(0)");
+    Press("SSCommand14(0)");  // the one in hand: nothing
+    hub().document.text.Type("Kept");
+    ExpectSaveQuestion(Answer::kYes);
+    ExpectSaved();
+    leave();
+    EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "Kept");
+    EXPECT_FALSE(hub().document.unsaved());
+    ASSERT_TRUE(rig.folder.Delete("EmployPolicy0.Fl2"));
+  }
+}
+
+TEST_F(WorkArea1Test, ATextThatCantBeSavedStaysOnTheScreen) {
+  testing::FailingFileSystem files(storage::RealFileSystem());
+  testing::ProgramRig full(files);
+  full.Start();
+  full.Get<shell::Startfrm>("Startfrm").begin.Click();
+  auto& form = full.Get<WorkArea1>("WorkArea1");
+  dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
+  form.document.text.Type("Precious");
+  files.MakeReadOnly();
+  for (int i = 0; i < 3; ++i) full.dialogs.Expect(kSaveTitle, kSaveText, Answer::kYes);
+  form.document.exit.Click();
+  form.main_buttons[forms::kEmployeeData].Click();
+  form.document.views.Pick(kCommentsText);
+  EXPECT_EQ(richtext::PlainText(form.document.text.document()), "Precious");
+  EXPECT_EQ(form.main_buttons.selected(), forms::kCompanyData);
+  EXPECT_EQ(form.document.views.chosen(), kPolicyText);
+}
+
+TEST_F(WorkArea1Test, EachTextOfADocumentHasItsFile) {
+  rig.temporary.Write("EmployAction1.Fl2", Rtf("< Disclaimer"));
+  rig.temporary.Write("EmployComment35.Fl2", Rtf("Old remark"));
+  Open();
+  Press("SSCommand11(4)");
+  Press("SSCommand16(2)");
+  EXPECT_EQ(hub().document.heading.caption(), " Policy: Company Policy Manual");
+  hub().document.text.Type("Manual");
+  ExpectSaved();
+  hub().document.save.Click();
+
+  hub().document.views.Pick(kCommentsText);
+  EXPECT_EQ(Shown(), "Old remark");
+  EXPECT_FALSE(hub().document.insert_template.enabled());
+  hub().document.text.Type("New and o");
+  rig.dialogs.Expect(kSaved, "File Has Been Saved/Updated!");
+  hub().document.save.Click();
+  EXPECT_EQ(Stored("EmployComment35.Fl2"), "New and oOld remark");
+
+  hub().document.views.Pick(kDisclaimerText);
+  EXPECT_EQ(Shown(), "< Disclaimer");
+  EXPECT_TRUE(hub().document.text.locked());
+  EXPECT_FALSE(hub().document.save.enabled());
+  hub().document.tools.find_mark.Click();
+  EXPECT_EQ(hub().document.text.SelectedText(), "<");
+
+  Press("SSCommand16(3)");  // the view stays
+  EXPECT_EQ(Shown(), "< Disclaimer");
+  hub().document.views.Pick(kPolicyText);
+  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(Stored("EmployPolicy35.Fl2"), "Manual");
+}
+
+TEST_F(WorkArea1Test, AStatusWordIsStoredAtOnceUnderItsDocument) {
+  Open();
+  Press("SSCommand14(5)");
+  hub().document.status.Pick(2);
+  hub().main_buttons[forms::kEmployeeData].Click();
+  Press("SSCommand17(0)");
+  EXPECT_EQ(hub().document.status.text(), " ");
+  rig.dialogs.Expect("Safeguard Not Being Implemented",
+                     "If this safeguard is not being implemented, be sure and\n"
+                     "document in the Action Taken or Comments/Notes\n"
+                     "area why it is not being implemented!");
+  hub().document.status.Pick(5);
+  const auto example = testing::ReadFormatExample("stat1.md");
+  std::string stored = rig.temporary.Read("Stat1.Fil");
+  EXPECT_EQ(stored, testing::FileOf(example));
+
+  Open();
+  Press("SSCommand14(5)");
+  EXPECT_EQ(hub().document.status.text(), "Working");
+  Press("SSCommand14(6)");
+  EXPECT_EQ(hub().document.status.text(), " ");
+}
+
+TEST_F(WorkArea1Test, TheRecoveryPlanIsExplainedUntilThereIsOne) {
+  rig.temporary.Write("DRPln1.Fl2", "");
+  rig.temporary.Write("Misc60.Fl1", Rtf("About plans"));
+  rig.temporary.Write("DRPln1.Fl1", Rtf("Sample plan"));
+  Open();
+  const auto enter = [&] { Press("SSCommand11(8)"); };
+  const std::string information =
+      "In response to a request from a user, we have included a copy of a sample Disaster Recovery "
+      "Plan. \nThis plan is for a larger organization and may or may not be applicable to your "
+      "organization.\nHopefully, it will give you some ideas on how to address disaster recovery "
+      "in your situation.\nIf you are a small provider then much of this plan can be cut down or "
+      "covered in a few sentences instead of the lists and so forth as contained in this plan.\n"
+      "You can use this template to make changes in this program and save your changes, etc. or "
+      "you can copy and paste this document into your word processor and work on it there.";
+  rig.dialogs.Expect("Disaster Recovery Plan Information", information);
+  enter();
+  EXPECT_EQ(Shown(), "About plans");
+  EXPECT_FALSE(hub().document.actions.visible());
+  rig.dialogs.Expect("Insert Template",
+                     "The program has detected an existing Disaster Recovery Plan.\n"
+                     "If you insert template and save file the existing file will be overwritten!\n"
+                     "Insert new Template?",
+                     Answer::kYes);
+  hub().document.insert_template.Click();
+  rig.dialogs.Expect(kSaved, "Disaster Recovery Plan Has Been Saved!");
+  hub().document.save.Click();
+  EXPECT_EQ(rig.temporary.Read("DRPln1.Fl2"), Rtf("Sample plan"));
+
+  hub().document.exit.Click();
+  EXPECT_FALSE(Button("SSCommand11(8)").selected());
+  enter();
+  EXPECT_EQ(Shown(), "Sample plan");
+}
+
+TEST_F(WorkArea1Test, TheSearchGoesFromMarkToMarkAndBeginsAgain) {
+  const std::string mark(45, '&');
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("By " + mark + " and\\par the " + mark + " of it"));
+  Open();
+  Press("SSCommand14(0)");
+  auto& text = hub().document.text;
+  const auto find = [&] { hub().document.tools.find_mark.Click(); };
+  find();
+  EXPECT_EQ(text.selection(), (richtext::Range{{0, 3}, {0, 48}}));
+  text.Type("Ann Lee");
+  find();
+  EXPECT_EQ(text.SelectedText(), mark);
+  EXPECT_EQ(text.selection().from.paragraph, 1);
+  rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
+  find();
+  find();
+  EXPECT_EQ(text.selection().from.paragraph, 1);
+  EXPECT_EQ(Shown(), "By Ann Lee and\nthe " + mark + " of it");
+}
+
+TEST_F(WorkArea1Test, FontAndAlignmentChangeTheSelectionAndAreUnsaved) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("One\\par Two"));
+  Open();
+  Press("SSCommand14(0)");
+  auto& view = hub().document;
+  EXPECT_EQ(view.tools.alignment.chosen(), 0);
+  view.text.MoveSelection({{1, 0}, {1, 3}});
+  view.tools.alignment.Pick(1);
+  EXPECT_TRUE(view.unsaved());
+  rig.dialogs.ExpectFont(forms::Font{.name = "Arial", .size = 14, .bold = true});
+  view.tools.font.Click();
+  const auto& paragraph = std::get<richtext::Paragraph>(view.text.document().blocks[1]);
+  EXPECT_EQ(paragraph.format.alignment, richtext::Alignment::kCenter);
+  EXPECT_EQ(paragraph.runs[0].format.font, "Arial");
+  EXPECT_EQ(paragraph.runs[0].format.half_points, 28);
+  view.text.MoveSelection({{0, 0}, {0, 0}});
+  EXPECT_EQ(view.tools.alignment.chosen(), 0);
+}
+
+TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {
+  Open();
+  const auto enabled = [&](const char* entry) { return hub().menus().Find(entry)->enabled(); };
+  const char* const entries[] = {"mOClip", "mOFont", "mOSpell", "mOThes", "mOP", "mOS"};
+  for (const char* entry : entries) EXPECT_FALSE(enabled(entry)) << entry;
+  Press("SSCommand14(0)");
+  for (const char* entry : entries) EXPECT_TRUE(enabled(entry)) << entry;
+  hub().document.views.Pick(kDisclaimerText);
+  EXPECT_TRUE(enabled("mOClip"));
+  EXPECT_FALSE(enabled("mOFont"));
+  EXPECT_FALSE(enabled("mOS"));
+}
+
+TEST_F(WorkArea1Test, TheWholeDocumentIsCopiedAsRichText) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("All {\\b of} it"));
+  Open();
+  Press("SSCommand14(0)");
+  hub().document.text.MoveSelection({{0, 0}, {0, 3}});
+  rig.dialogs.Expect("Copy Option", "A copy has been copied to the Windows Clipboard.");
+  rig.ClickMenu("mOClip");
+  EXPECT_EQ(richtext::ReadRichText(rig.clipboard.rich_text), hub().document.text.document());
+}
+
+TEST_F(WorkArea1Test, TheHelpFollowsTheArea) {
+  Open();
+  EXPECT_EQ(hub().help_context(), 3010);
+  Press("SSCommand11(8)");
+  EXPECT_EQ(hub().help_context(), 3048);
+}
+
+}  // namespace
+}  // namespace tarnwell::workarea
