@@ -15,6 +15,7 @@ constexpr int kThickest = 120;   // twips of a border
 struct CellLine {
   RichLine line;
   int gap = 0;  // above it
+  int FullHeight() const { return gap + line.height; }
 };
 
 struct LaidCell {
@@ -23,6 +24,7 @@ struct LaidCell {
   int right = 0;
   std::vector<CellLine> lines;
   std::size_t next = 0;  // line that isn't placed yet
+  std::size_t end = 0;   // of the lines that come to stand on this page
   int last_gap = 0;      // below the last line
 };
 
@@ -99,7 +101,7 @@ class RowPlacer {
   static int HeightLeft(const LaidCell& cell) {
     int height = cell.last_gap;
     for (std::size_t i = cell.next; i < cell.lines.size(); ++i) {
-      height += cell.lines[i].gap + cell.lines[i].line.height;
+      height += cell.lines[i].FullHeight();
     }
     return height;
   }
@@ -113,7 +115,7 @@ class RowPlacer {
   static std::size_t FittingLines(const LaidCell& cell, int room) {
     std::size_t i = cell.next;
     while (i < cell.lines.size()) {
-      room -= cell.lines[i].gap + cell.lines[i].line.height;
+      room -= cell.lines[i].FullHeight();
       if (room < 0) break;
       ++i;
     }
@@ -131,19 +133,32 @@ class RowPlacer {
     const int top = engine_.y();
     int bottom = top + (engine_.HasRoom(room) ? room : 0);
     for (LaidCell& cell : cells_) {
-      std::size_t count = FittingLines(cell, room);
-      if (count == 0 && forced && cell.next < cell.lines.size()) count = 1;
-      int y = top;
-      for (const std::size_t end = cell.next + count; cell.next < end; ++cell.next) {
-        const CellLine& line = cell.lines[cell.next];
-        y += line.gap;
-        PlaceLine(engine_, styles_, line.line, engine_.left() + cell.left + row_.half_gap, y);
-        y += line.line.height;
-      }
-      bottom = std::max(bottom, y);
+      cell.end = cell.next + FittingLines(cell, room);
+      if (cell.end == cell.next && forced && cell.next < cell.lines.size()) ++cell.end;
+      int height = 0;
+      for (std::size_t i = cell.next; i < cell.end; ++i) height += cell.lines[i].FullHeight();
+      bottom = std::max(bottom, top + height);
     }
+    for (const LaidCell& cell : cells_) PlaceFill(cell, top, bottom);
+    for (LaidCell& cell : cells_) PlaceText(cell, top);
     for (const LaidCell& cell : cells_) PlaceBorders(cell, top, bottom);
     engine_.MoveTo(bottom);
+  }
+
+  void PlaceFill(const LaidCell& cell, int top, int bottom) {
+    if (!cell.cell->fill) return;
+    engine_.Add(forms::PlacedBox{engine_.left() + cell.left, top, cell.right - cell.left,
+                                 bottom - top, std::nullopt, ToPageColor(*cell.cell->fill)});
+  }
+
+  void PlaceText(LaidCell& cell, int top) {
+    int y = top;
+    for (; cell.next < cell.end; ++cell.next) {
+      const CellLine& line = cell.lines[cell.next];
+      PlaceLine(engine_, styles_, line.line, engine_.left() + cell.left + row_.half_gap,
+                y + line.gap);
+      y += line.FullHeight();
+    }
   }
 
   void PlaceBorders(const LaidCell& cell, int top, int bottom) {

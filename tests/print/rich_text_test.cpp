@@ -235,12 +235,14 @@ TEST_F(RichTextTest, LongTextRunsOnFromTheEnginesPositionOverItsPages) {
 TEST_F(RichTextTest, ATableStandsInItsEdgesWithItsBorders) {
   Start();
   Print(
-      "x\\par\\trowd\\trgaph50\\clbrdrt\\brdrs\\brdrw20\\brdrcf1\\cellx1000\\cellx2000"
+      "x\\par\\trowd\\trgaph50\\clbrdrt\\brdrs\\brdrw20\\brdrcf1\\cellx1000\\clcbpat2\\cellx2000"
       "\\pard\\intbl ab cd efgh\\cell\\pard\\intbl\\qr r\\cell\\row\\pard y");
   EXPECT_EQ(Texts(),
             (Lines{"100,100 x", "150,340 ab cd", "150,580 efgh", "1950,340 r", "100,820 y"}));
   EXPECT_THAT(All<forms::PlacedLine>(),
               ElementsAre(forms::PlacedLine{100, 340, 1100, 340, 0x0000FF, 20}));
+  const forms::Mark fill = forms::PlacedBox{1100, 340, 1000, 480, std::nullopt, 0x00FFFF};
+  EXPECT_EQ(page(0).at(1), fill) << "it lies below the text of its cell";
 }
 
 TEST_F(RichTextTest, ARowMovesWholeUnlessItIsTallerThanAPage) {

@@ -6,12 +6,43 @@ namespace tarnwell::testing {
 namespace {
 
 const QString kTime = QStringLiteral("9:30 AM");
+const QString kAgreementDate = QStringLiteral("March 9, 2026");
 const QString kAppointment = QStringLiteral("Dentist");
 
-void GoToPlanner(Traveller& person) {
+void WriteAgreement(Traveller& person) {
   person.Click("Command2");
   person.ExpectTop("WorkArea1");
   person.TakePicture("company-data");
+  person.Click("SSCommand14(5)");
+  person.Click("SSCommand2");
+  person.Click("SSCommand29");
+  person.TakePicture("agreement-with-its-first-mark");
+  person.Type(kAgreementDate);
+  person.Answer(
+      QStringLiteral("File Save Command"), QMessageBox::Ok, [&] { person.Click("SSCommand6"); },
+      "agreement-saved");
+  person.Click("SSCommand5");
+  person.TakePicture("agreement-print");
+  person.Click("SSCommand80(2)");
+}
+
+void LookAtOtherDocuments(Traveller& person) {
+  person.Click("SSOption3");
+  person.TakePicture("disclaimer");
+  person.Click("SSCommand11(4)");
+  person.TakePicture("policies");
+  person.Answer(
+      QStringLiteral("Disaster Recovery Plan Information"), QMessageBox::Ok,
+      [&] { person.Click("SSCommand11(8)"); }, "recovery-plan-information");
+  person.TakePicture("recovery-plan");
+  person.Click("SSCommand4(1)");
+  person.TakePicture("employee-data");
+  person.ChooseFromMenu("mOPAllB");
+  person.TakePicture("print-all");
+  person.Click("SSCommand80(2)");
+}
+
+void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
   person.TakePicture("tools-and-program-info");
@@ -78,6 +109,8 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   desktop.Start();
   person.ExpectTop("Startfrm");
   person.TakePicture("start");
+  WriteAgreement(person);
+  LookAtOtherDocuments(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);
