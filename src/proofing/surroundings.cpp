@@ -49,7 +49,8 @@ Surroundings SurroundingsOf(std::string_view text, const WordPlace& word, std::s
   pieces.after = text::TrimRight(pieces.after);
   if (pieces.before.size() > width) {
     const std::size_t cut = pieces.before.size() - width;
-    pieces.before = kDots + pieces.before.substr(std::max(cut, pieces.before.find(' ', cut - 1) + 1));
+    pieces.before =
+        kDots + pieces.before.substr(std::max(cut, pieces.before.find(' ', cut - 1) + 1));
   }
   if (pieces.after.size() > width) {
     const std::size_t blank = pieces.after.rfind(' ', width);

@@ -71,15 +71,19 @@ void VSThesaurus1::TakeSynonym() {
 void VSThesaurus1::EnableCommands() {
   const std::string chosen = text::Trim(replace_with.text());
   replace.SetEnabled(!chosen.empty() && chosen != start);
-  look_up.SetEnabled(!chosen.empty());
+  look_up.SetEnabled(!chosen.empty() && NextWord() != words_.back());
   previous.SetEnabled(words_.size() > 1);
 }
 
-// Goes on with the synonym in hand, or with what was typed instead of it.
-void VSThesaurus1::LookUp() {
+// The synonym in hand, or what was typed instead of it.
+std::string VSThesaurus1::NextWord() const {
   const std::string picked = WithoutNote(synonyms.text());
   const bool typed = replace_with.text() != ReplacementFor(start, picked);
-  words_.push_back(typed ? text::Trim(replace_with.text()) : picked);
+  return typed ? text::Trim(replace_with.text()) : picked;
+}
+
+void VSThesaurus1::LookUp() {
+  words_.push_back(NextWord());
   ShowWord();
 }
 

@@ -44,6 +44,7 @@ class VSThesaurus1 : public forms::Form {
   void ShowSynonyms();
   void TakeSynonym();
   void EnableCommands();
+  std::string NextWord() const;
   void LookUp();
   void GoBack();
   void Replace();

@@ -48,6 +48,20 @@ Kind KindOf(char32_t character) {
   return character == '\'' ? Kind::kApostrophe : Kind::kOther;
 }
 
+bool IsLetterAt(std::string_view text, std::size_t place) {
+  return place < text.size() && IsIn(static_cast<unsigned char>(text[place]) | 0x20, 'a', 'z');
+}
+
+// A letter that numbers a paragraph, "i)", or stands in an abbreviation, "i.e.".
+bool IsLoneLetter(std::string_view text, const WordPlace& word) {
+  if (word.length != 1) return false;
+  const std::size_t begin = word.offset;
+  const std::size_t end = word.end();
+  if (end < text.size() && text[end] == ')') return true;
+  if (end < text.size() && text[end] == '.' && IsLetterAt(text, end + 1)) return true;
+  return begin >= 2 && text[begin - 1] == '.' && IsLetterAt(text, begin - 2);
+}
+
 // Puts the words together, one character after the other.
 class WordCollector {
  public:
@@ -105,7 +119,9 @@ std::vector<WordPlace> WordsOf(std::string_view text) {
     collector.Take(kind, begin, end);
   }
   end_run(text.size());
-  return std::move(collector).words();
+  std::vector<WordPlace> words = std::move(collector).words();
+  std::erase_if(words, [&](const WordPlace& word) { return IsLoneLetter(text, word); });
+  return words;
 }
 
 bool StandTogether(std::string_view text, const WordPlace& first, const WordPlace& second) {

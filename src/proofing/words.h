@@ -20,7 +20,8 @@ struct WordPlace {
 };
 
 // In the order of the text. An apostrophe between two letters belongs to the word. Left out are web
-// and mail addresses, words with a digit, and words with a letter that the code page can't hold.
+// and mail addresses, the letters of "i.e." and "(i)", words with a digit, and words with a letter
+// that the code page can't hold.
 std::vector<WordPlace> WordsOf(std::string_view text);
 
 // Nothing but blanks lies between the two.

@@ -8,6 +8,7 @@ namespace {
 const QString kTime = QStringLiteral("9:30 AM");
 const QString kAgreementDate = QStringLiteral("March 9, 2026");
 const QString kAppointment = QStringLiteral("Dentist");
+const QString kMistypedAppointment = QStringLiteral("Denttist");
 
 void WriteAgreement(Traveller& person) {
   person.Click("Command2");
@@ -50,12 +51,25 @@ void GoToPlanner(Traveller& person) {
   person.ExpectTop("Zcalandar1");
 }
 
+void CorrectAppointment(Traveller& person) {
+  const auto answer = [&] {
+    person.TakePicture("spelling");
+    person.Click("Command1");
+  };
+  const auto check = [&] {
+    person.Meet(
+        "VSSpell1", [&] { person.Click("Command8"); }, answer);
+  };
+  person.Answer(QStringLiteral("Spelling Check"), QMessageBox::Ok, check);
+}
+
 void WriteAppointment(Traveller& person) {
   person.TakePicture("planner-empty");
   person.Click("Text1(0)");
   person.Type(kTime);
   person.Press(Qt::Key_Return);
-  person.Type(kAppointment);
+  person.Type(kMistypedAppointment);
+  CorrectAppointment(person);
   person.ExpectText("Text2(0)", kAppointment);
   person.TakePicture("planner-filled");
   person.Answer(

@@ -94,6 +94,21 @@ void Traveller::Answer(const QString& title, QMessageBox::StandardButton button,
   if (!answered) Note(QStringLiteral("no box ") + title);
 }
 
+void Traveller::Meet(const char* form, const std::function<void()>& act,
+                     const std::function<void()>& in_form) {
+  bool met = false;
+  QTimer look;
+  look.callOnTimeout([&] {
+    const forms::Form* top = desktop_->navigator().top();
+    if (met || !top || top->name() != form) return;
+    met = true;
+    in_form();
+  });
+  look.start(kLookForBoxMs);
+  act();
+  if (!met) Note(QStringLiteral("no form ") + QLatin1String(form));
+}
+
 // Windows lie on the screen as they would for a person, on any platform that Qt draws on.
 void Traveller::TakePicture(const char* name) {
   if (pictures_.isEmpty()) return;

@@ -29,6 +29,9 @@ class Traveller {
   // Does `act`, which brings a box of that title, and answers it.
   void Answer(const QString& title, QMessageBox::StandardButton button,
               const std::function<void()>& act, const char* picture = nullptr);
+  // Does `act`, which brings that modal form, and `in_form` when it is there.
+  void Meet(const char* form, const std::function<void()>& act,
+            const std::function<void()>& in_form);
   // Saves what is on the screen as the next picture.
   void TakePicture(const char* name);
   // The same, a little later: for a screen that comes and goes while the program is busy.
