@@ -15,6 +15,7 @@
 #include "forms/page_preview.h"
 #include "forms/panel.h"
 #include "forms/progress_bar.h"
+#include "forms/rich_text_box.h"
 #include "forms/text_field.h"
 
 namespace tarnwell::desktop {
@@ -33,6 +34,8 @@ QWidget* Widget(forms::Grid& grid, PictureStore& pictures);
 QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures);
 QWidget* Widget(forms::DatePicker& picker);
 QWidget* Widget(forms::ProgressBar& bar);
+// A plain text is pasted as rich text where the clipboard has it; Ctrl and the wheel zoom.
+QWidget* Widget(forms::RichTextBox& box);
 // A panel around `content`. With a caption it is a card with a title, else a plain area.
 QWidget* Widget(forms::Panel& panel, QWidget* content);
 

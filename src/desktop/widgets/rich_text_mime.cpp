@@ -1,0 +1,73 @@
+#include "desktop/widgets/rich_text_mime.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include "desktop/widgets/html_fragment.h"
+#include "richtext/html.h"
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
+#include "richtext/rich_text_writer.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+// What programs of the different systems look for. Windows knows the format by its registered name.
+constexpr const char* kRichTextFormats[] = {
+    "text/rtf", "application/rtf", "text/richtext",
+    R"(application/x-qt-windows-mime;value="Rich Text Format")"};
+
+QByteArray RtfIn(const QMimeData& mime) {
+  for (const char* format : kRichTextFormats) {
+    QByteArray rtf = mime.data(QLatin1String(format));
+    if (richtext::IsRtf({rtf.constData(), static_cast<std::size_t>(rtf.size())})) return rtf;
+  }
+  return {};
+}
+
+richtext::RichDocument PictureDocument(const QImage& image) {
+  QByteArray file;
+  QBuffer buffer(&file);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  richtext::Picture picture;
+  picture.bytes = file.toStdString();
+  richtext::RichDocument document;
+  richtext::Paragraph paragraph;
+  paragraph.runs.push_back({{}, std::move(picture), richtext::kNoField});
+  document.blocks.emplace_back(std::move(paragraph));
+  return document;
+}
+
+}  // namespace
+
+std::unique_ptr<QMimeData> ToMime(const richtext::RichDocument& document, const QByteArray& rtf) {
+  auto mime = std::make_unique<QMimeData>();
+  for (const char* format : kRichTextFormats) mime->setData(QLatin1String(format), rtf);
+  mime->setHtml(QString::fromStdString(richtext::ToHtml(document)));
+  mime->setText(QString::fromStdString(richtext::PlainText(document)));
+  return mime;
+}
+
+std::unique_ptr<QMimeData> ToMime(const richtext::RichDocument& document) {
+  return ToMime(document, QByteArray::fromStdString(richtext::WriteRichText(document)));
+}
+
+std::optional<richtext::RichDocument> FromMime(const QMimeData& mime) {
+  const QByteArray rtf = RtfIn(mime);
+  if (!rtf.isEmpty()) {
+    return richtext::ReadRichText({rtf.constData(), static_cast<std::size_t>(rtf.size())});
+  }
+  if (mime.hasHtml()) return HtmlFragment(mime.html());
+  if (!mime.hasText() && mime.hasImage()) {
+    const QImage image = qvariant_cast<QImage>(mime.imageData());
+    if (!image.isNull()) return PictureDocument(image);
+  }
+  return std::nullopt;
+}
+
+bool HoldsText(const QMimeData& mime) {
+  return mime.hasText() || mime.hasHtml() || mime.hasImage() || !RtfIn(mime).isEmpty();
+}
+
+}  // namespace tarnwell::desktop

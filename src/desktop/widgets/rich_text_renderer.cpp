@@ -1,0 +1,278 @@
+#include "desktop/widgets/rich_text_renderer.h"
+
+#include <QTextBlock>
+#include <algorithm>
+#include <optional>
+
+#include "desktop/widgets/rich_text_pictures.h"
+#include "desktop/widgets/rich_text_positions.h"
+#include "desktop/widgets/table_grid.h"
+#include "richtext/paragraphs.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr int kUsualTabDistance = 720;  // twips
+
+using Paragraphs = std::vector<const richtext::Paragraph*>;
+
+bool IsTable(const richtext::Block& block) {
+  return std::holds_alternative<richtext::Table>(block);
+}
+
+bool EndsUnwritten(const richtext::RichDocument& document) {
+  return document.blocks.empty() || IsTable(document.blocks.back());
+}
+
+// The block before a table at the document's beginning takes hardly any room.
+void MakeThin(QTextCursor& cursor) {
+  QTextBlockFormat format;
+  format.setLineHeight(1, QTextBlockFormat::FixedHeight);
+  cursor.setBlockFormat(format);
+}
+
+int EndOf(const QTextBlock& block) { return block.position() + block.length() - 1; }
+
+Paragraphs ParagraphsOf(const richtext::Cell& cell) {
+  Paragraphs paragraphs;
+  for (const richtext::Paragraph& paragraph : cell.paragraphs) paragraphs.push_back(&paragraph);
+  return paragraphs;
+}
+
+}  // namespace
+
+void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
+                                 const RichTextFormats& formats) {
+  document_ = &document;
+  formats_ = &formats;
+  target_.clear();
+  pictures_.clear();
+  QTextOption option = target_.defaultTextOption();
+  option.setTabStopDistance(formats.Pixels(kUsualTabDistance));
+  target_.setDefaultTextOption(option);
+  QTextCursor cursor(&target_);
+  cursor.beginEditBlock();
+  bool is_fresh = true;
+  for (std::size_t i = 0; i < document.blocks.size();) {
+    if (!IsTable(document.blocks[i])) {
+      if (!is_fresh) cursor.insertBlock();
+      Fill(std::get<richtext::Paragraph>(document.blocks[i++]), cursor);
+      is_fresh = false;
+      continue;
+    }
+    if (i == 0) MakeThin(cursor);
+    std::size_t end = i + 1;
+    while (end < document.blocks.size() && IsTable(document.blocks[end])) ++end;
+    InsertTable(i, end, cursor);
+    is_fresh = true;
+    i = end;
+  }
+  if (EndsUnwritten(document)) Fill(ParagraphAt(document.blocks.size()), cursor);
+  cursor.endEditBlock();
+  shown_ = ShownBlocks();
+}
+
+void RichTextRenderer::Update(const richtext::RichDocument& document,
+                              const RichTextFormats& formats,
+                              const std::vector<richtext::ChangedSpan>& spans) {
+  if (spans.empty()) return;
+  document_ = &document;
+  formats_ = &formats;
+  QTextCursor edit(&target_);
+  edit.beginEditBlock();
+  const richtext::ChangedSpan& first = spans.front();
+  bool is_done = true;
+  if (spans.size() == 1 && first.where.in_table) {
+    Paragraphs after = ParagraphsOf(richtext::CellAt(document, first.where));
+    after.erase(after.begin(), after.begin() + static_cast<std::ptrdiff_t>(first.where.index));
+    after.resize(first.blocks_after);
+    UpdateParagraphs(BlockOf(first.first_paragraph), first.blocks_before, after);
+  } else {
+    is_done = UpdateInPlace(Merged(spans));
+  }
+  edit.endEditBlock();
+  if (is_done) {
+    shown_ = ShownBlocks();
+  } else {
+    RenderAll(document, formats);
+  }
+}
+
+// Spans follow each other: each counts in the document that the one before left.
+RichTextRenderer::Region RichTextRenderer::Merged(const std::vector<richtext::ChangedSpan>& spans) {
+  std::optional<Region> merged;
+  for (const richtext::ChangedSpan& span : spans) {
+    Region next{span.where.block, span.blocks_before, span.blocks_after};
+    if (span.where.in_table) next.before = next.after = 1;
+    if (!merged) {
+      merged = next;
+      continue;
+    }
+    const std::size_t first = std::min(merged->first, next.first);
+    const std::size_t old_end = merged->first + merged->after;
+    const std::size_t end = std::max(old_end, next.first + next.before);
+    const std::size_t added = (merged->first - first) + (end - old_end);
+    merged = Region{first, merged->before + added, end - first - next.before + next.after};
+  }
+  return *merged;
+}
+
+std::vector<RichTextRenderer::Shown> RichTextRenderer::ShownBlocks() const {
+  std::vector<Shown> blocks;
+  blocks.reserve(document_->blocks.size() + 1);
+  for (const richtext::Block& block : document_->blocks) {
+    blocks.push_back({richtext::CountParagraphs(block), IsTable(block)});
+  }
+  if (EndsUnwritten(*document_)) blocks.push_back({1, false});
+  return blocks;
+}
+
+bool RichTextRenderer::UpdateInPlace(Region region) {
+  const std::vector<Shown> now = ShownBlocks();
+  // The last of these is a paragraph; one that isn't stored counts as one that is.
+  const std::size_t written = document_->blocks.size();
+  const bool at_end = region.first + region.after == written;
+  if (at_end) {
+    region.before = shown_.size() - region.first;
+    region.after = now.size() - region.first;
+  }
+  const auto old_first = shown_.begin() + static_cast<std::ptrdiff_t>(region.first);
+  const auto new_first = now.begin() + static_cast<std::ptrdiff_t>(region.first);
+  const auto is_table = [](const Shown& shown) { return shown.is_table; };
+  const auto old_end = old_first + static_cast<std::ptrdiff_t>(region.before);
+  const auto new_end = new_first + static_cast<std::ptrdiff_t>(region.after);
+  const bool has_tables =
+      std::any_of(old_first, old_end, is_table) || std::any_of(new_first, new_end, is_table);
+  int paragraph = 0;
+  for (auto shown = shown_.begin(); shown != old_first; ++shown) paragraph += shown->paragraphs;
+  const QTextBlock first = BlockOf(paragraph);
+  if (has_tables) return false;
+  if (region.before == 0 || region.after == 0) return false;
+  Paragraphs after;
+  for (std::size_t i = 0; i < region.after; ++i) after.push_back(&ParagraphAt(region.first + i));
+  UpdateParagraphs(first, region.before, after);
+  return true;
+}
+
+void RichTextRenderer::UpdateParagraphs(const QTextBlock& first, std::size_t before,
+                                        const Paragraphs& after) {
+  QTextBlock block = first;
+  QTextCursor cursor(block);
+  const std::size_t common = std::min(before, after.size());
+  for (std::size_t i = 0; i < common; ++i) {
+    if (i > 0) block = block.next();
+    cursor.setPosition(block.position());
+    Fill(*after[i], cursor);
+  }
+  if (before > common) {
+    QTextBlock last = block;
+    for (std::size_t i = common; i < before; ++i) last = last.next();
+    cursor.setPosition(EndOf(block));
+    cursor.setPosition(EndOf(last), QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+  }
+  for (std::size_t i = common; i < after.size(); ++i) {
+    cursor.movePosition(QTextCursor::EndOfBlock);
+    cursor.insertBlock();
+    Fill(*after[i], cursor);
+  }
+}
+
+const richtext::Paragraph& RichTextRenderer::ParagraphAt(std::size_t block) const {
+  return richtext::ParagraphAt(*document_, richtext::Place{block});
+}
+
+QTextBlock RichTextRenderer::BlockOf(int paragraph) const {
+  const int phantoms = !shown_.empty() && shown_.front().is_table ? 1 : 0;
+  return target_.findBlockByNumber(paragraph + phantoms);
+}
+
+int RichTextRenderer::ParagraphOf(const QTextBlock& block) const {
+  const int phantoms = !shown_.empty() && shown_.front().is_table ? 1 : 0;
+  return block.blockNumber() - phantoms;
+}
+
+void RichTextRenderer::InsertTable(std::size_t first, std::size_t end, QTextCursor& cursor) {
+  std::vector<const richtext::TableRow*> rows;
+  for (std::size_t i = first; i < end; ++i) {
+    for (const auto& row : std::get<richtext::Table>(document_->blocks[i]).rows) {
+      if (!row.cells.empty()) rows.push_back(&row);
+    }
+  }
+  if (rows.empty()) return;
+  const TableGrid grid = GridOf(rows);
+  QTextTableFormat format;
+  format.setBorderCollapse(true);
+  format.setBorder(0);
+  format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
+  format.setCellSpacing(0);
+  format.setCellPadding(0);
+  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid.left_edge)));
+  QList<QTextLength> widths;
+  for (const int width : grid.widths) {
+    widths.append(QTextLength(QTextLength::FixedLength, formats_->Pixels(width)));
+  }
+  format.setColumnWidthConstraints(widths);
+  QTextTable* const table =
+      cursor.insertTable(static_cast<int>(rows.size()), static_cast<int>(widths.size()), format);
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    int column = 0;
+    for (std::size_t i = 0; i < rows[row]->cells.size(); ++i) {
+      const int span = grid.spans[row][i];
+      const int number = static_cast<int>(row);
+      if (span > 1) table->mergeCells(number, column, 1, span);
+      QTextTableCell cell = table->cellAt(number, column);
+      cell.setFormat(formats_->Of(rows[row]->cells[i], rows[row]->half_gap));
+      InsertCell(rows[row]->cells[i], cell.firstCursorPosition());
+      column += span;
+    }
+  }
+  cursor.setPosition(table->lastPosition() + 1);
+}
+
+void RichTextRenderer::InsertCell(const richtext::Cell& cell, QTextCursor cursor) {
+  for (const richtext::Paragraph& paragraph : cell.paragraphs) {
+    if (&paragraph != &cell.paragraphs.front()) cursor.insertBlock();
+    Fill(paragraph, cursor);
+  }
+}
+
+void RichTextRenderer::Fill(const richtext::Paragraph& paragraph, QTextCursor& cursor) {
+  cursor.movePosition(QTextCursor::StartOfBlock);
+  cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+  cursor.removeSelectedText();
+  cursor.setBlockFormat(formats_->Of(paragraph));
+  cursor.setBlockCharFormat(formats_->Of(paragraph.mark));
+  for (const richtext::Run& run : paragraph.runs) InsertRun(run, cursor);
+}
+
+void RichTextRenderer::InsertRun(const richtext::Run& run, QTextCursor& cursor) {
+  if (const auto* const picture = std::get_if<richtext::Picture>(&run.content)) {
+    return InsertPicture(*picture, cursor);
+  }
+  const auto* const text = std::get_if<std::string>(&run.content);
+  if (text == nullptr) return;
+  const QTextCharFormat format = formats_->Of(run.format);
+  std::string_view rest = *text;
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\f'), rest.size());
+    cursor.insertText(ShownInBlock(rest.substr(0, end)), format);
+    rest.remove_prefix(end);
+    if (rest.empty()) return;
+    QTextCharFormat page_break = format;
+    page_break.setProperty(kPageBreakProperty, true);
+    cursor.insertText(QString(QChar::LineSeparator), page_break);
+    rest.remove_prefix(1);
+  }
+}
+
+void RichTextRenderer::InsertPicture(const richtext::Picture& picture, QTextCursor& cursor) {
+  const QByteArray file(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
+  const QString name = PictureName(file);
+  pictures_.insert(name, file);
+  const richtext::Page& page = document_->page;
+  const double widest = formats_->Pixels(page.width - page.left_margin - page.right_margin);
+  cursor.insertImage(PictureFormat(picture, name, file, *formats_, widest));
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,69 @@
+// Shows a document as Qt's text. Each paragraph is a block, in the same order. Only Qt's block
+// before a table at the beginning has no paragraph.
+
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
+#include <vector>
+
+#include "desktop/widgets/rich_text_formats.h"
+#include "richtext/change.h"
+#include "richtext/rich_document.h"
+
+namespace tarnwell::desktop {
+
+class RichTextRenderer {
+ public:
+  explicit RichTextRenderer(QTextDocument& target) : target_(target) {}
+
+  void RenderAll(const richtext::RichDocument& document, const RichTextFormats& formats);
+  // Shows what changed since the last rendering. The document is the one behind all changes.
+  void Update(const richtext::RichDocument& document, const RichTextFormats& formats,
+              const std::vector<richtext::ChangedSpan>& spans);
+
+  QTextBlock BlockOf(int paragraph) const;
+  int ParagraphOf(const QTextBlock& block) const;
+  // The file of a picture that the text shows, by its name there; empty for no such picture.
+  QByteArray PictureFile(const QString& name) const { return pictures_.value(name); }
+
+ private:
+  // A block of the document as it is shown.
+  struct Shown {
+    int paragraphs = 1;
+    bool is_table = false;
+  };
+  // Blocks from `first` on: how many are shown and how many the document has in their place.
+  struct Region {
+    std::size_t first = 0;
+    std::size_t before = 0;
+    std::size_t after = 0;
+  };
+
+  static Region Merged(const std::vector<richtext::ChangedSpan>& spans);
+  // False where tables come, go or change as a whole.
+  bool UpdateInPlace(Region region);
+  void UpdateParagraphs(const QTextBlock& first, std::size_t before,
+                        const std::vector<const richtext::Paragraph*>& after);
+  // With the paragraph that isn't stored.
+  std::vector<Shown> ShownBlocks() const;
+  const richtext::Paragraph& ParagraphAt(std::size_t block) const;
+
+  void InsertTable(std::size_t first, std::size_t end, QTextCursor& cursor);
+  void InsertCell(const richtext::Cell& cell, QTextCursor cursor);
+  void Fill(const richtext::Paragraph& paragraph, QTextCursor& cursor);
+  void InsertRun(const richtext::Run& run, QTextCursor& cursor);
+  void InsertPicture(const richtext::Picture& picture, QTextCursor& cursor);
+
+  QTextDocument& target_;
+  std::vector<Shown> shown_;
+  QHash<QString, QByteArray> pictures_;
+  // During a rendering.
+  const richtext::RichDocument* document_ = nullptr;
+  const RichTextFormats* formats_ = nullptr;
+};
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,179 @@
+#include "desktop/widgets/rich_text_view.h"
+
+#include <QResizeEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QUrl>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/rich_text_positions.h"
+#include "richtext/paragraphs.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr double kLeastZoom = 0.5;
+constexpr double kMostZoom = 3;
+constexpr double kZoomStep = 1.1;
+constexpr int kSheetMargin = 720;  // twips
+constexpr double kWheelStep = 120;
+const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
+
+}  // namespace
+
+RichTextView::RichTextView(forms::RichTextBox& box)
+    : box_(box), box_is_there_(box.OnChanged([] {})), renderer_(*document()) {
+  document()->setUndoRedoEnabled(false);
+  setAcceptRichText(true);
+  connect(document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
+    if (!is_showing_ && removed + added > 0) TakeForeignChange();
+  });
+  connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
+  connect(this, &QTextEdit::selectionChanged, this, [this] { TakeSelection(); });
+}
+
+RichTextFormats RichTextView::Formats() const {
+  return {*viewport(), zoom_, richtext::DefaultFontName(box_.document())};
+}
+
+void RichTextView::Show() {
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  ShowState();
+  const auto spans = known_ ? box_.SpansFrom(*known_) : std::nullopt;
+  known_ = box_.spans_made();
+  if (!spans) {
+    ShowAll();
+  } else if (!spans->empty()) {
+    const int place = verticalScrollBar()->value();
+    renderer_.Update(box_.document(), Formats(), *spans);
+    verticalScrollBar()->setValue(place);
+    scroll_requests_ = -1;
+  }
+  ShowSelection();
+}
+
+void RichTextView::ShowAll() {
+  renderer_.RenderAll(box_.document(), Formats());
+  PlaceSheet();
+  moveCursor(QTextCursor::Start);
+}
+
+void RichTextView::ShowState() {
+  const bool locked = box_.locked();
+  const Qt::TextInteractionFlags flags =
+      locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard : Qt::TextEditorInteraction;
+  if (textInteractionFlags() != flags) setTextInteractionFlags(flags);
+  const QColor usual = locked ? kLockedPaper : QColor(Qt::white);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Base, box_.background() ? ToQColor(*box_.background()) : usual);
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    colors.setColor(group, QPalette::Text,
+                    box_.text_color() ? ToQColor(*box_.text_color()) : QColor(Qt::black));
+  }
+  if (colors != palette()) setPalette(colors);
+}
+
+void RichTextView::ShowSelection() {
+  const bool scrolls = scroll_requests_ != box_.scroll_requests();
+  scroll_requests_ = box_.scroll_requests();
+  const bool is_astray = renderer_.ParagraphOf(textCursor().block()) < 0;
+  if (is_astray || RangeOf(textCursor()) != box_.selection()) {
+    QTextCursor cursor(document());
+    cursor.setPosition(QtPositionOf(box_.selection().from));
+    cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+  }
+  if (scrolls) ensureCursorVisible();
+}
+
+void RichTextView::SetZoom(double zoom) {
+  zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
+  if (zoom == zoom_ || !box_is_there_.Connected()) return;
+  zoom_ = zoom;
+  known_.reset();
+  scroll_requests_ = -1;
+  Show();
+}
+
+// The sheet is as wide as the document's page allows for text, in the middle of the view; it gets
+// narrower where there is less room.
+void RichTextView::PlaceSheet() {
+  if (!box_is_there_.Connected()) return;
+  const RichTextFormats formats = Formats();
+  const richtext::Page& page = box_.document().page;
+  const int text = std::max(page.width - page.left_margin - page.right_margin, 2 * kSheetMargin);
+  const int sheet = static_cast<int>(std::ceil(formats.Pixels(text + 2 * kSheetMargin)));
+  const int scroll_bar = verticalScrollBar()->sizeHint().width();
+  const int room = width() - 2 * frameWidth() - scroll_bar - 2 * kSpace;
+  const int side = kSpace + std::max(0, (room - sheet) / 2);
+  if (viewportMargins().left() != side) setViewportMargins(side, 0, side, 0);
+  const double margin = formats.Pixels(kSheetMargin);
+  if (document()->documentMargin() != margin) document()->setDocumentMargin(margin);
+}
+
+void RichTextView::resizeEvent(QResizeEvent* event) {
+  QTextEdit::resizeEvent(event);
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  PlaceSheet();
+}
+
+void RichTextView::wheelEvent(QWheelEvent* event) {
+  if (!(event->modifiers() & Qt::ControlModifier)) return QTextEdit::wheelEvent(event);
+  SetZoom(zoom_ * std::pow(kZoomStep, event->angleDelta().y() / kWheelStep));
+  event->accept();
+}
+
+richtext::Position RichTextView::PositionOf(int qt_position) const {
+  const QTextBlock block = document()->findBlock(qt_position);
+  const int paragraph = renderer_.ParagraphOf(block);
+  if (paragraph < 0) return {};
+  const std::string text = box_.ParagraphText(paragraph);
+  return {paragraph, ToUtf8Offset(text, qt_position - block.position())};
+}
+
+int RichTextView::QtPositionOf(richtext::Position position) const {
+  const QTextBlock block = renderer_.BlockOf(position.paragraph);
+  const int offset = ToUtf16Offset(box_.ParagraphText(position.paragraph), position.offset);
+  return block.position() + std::min(offset, block.length() - 1);
+}
+
+richtext::Range RichTextView::RangeOf(const QTextCursor& cursor) const {
+  const richtext::Position from = PositionOf(cursor.selectionStart());
+  return {from, cursor.hasSelection() ? PositionOf(cursor.selectionEnd()) : from};
+}
+
+void RichTextView::TakeSelection() {
+  if (is_showing_ || !box_is_there_.Connected()) return;
+  QTextCursor cursor = textCursor();
+  if (renderer_.ParagraphOf(cursor.block()) < 0 && !cursor.hasSelection()) {
+    cursor.movePosition(QTextCursor::NextBlock);
+    return setTextCursor(cursor);
+  }
+  box_.MoveSelection(RangeOf(cursor));
+}
+
+void RichTextView::TakeForeignChange() {
+  if (std::exchange(has_foreign_change_, true)) return;
+  // Not amid the change.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        has_foreign_change_ = false;
+        if (!box_is_there_.Connected()) return;
+        known_.reset();
+        Show();
+      },
+      Qt::QueuedConnection);
+}
+
+// Nothing but the pictures of the document itself, never a file or an address.
+QVariant RichTextView::loadResource(int type, const QUrl& name) {
+  if (type != QTextDocument::ImageResource) return {};
+  return QImage::fromData(renderer_.PictureFile(name.toString()));
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QTextEdit>
+#include <optional>
+
+#include "desktop/widgets/rich_text_renderer.h"
+#include "forms/rich_text_box.h"
+
+namespace tarnwell::desktop {
+
+// The document of a RichTextBox as a sheet of paper. It never edits what it shows: keys, input
+// methods, pastes and drops become gestures of the box, and what the box changed is shown again.
+// The box may go first.
+class RichTextView : public QTextEdit {
+ public:
+  explicit RichTextView(forms::RichTextBox& box);
+
+  // Shows what changed in the box since the last time.
+  void Show();
+
+  // 1 is the document's own size.
+  double zoom() const { return zoom_; }
+  void SetZoom(double zoom);
+
+  QVariant loadResource(int type, const QUrl& name) override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  QMimeData* createMimeDataFromSelection() const override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void insertFromMimeData(const QMimeData* source) override;
+
+ private:
+  RichTextFormats Formats() const;
+  void ShowAll();
+  void ShowState();
+  void ShowSelection();
+  void PlaceSheet();
+
+  richtext::Position PositionOf(int qt_position) const;
+  int QtPositionOf(richtext::Position position) const;
+  richtext::Range RangeOf(const QTextCursor& cursor) const;
+  // A person moved the cursor.
+  void TakeSelection();
+  // Somebody but the renderer changed Qt's text.
+  void TakeForeignChange();
+
+  bool PressCommandKey(const QKeyEvent& event);
+  bool PressEraseKey(const QKeyEvent& event);
+  bool PressTextKey(const QKeyEvent& event);
+  bool PressTab(const QKeyEvent& event);
+  void EraseTo(QTextCursor::MoveOperation operation);
+  void Backspace();
+  void TypeText(const QString& text);
+  void MoveToCell(bool forward);
+  void CopySelection();
+  void CutSelection();
+
+  void PaintMarker(QPainter& painter, const QTextBlock& block, QPointF origin);
+  void PaintPageBreaks(QPainter& painter, const QTextBlock& block, QPointF origin);
+
+  forms::RichTextBox& box_;
+  forms::Subscription box_is_there_;
+  RichTextRenderer renderer_;
+  std::optional<std::size_t> known_;  // spans of the box that are shown
+  int scroll_requests_ = 0;
+  double zoom_ = 1;
+  // What happens to Qt's text and cursor now is our own doing.
+  bool is_showing_ = false;
+  bool has_foreign_change_ = false;
+};
+
+}  // namespace tarnwell::desktop
