@@ -44,9 +44,8 @@ void RichTextView::paintEvent(QPaintEvent* event) {
     // A table's cells stand side by side.
     if (place.top() > bottom && QTextCursor(block).currentTable() == nullptr) break;
     if (place.top() > bottom || !HasExtras(block)) continue;
-    const QPointF origin = place.topLeft() - block.layout()->boundingRect().topLeft();
-    PaintMarker(painter, block, origin);
-    PaintPageBreaks(painter, block, origin);
+    PaintMarker(painter, block, place.topLeft());
+    PaintPageBreaks(painter, block, place.topLeft());
   }
 }
 

@@ -31,6 +31,21 @@ void MakeThin(QTextCursor& cursor) {
   cursor.setBlockFormat(format);
 }
 
+// Qt keeps a cell's own format, its spans too, in the format of the cell's first block.
+void SetMark(QTextCharFormat mark, const QTextTable* table, QTextCursor& cursor) {
+  const QTextTableCell cell = table != nullptr ? table->cellAt(cursor) : QTextTableCell();
+  if (cell.isValid() && cell.firstPosition() == cursor.block().position()) {
+    const QMap<int, QVariant> all = cell.format().properties();
+    for (auto it = all.begin(); it != all.end(); ++it) {
+      const bool is_of_cell = it.key() >= QTextFormat::TableCellRowSpan &&
+                              it.key() <= QTextFormat::TableCellRightBorderBrush;
+      if (is_of_cell) mark.setProperty(it.key(), it.value());
+    }
+    mark.setObjectType(QTextFormat::TableCellObject);
+  }
+  cursor.setBlockCharFormat(mark);
+}
+
 int EndOf(const QTextBlock& block) { return block.position() + block.length() - 1; }
 
 Paragraphs ParagraphsOf(const richtext::Cell& cell) {
@@ -56,7 +71,7 @@ void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
   for (std::size_t i = 0; i < document.blocks.size();) {
     if (!IsTable(document.blocks[i])) {
       if (!is_fresh) cursor.insertBlock();
-      Fill(std::get<richtext::Paragraph>(document.blocks[i++]), cursor);
+      Fill(std::get<richtext::Paragraph>(document.blocks[i++]), nullptr, cursor);
       is_fresh = false;
       continue;
     }
@@ -67,7 +82,7 @@ void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
     is_fresh = true;
     i = end;
   }
-  if (EndsUnwritten(document)) Fill(ParagraphAt(document.blocks.size()), cursor);
+  if (EndsUnwritten(document)) Fill(ParagraphAt(document.blocks.size()), nullptr, cursor);
   cursor.endEditBlock();
   shown_ = ShownBlocks();
 }
@@ -158,11 +173,12 @@ void RichTextRenderer::UpdateParagraphs(const QTextBlock& first, std::size_t bef
                                         const Paragraphs& after) {
   QTextBlock block = first;
   QTextCursor cursor(block);
+  const QTextTable* const table = cursor.currentTable();
   const std::size_t common = std::min(before, after.size());
   for (std::size_t i = 0; i < common; ++i) {
     if (i > 0) block = block.next();
     cursor.setPosition(block.position());
-    Fill(*after[i], cursor);
+    Fill(*after[i], table, cursor);
   }
   if (before > common) {
     QTextBlock last = block;
@@ -174,7 +190,7 @@ void RichTextRenderer::UpdateParagraphs(const QTextBlock& first, std::size_t bef
   for (std::size_t i = common; i < after.size(); ++i) {
     cursor.movePosition(QTextCursor::EndOfBlock);
     cursor.insertBlock();
-    Fill(*after[i], cursor);
+    Fill(*after[i], table, cursor);
   }
 }
 
@@ -222,27 +238,31 @@ void RichTextRenderer::InsertTable(std::size_t first, std::size_t end, QTextCurs
       const int number = static_cast<int>(row);
       if (span > 1) table->mergeCells(number, column, 1, span);
       QTextTableCell cell = table->cellAt(number, column);
-      cell.setFormat(formats_->Of(rows[row]->cells[i], rows[row]->half_gap));
-      InsertCell(rows[row]->cells[i], cell.firstCursorPosition());
+      QTextCharFormat look = cell.format();  // with its spans
+      look.merge(formats_->Of(rows[row]->cells[i], rows[row]->half_gap));
+      cell.setFormat(look);
+      InsertCell(rows[row]->cells[i], *table, cell.firstCursorPosition());
       column += span;
     }
   }
   cursor.setPosition(table->lastPosition() + 1);
 }
 
-void RichTextRenderer::InsertCell(const richtext::Cell& cell, QTextCursor cursor) {
+void RichTextRenderer::InsertCell(const richtext::Cell& cell, const QTextTable& table,
+                                  QTextCursor cursor) {
   for (const richtext::Paragraph& paragraph : cell.paragraphs) {
     if (&paragraph != &cell.paragraphs.front()) cursor.insertBlock();
-    Fill(paragraph, cursor);
+    Fill(paragraph, &table, cursor);
   }
 }
 
-void RichTextRenderer::Fill(const richtext::Paragraph& paragraph, QTextCursor& cursor) {
+void RichTextRenderer::Fill(const richtext::Paragraph& paragraph, const QTextTable* table,
+                            QTextCursor& cursor) {
   cursor.movePosition(QTextCursor::StartOfBlock);
   cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
   cursor.removeSelectedText();
   cursor.setBlockFormat(formats_->Of(paragraph));
-  cursor.setBlockCharFormat(formats_->Of(paragraph.mark));
+  SetMark(formats_->Of(paragraph.mark), table, cursor);
   for (const richtext::Run& run : paragraph.runs) InsertRun(run, cursor);
 }
 

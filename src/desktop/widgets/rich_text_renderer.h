@@ -53,8 +53,10 @@ class RichTextRenderer {
   const richtext::Paragraph& ParagraphAt(std::size_t block) const;
 
   void InsertTable(std::size_t first, std::size_t end, QTextCursor& cursor);
-  void InsertCell(const richtext::Cell& cell, QTextCursor cursor);
-  void Fill(const richtext::Paragraph& paragraph, QTextCursor& cursor);
+  void InsertCell(const richtext::Cell& cell, const QTextTable& table, QTextCursor cursor);
+  // Makes the cursor's block show the paragraph. `table` is the one that it stands in, which Qt
+  // itself doesn't know before an edit has ended.
+  void Fill(const richtext::Paragraph& paragraph, const QTextTable* table, QTextCursor& cursor);
   void InsertRun(const richtext::Run& run, QTextCursor& cursor);
   void InsertPicture(const richtext::Picture& picture, QTextCursor& cursor);
 
