@@ -139,6 +139,8 @@ constexpr FileKind kKinds[] = {
     {"TODONAME.hb1", "backup of the To Do item names", kValues},
     {"Location.Fil", "location marker", kValues},
 
+    {"UserWords.Fil", "words added to the dictionary", kValues, "user-words.md"},
+
     {" ####.Cal", "planner year", kPlannerDays, "planner-year-file.md", 900},
     {" ####.Bb1", "backup of a planner year", kPlannerDays, "planner-year-file.md", 900},
     {"CalOpt.fil", "calendar display options", kRecords, "calopt.md", 20, kCalendarOptions},

@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include "desktop/services/dictionary_folders.h"
 #include "desktop/views/registry.h"
 
 namespace tarnwell::desktop {
@@ -13,8 +14,11 @@ Desktop::Desktop(const Folders& folders)
       }),
       pages_(pictures_),
       folders_(folders.user),
+      speller_(DictionaryFolders(folders)),
+      thesaurus_(ThesaurusFolders(folders), speller_),
       window_([this](forms::Form& form) { return LookOf(form, pictures_); }, help_),
-      program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_}) {
+      program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
+                speller_, thesaurus_}) {
   window_.Follow(program_.navigator());
 }
 

@@ -5,7 +5,9 @@
 #include "desktop/main_window.h"
 #include "desktop/services/folders.h"
 #include "desktop/services/html_help_viewer.h"
+#include "desktop/services/hunspell_speller.h"
 #include "desktop/services/message_dialogs.h"
+#include "desktop/services/mythes_thesaurus.h"
 #include "desktop/services/qt_clipboard.h"
 #include "desktop/services/qt_event_loop.h"
 #include "desktop/services/qt_folder_browser.h"
@@ -39,6 +41,8 @@ class Desktop {
   QtClipboard clipboard_;
   QtPages pages_;
   QtFolderBrowser folders_;
+  HunspellSpeller speller_;
+  MythesThesaurus thesaurus_;
   MainWindow window_;
   program::Program program_;  // goes first: its forms need all the others
 };

@@ -22,6 +22,8 @@ struct Context {
   Clipboard& clipboard;
   Pages& pages;
   FolderBrowser& folders;
+  Speller& speller;
+  Thesaurus& thesaurus;
   ProgramVariables& variables;
   Navigator& navigator;
 };

@@ -33,9 +33,9 @@ void Navigator::Show(std::string_view name) {
   }
 }
 
-void Navigator::ShowModal(std::string_view name) {
+void Navigator::ShowModal(std::string_view name, const Preparation& prepare) {
   if (ended_ || Find(name)) return;
-  if (const Form* form = Push(name, true)) {
+  if (const Form* form = Push(name, true, prepare)) {
     const auto is_loaded = [&] {
       return std::ranges::find(stack_, form, &std::unique_ptr<Form>::get) != stack_.end();
     };
@@ -43,11 +43,12 @@ void Navigator::ShowModal(std::string_view name) {
   }
 }
 
-Form* Navigator::Push(std::string_view name, bool modal) {
+Form* Navigator::Push(std::string_view name, bool modal, const Preparation& prepare) {
   const auto factory = factories_.find(name);
   if (factory == factories_.end()) return nullptr;
   std::unique_ptr<Form> form = factory->second(*context_);
   Form* loaded = form.get();
+  if (prepare) prepare(*loaded);
   if (top()) top()->on_top_ = false;
   stack_.push_back(std::move(form));
   loaded->on_top_ = true;

@@ -26,6 +26,7 @@ class NavigatorObserver {
 class Navigator {
  public:
   using Factory = std::function<std::unique_ptr<Form>(Context&)>;
+  using Preparation = std::function<void(Form&)>;
 
   void Register(std::string_view name, Factory factory);
   // A form without a factory can't be shown, so nothing may offer it.
@@ -37,8 +38,9 @@ class Navigator {
 
   // Loads the form if it isn't loaded, and puts it on top.
   void Show(std::string_view name);
-  // Likewise, and comes back when it has been unloaded.
-  void ShowModal(std::string_view name);
+  // Likewise, and comes back when it has been unloaded. `prepare` gets the new form before it
+  // loads, to hand it what it works on.
+  void ShowModal(std::string_view name, const Preparation& prepare = {});
   // Without a question: its Unload routine runs and the form below gets on top.
   void Unload(Form& form);
   // Asks the form first, as when its window is closed. False if it stays; a busy form does.
@@ -53,7 +55,7 @@ class Navigator {
   void FreeUnloaded() { unloaded_.clear(); }
 
  private:
-  Form* Push(std::string_view name, bool modal);
+  Form* Push(std::string_view name, bool modal, const Preparation& prepare = {});
   void Raise();
 
   Context* context_ = nullptr;

@@ -48,6 +48,10 @@ struct ProgramVariables {
     PrintFontColor = font.color;
   }
 
+  // What is missing on this computer was told already.
+  bool no_dictionary_told = false;
+  bool no_thesaurus_told = false;
+
   bool day_first() const { return DateStyle == "OTHER"; }
 };
 

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "text/date.h"
 
@@ -65,6 +67,33 @@ class HelpViewer {
  public:
   virtual ~HelpViewer() = default;
   virtual void Show(int context) = 0;
+};
+
+// A dictionary of American English. Words are in code page 1252, with "'" for any apostrophe.
+class Speller {
+ public:
+  virtual ~Speller() = default;
+  // False where no dictionary is installed; then every word is correct.
+  virtual bool available() = 0;
+  virtual bool IsCorrect(std::string_view word) = 0;
+  // The best first, a dozen at most.
+  virtual std::vector<std::string> Suggest(std::string_view word) = 0;
+};
+
+// One sense of a word and the words that have it too. Both may carry a note behind them, in
+// brackets: "(noun)", "firm (generic term)".
+struct Meaning {
+  std::string description;
+  std::vector<std::string> synonyms;
+};
+
+class Thesaurus {
+ public:
+  virtual ~Thesaurus() = default;
+  // False where no thesaurus is installed; then no word has a meaning.
+  virtual bool available() = 0;
+  // Empty for a word that isn't in it, nor the word that it is a form of ("houses").
+  virtual std::vector<Meaning> LookUp(std::string_view word) = 0;
 };
 
 // The wait shape of the pointer for the length of a handler.

@@ -6,7 +6,6 @@
 #include "planner/day_copy.h"
 #include "planner/day_sort.h"
 #include "planner/day_store.h"
-#include "planner/todo_import.h"
 #include "settings/planner_settings.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
@@ -34,8 +33,8 @@ Zcalandar1::Zcalandar1(forms::Context& context)
       calendar_options(*this, context.folder),
       recurrence(*this, context),
       pages(*this, context),
-      colors(context, settings::PanelColor::kPlanner) {
-  import_panel.SetVisible(false);
+      colors(context, settings::PanelColor::kPlanner),
+      todo_import(*this, context) {
   exit.SetCancel(true);
   picker.on_pick = [this] { PickDay(); };
   timer.on_tick = [this] {
@@ -54,6 +53,7 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   view_month.on_click = [this] { ViewMonth(); };
   pages.month.close.on_click = [this] { CloseMonth(); };
   print_options.on_click = [this] { PrintDay(); };
+  check_spelling.on_click = [this] { CheckSpelling(); };
   pages.on_print = [this] { picker.SetVisible(false); };
   pages.on_print_close = [this] { ClosePrint(); };
   pages.on_export = [this] { EnableMenus(); };
@@ -69,6 +69,8 @@ void Zcalandar1::BuildMenus() {
   month_entry_ = &options.AddEntry("mOV", "&View Entire Month", [this] { view_month.Click(); });
   row_menus_.push_back(
       &options.AddEntry("mOP", "&Print Options", [this] { print_options.Click(); }));
+  row_menus_.push_back(
+      &options.AddEntry("mOSpell", "Spelling Chec&k", [this] { check_spelling.Click(); }));
   copy_entries_.push_back(&options.AddEntry("mOCopy", "&Copy", [this] { Copy(); }));
   row_menus_.push_back(&options.AddEntry("mOCal", "Calendar &Display Options",
                                          [this] { CoverRows(calendar_options.panel); }));
@@ -275,7 +277,7 @@ void Zcalandar1::Exit() {
 
 void Zcalandar1::ShowColors() {
   for (forms::Panel* panel : {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel,
-                              &recurrence.panel, &calendar_options.panel, &import_panel}) {
+                              &recurrence.panel, &calendar_options.panel, &todo_import.panel}) {
     panel->SetBackground(colors.panel());
   }
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {
@@ -321,108 +323,6 @@ void Zcalandar1::PasteCopiedDay() {
   if (!PasteDay(rows, copied_)) return;
   ShowRows(rows);
   MarkChanged();
-}
-
-// A panel takes the rows' place; what works on the rows waits until it is closed.
-void Zcalandar1::CoverRows(forms::Panel& panel) {
-  day.SetVisible(false);
-  panel.SetVisible(true);
-  EnableMenus();
-}
-
-void Zcalandar1::UncoverRows(forms::Panel& panel) {
-  panel.SetVisible(false);
-  day.SetVisible(true);
-  EnableMenus();
-}
-
-void Zcalandar1::OpenRecurrence(int row) {
-  const auto i = static_cast<std::size_t>(row);
-  if (!loaded_ || text::Trim(entries[i].text()).empty()) return;
-  if (unsaved_) {
-    // The rows stay on the screen, saved or not; the button is to be pressed again.
-    LeaveLoadedDay(SaveNote::kNone);
-    return;
-  }
-  recurrence_buttons[i].SetSelected(true);
-  row_of_recurrence_ = row;
-  picker.SetVisible(false);  // the date on screen holds until the panel is closed
-  clock.SetVisible(false);
-  CoverRows(recurrence.panel);
-  recurrence.Open(*loaded_, {times[i].text(), entries[i].text()});
-}
-
-void Zcalandar1::CloseRecurrence() {
-  recurrence_buttons[static_cast<std::size_t>(row_of_recurrence_)].SetSelected(false);
-  UncoverRows(recurrence.panel);
-  picker.SetVisible(true);
-  clock.SetVisible(true);
-  entries[static_cast<std::size_t>(row_of_recurrence_)].Focus();
-}
-
-void Zcalandar1::ViewMonth() {
-  SetStatus("View Month");
-  const bool was_unsaved = unsaved_;
-  if (!LeaveLoadedDay()) return SetStatus({});
-  if (was_unsaved) ShowDay(loaded_);
-  if (!loaded_) return SetStatus({});  // the day can't be read any more
-  pages.month.Fill(context_.folder, *loaded_);
-  picker.SetVisible(false);  // the month on screen holds until the panel is closed
-  CoverRows(pages.month.panel);
-}
-
-void Zcalandar1::CloseMonth() {
-  UncoverRows(pages.month.panel);
-  picker.SetVisible(true);
-  SetStatus({});
-}
-
-void Zcalandar1::PrintDay() {
-  if (loaded_) pages.PrintDay(*loaded_, Rows(), day);
-}
-
-void Zcalandar1::ClosePrint() {
-  picker.SetVisible(day.visible());
-  // The month's guide lines and the sort time lie in one record.
-  sort_time.Choose(settings::ReadSortTime(context_.folder));
-  EnableMenus();
-}
-
-void Zcalandar1::Copy() {
-  if (pages.month.panel.visible()) return pages.CopyMonth();
-  if (loaded_) pages.CopyDay(*loaded_, Rows());
-}
-
-void Zcalandar1::ImportToDo() {
-  if (!loaded_ ||
-      !Confirmed({"To Do List Import Function", "Do you want to Import To Do List Items?",
-                  forms::Icon::kQuestion, forms::Buttons::kYesNo})) {
-    return;
-  }
-  // The day is read again at the end, which would drop what isn't saved.
-  if (!LeaveLoadedDay()) return;
-  const auto items = ReadToDoItems(context_.folder);
-  if (items.empty()) {
-    Message({"Import To Do List Items", "No To Do List Items to Import have been found!",
-             forms::Icon::kInformation});
-    return ShowDay(loaded_);
-  }
-  const text::Date on_screen = *loaded_;
-  const BusyScope busy(*this);
-  day.SetVisible(false);
-  picker.SetEnabled(false);
-  import_panel.SetVisible(true);
-  import_progress.Start(static_cast<int>(items.size()));
-  for (const ToDoItem& item : items) {
-    if (item.date >= on_screen) ImportToDoItem(context_.folder, item);
-    import_progress.SetValue(import_progress.value() + 1);
-    context_.loop.Yield();
-  }
-  import_panel.SetVisible(false);
-  picker.SetEnabled(true);
-  day.SetVisible(true);
-  picker.SetDate(on_screen);
-  ShowDay(on_screen);
 }
 
 }  // namespace tarnwell::planner

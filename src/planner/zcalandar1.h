@@ -12,13 +12,13 @@
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/panel.h"
-#include "forms/progress_bar.h"
 #include "forms/text_field.h"
 #include "forms/timer.h"
 #include "planner/calendar_options_panel.h"
 #include "planner/day_rows.h"
 #include "planner/planner_pages.h"
 #include "planner/recurrence_panel.h"
+#include "planner/todo_import_panel.h"
 
 namespace tarnwell::planner {
 
@@ -47,15 +47,14 @@ class Zcalandar1 : public forms::Form {
   forms::Command clear_entries{day, "Command3", "Clear &Entries"};
   forms::Command view_month{day, "Command4", "&View Month"};
   forms::Command print_options{day, "Command7", "&Print Options"};
+  forms::Command check_spelling{day, "Command8", "Spelling Chec&k"};
   forms::Command exit{day, "Command2", "E&xit"};
 
   CalendarOptionsPanel calendar_options;
   RecurrencePanel recurrence;
   PlannerPages pages;
   forms::ColorChoice colors;
-
-  forms::Panel import_panel{*this, "SSPanel5", " Importing To Do List Items:"};
-  forms::ProgressBar import_progress{import_panel, "ProgressBar2", "Items imported"};
+  ToDoImportPanel todo_import;
 
   // The row at which the time picker stands, 0 to 13.
   int row_in_hand() const { return row_in_hand_; }
@@ -101,6 +100,7 @@ class Zcalandar1 : public forms::Form {
   void PrintDay();
   void ClosePrint();
   void Copy();
+  void CheckSpelling();
   void ImportToDo();
 
   forms::MenuItem* save_entry_ = nullptr;

@@ -2,6 +2,8 @@
 
 #include "forms/form_names.h"
 #include "planner/zcalandar1.h"
+#include "proofing/vsspell1.h"
+#include "proofing/vsthesaurus1.h"
 #include "reference/infoadv.h"
 #include "reference/toolsandinfo1.h"
 #include "shell/about1.h"
@@ -26,14 +28,17 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kInfoAdv, Make<reference::InfoAdv>);
   navigator.Register(kToolsandInfo1, Make<reference::ToolsandInfo1>);
   navigator.Register(kZcalandar1, Make<planner::Zcalandar1>);
+  navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
+  navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }
 
 }  // namespace
 
 Program::Program(const Services& services)
-    : context_{services.folder,  services.clock, services.dialogs,   services.loop,
-               services.window,  services.help,  services.clipboard, services.pages,
-               services.folders, variables_,     navigator_} {
+    : context_{services.folder,  services.clock,   services.dialogs,   services.loop,
+               services.window,  services.help,    services.clipboard, services.pages,
+               services.folders, services.speller, services.thesaurus, variables_,
+               navigator_} {
   navigator_.SetContext(context_);
   RegisterForms(navigator_);
 }

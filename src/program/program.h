@@ -19,6 +19,8 @@ struct Services {
   forms::Clipboard& clipboard;
   forms::Pages& pages;
   forms::FolderBrowser& folders;
+  forms::Speller& speller;
+  forms::Thesaurus& thesaurus;
 };
 
 class Program {

@@ -41,7 +41,7 @@ std::string Tab(const TabStop& tab) {
 }  // namespace
 
 WriterTables::WriterTables(const RichDocument& document)
-    : fonts_(document.fonts), colors_(document.colors) {
+    : fonts_(document.fonts), colors_(document.colors), next_font_(document.default_font + 1) {
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), [&document](const Font& candidate) {
     return candidate.number == document.default_font;
   });
@@ -49,7 +49,8 @@ WriterTables::WriterTables(const RichDocument& document)
 }
 
 int WriterTables::FontNumber(const std::string& name) {
-  int next = 0;
+  // Past the default font, which stays without a name where the table doesn't list it.
+  int next = next_font_;
   for (const Font& font : fonts_) {
     if (font.name == name) return font.number;
     next = std::max(next, font.number + 1);

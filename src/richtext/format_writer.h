@@ -29,6 +29,7 @@ class WriterTables {
  private:
   std::vector<Font> fonts_;
   std::vector<std::optional<Color>> colors_;
+  int next_font_;
   std::string default_font_;
 };
 

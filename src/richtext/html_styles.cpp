@@ -85,6 +85,7 @@ std::string CellStyle(const Cell& cell, int left_edge) {
   side("left", cell.left);
   side("bottom", cell.bottom);
   side("right", cell.right);
+  if (cell.fill) style += ";background-color:" + Hex(*cell.fill);
   return style;
 }
 

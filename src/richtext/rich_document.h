@@ -156,6 +156,7 @@ struct Border {
 struct Cell {
   int right_edge = 0;  // from the page's left margin
   Border top, left, bottom, right;
+  std::optional<Color> fill;
   std::string other;
   std::vector<Paragraph> paragraphs;  // at least one; none of them holds a section break
   bool operator==(const Cell&) const = default;

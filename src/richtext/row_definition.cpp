@@ -42,6 +42,8 @@ void RowDefinition::Apply(const Token& token, std::string_view source, const For
   if (border_ != nullptr) return;
   if (name == "cellx") {
     EndCell(LengthOf(token));
+  } else if (name == "clcbpat") {
+    next_.fill = tables.ColorAt(token.NumberOr(0));
   } else if (name == "trleft") {
     row_.left_edge = LengthOf(token);
   } else if (name == "trgaph") {

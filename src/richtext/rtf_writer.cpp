@@ -81,6 +81,7 @@ void RtfWriter::WriteRowDefinition(const TableRow& row) {
     WriteBorder("\\clbrdrl", cell.left);
     WriteBorder("\\clbrdrb", cell.bottom);
     WriteBorder("\\clbrdrr", cell.right);
+    if (cell.fill) Words("\\clcbpat" + std::to_string(tables_.ColorNumber(cell.fill)));
     Words("\\cellx" + std::to_string(cell.right_edge));
   }
   out_ += '\n';

@@ -59,6 +59,9 @@ inline constexpr std::string_view kVehicleSlots = "CarMnt1.Fil";
 // Budget chart on its way to a printed page.
 inline constexpr std::string_view kChartPicture = "Chartxxx.jpg";
 
+// Words that the user added to the dictionary.
+inline constexpr std::string_view kUserWords = "UserWords.Fil";
+
 // Supplied texts.
 inline constexpr std::string_view kDisclaimerText = "Misc1.Fl1";
 inline constexpr std::string_view kProgramInformation = "Misc2.Fl1";

@@ -27,6 +27,30 @@ std::string UpperCase(std::string_view text) {
   return upper;
 }
 
+char LowerCase(char letter) {
+  const auto code = static_cast<unsigned char>(letter);
+  const bool plain = code >= 'A' && code <= 'Z';
+  const bool accented =
+      code >= 0xC0 && code <= 0xDE && code != 0xD7;  // D7 is the multiplication sign
+  if (plain || accented) return static_cast<char>(code + 0x20);
+  switch (code) {
+    case 0x8A:  // S with caron
+    case 0x8C:  // OE
+    case 0x8E:  // Z with caron
+      return static_cast<char>(code + 0x10);
+    case 0x9F:  // Y with diaeresis
+      return static_cast<char>(0xFF);
+    default:
+      return letter;
+  }
+}
+
+std::string LowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& letter : lower) letter = LowerCase(letter);
+  return lower;
+}
+
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return CompareIgnoringCase(a, b) == 0;
 }

@@ -12,6 +12,10 @@ namespace tarnwell::text {
 char UpperCase(char letter);
 std::string UpperCase(std::string_view text);
 
+// And the small letter.
+char LowerCase(char letter);
+std::string LowerCase(std::string_view text);
+
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
 // Below 0, 0 or above 0, by the upper-cased characters' codes: the order of a sorted list.

@@ -60,10 +60,12 @@ struct SampleWorld {
   FakeClipboard clipboard;
   FakePages pages;
   FakeFolders folders;
+  FakeSpeller speller;
+  FakeThesaurus thesaurus;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder,    clock, dialogs, loop,      window,   help,
-                         clipboard, pages, folders, variables, navigator};
+  forms::Context context{folder, clock,   dialogs, loop,      window,    help,     clipboard,
+                         pages,  folders, speller, thesaurus, variables, navigator};
 
   SampleWorld() {
     navigator.SetContext(context);

@@ -256,7 +256,7 @@ TEST_F(Zcalandar1Test, ToDoItemsFromTheDayOnScreenOnAreImportedOnce) {
   EXPECT_FALSE(ReadDay(rig.folder, MakeDate(2026, 3, 8))->saved);
   EXPECT_FALSE(ReadDay(rig.folder, tomorrow)->saved);
   EXPECT_EQ(form().picker.date(), today);
-  EXPECT_FALSE(form().import_panel.visible());
+  EXPECT_FALSE(form().todo_import.panel.visible());
 }
 
 TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {

@@ -103,6 +103,8 @@ TEST(Reading, TablesGiveRowsCellsAndBorders) {
   EXPECT_EQ(cell.bottom, (Border{"brdrdb", 30, std::nullopt, ""}));
   EXPECT_EQ(cell.left, Border{});
   EXPECT_EQ(cell.other, "\\clvertalt");
+  EXPECT_EQ(cell.fill, std::nullopt);
+  EXPECT_EQ(table.rows[0].cells[1].fill, (Color{0, 0, 255}));
   EXPECT_EQ(cell.paragraphs.size(), 2u);
   EXPECT_EQ(table.rows[0].cells[1].paragraphs[0].format.alignment, Alignment::kCenter);
   EXPECT_EQ(PlainText(document), "before\none\ntwo\tthree\nalone\nafter");

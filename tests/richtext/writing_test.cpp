@@ -35,7 +35,7 @@ TEST(Writing, ADocumentOfEveryKindIsWrittenAsTheLayoutSays) {
        "\\pard\\plain before\\par\n"
        "\\trowd\\trgaph108\\trleft-108\\trrh400\n"
        "\\clvertalt\\clbrdrt\\brdrs\\brdrw15\\brdrcf1\\clbrdrb\\brdrdb\\brdrw30\\cellx2000\n"
-       "\\clmgf\\cellx5000\n"
+       "\\clmgf\\clcbpat1\\cellx5000\n"
        "\\pard\\intbl\\plain one\\par\n"
        "\\pard\\intbl\\plain two\\cell\n"
        "\\pard\\intbl\\qc\\plain three\\cell\n"
@@ -109,10 +109,10 @@ TEST(Writing, ADocumentMadeByAnEditorGetsTheTablesItNeeds) {
   EXPECT_EQ(
       WriteRichText(document),
       std::string(kHead) +
-          "{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\n"
+          "{\\fonttbl{\\f1\\fnil\\fcharset0 Arial;}}\n"
           "{\\colortbl;\\red1\\green2\\blue3;}\n"
           "\\pard{\\pntext\\plain\\u8226\\'95\\tab}{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'b7}}"
-          "\\plain{\\f0\\cf1\\{Zo\\u235\\'eb\\} \\u8211\\'96 \\u26085?\\tab \\u8470?}\\par\n"
+          "\\plain{\\f1\\cf1\\{Zo\\u235\\'eb\\} \\u8211\\'96 \\u26085?\\tab \\u8470?}\\par\n"
           "}\n");
   const RichDocument again = ReadRichText(WriteRichText(document));
   EXPECT_EQ(ParagraphAt(again, 0).runs, paragraph.runs);

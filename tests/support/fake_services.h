@@ -198,6 +198,32 @@ class FakePages : public forms::Pages {
   std::optional<forms::PageSetup> setup;
 };
 
+// Knows every word but the misspelled ones that it is told of, with what to suggest for them.
+class FakeSpeller : public forms::Speller {
+ public:
+  bool available() override { return installed; }
+  bool IsCorrect(std::string_view word) override {
+    return !installed || !misspelled.contains(std::string(word));
+  }
+  std::vector<std::string> Suggest(std::string_view word) override {
+    return installed ? misspelled[std::string(word)] : std::vector<std::string>();
+  }
+
+  bool installed = true;
+  std::map<std::string, std::vector<std::string>> misspelled;
+};
+
+class FakeThesaurus : public forms::Thesaurus {
+ public:
+  bool available() override { return installed; }
+  std::vector<forms::Meaning> LookUp(std::string_view word) override {
+    return installed ? meanings[std::string(word)] : std::vector<forms::Meaning>();
+  }
+
+  bool installed = true;
+  std::map<std::string, std::vector<forms::Meaning>> meanings;
+};
+
 // Everything that is lent but the program's folder.
 struct FakeWorld {
   FakeClock clock;
@@ -208,6 +234,8 @@ struct FakeWorld {
   FakeClipboard clipboard;
   FakePages pages;
   FakeFolders folders;
+  FakeSpeller speller;
+  FakeThesaurus thesaurus;
 };
 
 }  // namespace tarnwell::testing

@@ -16,8 +16,8 @@ class FormRig : public FakeWorld {
   storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder,    clock, dialogs, loop,      window,   help,
-                         clipboard, pages, folders, variables, navigator};
+  forms::Context context{folder, clock,   dialogs, loop,      window,    help,     clipboard,
+                         pages,  folders, speller, thesaurus, variables, navigator};
   forms::Form& form = ShowBlank();
 
  private:

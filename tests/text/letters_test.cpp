@@ -10,6 +10,11 @@ TEST(Letters, CapitalsIncludeTheAccentedLettersAndNothingElse) {
   EXPECT_EQ(UpperCase("\xF7\xD7\xDF\xB5\x83[{1"), "\xF7\xD7\xDF\xB5\x83[{1");
 }
 
+TEST(Letters, SmallLettersAreTheCapitalsBack) {
+  EXPECT_EQ(LowerCase("AZ\xC0\xDE\x8A\x8C\x8E\x9F"), "az\xE0\xFE\x9A\x9C\x9E\xFF");
+  EXPECT_EQ(LowerCase("\xF7\xD7\xDF\xB5\x83[{1"), "\xF7\xD7\xDF\xB5\x83[{1");
+}
+
 TEST(Letters, TheOrderOfAListIgnoresCapitals) {
   EXPECT_EQ(CompareIgnoringCase("Zo\xEB", "zO\xCB"), 0);
   EXPECT_LT(CompareIgnoringCase("apple", "Banana"), 0);

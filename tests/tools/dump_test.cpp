@@ -63,7 +63,8 @@ TEST(FileKindsTest, EveryFileOfTheProgramHasOneAndItsPageExists) {
                                       file_names::kEmployeePictures,
                                       file_names::kImages,
                                       file_names::kImageIndex,
-                                      file_names::kVehicleSlots}) {
+                                      file_names::kVehicleSlots,
+                                      file_names::kUserWords}) {
     const FileKind* kind = FindFileKind(name);
     EXPECT_TRUE(kind && kind->layout != Layout::kDocument) << name;
   }

@@ -6,6 +6,8 @@
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
 #include "planner/zcalandar1.h"
+#include "proofing/vsspell1.h"
+#include "proofing/vsthesaurus1.h"
 #include "reference/infoadv.h"
 #include "reference/toolsandinfo1.h"
 #include "shell/about1.h"
@@ -35,6 +37,8 @@ constexpr Entry kViews[] = {
     {forms::form_names::kInfoAdv, Make<reference::InfoAdv>},
     {forms::form_names::kToolsandInfo1, Make<reference::ToolsandInfo1>},
     {forms::form_names::kZcalandar1, Make<planner::Zcalandar1>},
+    {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
+    {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };
 
 }  // namespace

@@ -19,6 +19,10 @@ class ToolsandInfo1;
 namespace tarnwell::planner {
 class Zcalandar1;
 }
+namespace tarnwell::proofing {
+class VSSpell1;
+class VSThesaurus1;
+}  // namespace tarnwell::proofing
 
 namespace tarnwell::desktop {
 
@@ -31,5 +35,7 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures);
 QWidget* View(reference::InfoAdv& form, PictureStore& pictures);
 QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures);
 QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
+QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
+QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 
 }  // namespace tarnwell::desktop

@@ -24,7 +24,8 @@ QWidget* Day(planner::Zcalandar1& form) {
           Row({sort_time, Spring(), WithIcon("month", Widget(form.view_month)),
                WithIcon("print", Widget(form.print_options))}),
           Row({WithIcon("save", Widget(form.save)), WithIcon("clear", Widget(form.clear_entries)),
-               Spring(), WithIcon("exit", Widget(form.exit))}),
+               WithIcon("spelling", Widget(form.check_spelling)), Spring(),
+               WithIcon("exit", Widget(form.exit))}),
           Spring(),
       }));
 }
@@ -60,7 +61,7 @@ QWidget* PagesView(planner::PlannerPages& pages, PictureStore& pictures) {
 }  // namespace
 
 QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
-  QWidget* import_panel = Widget(form.import_panel, Widget(form.import_progress));
+  QWidget* import_panel = Widget(form.todo_import.panel, Widget(form.todo_import.progress));
   QWidget* in_turn =
       Column({Grow(AtMost(Day(form), kLettersOfRow)),
               AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),

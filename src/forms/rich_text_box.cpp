@@ -1,0 +1,227 @@
+#include "forms/rich_text_box.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "richtext/editor.h"
+#include "richtext/fragment.h"
+#include "richtext/paragraphs.h"
+#include "richtext/plain_text.h"
+#include "richtext/typed_text.h"
+
+namespace tarnwell::forms {
+namespace {
+
+using richtext::CharacterFormat;
+using richtext::Editor;
+using richtext::Position;
+using richtext::Range;
+using richtext::StepKind;
+using richtext::Typing;
+
+constexpr std::size_t kMostSpans = 1000;
+
+Color FromRich(const richtext::Color& color) {
+  return color.red | color.green << 8 | color.blue << 16;
+}
+
+richtext::Color ToRich(Color color) {
+  const auto part = [color](int shift) { return static_cast<std::uint8_t>(color >> shift & 0xFF); };
+  return {part(0), part(8), part(16)};
+}
+
+// The selection's kind of underline stays where it is underlined already.
+void SetUnderline(bool underlined, CharacterFormat& format) {
+  if (underlined == (format.underline != richtext::Underline::kNone)) return;
+  format.underline = underlined ? richtext::Underline::kSingle : richtext::Underline::kNone;
+}
+
+}  // namespace
+
+void RichTextBox::SetDocument(richtext::RichDocument document) {
+  document_ = std::move(document);
+  history_.Clear();
+  selection_ = {};
+  typing_format_.reset();
+  // More than any view has seen, so that each shows the document anew.
+  spans_.clear();
+  spans_made_ += kMostSpans;
+  Changed();
+}
+
+bool RichTextBox::IsBlank() const { return richtext::IsBlank(document_); }
+
+void RichTextBox::SetLocked(bool locked) {
+  if (locked_ == locked) return;
+  locked_ = locked;
+  Changed();
+}
+
+void RichTextBox::SetTextColor(std::optional<Color> color) {
+  if (text_color_ == color) return;
+  text_color_ = color;
+  Changed();
+}
+
+void RichTextBox::SetBackground(std::optional<Color> color) {
+  if (background_ == color) return;
+  background_ = color;
+  Changed();
+}
+
+int RichTextBox::paragraph_count() const { return richtext::CountParagraphs(document_); }
+
+std::string RichTextBox::ParagraphText(int paragraph) const {
+  if (paragraph < 0 || paragraph >= paragraph_count()) return {};
+  return richtext::ShownText(richtext::ParagraphAt(document_, paragraph));
+}
+
+std::string RichTextBox::SelectedText() const { return richtext::ShownText(document_, selection_); }
+
+richtext::RichDocument RichTextBox::SelectedPart() const {
+  richtext::RichDocument part = richtext::Slice(document_, selection_);
+  richtext::Detach(part);
+  return part;
+}
+
+void RichTextBox::Select(Range range) {
+  ++scroll_requests_;
+  if (!MoveTo(range)) return Changed();
+  Changed();
+  Run(on_selection);
+}
+
+std::optional<Range> RichTextBox::Find(std::string_view utf8, Position from) const {
+  return richtext::FindText(document_, utf8, from);
+}
+
+bool RichTextBox::MoveTo(Range range) {
+  range = richtext::Clamped(document_, range);
+  if (range == selection_) return false;
+  selection_ = range;
+  typing_format_.reset();
+  history_.EndStep();
+  return true;
+}
+
+bool RichTextBox::Do(StepKind kind, const Edit& edit) {
+  Editor editor(document_);
+  const Range before = selection_;
+  const Range after = richtext::Clamped(document_, edit(editor));
+  const bool moved = after != before;
+  selection_ = after;
+  history_.Record(editor, document_, before, after, kind);
+  Keep(editor.spans());
+  if (!editor.changes().empty()) typing_format_.reset();
+  if (moved || !editor.changes().empty()) Changed();
+  return !editor.changes().empty();
+}
+
+void RichTextBox::Keep(const std::vector<richtext::ChangedSpan>& spans) {
+  spans_.insert(spans_.end(), spans.begin(), spans.end());
+  spans_made_ += spans.size();
+  while (spans_.size() > kMostSpans) spans_.pop_front();
+}
+
+std::optional<std::vector<richtext::ChangedSpan>> RichTextBox::SpansFrom(std::size_t known) const {
+  const std::size_t count = spans_made_ - known;
+  if (count > spans_.size()) return std::nullopt;
+  return std::vector<richtext::ChangedSpan>(spans_.end() - static_cast<std::ptrdiff_t>(count),
+                                            spans_.end());
+}
+
+Position RichTextBox::InsertPlain(Editor& editor, Position at, std::string_view utf8,
+                                  const Typing& typing) {
+  const std::string text = richtext::TypedText(utf8);
+  std::string_view rest = text;
+  while (true) {
+    const std::size_t end = rest.find('\n');
+    at = editor.InsertText(at, richtext::WithLineBreaks(rest.substr(0, end)), typing);
+    if (end == std::string_view::npos) return at;
+    at = editor.BreakParagraph(at);
+    rest.remove_prefix(end + 1);
+  }
+}
+
+CharacterFormat RichTextBox::StartFormat() const {
+  if (typing_format_) return *typing_format_;
+  const richtext::Paragraph& paragraph =
+      richtext::ParagraphAt(document_, selection_.from.paragraph);
+  const int offset = selection_.from.offset;
+  return selection_.empty() ? richtext::TypingAt(paragraph, offset).format
+                            : richtext::FormatBehind(paragraph, offset);
+}
+
+void RichTextBox::Replace(Range range, std::string_view utf8) {
+  if (locked_) return;
+  range = richtext::Clamped(document_, range);
+  const richtext::Paragraph& paragraph = richtext::ParagraphAt(document_, range.from.paragraph);
+  Typing typing = richtext::TypingAt(paragraph, range.from.offset);
+  if (!range.empty()) typing.format = richtext::FormatBehind(paragraph, range.from.offset);
+  Do(StepKind::kOther, [&](Editor& editor) {
+    editor.Erase(range);
+    const Position end = InsertPlain(editor, range.from, utf8, typing);
+    return Range{end, end};
+  });
+}
+
+Font RichTextBox::FontOf(const CharacterFormat& format) const {
+  Font font;
+  font.name = format.font.empty() ? richtext::DefaultFontName(document_) : format.font;
+  if (font.name.empty()) font.name = Font().name;
+  font.size = format.half_points / 2.0;
+  font.bold = format.bold;
+  font.italic = format.italic;
+  font.underline = format.underline != richtext::Underline::kNone;
+  font.strike = format.strike;
+  font.color = format.color ? FromRich(*format.color) : text_color_.value_or(kBlack);
+  return font;
+}
+
+Font RichTextBox::SelectionFont() const { return FontOf(StartFormat()); }
+
+void RichTextBox::SetSelectionFont(const Font& font) {
+  if (locked_) return;
+  const CharacterFormat start = StartFormat();
+  const Font shown = FontOf(start);
+  ReformatSelection([&](CharacterFormat& format) {
+    format.font = font.name == shown.name ? start.font : font.name;
+    format.half_points = std::max(1, static_cast<int>(std::lround(font.size * 2)));
+    format.bold = font.bold;
+    format.italic = font.italic;
+    SetUnderline(font.underline, format);
+    format.strike = font.strike;
+    format.color = font.color == shown.color ? start.color : ToRich(font.color);
+  });
+}
+
+bool RichTextBox::ReformatSelection(const Reformatting& change) {
+  if (!selection_.empty()) {
+    return Do(StepKind::kOther, [&](Editor& editor) {
+      editor.Reformat(selection_, change);
+      return selection_;
+    });
+  }
+  CharacterFormat format = StartFormat();
+  change(format);
+  typing_format_ = std::move(format);
+  Changed();
+  return false;
+}
+
+richtext::Alignment RichTextBox::SelectionAlignment() const {
+  return richtext::ParagraphAt(document_, selection_.from.paragraph).format.alignment;
+}
+
+void RichTextBox::SetSelectionAlignment(richtext::Alignment alignment) {
+  if (locked_) return;
+  Do(StepKind::kOther, [&](Editor& editor) {
+    editor.ReformatParagraphs(selection_, [alignment](richtext::ParagraphFormat& format) {
+      format.alignment = alignment;
+    });
+    return selection_;
+  });
+}
+
+}  // namespace tarnwell::forms

@@ -1,0 +1,157 @@
+// What a person does in a RichTextBox.
+
+#include <utility>
+
+#include "forms/rich_text_box.h"
+#include "richtext/editor.h"
+#include "richtext/fragment.h"
+#include "richtext/paragraphs.h"
+
+namespace tarnwell::forms {
+namespace {
+
+using richtext::CharacterFormat;
+using richtext::Editor;
+using richtext::Position;
+using richtext::Range;
+using richtext::StepKind;
+
+// A key's worth of text; more came by a paste or from an input method.
+bool IsOneCharacter(std::string_view utf8) {
+  std::size_t count = 0;
+  for (const char c : utf8) count += (static_cast<unsigned char>(c) & 0xC0) != 0x80 ? 1 : 0;
+  return count == 1;
+}
+
+// Where a fragment that was moved from `range` to behind it ends once the range is gone.
+Position Moved(Position position, const Range& range, int paragraphs_gone) {
+  if (position.paragraph == range.to.paragraph &&
+      paragraphs_gone == range.to.paragraph - range.from.paragraph) {
+    position.offset += range.from.offset - range.to.offset;
+    if (paragraphs_gone == 0) return position;
+    return {range.from.paragraph, position.offset};
+  }
+  position.paragraph -= paragraphs_gone;
+  return position;
+}
+
+}  // namespace
+
+void RichTextBox::MoveSelection(Range range) {
+  if (!Reachable() || !MoveTo(range)) return;
+  Changed();
+  Run(on_selection);
+}
+
+void RichTextBox::Type(std::string_view utf8) {
+  if (!CanEdit() || utf8.empty()) return;
+  richtext::Typing typing = richtext::TypingAt(
+      richtext::ParagraphAt(document_, selection_.from.paragraph), selection_.from.offset);
+  typing.format = StartFormat();
+  const bool is_key = IsOneCharacter(utf8) && utf8 != "\n";
+  // A word and the blanks behind it are one step; what follows a blank begins the next.
+  const bool is_blank = utf8 == " " || utf8 == "\t";
+  if (!is_blank && after_blank_) history_.EndStep();
+  const bool changed = Do(is_key ? StepKind::kTyping : StepKind::kOther, [&](Editor& editor) {
+    editor.Erase(selection_);
+    const Position end = InsertPlain(editor, selection_.from, utf8, typing);
+    return Range{end, end};
+  });
+  after_blank_ = is_blank;
+  Tell(changed);
+}
+
+void RichTextBox::Erase(Range range) {
+  if (!CanEdit()) return;
+  range = richtext::Clamped(document_, range);
+  Tell(Do(selection_.empty() ? StepKind::kErasing : StepKind::kOther, [&](Editor& editor) {
+    editor.Erase(range);
+    return Range{range.from, range.from};
+  }));
+}
+
+void RichTextBox::Backspace(Position back_to) {
+  const Position at = selection_.from;
+  if (!selection_.empty()) return Erase(selection_);
+  const richtext::Paragraph& paragraph = richtext::ParagraphAt(document_, at.paragraph);
+  if (at.offset > 0 || !paragraph.format.list) return Erase({back_to, at});
+  if (!CanEdit()) return;
+  Tell(Do(StepKind::kOther, [&](Editor& editor) {
+    editor.EndList(at);
+    return selection_;
+  }));
+}
+
+void RichTextBox::Paste(const richtext::RichDocument& fragment) {
+  if (!CanEdit() || fragment.blocks.empty()) return;
+  richtext::RichDocument part = fragment;
+  richtext::Detach(part);
+  Tell(Do(StepKind::kOther, [&](Editor& editor) {
+    editor.Erase(selection_);
+    const Position end = editor.Insert(selection_.from, std::move(part));
+    return Range{end, end};
+  }));
+}
+
+void RichTextBox::MoveText(Range range, Position to) {
+  range = richtext::Clamped(document_, range);
+  to = richtext::Clamped(document_, to);
+  if (!CanEdit() || range.empty() || (range.from <= to && to <= range.to)) return;
+  Tell(Do(StepKind::kOther, [&](Editor& editor) {
+    richtext::RichDocument part = richtext::Slice(document_, range);
+    if (to < range.from) {
+      editor.Erase(range);
+      return Range{to, editor.Insert(to, std::move(part))};
+    }
+    const Position end = editor.Insert(to, std::move(part));
+    const int count = paragraph_count();
+    editor.Erase(range);
+    const int gone = count - paragraph_count();
+    return Range{Moved(to, range, gone), Moved(end, range, gone)};
+  }));
+}
+
+void RichTextBox::ToggleBold() {
+  Toggle([bold = !StartFormat().bold](CharacterFormat& format) { format.bold = bold; });
+}
+
+void RichTextBox::ToggleItalic() {
+  Toggle([italic = !StartFormat().italic](CharacterFormat& format) { format.italic = italic; });
+}
+
+void RichTextBox::ToggleUnderline() {
+  using richtext::Underline;
+  const bool is_underlined = StartFormat().underline != Underline::kNone;
+  Toggle([underline = is_underlined ? Underline::kNone : Underline::kSingle](
+             CharacterFormat& format) { format.underline = underline; });
+}
+
+void RichTextBox::Toggle(const Reformatting& change) {
+  if (CanEdit()) Tell(ReformatSelection(change));
+}
+
+void RichTextBox::Undo() {
+  if (CanEdit()) Finish(history_.Undo(document_));
+}
+
+void RichTextBox::Redo() {
+  if (CanEdit()) Finish(history_.Redo(document_));
+}
+
+void RichTextBox::Finish(const std::optional<richtext::History::Outcome>& outcome) {
+  if (!outcome) return;
+  selection_ = outcome->selection;
+  typing_format_.reset();
+  ++scroll_requests_;
+  Keep(outcome->spans);
+  Changed();
+  Tell(true);
+}
+
+void RichTextBox::Tell(bool changed) {
+  if (!changed) return;
+  Run(on_change);
+  Run(on_selection);
+}
+
+}  // namespace tarnwell::forms

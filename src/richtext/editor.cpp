@@ -1,0 +1,347 @@
+#include "richtext/editor.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "richtext/fragment.h"
+#include "richtext/list_numbering.h"
+
+namespace tarnwell::richtext {
+namespace {
+
+constexpr int kLevels = 9;
+
+// Whether the change leaves the lists' items as they were, so that nothing behind has to follow.
+bool HasSameLists(const Change& change) {
+  return std::ranges::equal(
+      change.before, change.after, [](const Block& before, const Block& after) {
+        const auto* const a = std::get_if<Paragraph>(&before);
+        const auto* const b = std::get_if<Paragraph>(&after);
+        return a != nullptr && b != nullptr && a->format.list == b->format.list;
+      });
+}
+
+// What the range leaves of a table in which it begins or ends: `first` and `last` are places in it.
+void ClearCells(const Place& first, int from, const Place& last, int to, Table& table) {
+  for (std::size_t row = first.row; row <= last.row; ++row) {
+    std::vector<Cell>& cells = table.rows[row].cells;
+    const std::size_t begin = row == first.row ? first.cell : 0;
+    const std::size_t end = row == last.row ? last.cell + 1 : cells.size();
+    for (std::size_t i = begin; i < end; ++i) {
+      std::vector<Paragraph>& paragraphs = cells[i].paragraphs;
+      const bool is_first = row == first.row && i == first.cell;
+      const bool is_last = row == last.row && i == last.cell;
+      const std::size_t last_index = is_last ? last.index : paragraphs.size() - 1;
+      const int last_offset = is_last ? to : ShownLength(paragraphs.back());
+      EraseInCell(is_first ? first.index : 0, is_first ? from : 0, last_index, last_offset,
+                  paragraphs);
+    }
+  }
+}
+
+Place FirstIn(std::size_t block) { return {block, true, 0, 0, 0}; }
+
+Place LastIn(const Table& table, std::size_t block) {
+  const std::size_t row = table.rows.size() - 1;
+  const std::size_t cell = table.rows[row].cells.size() - 1;
+  return {block, true, row, cell, table.rows[row].cells[cell].paragraphs.size() - 1};
+}
+
+void ClearTo(const Place& last, int to, Block& block) {
+  if (auto* const table = std::get_if<Table>(&block)) {
+    return ClearCells(FirstIn(last.block), 0, last, to, *table);
+  }
+  EraseShown(0, to, std::get<Paragraph>(block).runs);
+}
+
+void ClearFrom(const Place& first, int from, Block& block) {
+  if (auto* const table = std::get_if<Table>(&block)) {
+    const Place last = LastIn(*table, first.block);
+    const Cell& cell = table->rows[last.row].cells[last.cell];
+    return ClearCells(first, from, last, ShownLength(cell.paragraphs.back()), *table);
+  }
+  Paragraph& paragraph = std::get<Paragraph>(block);
+  EraseShown(from, ShownLength(paragraph), paragraph.runs);
+}
+
+}  // namespace
+
+std::size_t Editor::CountAt(const Place& place) const {
+  return place.block < document_.blocks.size() ? 1 : 0;
+}
+
+Paragraph Editor::CopyAt(const Place& place) const {
+  Paragraph paragraph = ParagraphAt(document_, place);
+  if (CountAt(place) == 0) paragraph.mark.font = DefaultFontName(document_);
+  return paragraph;
+}
+
+std::vector<Block> Editor::BlocksAt(const Place& first, std::size_t count) const {
+  std::vector<Block> blocks;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (first.in_table) {
+      blocks.emplace_back(CellAt(document_, first).paragraphs[first.index + i]);
+    } else {
+      blocks.push_back(document_.blocks[first.block + i]);
+    }
+  }
+  return blocks;
+}
+
+void Editor::Make(Change change) {
+  spans_.push_back(Apply(change, document_));
+  changes_.push_back(std::move(change));
+}
+
+void Editor::Replace(const Place& first, std::size_t count, std::vector<Block> after) {
+  Change change{first, BlocksAt(first, count), std::move(after)};
+  if (change.before == change.after) return;
+  Make(std::move(change));
+  if (!HasSameLists(changes_.back())) ShiftItemsBehind(changes_.size() - 1);
+}
+
+void Editor::ShiftItemsBehind(std::size_t number) {
+  const Change& change = changes_[number];
+  Place behind = change.where;
+  std::size_t& first = behind.in_table ? behind.index : behind.block;
+  first += change.after.size();
+  const std::size_t end =
+      behind.in_table ? CellAt(document_, behind).paragraphs.size() : document_.blocks.size();
+  std::vector<Block> shifted;
+  std::size_t changed = 0;
+  int level = kLevels;
+  for (const Block& block : BlocksAt(behind, ItemsFrom(behind, end - first))) {
+    Paragraph paragraph = std::get<Paragraph>(block);
+    ListItem& item = *paragraph.format.list;
+    // Below an item of a higher level another list begins.
+    level = std::min(level, item.level);
+    const int shift = item.level == level ? ShiftOf(item, change.before, change.after) : 0;
+    if (shift != 0) item.marker = CountedOn(item.marker, shift);
+    shifted.emplace_back(std::move(paragraph));
+    if (shift != 0) changed = shifted.size();
+  }
+  shifted.resize(changed);
+  if (changed > 0) Make({behind, BlocksAt(behind, changed), std::move(shifted)});
+}
+
+std::size_t Editor::ItemsFrom(Place place, std::size_t most) const {
+  std::size_t count = 0;
+  while (count < most) {
+    if (!place.in_table && std::holds_alternative<Table>(document_.blocks[place.block])) break;
+    if (!ParagraphAt(document_, place).format.list) break;
+    ++(place.in_table ? place.index : place.block);
+    ++count;
+  }
+  return count;
+}
+
+void Editor::Erase(const Range& range) {
+  if (range.empty()) return;
+  const Place first = FindPlace(document_, range.from.paragraph);
+  const Place last = FindPlace(document_, range.to.paragraph);
+  if (first.InSameCell(last) || (!first.in_table && !last.in_table)) {
+    EraseBetween(first, last, range);
+  } else {
+    EraseAcrossTables(first, last, range);
+  }
+}
+
+void Editor::EraseBetween(const Place& first, const Place& last, const Range& range) {
+  Paragraph paragraph = CopyAt(first);
+  if (first == last) {
+    EraseShown(range.from.offset, range.to.offset, paragraph.runs);
+    return Replace(first, 1, {std::move(paragraph)});
+  }
+  const std::size_t count =
+      first.in_table ? last.index - first.index + 1 : last.block - first.block + CountAt(last);
+  if (CountAt(last) == 0) {
+    EraseShown(range.from.offset, ShownLength(paragraph), paragraph.runs);
+  } else {
+    paragraph = Joined(paragraph, range.from.offset, ParagraphAt(document_, last), range.to.offset);
+  }
+  Replace(first, count, {std::move(paragraph)});
+}
+
+void Editor::EraseAcrossTables(const Place& first, const Place& last, const Range& range) {
+  const Place start{first.block};
+  std::vector<Block> after = BlocksAt(start, 1);
+  if (first.block == last.block) {
+    ClearCells(first, range.from.offset, last, range.to.offset, std::get<Table>(after.front()));
+    return Replace(start, 1, std::move(after));
+  }
+  ClearFrom(first, range.from.offset, after.front());
+  const auto is_paragraph = [](const Block& block) {
+    return std::holds_alternative<Paragraph>(block);
+  };
+  if (first.in_table && last.in_table) {
+    std::vector<Block> between = BlocksAt({first.block + 1}, last.block - first.block - 1);
+    const auto separator = std::ranges::find_if(between, is_paragraph);
+    if (separator != between.end()) {
+      ClearTo({}, ShownLength(std::get<Paragraph>(*separator)), *separator);
+      after.push_back(std::move(*separator));
+    }
+  }
+  if (CountAt(last) != 0) {
+    after.push_back(document_.blocks[last.block]);
+    ClearTo(last, range.to.offset, after.back());
+  }
+  Replace(start, last.block - first.block + CountAt(last), std::move(after));
+}
+
+Position Editor::InsertText(Position at, std::string_view utf8, const Typing& typing) {
+  if (utf8.empty()) return at;
+  const Place place = FindPlace(document_, at.paragraph);
+  Paragraph paragraph = CopyAt(place);
+  InsertRuns({{typing.format, std::string(utf8), typing.field}}, at.offset, paragraph.runs);
+  Replace(place, CountAt(place), {std::move(paragraph)});
+  return {at.paragraph, at.offset + static_cast<int>(utf8.size())};
+}
+
+Position Editor::BreakParagraph(Position at) {
+  const Place place = FindPlace(document_, at.paragraph);
+  Paragraph head = CopyAt(place);
+  if (at == Position{} && place.in_table) {
+    Paragraph before;
+    before.mark = head.mark;
+    Replace({0}, 0, {std::move(before)});
+    return {};
+  }
+  if (head.format.list && ShownLength(head) == 0) {
+    EndList(at);
+    return at;
+  }
+  Paragraph tail = head;
+  SplitRuns parts = Split(head.runs, at.offset);
+  head.runs = std::move(parts.head);
+  tail.runs = std::move(parts.tail);
+  head.section_break.clear();
+  tail.format.page_break_before = false;
+  if (tail.format.list) tail.format.list->marker = CountedOn(head.format.list->marker, 1);
+  Replace(place, CountAt(place), {std::move(head), std::move(tail)});
+  return {at.paragraph + 1, 0};
+}
+
+void Editor::EndList(Position at) {
+  const Place place = FindPlace(document_, at.paragraph);
+  Paragraph paragraph = CopyAt(place);
+  paragraph.format.list.reset();
+  paragraph.format.left_indent = 0;
+  paragraph.format.first_line_indent = 0;
+  Replace(place, 1, {std::move(paragraph)});
+}
+
+Position Editor::Insert(Position at, RichDocument fragment) {
+  const Place place = FindPlace(document_, at.paragraph);
+  TakeFields(fragment);
+  std::vector<Block> blocks = std::move(fragment.blocks);
+  if (place.in_table) blocks = WithoutTables(std::move(blocks));
+  if (blocks.empty()) return at;
+  auto* const only = blocks.size() == 1 ? std::get_if<Paragraph>(&blocks.front()) : nullptr;
+  if (only != nullptr) return InsertInline(place, at, std::move(*only));
+  return InsertBlocks(place, at, std::move(blocks));
+}
+
+Position Editor::InsertInline(const Place& place, Position at, Paragraph inserted) {
+  Paragraph paragraph = CopyAt(place);
+  const int length = ShownLength(inserted);
+  if (ShownLength(paragraph) == 0 && !paragraph.format.list) {
+    paragraph.format = inserted.format;
+    paragraph.mark = inserted.mark;
+  }
+  // Inside a link what comes without a field of its own belongs to the link.
+  const int field = TypingAt(paragraph, at.offset).field;
+  for (Run& run : inserted.runs) {
+    if (run.field == kNoField) run.field = field;
+  }
+  InsertRuns(std::move(inserted.runs), at.offset, paragraph.runs);
+  Replace(place, CountAt(place), {std::move(paragraph)});
+  return {at.paragraph, at.offset + length};
+}
+
+Position Editor::InsertBlocks(const Place& place, Position at, std::vector<Block> inserted) {
+  Paragraph head = CopyAt(place);
+  Paragraph tail = head;
+  SplitRuns parts = Split(head.runs, at.offset);
+  head.runs = std::move(parts.head);
+  tail.runs = std::move(parts.tail);
+  head.section_break.clear();
+  if (auto* const first = std::get_if<Paragraph>(&inserted.front())) {
+    if (ShownLength(head) == 0) head.format = first->format;
+    if (ShownLength(head) == 0) head.mark = first->mark;
+    AppendRuns(std::move(first->runs), head.runs);
+    inserted.front() = std::move(head);
+  } else {
+    inserted.insert(inserted.begin(), std::move(head));
+  }
+  tail.format.page_break_before = false;
+  int end = 0;
+  if (auto* const last = std::get_if<Paragraph>(&inserted.back())) {
+    end = ShownLength(*last);
+    if (ShownLength(tail) == 0) tail.format = last->format;
+    if (ShownLength(tail) == 0) tail.mark = last->mark;
+    AppendRuns(std::move(tail.runs), last->runs);
+    tail.runs = std::move(last->runs);
+    inserted.back() = std::move(tail);
+  } else {
+    inserted.emplace_back(std::move(tail));
+  }
+  NumberAnew(inserted);
+  int count = 0;
+  for (const Block& block : inserted) count += CountParagraphs(block);
+  Replace(place, CountAt(place), std::move(inserted));
+  return {at.paragraph + count - 1, end};
+}
+
+void Editor::TakeFields(RichDocument& fragment) {
+  const int first = static_cast<int>(document_.fields.size());
+  const auto moved = [first](int field) { return field == kNoField ? kNoField : field + first; };
+  for (Field& field : fragment.fields) {
+    document_.fields.push_back({std::move(field.instruction), moved(field.parent)});
+  }
+  const auto move_runs = [&moved](std::vector<Paragraph>& paragraphs) {
+    for (Paragraph& paragraph : paragraphs) {
+      for (Run& run : paragraph.runs) run.field = moved(run.field);
+    }
+  };
+  for (Block& block : fragment.blocks) {
+    if (auto* const paragraph = std::get_if<Paragraph>(&block)) {
+      for (Run& run : paragraph->runs) run.field = moved(run.field);
+      continue;
+    }
+    for (TableRow& row : std::get<Table>(block).rows) {
+      for (Cell& cell : row.cells) move_runs(cell.paragraphs);
+    }
+  }
+}
+
+void Editor::ReformatIn(int number, const Range& range,
+                        const std::function<void(Paragraph&)>& change) {
+  const Place place = FindPlace(document_, number);
+  Paragraph paragraph = CopyAt(place);
+  change(paragraph);
+  if (CountAt(place) != 0 || range.from.paragraph == range.to.paragraph) {
+    Replace(place, CountAt(place), {std::move(paragraph)});
+  }
+}
+
+void Editor::Reformat(const Range& range, const std::function<void(CharacterFormat&)>& change) {
+  for (int number = range.from.paragraph; number <= range.to.paragraph; ++number) {
+    ReformatIn(number, range, [&](Paragraph& paragraph) {
+      const bool is_last = number == range.to.paragraph;
+      const int from = number == range.from.paragraph ? range.from.offset : 0;
+      richtext::Reformat(from, is_last ? range.to.offset : ShownLength(paragraph), change,
+                         paragraph.runs);
+      if (!is_last) change(paragraph.mark);
+    });
+  }
+}
+
+void Editor::ReformatParagraphs(const Range& range,
+                                const std::function<void(ParagraphFormat&)>& change) {
+  for (int number = range.from.paragraph; number <= range.to.paragraph; ++number) {
+    ReformatIn(number, range, [&change](Paragraph& paragraph) { change(paragraph.format); });
+  }
+}
+
+}  // namespace tarnwell::richtext

@@ -1,0 +1,75 @@
+// Edits a document and notes what it takes to take them back.
+
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "richtext/change.h"
+#include "richtext/position.h"
+#include "richtext/rich_document.h"
+#include "richtext/run_edit.h"
+
+namespace tarnwell::richtext {
+
+// Ranges and positions are Clamped() ones of the document. What isn't shown stays, unless whole
+// paragraphs go with it. No edit changes the grid of a table, and none makes two tables meet.
+class Editor {
+ public:
+  explicit Editor(RichDocument& document)
+      : document_(document), fields_before_(document.fields.size()) {}
+
+  // Joins what is left of the first and of the last paragraph; tables between them go. A range that
+  // begins or ends inside a table clears the cells that it touches.
+  void Erase(const Range& range);
+
+  // One line of text. Each of these gives the position behind what was inserted.
+  Position InsertText(Position at, std::string_view utf8, const Typing& typing);
+  // Begins a new paragraph, or ends the list in an item that is empty. At the very beginning of a
+  // document that begins with a table, the new paragraph stands before the table.
+  Position BreakParagraph(Position at);
+  // Makes an item of a list an ordinary paragraph.
+  void EndList(Position at);
+  // One paragraph goes into the text, several part it; in a cell tables give their text.
+  Position Insert(Position at, RichDocument fragment);
+
+  void Reformat(const Range& range, const std::function<void(CharacterFormat&)>& change);
+  // Of every paragraph that the range touches.
+  void ReformatParagraphs(const Range& range, const std::function<void(ParagraphFormat&)>& change);
+
+  // In the order in which they were made.
+  const std::vector<Change>& changes() const { return changes_; }
+  const std::vector<ChangedSpan>& spans() const { return spans_; }
+  // How many fields the document had; what it has beyond came with fragments.
+  std::size_t fields_before() const { return fields_before_; }
+
+ private:
+  // Puts `after` in the place of `count` blocks, or paragraphs of a cell, and counts the items of a
+  // list behind them anew.
+  void Replace(const Place& first, std::size_t count, std::vector<Block> after);
+  void Make(Change change);
+  void ShiftItemsBehind(std::size_t change);
+  // How many paragraphs from `place` on are items of lists, at most `most`.
+  std::size_t ItemsFrom(Place place, std::size_t most) const;
+  std::vector<Block> BlocksAt(const Place& first, std::size_t count) const;
+  // 0 for the paragraph that isn't stored.
+  std::size_t CountAt(const Place& place) const;
+  // A copy, in the document's default font for the paragraph that isn't stored.
+  Paragraph CopyAt(const Place& place) const;
+
+  void EraseBetween(const Place& first, const Place& last, const Range& range);
+  void EraseAcrossTables(const Place& first, const Place& last, const Range& range);
+  Position InsertInline(const Place& place, Position at, Paragraph inserted);
+  Position InsertBlocks(const Place& place, Position at, std::vector<Block> inserted);
+  void TakeFields(RichDocument& fragment);
+  void ReformatIn(int number, const Range& range, const std::function<void(Paragraph&)>& change);
+
+  RichDocument& document_;
+  std::size_t fields_before_;
+  std::vector<Change> changes_;
+  std::vector<ChangedSpan> spans_;
+};
+
+}  // namespace tarnwell::richtext

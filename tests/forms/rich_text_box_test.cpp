@@ -1,0 +1,248 @@
+#include "forms/rich_text_box.h"
+
+#include <gtest/gtest.h>
+
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_writer.h"
+#include "richtext/sketch.h"
+#include "support/form_rig.h"
+
+namespace tarnwell::forms {
+namespace {
+
+using richtext::FromSketch;
+using richtext::Position;
+using richtext::Range;
+using richtext::Sketch;
+
+class RichTextBoxTest : public ::testing::Test {
+ protected:
+  RichTextBoxTest() {
+    box.on_change = [this] { ++changes; };
+    box.on_selection = [this] { ++moves; };
+  }
+  void Show(const char* sketch, Position cursor = {}) { ShowSelected(sketch, {cursor, cursor}); }
+  void ShowSelected(const char* sketch, Range range) {
+    box.SetDocument(FromSketch(sketch));
+    box.Select(range);
+    changes = moves = 0;
+  }
+  void TypeKeys(const std::string& keys) {
+    for (const char key : keys) box.Type({&key, 1});
+  }
+  std::string text() const { return Sketch(box.document()); }
+
+  testing::FormRig rig;
+  RichTextBox box{rig.form, "RichTextBox1", {.spoken_name = "Document"}};
+  int changes = 0;
+  int moves = 0;
+};
+
+TEST_F(RichTextBoxTest, OnlyAPersonsEditsAreTold) {
+  Show("ab|cd", {0, 1});
+  box.Replace({{0, 0}, {0, 1}}, "x");
+  box.SetSelectionAlignment(richtext::Alignment::kCenter);
+  EXPECT_EQ(changes, 0);
+  box.Type("y");
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(text(), "xyb|cd");
+  box.Erase({{0, 1}, {0, 1}});
+  EXPECT_EQ(changes, 1);
+  box.Undo();
+  EXPECT_EQ(changes, 2);
+  box.SetDocument(FromSketch("z"));
+  box.Clear();
+  EXPECT_EQ(changes, 2);
+  EXPECT_EQ(box.document(), richtext::RichDocument{});
+}
+
+TEST_F(RichTextBoxTest, ALockedBoxIsReadOnlyAndAHiddenOneTakesNoGesture) {
+  const auto try_all = [this] {
+    box.Type("x");
+    box.Erase({{0, 0}, {0, 1}});
+    box.Backspace({0, 0});
+    box.Paste(FromSketch("x"));
+    box.MoveText({{0, 0}, {0, 1}}, {1, 0});
+    box.ToggleBold();
+    box.Undo();
+  };
+  Show("ab|cd");
+  box.Type("1");
+  box.SetLocked(true);
+  try_all();
+  box.Replace({{0, 0}, {0, 1}}, "x");
+  box.SetSelectionAlignment(richtext::Alignment::kCenter);
+  EXPECT_EQ(text(), "1ab|cd");
+  EXPECT_FALSE(box.CanUndo());
+  box.MoveSelection({{0, 1}, {1, 1}});
+  EXPECT_EQ(box.SelectedText(), "ab\nc");
+  box.SetLocked(false);
+  box.SetVisible(false);
+  try_all();
+  box.MoveSelection({});
+  EXPECT_EQ(text(), "1ab|cd");
+  EXPECT_EQ(box.SelectedText(), "ab\nc");
+}
+
+TEST_F(RichTextBoxTest, UndoTakesBackAWordAtATimeAndRestoresTheSelection) {
+  Show("ab", {0, 2});
+  const richtext::RichDocument loaded = box.document();
+  TypeKeys(" one two");
+  EXPECT_EQ(text(), "ab one two");
+  box.Undo();
+  EXPECT_EQ(text(), "ab one ");
+  box.Undo();
+  EXPECT_EQ(text(), "ab ");
+  box.Undo();
+  EXPECT_EQ(box.document(), loaded);
+  EXPECT_EQ(box.selection().from, (Position{0, 2}));
+  EXPECT_FALSE(box.CanUndo());
+  box.Redo();
+  box.Redo();
+  EXPECT_EQ(text(), "ab one ");
+  TypeKeys("x");
+  EXPECT_FALSE(box.CanRedo());
+}
+
+TEST_F(RichTextBoxTest, ErasingIsAStepOfItsOwnAndMovingEndsAStep) {
+  Show("abcd", {0, 4});
+  TypeKeys("xy");
+  box.Backspace({0, 5});
+  box.Backspace({0, 4});
+  EXPECT_EQ(text(), "abcd");
+  box.Undo();
+  EXPECT_EQ(text(), "abcdxy");
+  box.Undo();
+  TypeKeys("x");
+  box.MoveSelection({{0, 0}, {0, 0}});
+  box.MoveSelection({{0, 5}, {0, 5}});
+  TypeKeys("y");
+  box.Undo();
+  EXPECT_EQ(text(), "abcdx");
+}
+
+TEST_F(RichTextBoxTest, WhatIsTypedOverASelectionIsOneStepWithItsTyping) {
+  ShowSelected("a*bc*d|e", {{0, 1}, {1, 0}});
+  TypeKeys("xy");
+  EXPECT_EQ(text(), "a*xy*e");
+  box.Undo();
+  EXPECT_EQ(text(), "a*bc*d|e");
+  EXPECT_EQ(box.SelectedText(), "bcd\n");
+}
+
+TEST_F(RichTextBoxTest, TypingMakesParagraphsLinesAndPagesAndNothingUnseen) {
+  Show("a", {0, 1});
+  box.Type("b\r\nc\fd\u2028e\x01\x80");
+  EXPECT_EQ(text(), "ab|c\fd\ne\uFFFD");
+}
+
+TEST_F(RichTextBoxTest, TheFormatOfWhatIsTypedNextHoldsUntilTheCursorMoves) {
+  Show("ab", {0, 1});
+  box.ToggleBold();
+  EXPECT_TRUE(box.SelectionFont().bold);
+  EXPECT_FALSE(box.CanUndo());
+  TypeKeys("xy");
+  EXPECT_EQ(text(), "a*xy*b");
+  box.ToggleBold();
+  box.MoveSelection({{0, 4}, {0, 4}});
+  TypeKeys("z");
+  EXPECT_EQ(text(), "a*xy*bz");
+}
+
+TEST_F(RichTextBoxTest, AFontKeepsTheColourThatTextHasFromTheView) {
+  ShowSelected("ab", {{0, 0}, {0, 1}});
+  box.SetTextColor(kPureBlue);
+  Font font = box.SelectionFont();
+  EXPECT_EQ(font.color, kPureBlue);
+  font.name = "Arial";
+  font.size = 8.5;
+  box.SetSelectionFont(font);
+  const richtext::CharacterFormat format = richtext::ParagraphAt(box.document(), 0).runs[0].format;
+  EXPECT_EQ(format.font, "Arial");
+  EXPECT_EQ(format.half_points, 17);
+  EXPECT_EQ(format.color, std::nullopt);
+  font.color = kYellow;
+  box.SetSelectionFont(font);
+  EXPECT_EQ(box.SelectionFont(), font);
+  box.Undo();
+  box.Undo();
+  EXPECT_EQ(box.document(), FromSketch("ab"));
+}
+
+TEST_F(RichTextBoxTest, BackspaceAtAnItemsStartEndsTheListThere) {
+  Show("1.>a|2.>b|3.>c", {1, 0});
+  box.Backspace({0, 1});
+  EXPECT_EQ(text(), "1.>a|b|2.>c");
+  box.Backspace({0, 1});
+  EXPECT_EQ(text(), "1.>ab|2.>c");
+}
+
+TEST_F(RichTextBoxTest, TextIsMovedInOneStep) {
+  const struct {
+    const char* before;
+    Range range;
+    Position to;
+    const char* after;
+    const char* selected;
+  } cases[] = {
+      {"abcd", {{0, 0}, {0, 1}}, {0, 3}, "bcad", "a"},
+      {"abcd", {{0, 2}, {0, 4}}, {0, 1}, "acdb", "cd"},
+      {"abc|def|g", {{0, 1}, {1, 1}}, {1, 2}, "aebc|df|g", "bc\nd"},
+      {"abc|d", {{0, 2}, {1, 0}}, {1, 1}, "abdc|", "c\n"},
+      {"ab|[c,d]", {{0, 0}, {0, 1}}, {1, 1}, "b|[ca,d]", "a"},
+      {"abcd", {{0, 1}, {0, 3}}, {0, 2}, "abcd", ""},
+  };
+  for (const auto& c : cases) {
+    Show(c.before);
+    box.MoveText(c.range, c.to);
+    EXPECT_EQ(text(), c.after) << c.before;
+    EXPECT_EQ(box.SelectedText(), c.selected) << c.before;
+    box.Undo();
+    EXPECT_EQ(text(), c.before);
+  }
+}
+
+TEST_F(RichTextBoxTest, ABlankBoxCanBeWrittenIn) {
+  EXPECT_TRUE(box.IsBlank());
+  EXPECT_EQ(box.paragraph_count(), 1);
+  EXPECT_EQ(box.ParagraphText(0), "");
+  TypeKeys("ab\nc");
+  EXPECT_EQ(richtext::PlainText(box.document()), "ab\nc");
+  while (box.CanUndo()) box.Undo();
+  EXPECT_EQ(box.document(), richtext::RichDocument{});
+}
+
+TEST_F(RichTextBoxTest, ADocumentWhoseChangesWereTakenBackIsSavedByteForByte) {
+  const std::string bytes = richtext::RtfOf("1.>a|2.>b|[c,d]|x");
+  box.SetDocument(richtext::ReadRichText(bytes));
+  box.Select({{0, 1}, {4, 0}});
+  box.Type("\n");
+  box.Paste(FromSketch("x|[y]|z"));
+  box.ToggleItalic();
+  EXPECT_NE(richtext::SaveRichText(box.document(), bytes), bytes);
+  while (box.CanUndo()) box.Undo();
+  EXPECT_EQ(richtext::SaveRichText(box.document(), bytes), bytes);
+}
+
+TEST_F(RichTextBoxTest, AViewLearnsWhichParagraphsChanged) {
+  Show("a|b|[c,d]");
+  const std::size_t known = box.spans_made();
+  box.Replace({{1, 0}, {1, 1}}, "x\ny");
+  const auto spans = box.SpansFrom(known);
+  ASSERT_TRUE(spans.has_value());
+  EXPECT_EQ(spans->front().first_paragraph, 1);
+  box.SetDocument(FromSketch("z"));
+  EXPECT_EQ(box.SpansFrom(known), std::nullopt);
+}
+
+TEST_F(RichTextBoxTest, HandlersHearOfTheCursor) {
+  Show("ab|cd");
+  box.MoveSelection({{1, 0}, {1, 0}});
+  box.MoveSelection({{1, 0}, {1, 0}});
+  EXPECT_EQ(moves, 1);
+  box.Select({{0, 0}, {0, 2}});
+  EXPECT_EQ(moves, 2);
+}
+
+}  // namespace
+}  // namespace tarnwell::forms
