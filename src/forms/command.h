@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/control.h"
+#include "forms/clickable.h"
 
 namespace tarnwell::forms {
 
@@ -13,11 +13,11 @@ struct CommandStyle {
 };
 
 // A button. "&" in its caption marks the mnemonic, "&&" is a plain ampersand.
-class Command : public Control {
+class Command : public Clickable {
  public:
   Command(Container& parent, std::string_view name, std::string_view caption,
           CommandStyle style = {})
-      : Control(parent, name), caption_(caption), cancel_(style.cancel) {
+      : Clickable(parent, name), caption_(caption), cancel_(style.cancel) {
     SetToolTip(style.tool_tip);
   }
 
@@ -43,11 +43,6 @@ class Command : public Control {
     no_drop_ = no_drop;
     Changed();
   }
-
-  void Click() {
-    if (Reachable()) Run(on_click);
-  }
-  std::function<void()> on_click;
 
  private:
   std::string caption_;

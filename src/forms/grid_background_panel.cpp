@@ -20,6 +20,7 @@ GridBackgroundPanel::GridBackgroundPanel(Container& parent, Context& context,
     thumbnails[i].on_click = [this, i] { Mark(i); };
   }
   commands[0].SetCaption("&Exit");
+  commands[0].SetCancel(true);
   commands[0].on_click = [this] { Exit(); };
   commands[1].SetCaption("Use &Above Background");
   commands[1].on_click = [this] { UseMarked(); };
@@ -30,7 +31,9 @@ GridBackgroundPanel::GridBackgroundPanel(Container& parent, Context& context,
 }
 
 void GridBackgroundPanel::Load() {
-  choice_ = settings::ReadGridBackground(context_.folder, function_);
+  choice_ = settings::HoldsForTheRun(function_)
+                ? context_.variables.GridBackgrounds[function_]
+                : settings::ReadGridBackground(context_.folder, function_);
   Apply();
 }
 
@@ -59,6 +62,7 @@ void GridBackgroundPanel::UseColor() {
 
 void GridBackgroundPanel::Take(const settings::StoredColor& choice) {
   choice_ = choice;
+  if (settings::HoldsForTheRun(function_)) context_.variables.GridBackgrounds[function_] = choice;
   settings::WriteGridBackground(context_.folder, function_, choice);
   Apply();
 }

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/control.h"
+#include "forms/clickable.h"
 #include "forms/page.h"
 
 namespace tarnwell::forms {
@@ -12,11 +12,11 @@ namespace tarnwell::forms {
 enum class LabelRole { kText, kHeading, kTitle, kNote };
 
 // A text that the form sets. It can be clicked where it has an `on_click`.
-class Label : public Control {
+class Label : public Clickable {
  public:
   Label(Container& parent, std::string_view name, std::string_view caption = {},
         LabelRole role = LabelRole::kText)
-      : Control(parent, name), caption_(caption), role_(role) {}
+      : Clickable(parent, name), caption_(caption), role_(role) {}
 
   const std::string& caption() const { return caption_; }
   void SetCaption(std::string_view caption) {
@@ -31,11 +31,6 @@ class Label : public Control {
     Changed();
   }
 
-  void Click() {
-    if (Reachable()) Run(on_click);
-  }
-  std::function<void()> on_click;
-
  private:
   std::string caption_;
   LabelRole role_;
@@ -43,10 +38,10 @@ class Label : public Control {
 };
 
 // A picture, by its file name in the program's folder or among the supplied files; empty for none.
-class Picture : public Control {
+class Picture : public Clickable {
  public:
   Picture(Container& parent, std::string_view name, std::string_view file)
-      : Control(parent, name), file_(file) {}
+      : Clickable(parent, name), file_(file) {}
 
   const std::string& file() const { return file_; }
   void SetFile(std::string_view file) {
@@ -61,11 +56,6 @@ class Picture : public Control {
     marked_ = marked;
     Changed();
   }
-
-  void Click() {
-    if (Reachable()) Run(on_click);
-  }
-  std::function<void()> on_click;
 
  private:
   std::string file_;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "forms/color.h"
 #include "forms/page.h"
+#include "settings/grid_backgrounds.h"
 #include "storage/tagged_value.h"
 
 namespace tarnwell::forms {
@@ -22,6 +24,9 @@ struct ProgramVariables {
   std::string CompanyLine;     // put behind captions and heads when not empty; nothing sets it
   std::string PanelColorNew;   // the panel colour saved last, as it is stored; empty for none
   std::string PanelColorLast;  // the one that was last saved for all functions
+
+  // The grid backgrounds that hold for the run.
+  std::map<settings::GridBackground, settings::StoredColor> GridBackgrounds;
 
   // The print settings, which all screens share.
   std::string PrintFontName = "Times New Roman";

@@ -33,6 +33,7 @@ Zcalandar1::Zcalandar1(forms::Context& context)
       calendar_options(*this, context.folder),
       recurrence(*this, context),
       pages(*this, context),
+      background(*this, context, settings::GridBackground::kPlanner),
       colors(context, settings::PanelColor::kPlanner),
       todo_import(*this, context) {
   exit.SetCancel(true);
@@ -57,6 +58,8 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   pages.on_print = [this] { picker.SetVisible(false); };
   pages.on_print_close = [this] { ClosePrint(); };
   pages.on_export = [this] { EnableMenus(); };
+  background.on_apply = [this](const forms::GridLook& look) { pages.month.grid.SetLook(look); };
+  background.on_close = [this] { CloseBackground(); };
   colors.on_change = [this] { ShowColors(); };
   BuildRows();
   BuildMenus();
@@ -78,6 +81,7 @@ void Zcalandar1::BuildMenus() {
       &options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); }));
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(forms::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(forms::ColorTarget::kText); });
+  background_entry_ = &options.AddEntry("mOGB", "&Grid Background", [this] { OpenBackground(); });
   options.AddSeparator();
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
@@ -121,6 +125,7 @@ void Zcalandar1::Load() {
   calendar_options.Load();
   picker.SetLook(LookOf(calendar_options.options()));
   sort_time.Choose(settings::ReadSortTime(context_.folder));
+  background.Load();
   colors.Load();
   timer.Tick();
   picker.SetDate(context_.clock.Today());
@@ -229,6 +234,7 @@ void Zcalandar1::EnableMenus() {
   month_entry_->SetEnabled(rows_shown && view_month.enabled());
   paste_entry_->SetEnabled(rows_shown && HasRows(copied_));
   export_entry_->SetEnabled(pages.month.panel.visible());
+  background_entry_->SetEnabled(rows_shown || pages.month.panel.visible());
   for (forms::MenuItem* menu : row_menus_) menu->SetEnabled(rows_shown);
   for (forms::MenuItem* menu : copy_entries_) {
     menu->SetEnabled(pages.month.panel.visible() || (rows_shown && view_month.enabled()));
@@ -276,8 +282,9 @@ void Zcalandar1::Exit() {
 }
 
 void Zcalandar1::ShowColors() {
-  for (forms::Panel* panel : {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel,
-                              &recurrence.panel, &calendar_options.panel, &todo_import.panel}) {
+  for (forms::Panel* panel :
+       {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel, &background.panel,
+        &recurrence.panel, &calendar_options.panel, &todo_import.panel}) {
     panel->SetBackground(colors.panel());
   }
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {

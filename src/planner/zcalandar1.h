@@ -10,6 +10,7 @@
 #include "forms/control_array.h"
 #include "forms/date_picker.h"
 #include "forms/form.h"
+#include "forms/grid_background_panel.h"
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/text_field.h"
@@ -53,6 +54,7 @@ class Zcalandar1 : public forms::Form {
   CalendarOptionsPanel calendar_options;
   RecurrencePanel recurrence;
   PlannerPages pages;
+  forms::GridBackgroundPanel background;
   forms::ColorChoice colors;
   ToDoImportPanel todo_import;
 
@@ -97,6 +99,8 @@ class Zcalandar1 : public forms::Form {
   void CloseRecurrence();
   void ViewMonth();
   void CloseMonth();
+  void OpenBackground();
+  void CloseBackground();
   void PrintDay();
   void ClosePrint();
   void Copy();
@@ -108,6 +112,8 @@ class Zcalandar1 : public forms::Form {
   forms::MenuItem* paste_entry_ = nullptr;
   forms::MenuItem* month_entry_ = nullptr;
   forms::MenuItem* export_entry_ = nullptr;
+  forms::MenuItem* background_entry_ = nullptr;
+  forms::Panel* below_background_ = nullptr;    // the panel whose place the selector has
   std::vector<forms::MenuItem*> copy_entries_;  // of the day, or of the month while it is listed
   std::vector<forms::MenuItem*> row_menus_;     // work on the rows or cover them
   bool unsaved_ = false;

@@ -62,6 +62,21 @@ void Zcalandar1::CloseMonth() {
   SetStatus({});
 }
 
+// Over the rows or the month, whichever is on the screen.
+void Zcalandar1::OpenBackground() {
+  below_background_ = day.visible() ? &day : &pages.month.panel;
+  below_background_->SetVisible(false);
+  picker.SetVisible(false);
+  background.Open();
+  EnableMenus();
+}
+
+void Zcalandar1::CloseBackground() {
+  below_background_->SetVisible(true);
+  picker.SetVisible(below_background_ == &day);
+  EnableMenus();
+}
+
 void Zcalandar1::PrintDay() {
   if (loaded_) pages.PrintDay(*loaded_, Rows(), day);
 }

@@ -209,7 +209,9 @@ void ParagraphLines::SetHeight(RichLine& line) {
   line.height = SpacedHeight(format_, natural);
   if (has_picture) line.height = std::max(line.height, natural);
   line.height = std::max(line.height, 1);
+  // Room that a multiple adds lies below the letters, any other above them.
   line.base = line.height - descent;
+  if (format_.line_spacing_is_multiple) line.base = std::min(line.base, ascent);
 }
 
 }  // namespace tarnwell::print

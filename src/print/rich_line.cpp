@@ -60,8 +60,8 @@ class LinePlacer {
       const RichStyle& style = styles_.at(piece.style);
       if (style.highlight && piece.width > 0) {
         const int x = Rounded(x_);
-        engine_.Add(forms::PlacedBox{x, y_, Rounded(x_ + piece.width) - x, line_.height,
-                                     std::nullopt, style.highlight});
+        engine_.Add(forms::PlacedBox{x, Base() - style.ascent, Rounded(x_ + piece.width) - x,
+                                     style.ascent + style.descent, std::nullopt, style.highlight});
       }
       x_ += piece.width;
     }

@@ -134,7 +134,8 @@ void RtfReader::PushGroup() {
 }
 
 void RtfReader::PopGroup() {
-  if (depth_ < kMostStates && states_.size() > 1) states_.pop_back();
+  // The last brace also ends a paragraph that has no \par: its formats hold until then.
+  if (depth_ > 1 && depth_ < kMostStates && states_.size() > 1) states_.pop_back();
   if (!open_fields_.empty() && open_fields_.back().depth == depth_) EndField();
   if (depth_ > 0) --depth_;
   ended_ = depth_ == 0;

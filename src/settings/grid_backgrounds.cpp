@@ -17,6 +17,8 @@ RecordPlace PlaceOf(GridBackground function) {
       return kDisplayGridsOrModem;
     case GridBackground::kWorkArea:
       return {kGColor1, 42};
+    case GridBackground::kPlanner:
+      break;
   }
   return {};
 }
@@ -29,7 +31,7 @@ bool IsPort(const StoredColor& stored) {
 }  // namespace
 
 StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground function) {
-  if (function == GridBackground::kWorkArea) return {};
+  if (HoldsForTheRun(function)) return {};
   const auto stored = StoredColor::FromText(ReadText(folder, PlaceOf(function)));
   if (function == GridBackground::kDisplayGrids && IsPort(stored)) return {};
   return stored;
@@ -37,6 +39,7 @@ StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground fu
 
 void WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
                          const StoredColor& background) {
+  if (function == GridBackground::kPlanner) return;
   WriteText(folder, PlaceOf(function), background.Text());
 }
 

@@ -10,10 +10,16 @@ enum class GridBackground {
   kBudget,
   kDisplayGrids,  // contacts and employees, who share one
   kWorkArea,      // written only: each run starts with the default background
+  kPlanner,       // has no record: likewise
 };
 
-// For the work area it is nothing, whatever is stored. The record of the display grids is the
-// modem's too: a number that is a serial port is no colour.
+// Whether a choice holds until the program ends instead of being read back.
+constexpr bool HoldsForTheRun(GridBackground function) {
+  return function == GridBackground::kWorkArea || function == GridBackground::kPlanner;
+}
+
+// Nothing where a choice holds for the run, whatever is stored. The record of the display grids is
+// the modem's too: a number that is a serial port is no colour.
 StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground function);
 void WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
                          const StoredColor& background);

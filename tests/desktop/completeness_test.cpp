@@ -31,6 +31,7 @@ const Replacement kReplacements[] = {
     {"Zcalandar1", "SSPanel7", {"SSPanel1", "MonthView1"}},
     {"Zcalandar1", "SSPanel3", {"SSPanel1", "MonthView1"}},
     {"Zcalandar1", "SSPanel80", {"SSPanel1", "MonthView1"}},
+    {"Zcalandar1", "SSPanel90", {"SSPanel1", "MonthView1"}},
     {"Zcalandar1", "SSPanel100", {"SSPanel1", "MonthView1"}},
 };
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 #include "desktop/services/qt_folder_browser.h"
 #include "support/temporary_folder.h"
@@ -60,6 +62,21 @@ TEST_F(QtFolderBrowserTest, AFileIsReplacedWhole) {
   EXPECT_TRUE(browser_.WriteFile("d:\\Sheets\\Caf\xE9.xls", "more"));
   EXPECT_EQ(disk_.Read("Home/b.xls"), "new");
   EXPECT_EQ(disk_.Read("Stick/Sheets/Café.xls"), "more");
+}
+
+TEST_F(QtFolderBrowserTest, AFolderThatVanishedOrIsReadOnlyTakesNoFile) {
+  browser_.Drives();
+  ASSERT_TRUE(browser_.Files("d:\\Sheets").has_value());
+  QDir(root_ + "/Stick/Sheets").removeRecursively();
+  EXPECT_FALSE(browser_.WriteFile("d:\\Sheets\\new.xls", "x"));
+  EXPECT_FALSE(QDir(root_ + "/Stick/Sheets").exists());
+
+  const QString home = root_ + "/Home";
+  QFile::setPermissions(home, QFile::ReadOwner | QFile::ExeOwner);
+  const bool is_refused = !QFileInfo(home).isWritable();  // not to the system's administrator
+  EXPECT_EQ(browser_.WriteFile("c:\\Home\\b.xls", "new"), !is_refused);
+  EXPECT_EQ(disk_.Read("Home/b.xls"), is_refused ? "old" : "new");
+  QFile::setPermissions(home, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST(MountedVolumes, TheRootIsTheFirst) {

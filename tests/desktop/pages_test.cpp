@@ -6,15 +6,17 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QLineEdit>
 #include <QMimeData>
-#include <QProcess>
+#include <QPrinterInfo>
 #include <QStandardPaths>
 #include <QTest>
-#include <QTimer>
 
+#include "desktop/pdf_lines.h"
 #include "desktop/services/page_output.h"
 #include "desktop/services/qt_clipboard.h"
 #include "desktop/services/qt_pages.h"
+#include "desktop/when_modal.h"
 #include "forms/program_variables.h"
 #include "planner/planner_report.h"
 #include "support/temporary_folder.h"
@@ -23,6 +25,8 @@ namespace tarnwell::desktop {
 namespace {
 
 using ::testing::ElementsAre;
+using testing::LinesOfPdf;
+using testing::WhenModal;
 
 // The day's page as the core lays it out with the desktop's own metrics.
 forms::Document DayPage(forms::TextMetrics& metrics, int pages = 1) {
@@ -44,25 +48,6 @@ forms::Document DayPage(forms::TextMetrics& metrics, int pages = 1) {
 
 // Whatever is asked of it: no file.
 const PictureStore kNoPictures([](std::string_view) { return QByteArray(); });
-
-// The lines that another program reads out of a PDF, blanks at their ends and between them cut.
-std::vector<std::string> LinesOfPdf(const QString& file) {
-  QProcess reader;
-  reader.start(QStringLiteral("pdftotext"), {"-layout", "-enc", "UTF-8", file, "-"});
-  EXPECT_TRUE(reader.waitForFinished());
-  std::vector<std::string> lines;
-  for (const QString& line : QString::fromUtf8(reader.readAllStandardOutput()).split('\n')) {
-    if (!line.trimmed().isEmpty()) lines.push_back(line.simplified().toStdString());
-  }
-  return lines;
-}
-
-void WhenModal(std::function<void(QWidget*)> act) {
-  QTimer::singleShot(10, qApp, [act = std::move(act)] {
-    QWidget* modal = QApplication::activeModalWidget();
-    modal ? act(modal) : WhenModal(act);
-  });
-}
 
 TEST(Pages, APdfHoldsTheTextOfEachPageAsTheReportHasIt) {
   if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
@@ -146,6 +131,22 @@ TEST(Pages, TheDialoguesMayBeCancelledOnAMachineWithoutAPrinterToo) {
   forms::PageSetup lying;
   lying.landscape = true;
   EXPECT_EQ(pages.ChooseSetup(lying), lying);
+}
+
+TEST(Pages, OnAMachineWithoutAPrinterTheyGoIntoAPdfFile) {
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) GTEST_SKIP() << "has a printer";
+  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
+  const testing::TemporaryFolder folder;
+  const QString file = QString::fromStdString(folder.path()) + "/printed.pdf";
+  QtPages pages(kNoPictures);
+  WhenModal([&file](QWidget* modal) {
+    auto* name = modal->findChild<QLineEdit*>(QStringLiteral("filename"));
+    ASSERT_NE(name, nullptr);
+    name->setText(file);
+    qobject_cast<QDialog*>(modal)->accept();
+  });
+  pages.Print(DayPage(pages.metrics(), 3));
+  EXPECT_THAT(LinesOfPdf(file), ::testing::IsSupersetOf({"No time 1", "No time 2", "No time 3"}));
 }
 
 TEST(QtClipboard, RichTextGoesOutInEveryFormThatOtherProgramsLookFor) {

@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QStringList>
 
 #include "desktop/desktop.h"
+#include "desktop/widgets/look.h"
 #include "forms/form_names.h"
 #include "planner/zcalandar1.h"
+#include "settings/panel_colors.h"
+#include "storage/file_system.h"
+#include "storage/program_folder.h"
 #include "support/temporary_folder.h"
 
 namespace tarnwell::desktop {
@@ -32,6 +37,31 @@ TEST(PlannerView, TabWalksARowFromLeftToRightWithTheTimePickerWhereItStands) {
   form.times[1].Focus();
   EXPECT_EQ(NamesBehind(*time, 5),
             QStringList({"Text2(0)", "Option2(0)", "Text1(1)", "Combo1", "Text2(1)"}));
+}
+
+TEST(PlannerView, WhatStandsOnAPanelReadsOnAnyColourOfIt) {
+  for (const forms::Color color : {0x301808, 0xC8F0FF, 0x808080, 0x0000FF}) {
+    const tarnwell::testing::TemporaryFolder temporary;
+    storage::ProgramFolder folder(storage::RealFileSystem(), temporary.path());
+    settings::WritePanelColor(folder, settings::PanelColor::kPlanner,
+                              settings::StoredColor::Number(color));
+    Desktop desktop({QString::fromStdString(temporary.path()), {}});
+    desktop.navigator().Show(forms::form_names::kZcalandar1);
+    int labels = 0;
+    for (const char* panel : {"SSPanel1", "SSPanel3", "SSPanel80", "SSPanel90"}) {
+      auto* widget = desktop.window().findChild<QWidget*>(QLatin1String(panel));
+      ASSERT_NE(widget, nullptr);
+      ASSERT_EQ(widget->palette().color(QPalette::Window), ToQColor(color)) << panel;
+      for (const QLabel* label : widget->findChildren<QLabel*>()) {
+        const QPalette& palette = label->palette();
+        ++labels;
+        EXPECT_GE(Contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)),
+                  4.5)
+            << panel << " " << label->text().toStdString();
+      }
+    }
+    EXPECT_GT(labels, 10);
+  }
 }
 
 }  // namespace

@@ -14,8 +14,7 @@
 #include "forms/panel.h"
 #include "forms/text_field.h"
 #include "forms/timer.h"
-#include "support/fake_services.h"
-#include "support/temporary_folder.h"
+#include "support/form_rig.h"
 
 namespace tarnwell::testing {
 
@@ -48,27 +47,8 @@ class SampleForm : public forms::Form {
   static inline int unloads = 0;
 };
 
-// What a form needs around it, all of it faked.
-struct SampleWorld {
-  TemporaryFolder temporary;
-  storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
-  FakeClock clock;
-  ScriptedDialogs dialogs;
-  FakeEventLoop loop{clock};
-  FakeWindow window;
-  FakeHelp help;
-  FakeClipboard clipboard;
-  FakePages pages;
-  FakeFolders folders;
-  FakeSpeller speller;
-  FakeThesaurus thesaurus;
-  forms::ProgramVariables variables;
-  forms::Navigator navigator;
-  forms::Context context{folder, clock,   dialogs, loop,      window,    help,     clipboard,
-                         pages,  folders, speller, thesaurus, variables, navigator};
-
+struct SampleWorld : FormWorld {
   SampleWorld() {
-    navigator.SetContext(context);
     navigator.Register("Sample1",
                        [](forms::Context& world) { return std::make_unique<SampleForm>(world); });
   }

@@ -8,26 +8,19 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 
 #include "desktop/services/folders.h"
 #include "desktop/services/html_help_viewer.h"
 #include "desktop/services/message_dialogs.h"
 #include "desktop/services/single_instance.h"
+#include "desktop/when_modal.h"
 #include "support/temporary_folder.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 using testing::TemporaryFolder;
-
-// Does `act` to the first modal window that comes.
-void WhenModal(std::function<void(QWidget*)> act) {
-  QTimer::singleShot(10, qApp, [act = std::move(act)] {
-    QWidget* modal = QApplication::activeModalWidget();
-    modal ? act(modal) : WhenModal(act);
-  });
-}
+using testing::WhenModal;
 
 TEST(Folders, TheExecutablesFolderIsUsedOnlyWhenItCarriesData) {
   const struct {

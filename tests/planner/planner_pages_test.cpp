@@ -6,10 +6,10 @@
 
 #include "forms/form_names.h"
 #include "planner/day_store.h"
+#include "planner/planner_rig.h"
 #include "planner/zcalandar1.h"
 #include "settings/panel_colors.h"
 #include "storage/record_file.h"
-#include "support/program_rig.h"
 
 namespace tarnwell::planner {
 namespace {
@@ -19,28 +19,19 @@ using ::testing::ElementsAre;
 using testing::TextsOf;
 using text::MakeDate;
 
-class PlannerPagesTest : public ::testing::Test {
+class PlannerPagesTest : public testing::PlannerTest {
  protected:
-  void SetUp() override { Open(); }
-  void Open() {
-    rig.Start();
-    rig.navigator().Show(forms::form_names::kZcalandar1);
-  }
-  Zcalandar1& form() { return rig.Get<Zcalandar1>("Zcalandar1"); }
   print::PrintPanel& print() { return form().pages.print; }
   void Store(unsigned day, const DayRow& row) {
     DayRows rows;
     rows[0] = row;
     ASSERT_TRUE(WriteDay(rig.folder, MakeDate(2026, 3, day), rows));
   }
-  bool Enabled(std::string_view entry) { return form().menus().Find(entry)->enabled(); }
   std::vector<std::string> Shown() { return TextsOf(print().preview.document()->pages.at(0)); }
   std::vector<std::string> MonthRowAt(int row) {
     const forms::Grid& grid = form().pages.month.grid;
     return {grid.text(row, 0), grid.text(row, 1), grid.text(row, 2)};
   }
-
-  testing::ProgramRig rig;
 };
 
 TEST_F(PlannerPagesTest, TheMonthIsListedUntilItsPanelIsClosed) {
@@ -197,6 +188,35 @@ TEST_F(PlannerPagesTest, ChangedColoursAreKeptOnlyWhenAPersonSaysSo) {
   EXPECT_EQ(form().day.background(), 0xCCFFFF);
   EXPECT_EQ(form().times[0].color(), 0x800000);
   form().exit.Click();  // nothing was changed since
+}
+
+TEST_F(PlannerPagesTest, TheMonthsBackgroundIsPaintedAtOnceAndHoldsForTheRun) {
+  rig.temporary.Write("WP3.jpg", "picture");
+  Store(9, {"9:00 AM", "Bank"});
+  const auto look = [this] { return form().pages.month.grid.look(); };
+  rig.ClickMenu("mOV");
+  rig.ClickMenu("mOGB");
+  EXPECT_FALSE(form().pages.month.panel.visible());
+  EXPECT_FALSE(Enabled("mOGB"));
+  form().background.thumbnails[2].Click();
+  form().background.commands[1].Click();
+  EXPECT_EQ(look().wallpaper, "WP3.jpg");
+  form().background.commands[0].Click();
+  EXPECT_TRUE(form().pages.month.panel.visible());
+  EXPECT_FALSE(form().picker.visible());
+  form().pages.month.close.Click();
+  rig.ClickMenu("mOGB");
+  EXPECT_FALSE(form().day.visible());
+  form().background.commands[0].Click();
+  EXPECT_TRUE(form().day.visible());
+  EXPECT_TRUE(form().picker.visible());
+
+  form().exit.Click();
+  rig.navigator().Show(forms::form_names::kZcalandar1);
+  EXPECT_EQ(look().wallpaper, "WP3.jpg");
+  rig.Start();
+  rig.navigator().Show(forms::form_names::kZcalandar1);
+  EXPECT_EQ(look(), forms::GridLook{});
 }
 
 }  // namespace

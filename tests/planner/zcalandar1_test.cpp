@@ -4,11 +4,11 @@
 
 #include "forms/form_names.h"
 #include "planner/day_store.h"
+#include "planner/planner_rig.h"
 #include "settings/planner_settings.h"
 #include "storage/record_file.h"
 #include "storage/sequential_file.h"
 #include "support/failing_file_system.h"
-#include "support/program_rig.h"
 
 namespace tarnwell::planner {
 namespace {
@@ -19,14 +19,8 @@ using text::MakeDate;
 constexpr const char* kSavedTitle = "Save File Command";
 constexpr const char* kSavedText = "Entries Have Been Time Sorted and File Saved.";
 
-class Zcalandar1Test : public ::testing::Test {
+class Zcalandar1Test : public testing::PlannerTest {
  protected:
-  void SetUp() override { Open(); }
-  void Open() {
-    rig.Start();
-    rig.navigator().Show(forms::form_names::kZcalandar1);
-  }
-  Zcalandar1& form() { return rig.Get<Zcalandar1>("Zcalandar1"); }
   void Type(int row, std::string_view time, std::string_view entry) {
     form().times[static_cast<std::size_t>(row)].Type(time);
     form().entries[static_cast<std::size_t>(row)].Type(entry);
@@ -37,9 +31,7 @@ class Zcalandar1Test : public ::testing::Test {
     rows[static_cast<std::size_t>(row)] = content;
     ASSERT_TRUE(WriteDay(rig.folder, date, rows));
   }
-  bool Enabled(std::string_view entry) { return form().menus().Find(entry)->enabled(); }
 
-  testing::ProgramRig rig;
   const text::Date today = MakeDate(2026, 3, 9);
   const text::Date tomorrow = MakeDate(2026, 3, 10);
 };

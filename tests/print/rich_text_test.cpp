@@ -109,7 +109,7 @@ TEST_F(RichTextTest, ParagraphsAreAlignedIndentedAndSpaced) {
       {"hanging", "\\li500\\ri3000\\fi-300 abcd efgh", {"300,100 abcd", "600,340 efgh"}},
       {"indents that leave no room", "\\li5000\\ri5000 abcd", {"3800,100 abc", "3800,340 d"}},
       {"space before and after", "\\sb100\\sa50 a\\par b", {"100,200 a", "100,590 b"}},
-      {"double spacing", "\\sl480\\slmult1 a\\par b", {"100,340 a", "100,820 b"}},
+      {"double spacing", "\\sl480\\slmult1 a\\par b", {"100,100 a", "100,580 b"}},
       {"at least", "\\sl300 a\\par b", {"100,160 a", "100,460 b"}},
       {"at least, with larger letters", "\\sl100 a\\par b", {"100,100 a", "100,340 b"}},
       {"exactly", "\\sl-200 a\\par b", {"100,60 a", "100,260 b"}},
@@ -180,7 +180,7 @@ TEST_F(RichTextTest, CharactersLookAsTheDocumentSaysAndShareABase) {
   EXPECT_LT(texts[2].y, 100 + 360 - 108);
   EXPECT_GT(texts[3].y, 100 + 360 - 108);
   EXPECT_THAT(All<forms::PlacedBox>(),
-              ElementsAre(forms::PlacedBox{560, 100, 100, 480, std::nullopt, 0x00FFFF}));
+              ElementsAre(forms::PlacedBox{560, 280, 100, 240, std::nullopt, 0x00FFFF}));
   for (std::size_t i = 0; i < texts.size(); ++i) {
     EXPECT_EQ(texts[i].goes_on, i > 0);
     EXPECT_TRUE(texts[i].utf8);
@@ -263,6 +263,47 @@ TEST_F(RichTextTest, ARowMovesWholeUnlessItIsTallerThanAPage) {
   EXPECT_EQ(Texts(1).front(), "100,100 2");
   EXPECT_EQ(Texts(3),
             (Lines{"100,100 22", "100,340 23", "100,580 24", "100,820 end", "100,1060 after"}));
+}
+
+TEST_F(RichTextTest, ARowIsAsHighAsToldAndItsCellsAreFilledAndCentred) {
+  Start();
+  Print(
+      "\\trowd\\trrh720\\clcbpat2\\clvertalc\\cellx1000\\clvertalb\\cellx2000"
+      "\\pard\\intbl a\\cell b\\cell\\row\\pard y");
+  EXPECT_EQ(Texts(), (Lines{"100,340 a", "1100,580 b", "100,820 y"}));
+  EXPECT_THAT(All<forms::PlacedBox>(),
+              ElementsAre(forms::PlacedBox{100, 100, 1000, 720, std::nullopt, 0x00FFFF}));
+}
+
+TEST_F(RichTextTest, ATablesHeadComesAgainAtTheHeadOfEachColumn) {
+  Start();
+  const std::string row = "\\trowd\\cellx1000\\pard\\intbl ";
+  std::string body = "\\trowd\\trhdr\\cellx1000\\pard\\intbl Day\\cell\\row ";
+  for (int i = 0; i < 12; ++i) body += row + std::to_string(i) + "\\cell\\row ";
+  body += row +
+          "a\\line b\\line c\\line d\\line e\\line f\\line g\\line h\\line i\\line j\\line k\\line "
+          "l\\cell\\row ";
+  Print(body + "\\pard z");
+  ASSERT_EQ(engine.page_count(), 3);
+  EXPECT_EQ(Texts(1).at(0), "100,100 Day");
+  EXPECT_EQ(Texts(1).at(1), "100,340 9");
+  EXPECT_EQ(Texts(2).at(0), "100,100 Day");
+  EXPECT_EQ(Texts(2).at(1), "100,340 g");
+}
+
+TEST_F(RichTextTest, AHeadingStaysWithWhatItHeads) {
+  for (const char* next : {"text", "\\trowd\\cellx1000\\pard\\intbl text\\cell\\row\\pard "}) {
+    Start();
+    for (int i = 0; i < 8; ++i) engine.Line("line");
+    Print(std::string("{\\pard\\keepn\\sb60 One\\par\\keepn Two\\par}\\pard ") + next);
+    EXPECT_THAT(Texts(0), SizeIs(8));
+    EXPECT_EQ(Texts(1), (Lines{"100,100 One", "100,400 Two", "100,640 text"})) << next;
+  }
+  Start();
+  std::string all;
+  for (int i = 0; i < 25; ++i) all += "\\keepn x\\par ";
+  Print(all);
+  EXPECT_EQ(engine.page_count(), 3);
 }
 
 TEST_F(RichTextTest, NarrowAndBrokenTablesStillEnd) {

@@ -104,6 +104,13 @@ TEST(Reading, FormatsEndWithTheirGroup) {
   EXPECT_FALSE(FormatOf(ParagraphAt(document, 1), "c").bold);
 }
 
+TEST(Reading, ALastParagraphWithoutItsEndKeepsItsFormat) {
+  for (const char* rtf : {"{\\rtf1 a\\par\\pard\\qr b}", "{\\rtf1 a\\par\\pard\\qr b"}) {
+    const RichDocument document = ReadRichText(rtf);
+    EXPECT_EQ(ParagraphAt(document, 1).format.alignment, Alignment::kRight) << rtf;
+  }
+}
+
 TEST(Reading, WordsOutsideTheModelStayWithWhatTheyConcern) {
   const Paragraph paragraph = ParagraphAt(
       ReadBody("\\pard\\keepn\\brdrt\\brdrs\\brdrw10\\lang1033\\lang1031 a\\kerning2 b\\par"), 0);

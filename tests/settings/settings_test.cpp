@@ -105,6 +105,9 @@ TEST_F(SettingsTest, TheWorkAreasBackgroundIsWrittenOnly) {
   WriteGridBackground(folder, GridBackground::kWorkArea, StoredColor::Wallpaper(9));
   EXPECT_EQ(Text("GColor1.Fil", 42), "WP9");
   EXPECT_TRUE(ReadGridBackground(folder, GridBackground::kWorkArea).empty());
+  const auto stored = disk.Read("GColor1.Fil");
+  WriteGridBackground(folder, GridBackground::kPlanner, StoredColor::Wallpaper(9));
+  EXPECT_EQ(disk.Read("GColor1.Fil"), stored);
 }
 
 TEST_F(SettingsTest, ThePortOfTheModemIsNoBackgroundAndABackgroundIsNoPort) {

@@ -1,4 +1,4 @@
-// One empty form without a program around it, to hang controls and panels on.
+// What stands around a form without a program, and one empty form to hang controls and panels on.
 
 #pragma once
 
@@ -10,19 +10,24 @@
 
 namespace tarnwell::testing {
 
-class FormRig : public FakeWorld {
- public:
+// What a form needs around it, all of it faked.
+struct FormWorld : FakeWorld {
+  FormWorld() { navigator.SetContext(context); }
+
   TemporaryFolder temporary;
   storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
   forms::ProgramVariables variables;
   forms::Navigator navigator;
   forms::Context context{folder, clock,   dialogs, loop,      window,    help,     clipboard,
                          pages,  folders, speller, thesaurus, variables, navigator};
+};
+
+class FormRig : public FormWorld {
+ public:
   forms::Form& form = ShowBlank();
 
  private:
   forms::Form& ShowBlank() {
-    navigator.SetContext(context);
     navigator.Register("Blank", [](forms::Context& lent) {
       return std::make_unique<forms::Form>(lent, "Blank", "Blank");
     });

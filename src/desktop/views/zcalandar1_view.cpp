@@ -1,4 +1,5 @@
 #include "desktop/views/day_rows_widget.h"
+#include "desktop/views/grid_background_view.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/recurrence_view.h"
 #include "desktop/views/views.h"
@@ -68,7 +69,9 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
               Grow(RecurrenceView(form.recurrence)),
               Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
               Grow(PagesView(form.pages, pictures)),
-              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)), AtTop(import_panel)},
+              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)),
+              AtTop(AtMost(GridBackgroundView(form.background, pictures), kLettersOfPanel)),
+              AtTop(import_panel)},
              0);
   // What covers the rows and the calendar takes the whole width.
   QWidget* side = ShownWhile(

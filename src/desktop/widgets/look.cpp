@@ -165,6 +165,8 @@ void SetMark(QWidget* widget, const char* mark, bool on) {
 }
 
 void ApplyLook(QApplication& application) {
+  // Under a style sheet a panel's palette would stop at the panel, and its labels stay dark on it.
+  QCoreApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
   application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QFont font = application.font();
   font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Inter"),

@@ -76,6 +76,8 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture
       picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())));
   if (image.isNull()) return;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  // Signs and drawings keep their edges in a PDF; photographs have none to lose.
+  painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));
   painter.drawImage(QRectF(picture.x, picture.y, picture.width, picture.height), image);
 }
 

@@ -1,9 +1,11 @@
 #include <QImage>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -35,7 +37,12 @@ class PictureWidget : public QWidget {
     update();
   }
 
-  std::function<void()> on_click;
+  // The keyboard reaches a picture that can be clicked.
+  void SetClick(std::function<void()> on_click) {
+    on_click_ = std::move(on_click);
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+  }
 
   QSize sizeHint() const override { return OwnSize(); }
   QSize minimumSizeHint() const override { return OwnSize() / 4; }
@@ -52,14 +59,26 @@ class PictureWidget : public QWidget {
     } else {
       painter.drawImage(place, photograph_);
     }
-    if (!marked_) return;
-    painter.setPen(QPen(kAccent, kFrameWidth));
-    painter.drawRect(QRectF(place).adjusted(1, 1, -1, -1));
+    if (marked_) {
+      painter.setPen(QPen(kAccent, kFrameWidth));
+      painter.drawRect(QRectF(place).adjusted(1, 1, -1, -1));
+    }
+    if (!hasFocus()) return;
+    painter.setPen(QPen(palette().color(QPalette::WindowText), 1, Qt::DotLine));
+    painter.drawRect(place.adjusted(4, 4, -5, -5));
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool clicks = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!on_click_ || !clicks) return QWidget::keyPressEvent(event);
+    on_click_();
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
     QWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && on_click) on_click();
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && on_click_)
+      on_click_();
   }
 
  private:
@@ -70,6 +89,7 @@ class PictureWidget : public QWidget {
   const PictureStore& pictures_;
   std::string file_;
   bool marked_ = false;
+  std::function<void()> on_click_;
   QSvgRenderer drawing_;
   QImage photograph_;
 };
@@ -82,10 +102,7 @@ QWidget* Widget(forms::Picture& picture, PictureStore& pictures) {
     widget->ShowFile(picture.file());
     widget->SetMarked(picture.marked());
   });
-  if (picture.on_click) {
-    widget->setCursor(Qt::PointingHandCursor);
-    widget->on_click = binding->Forward([&picture] { picture.Click(); });
-  }
+  if (picture.on_click) widget->SetClick(binding->Forward([&picture] { picture.Click(); }));
   return widget;
 }
 

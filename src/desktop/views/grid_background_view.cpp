@@ -1,0 +1,37 @@
+#include "desktop/views/grid_background_view.h"
+
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+constexpr std::size_t kThumbnailsInARow = 4;
+
+QWidget* Thumbnails(forms::GridBackgroundPanel& selector, PictureStore& pictures) {
+  QWidget* rows = Column({});
+  for (std::size_t first = 0; first < selector.thumbnails.size(); first += kThumbnailsInARow) {
+    QWidget* row = Row({});
+    for (std::size_t i = first; i < first + kThumbnailsInARow; ++i) {
+      Append(row, Widget(selector.thumbnails[i], pictures));
+    }
+    Append(rows, row);
+  }
+  return rows;
+}
+
+}  // namespace
+
+QWidget* GridBackgroundView(forms::GridBackgroundPanel& selector, PictureStore& pictures) {
+  auto& commands = selector.commands;
+  return Widget(selector.panel, Column({
+                                    Grow(Row({Column({Thumbnails(selector, pictures), Spring()}),
+                                              Grow(Widget(selector.preview, pictures))},
+                                             kWideSpace)),
+                                    Widget(selector.note),
+                                    Row({Primary(Widget(commands[1])), Widget(commands[2]),
+                                         Widget(commands[3]), Spring(), Widget(commands[0])}),
+                                }));
+}
+
+}  // namespace tarnwell::desktop

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QWidget>
+
+#include "desktop/widgets/pictures.h"
+#include "forms/grid_background_panel.h"
+
+namespace tarnwell::desktop {
+
+// The panel "Grid Background Selector".
+QWidget* GridBackgroundView(forms::GridBackgroundPanel& selector, PictureStore& pictures);
+
+}  // namespace tarnwell::desktop
