@@ -30,9 +30,9 @@ constexpr EmptyText kEmptyTexts[] = {
 
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
     : print(parent, context, {.range_caption = "Print Selected Document"}),
-      texts{forms::CheckBox{print.range_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
-            forms::CheckBox{print.range_frame, "SSCheck80(4)", "Comments/Notes"},
-            forms::CheckBox{print.range_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
+      texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
+            forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
+            forms::CheckBox{print.options_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
       all_panel(parent, "SSPanel6", "Print All Current Policies and Documents"),
       all_note(all_panel, "Label16",
                "Prior to printing - all current policies will be loaded into the Print Preview "
@@ -52,14 +52,17 @@ void DocumentPrinting::Open(PrintedDocument document) {
   }
   document_ = std::move(document);
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
-    forms::CheckBox& box = texts[static_cast<std::size_t>(i)];
-    box.SetVisible(document_.has_texts);
-    box.SetChecked(i == document_.on_show);
+    texts[static_cast<std::size_t>(i)].SetChecked(i == document_.on_show);
   }
-  print.range_frame.SetVisible(true);
+  ShowChoices(true, document_.has_texts);
   print::PrintJob job;
   job.build = [this](print::PageEngine& engine) { Build(engine); };
   print.Open(std::move(job));
+}
+
+void DocumentPrinting::ShowChoices(bool one_document, bool its_texts) {
+  print.range_frame.SetVisible(one_document);
+  for (forms::CheckBox& box : texts) box.SetVisible(its_texts);
 }
 
 void DocumentPrinting::Tick(int text) {
@@ -94,7 +97,7 @@ void DocumentPrinting::Build(print::PageEngine& engine) {
 }
 
 void DocumentPrinting::OpenAll(Breaks breaks) {
-  print.range_frame.SetVisible(false);
+  ShowChoices(false, false);
   print::PrintJob job;
   job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };
   job.printed_line = false;

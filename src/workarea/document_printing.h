@@ -42,10 +42,10 @@ class DocumentPrinting {
   void OpenAll(Breaks breaks);
 
  private:
+  void ShowChoices(bool one_document, bool its_texts);
   void Tick(int text);
   void Build(print::PageEngine& engine);
   void BuildAll(print::PageEngine& engine, Breaks breaks);
-  bool AnyText();
 
   forms::Context& context_;
   PrintedDocument document_;

@@ -108,8 +108,7 @@ void TextTools::LookUp() {
   const std::string selected = text_.SelectedText();
   richtext::Range range = text_.selection();
   if (range.from.paragraph == range.to.paragraph) {
-    range.to.offset =
-        range.from.offset + static_cast<int>(proofing::WordToLookUp(selected).size());
+    range.to.offset = range.from.offset + static_cast<int>(proofing::WordToLookUp(selected).size());
     text_.Select(range);
   }
   if (const auto synonym = proofing::LookUpSynonym(context_, selected)) {

@@ -12,7 +12,7 @@ constexpr int kLettersOfNote = 90;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
   QWidget* column = Column({}, kTightSpace);
-  for (const auto& button : areas.buttons) Append(column, Widget(*button));
+  for (const auto& button : areas.buttons) Append(column, Listed(Widget(*button)));
   Append(column, Spring());
   return Widget(areas.panel, column);
 }
@@ -20,8 +20,8 @@ QWidget* Areas(workarea::AreaButtonColumn& areas) {
 QWidget* DocumentButtons(workarea::DocumentsPane& documents) {
   QWidget* rows = Column({}, 0);
   for (const auto& group : documents.groups) {
-    QWidget* column = Column({}, 0);
-    for (const auto& button : group->buttons) Append(column, Widget(*button));
+    QWidget* column = Column({}, kHairSpace);
+    for (const auto& button : group->buttons) Append(column, Listed(Widget(*button)));
     Append(column, Spring());
     Append(rows, Widget(group->panel, column));
   }
@@ -41,15 +41,12 @@ QWidget* Document(workarea::DocumentView& view) {
           Row({Grow(Widget(view.heading)), Widget(view.status_label), Widget(view.status)}),
           Widget(view.actions, Options(view.views)),
           Grow(Widget(view.text)),
-          Row({WithIcon("template", Widget(view.insert_template)),
-               WithIcon("next-mark", Widget(view.tools.find_mark)), Spring(),
-               WithIcon("spelling", Widget(view.tools.spelling)),
+          Row({WithIcon("next-mark", Widget(view.tools.find_mark)), Widget(view.insert_template),
+               Spring(), WithIcon("spelling", Widget(view.tools.spelling)),
                WithIcon("thesaurus", Widget(view.tools.thesaurus))}),
-          Row({WithIcon("font", Widget(view.tools.font)),
+          Row({Primary(Widget(view.save)), Widget(view.tools.font),
                Widget(view.tools.alignment_frame, Options(view.tools.alignment)), Spring(),
-               WithIcon("print", Widget(view.print_options))}),
-          Row({Primary(WithIcon("save", Widget(view.save))), Spring(),
-               WithIcon("exit", Widget(view.exit))}),
+               WithIcon("print", Widget(view.print_options)), Widget(view.exit)}),
       }));
 }
 

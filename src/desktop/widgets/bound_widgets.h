@@ -48,6 +48,8 @@ void RunTimers(forms::Form& form, QObject* owner);
 
 // The command that a person most likely wants; painted in the accent colour.
 QWidget* Primary(QWidget* button);
+// One of a list of commands under each other.
+QWidget* Listed(QWidget* button);
 // A command with a small picture before its word, by the icon's name ("save").
 QWidget* WithIcon(const char* icon, QWidget* button);
 // Likewise for a command without a caption.

@@ -43,6 +43,12 @@ QWidget* Primary(QWidget* button) {
   return button;
 }
 
+QWidget* Listed(QWidget* button) {
+  SetMark(button, "listed", true);
+  button->setFont(ScaledFont(TextSize::kNote));
+  return button;
+}
+
 QWidget* WithIcon(const char* icon, QWidget* button) {
   if (auto* push_button = qobject_cast<QAbstractButton*>(button)) {
     push_button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(icon))));

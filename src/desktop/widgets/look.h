@@ -13,6 +13,7 @@
 namespace tarnwell::desktop {
 
 // Logical pixels; a display's scale factor multiplies them.
+inline constexpr int kHairSpace = 2;
 inline constexpr int kTightSpace = 4;
 inline constexpr int kSpace = 8;
 inline constexpr int kWideSpace = 16;

@@ -19,7 +19,9 @@ namespace {
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
-constexpr int kSheetMargin = 720;  // twips
+constexpr double kLeastFittingZoom = 0.75;
+constexpr double kFittingZooms = 20;  // in 1: each is another rendering of the whole document
+constexpr int kSheetMargin = 480;     // twips
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
@@ -57,6 +59,7 @@ void RichTextView::Show() {
 }
 
 void RichTextView::ShowAll() {
+  if (!is_zoomed_) zoom_ = FittingZoom();
   renderer_.RenderAll(box_.document(), Formats());
   PlaceSheet();
   moveCursor(QTextCursor::Start);
@@ -91,25 +94,42 @@ void RichTextView::ShowSelection() {
 }
 
 void RichTextView::SetZoom(double zoom) {
-  zoom = std::clamp(zoom, kLeastZoom, kMostZoom);
-  if (zoom == zoom_ || !box_is_there_.Connected()) return;
-  zoom_ = zoom;
+  is_zoomed_ = true;
+  zoom_ = std::clamp(zoom, kLeastZoom, kMostZoom);
+  ShowAnew();
+}
+
+void RichTextView::ShowAnew() {
+  if (!box_is_there_.Connected()) return;
   known_.reset();
   scroll_requests_ = -1;
   Show();
 }
 
-// The sheet is as wide as the document's page allows for text, in the middle of the view; it gets
-// narrower where there is less room.
+// In twips: what the document's page has for text, and the sheet's own margins.
+int RichTextView::SheetWidth() const {
+  const richtext::Page& page = box_.document().page;
+  const int text = page.width - page.left_margin - page.right_margin;
+  return std::max(text, 2 * kSheetMargin) + 2 * kSheetMargin;
+}
+
+int RichTextView::RoomForSheet() const {
+  return width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - 2 * kSpace;
+}
+
+// Small enough for the whole width of the sheet, as long as that can be read.
+double RichTextView::FittingZoom() const {
+  const double sheet = RichTextFormats(*viewport(), 1, {}).Pixels(SheetWidth());
+  const double zoom = std::floor(RoomForSheet() / sheet * kFittingZooms) / kFittingZooms;
+  return std::clamp(zoom, kLeastFittingZoom, 1.0);
+}
+
+// The sheet lies in the middle of the view; it gets narrower where there is less room.
 void RichTextView::PlaceSheet() {
   if (!box_is_there_.Connected()) return;
   const RichTextFormats formats = Formats();
-  const richtext::Page& page = box_.document().page;
-  const int text = std::max(page.width - page.left_margin - page.right_margin, 2 * kSheetMargin);
-  const int sheet = static_cast<int>(std::ceil(formats.Pixels(text + 2 * kSheetMargin)));
-  const int scroll_bar = verticalScrollBar()->sizeHint().width();
-  const int room = width() - 2 * frameWidth() - scroll_bar - 2 * kSpace;
-  const int side = kSpace + std::max(0, (room - sheet) / 2);
+  const int sheet = static_cast<int>(std::ceil(formats.Pixels(SheetWidth())));
+  const int side = kSpace + std::max(0, (RoomForSheet() - sheet) / 2);
   if (viewportMargins().left() != side) setViewportMargins(side, 0, side, 0);
   const double margin = formats.Pixels(kSheetMargin);
   if (document()->documentMargin() != margin) document()->setDocumentMargin(margin);
@@ -117,6 +137,7 @@ void RichTextView::PlaceSheet() {
 
 void RichTextView::resizeEvent(QResizeEvent* event) {
   QTextEdit::resizeEvent(event);
+  if (box_is_there_.Connected() && known_ && !is_zoomed_ && zoom_ != FittingZoom()) ShowAnew();
   const QScopedValueRollback<bool> showing(is_showing_, true);
   PlaceSheet();
 }

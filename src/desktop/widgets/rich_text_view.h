@@ -18,7 +18,7 @@ class RichTextView : public QTextEdit {
   // Shows what changed in the box since the last time.
   void Show();
 
-  // 1 is the document's own size.
+  // 1 is the document's own size. Until somebody sets it, it follows the view's width.
   double zoom() const { return zoom_; }
   void SetZoom(double zoom);
 
@@ -41,6 +41,10 @@ class RichTextView : public QTextEdit {
   void ShowAll();
   void ShowState();
   void ShowSelection();
+  void ShowAnew();
+  int SheetWidth() const;
+  int RoomForSheet() const;  // pixels
+  double FittingZoom() const;
   void PlaceSheet();
 
   richtext::Position PositionOf(int qt_position) const;
@@ -71,6 +75,7 @@ class RichTextView : public QTextEdit {
   std::optional<std::size_t> known_;  // spans of the box that are shown
   int scroll_requests_ = 0;
   double zoom_ = 1;
+  bool is_zoomed_ = false;  // by a person
   // What happens to Qt's text and cursor now is our own doing.
   bool is_showing_ = false;
   bool has_foreign_change_ = false;
