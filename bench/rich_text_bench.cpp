@@ -27,9 +27,10 @@ namespace {
 
 constexpr int kPages = 300;
 constexpr int kParagraphsPerPage = 10;
-constexpr int kKeys = 300;            // at each place
-constexpr double kLongestKey = 16;    // milliseconds, a frame of the screen
-constexpr double kMostOpening = 600;  // times the bare read, which only copies memory
+constexpr int kKeys = 300;          // at each place
+constexpr double kLongestKey = 16;  // milliseconds, a frame of the screen
+// The bare read only copies memory; ours reads a language and lays out the first screens.
+constexpr double kMostOpening = 1000;
 
 // Without a form around it the box is always in reach.
 class Desk : public forms::Container {
@@ -46,9 +47,10 @@ class Editor {
 
   void Open(const std::string& bytes) {
     box_.SetDocument(richtext::ReadRichText(bytes));
-    QApplication::processEvents();
+    view_.viewport()->repaint();
   }
   const richtext::RichDocument& document() const { return box_.document(); }
+  // The whole document is shown once the cursor has been anywhere in it.
   void GoTo(int paragraph) {
     box_.Select({{paragraph, 20}, {paragraph, 20}});
     QApplication::processEvents();
