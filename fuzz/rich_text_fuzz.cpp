@@ -1,5 +1,5 @@
 // Any bytes as a document: what was read, written and read again is the same document, and the
-// bytes of an unchanged one are saved as they were.
+// bytes of an unchanged one are saved as they were. Erasing all of it can be taken back.
 
 #include <cstddef>
 #include <cstdint>
@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "richtext/editor.h"
 #include "richtext/html.h"
-#include "richtext/keep_unshown.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
 #include "richtext/rich_text_writer.h"
@@ -33,5 +33,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Require(SaveRichText(document, bytes) == bytes);
   Require(PlainText(again).size() <= 6 * size + 64);
   Require(ToHtml(document) == ToHtml(again));
+  RichDocument edited = document;
+  Editor editor(edited);
+  editor.Erase({{}, EndOf(edited)});
+  for (auto it = editor.changes().rbegin(); it != editor.changes().rend(); ++it) {
+    TakeBack(*it, edited);
+  }
+  Require(edited == document);
   return 0;
 }

@@ -116,8 +116,8 @@ struct Picture {
   bool operator==(const Picture&) const = default;
 };
 
-// Not shown, only kept: whole groups and complete control words. A view carries it along; see
-// keep_unshown.h.
+// Not shown, only kept: whole groups and complete control words. An edit leaves it behind the
+// characters that it stands behind; see editor.h.
 struct Opaque {
   std::string rtf;
   bool resets_paragraph = false;  // holds paragraphs of its own, as a table inside a cell

@@ -302,6 +302,22 @@ TEST_F(RichTextWidgetTest, AClickSelectsAndTheProgramScrolls) {
   EXPECT_TRUE(view_->viewport()->rect().intersects(view_->cursorRect()));
 }
 
+TEST_F(RichTextWidgetTest, ALongDocumentIsShownInPartsAndWholeForAKey) {
+  std::string sketch = "first";
+  for (int i = 0; i < 1000; ++i) sketch += i % 100 == 99 ? "|[a,b]" : "|line";
+  Show(sketch.c_str());
+  const int at_first = view_->document()->blockCount();
+  EXPECT_LT(at_first, 500);
+  box_.Replace({{0, 0}, {0, 5}}, "x");
+  EXPECT_EQ(view_->document()->blockCount(), at_first);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(box_.selection().to, (Position{box_.paragraph_count() - 1, 0}));
+  const QStringList shown = Shown(*view_->document());
+  box_.SetDocument(FromSketch(("x" + sketch.substr(5)).c_str()));
+  QTest::qWait(300);
+  EXPECT_EQ(Shown(*view_->document()), shown);
+}
+
 TEST_F(RichTextWidgetTest, BlocksStayInStepWithTheParagraphsOfAnUnevenTable) {
   const std::string rtf =
       "{\\rtf1\\trowd\\cellx1000\\cellx3000\\pard\\intbl a\\cell b\\cell\\row"

@@ -1,63 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "richtext/html.h"
-#include "richtext/keep_unshown.h"
 #include "richtext/plain_text.h"
-#include "richtext/rich_text_files.h"
-#include "richtext/rich_text_writer.h"
+#include "richtext/rich_text_reader.h"
 
 namespace tarnwell::richtext {
 namespace {
-
-Paragraph FirstParagraph(const std::string& body) {
-  return ParagraphAt(ReadRichText("{\\rtf1\\pard " + body + "\\par}"), 0);
-}
-
-std::string Written(const Paragraph& paragraph) {
-  RichDocument document;
-  document.blocks.emplace_back(paragraph);
-  const std::string rtf = WriteRichText(document);
-  const std::size_t begin = rtf.find("\\plain") + 6;
-  return rtf.substr(begin, rtf.find("\\par\n") - begin);
-}
-
-TEST(KeepUnshown, OpaquePiecesStayBehindTheCharactersTheyStoodBehind) {
-  const struct {
-    const char* before;
-    const char* text;
-    const char* after;
-  } cases[] = {
-      {"ab{\\*\\x}cd", "abcd", " ab{\\*\\x}cd"},
-      {"ab{\\*\\x}cd", "XXabcd", " XXab{\\*\\x}cd"},
-      {"ab{\\*\\x}cd", "abcdXX", " ab{\\*\\x}cdXX"},
-      {"ab{\\*\\x}cd", "abXXcd", " ab{\\*\\x}XXcd"},
-      {"ab{\\*\\x}cd", "a", " a{\\*\\x}"},
-      {"ab{\\*\\x}cd", "d", "{\\*\\x}d"},
-      {"ab{\\*\\x}cd", "", "{\\*\\x}"},
-      {"ab{\\*\\x}cd", "aXXXd", " aXXX{\\*\\x}d"},
-      {"{\\*\\x}ab{\\*\\y}", "ab", "{\\*\\x}ab{\\*\\y}"},
-      {"a{\\*\\x}b{\\*\\y}c", "ac", " a{\\*\\x}{\\*\\y}c"},
-      {"\\'e9{\\*\\x}b", "\u00EAb", "\\u234\\'ea{\\*\\x}b"},
-  };
-  for (const auto& c : cases) {
-    Paragraph after = FirstParagraph(" ");
-    after.runs.clear();
-    if (*c.text != '\0') after.runs.push_back({{}, std::string(c.text), kNoField});
-    KeepUnshown(FirstParagraph(c.before), after);
-    EXPECT_EQ(Written(after), c.after) << c.before << " to " << c.text;
-  }
-}
-
-TEST(KeepUnshown, FormatsKeepTheirWordsAndTheSectionItsBreak) {
-  const RichDocument document = TestDocument("kept-pieces.rtf");
-  Paragraph after;
-  KeepUnshown(ParagraphAt(document, 0), after);
-  EXPECT_EQ(after.format.other, "\\keepn");
-  Paragraph last;
-  KeepUnshown(ParagraphAt(document, 3), last);
-  EXPECT_EQ(last.section_break, ParagraphAt(document, 3).section_break);
-  EXPECT_FALSE(last.section_break.empty());
-}
 
 TEST(PlainTexts, OnlyTextMakesADocumentNotBlank) {
   EXPECT_TRUE(IsBlank(RichDocument{}));

@@ -73,6 +73,7 @@ bool IsText(const QKeyEvent& event) {
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (!box_is_there_.Connected()) return;
+  ShowRest();
   if (PressCommandKey(*event) || PressTab(*event) || PressEraseKey(*event) ||
       PressTextKey(*event)) {
     return event->accept();
@@ -246,6 +247,7 @@ void RichTextView::dropEvent(QDropEvent* event) {
 
 void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
   if (!box_is_there_.Connected()) return;
+  ShowRest();
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [this, menu](const char* caption, QKeySequence::StandardKey key, bool enabled,

@@ -56,35 +56,53 @@ Paragraphs ParagraphsOf(const richtext::Cell& cell) {
 
 }  // namespace
 
-void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
-                                 const RichTextFormats& formats) {
-  document_ = &document;
-  formats_ = &formats;
+void RichTextRenderer::Start(const richtext::RichDocument& document,
+                             const RichTextFormats& formats) {
   target_.clear();
   pictures_.clear();
   QTextOption option = target_.defaultTextOption();
   option.setTabStopDistance(formats.Pixels(kUsualTabDistance));
   target_.setDefaultTextOption(option);
+  document_ = &document;
+  shown_ = ShownBlocks();
+  next_ = 0;
+  is_done_ = false;
+  is_fresh_ = true;
+}
+
+void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
+                                 const RichTextFormats& formats) {
+  Start(document, formats);
+  RenderMore(document, formats, document.blocks.size());
+}
+
+void RichTextRenderer::RenderMore(const richtext::RichDocument& document,
+                                  const RichTextFormats& formats, std::size_t count) {
+  if (is_done_) return;
+  document_ = &document;
+  formats_ = &formats;
   QTextCursor cursor(&target_);
   cursor.beginEditBlock();
-  bool is_fresh = true;
-  for (std::size_t i = 0; i < document.blocks.size();) {
-    if (!IsTable(document.blocks[i])) {
-      if (!is_fresh) cursor.insertBlock();
-      Fill(std::get<richtext::Paragraph>(document.blocks[i++]), nullptr, cursor);
-      is_fresh = false;
+  cursor.movePosition(QTextCursor::End);
+  const std::size_t written = document.blocks.size();
+  const std::size_t stop = next_ + std::min(count, written - next_);
+  while (next_ < stop) {
+    if (!IsTable(document.blocks[next_])) {
+      if (!is_fresh_) cursor.insertBlock();
+      Fill(std::get<richtext::Paragraph>(document.blocks[next_++]), nullptr, cursor);
+      is_fresh_ = false;
       continue;
     }
-    if (i == 0) MakeThin(cursor);
-    std::size_t end = i + 1;
-    while (end < document.blocks.size() && IsTable(document.blocks[end])) ++end;
-    InsertTable(i, end, cursor);
-    is_fresh = true;
-    i = end;
+    if (next_ == 0) MakeThin(cursor);
+    std::size_t end = next_ + 1;
+    while (end < written && IsTable(document.blocks[end])) ++end;
+    InsertTable(next_, end, cursor);
+    is_fresh_ = true;
+    next_ = end;
   }
-  if (EndsUnwritten(document)) Fill(ParagraphAt(document.blocks.size()), nullptr, cursor);
+  is_done_ = next_ >= written;
+  if (is_done_ && EndsUnwritten(document)) Fill(ParagraphAt(written), nullptr, cursor);
   cursor.endEditBlock();
-  shown_ = ShownBlocks();
 }
 
 void RichTextRenderer::Update(const richtext::RichDocument& document,

@@ -21,6 +21,11 @@ class RichTextRenderer {
   explicit RichTextRenderer(QTextDocument& target) : target_(target) {}
 
   void RenderAll(const richtext::RichDocument& document, const RichTextFormats& formats);
+  // The same in parts of `count` blocks, for a long document that must not change meanwhile.
+  void Start(const richtext::RichDocument& document, const RichTextFormats& formats);
+  void RenderMore(const richtext::RichDocument& document, const RichTextFormats& formats,
+                  std::size_t count);
+  bool is_done() const { return is_done_; }
   // Shows what changed since the last rendering. The document is the one behind all changes.
   void Update(const richtext::RichDocument& document, const RichTextFormats& formats,
               const std::vector<richtext::ChangedSpan>& spans);
@@ -62,6 +67,9 @@ class RichTextRenderer {
 
   QTextDocument& target_;
   std::vector<Shown> shown_;
+  std::size_t next_ = 0;  // block to be rendered
+  bool is_done_ = true;
+  bool is_fresh_ = true;  // the last of Qt's blocks waits for a paragraph
   QHash<QString, QByteArray> pictures_;
   // During a rendering.
   const richtext::RichDocument* document_ = nullptr;

@@ -16,6 +16,8 @@
 namespace tarnwell::desktop {
 namespace {
 
+constexpr std::size_t kFirstBlocks = 150;
+constexpr std::size_t kMoreBlocks = 50;  // no longer than a frame of the screen
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
@@ -34,6 +36,8 @@ RichTextView::RichTextView(forms::RichTextBox& box)
   connect(document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
     if (!is_showing_ && removed + added > 0) TakeForeignChange();
   });
+  next_part_.setInterval(0);
+  connect(&next_part_, &QTimer::timeout, this, [this] { ShowMore(kMoreBlocks); });
   connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
   connect(this, &QTextEdit::selectionChanged, this, [this] { TakeSelection(); });
 }
@@ -47,7 +51,7 @@ void RichTextView::Show() {
   ShowState();
   const auto spans = known_ ? box_.SpansFrom(*known_) : std::nullopt;
   known_ = box_.spans_made();
-  if (!spans) {
+  if (!spans || (!spans->empty() && !renderer_.is_done())) {
     ShowAll();
   } else if (!spans->empty()) {
     const int place = verticalScrollBar()->value();
@@ -60,9 +64,23 @@ void RichTextView::Show() {
 
 void RichTextView::ShowAll() {
   if (!is_zoomed_) zoom_ = FittingZoom();
-  renderer_.RenderAll(box_.document(), Formats());
+  renderer_.Start(box_.document(), Formats());
+  renderer_.RenderMore(box_.document(), Formats(), kFirstBlocks);
   PlaceSheet();
   moveCursor(QTextCursor::Start);
+  if (!renderer_.is_done()) next_part_.start();
+}
+
+void RichTextView::ShowMore(std::size_t blocks) {
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  // A change in the box starts anew; see Show.
+  const bool is_current = box_is_there_.Connected() && known_ == box_.spans_made();
+  if (is_current) renderer_.RenderMore(box_.document(), Formats(), blocks);
+  if (!is_current || renderer_.is_done()) next_part_.stop();
+}
+
+void RichTextView::ShowRest() {
+  if (!renderer_.is_done()) ShowMore(box_.document().blocks.size());
 }
 
 void RichTextView::ShowState() {
@@ -83,6 +101,7 @@ void RichTextView::ShowState() {
 void RichTextView::ShowSelection() {
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
+  if (!renderer_.BlockOf(box_.selection().to.paragraph).isValid()) ShowRest();
   const bool is_astray = renderer_.ParagraphOf(textCursor().block()) < 0;
   if (is_astray || RangeOf(textCursor()) != box_.selection()) {
     QTextCursor cursor(document());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextEdit>
+#include <QTimer>
 #include <optional>
 
 #include "desktop/widgets/rich_text_renderer.h"
@@ -38,7 +39,10 @@ class RichTextView : public QTextEdit {
 
  private:
   RichTextFormats Formats() const;
+  // The first screens at once, the rest while nothing else happens.
   void ShowAll();
+  void ShowMore(std::size_t blocks);
+  void ShowRest();
   void ShowState();
   void ShowSelection();
   void ShowAnew();
@@ -72,6 +76,7 @@ class RichTextView : public QTextEdit {
   forms::RichTextBox& box_;
   forms::Subscription box_is_there_;
   RichTextRenderer renderer_;
+  QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown
   int scroll_requests_ = 0;
   double zoom_ = 1;
