@@ -72,7 +72,7 @@ void PrintBare(const QString& text, const QString& file) {
   document.print(&writer);
 }
 
-constexpr int kParagraphs = 2850;
+constexpr int kParagraphs = 4200;
 constexpr int kLeastPages = 300;
 constexpr forms::Margins kInch{1440, 1440, 1440, 1440};
 

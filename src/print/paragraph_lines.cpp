@@ -66,10 +66,9 @@ void ParagraphLines::StartLine() {
   is_first_ = false;
 }
 
-// In the letters of the item's text, but plain.
+// In the letters of the paragraph's end, but plain.
 void ParagraphLines::AddMarker() {
-  richtext::CharacterFormat format =
-      paragraph_.runs.empty() ? paragraph_.mark : paragraph_.runs.front().format;
+  richtext::CharacterFormat format = paragraph_.mark;
   format.underline = richtext::Underline::kNone;
   format.strike = false;
   format.script = richtext::Script::kBaseline;
