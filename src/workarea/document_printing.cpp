@@ -29,7 +29,7 @@ constexpr EmptyText kEmptyTexts[] = {
 }  // namespace
 
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
-    : print(parent, context, {.range_caption = "Print Selected Document"}),
+    : print(parent, context, {.range_caption = "Print Selected Document", .auto_size = false}),
       texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
             forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
             forms::CheckBox{print.options_frame, "SSCheck80(5)", "View Document/Policy Etc."}},

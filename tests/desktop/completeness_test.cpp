@@ -33,6 +33,10 @@ const Replacement kReplacements[] = {
     {"Zcalandar1", "SSPanel80", {"SSPanel1", "MonthView1"}},
     {"Zcalandar1", "SSPanel90", {"SSPanel1", "MonthView1"}},
     {"Zcalandar1", "SSPanel100", {"SSPanel1", "MonthView1"}},
+    {"WorkArea1", "SSCommand16Panel", {"SSCommand14Panel"}},
+    {"WorkArea1", "SSCommand17Panel", {"SSCommand14Panel"}},
+    {"WorkArea1", "SSPanel80", {"SSPanel3"}},
+    {"WorkArea1", "SSPanel6", {"SSPanel3"}},
 };
 
 std::vector<forms::Control*> ReplacedBy(forms::Form& form, const forms::Control& panel) {

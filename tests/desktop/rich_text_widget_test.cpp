@@ -85,7 +85,9 @@ class RichTextWidgetTest : public ::testing::Test {
   // What a view shows that has seen nothing but this document.
   QStringList ShownAnew() {
     const std::unique_ptr<QWidget> fresh(Widget(box_));
-    return Shown(*dynamic_cast<RichTextView&>(*fresh).document());
+    auto& view = dynamic_cast<RichTextView&>(*fresh);
+    view.SetZoom(view_->zoom());
+    return Shown(*view.document());
   }
 
   testing::SampleWorld world_;

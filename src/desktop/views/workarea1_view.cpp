@@ -43,10 +43,12 @@ QWidget* Document(workarea::DocumentView& view) {
           Grow(Widget(view.text)),
           Row({WithIcon("next-mark", Widget(view.tools.find_mark)), Widget(view.insert_template),
                Spring(), WithIcon("spelling", Widget(view.tools.spelling)),
-               WithIcon("thesaurus", Widget(view.tools.thesaurus))}),
+               WithIcon("thesaurus", Widget(view.tools.thesaurus))},
+              kTightSpace),
           Row({Primary(Widget(view.save)), Widget(view.tools.font),
                Widget(view.tools.alignment_frame, Options(view.tools.alignment)), Spring(),
-               WithIcon("print", Widget(view.print_options)), Widget(view.exit)}),
+               WithIcon("print", Widget(view.print_options)), Widget(view.exit)},
+              kTightSpace),
       }));
 }
 
@@ -61,8 +63,7 @@ QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) 
 QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas =
       Widget(form.areas, Row({Areas(form.area_buttons), DocumentButtons(form.documents),
-                              Grow(Document(form.document))},
-                             kWideSpace));
+                              Grow(Document(form.document))}));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));

@@ -89,6 +89,8 @@ QTextCharFormat RichTextFormats::Of(const richtext::CharacterFormat& format) con
   QTextCharFormat out;
   out.setFontFamilies({format.font.empty() ? font_ : QString::fromStdString(format.font)});
   out.setFontPointSize(format.half_points / 2.0 * zoom_);
+  // Lines then break at the same words at any zoom.
+  out.setFontHintingPreference(QFont::PreferNoHinting);
   if (format.bold) out.setFontWeight(QFont::Bold);
   if (format.italic) out.setFontItalic(true);
   if (format.strike) out.setFontStrikeOut(true);
@@ -174,6 +176,7 @@ QTextTableCellFormat RichTextFormats::Of(const richtext::Cell& cell, int half_ga
   out.setRightBorderStyle(StyleOf(cell.right));
   out.setRightBorder(thickness(cell.right));
   out.setRightBorderBrush(brush(cell.right));
+  if (cell.fill) out.setBackground(ColorOf(*cell.fill));
   return out;
 }
 

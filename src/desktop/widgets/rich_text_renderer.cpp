@@ -31,15 +31,18 @@ void MakeThin(QTextCursor& cursor) {
   cursor.setBlockFormat(format);
 }
 
-// Qt keeps a cell's own format, its spans too, in the format of the cell's first block.
+// Qt keeps a cell's own format, its spans and its fill too, in the format of the cell's first
+// block.
 void SetMark(QTextCharFormat mark, const QTextTable* table, QTextCursor& cursor) {
   const QTextTableCell cell = table != nullptr ? table->cellAt(cursor) : QTextTableCell();
   if (cell.isValid() && cell.firstPosition() == cursor.block().position()) {
+    mark.clearBackground();
     const QMap<int, QVariant> all = cell.format().properties();
     for (auto it = all.begin(); it != all.end(); ++it) {
-      const bool is_of_cell = it.key() >= QTextFormat::TableCellRowSpan &&
-                              it.key() <= QTextFormat::TableCellRightBorderBrush;
-      if (is_of_cell) mark.setProperty(it.key(), it.value());
+      const bool is_of_table = it.key() >= QTextFormat::TableCellRowSpan &&
+                               it.key() <= QTextFormat::TableCellRightBorderBrush;
+      if (is_of_table || it.key() == QTextFormat::BackgroundBrush)
+        mark.setProperty(it.key(), it.value());
     }
     mark.setObjectType(QTextFormat::TableCellObject);
   }

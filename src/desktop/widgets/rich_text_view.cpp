@@ -24,6 +24,7 @@ constexpr double kZoomStep = 1.1;
 constexpr double kLeastFittingZoom = 0.75;
 constexpr double kFittingZooms = 20;  // in 1: each is another rendering of the whole document
 constexpr int kSheetMargin = 480;     // twips
+constexpr int kTableEdge = 2;         // pixels by which a table's borders are wider than its cells
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
@@ -32,6 +33,7 @@ const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 RichTextView::RichTextView(forms::RichTextBox& box)
     : box_(box), box_is_there_(box.OnChanged([] {})), renderer_(*document()) {
   document()->setUndoRedoEnabled(false);
+  document()->setUseDesignMetrics(true);
   setAcceptRichText(true);
   connect(document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
     if (!is_showing_ && removed + added > 0) TakeForeignChange();
@@ -139,7 +141,8 @@ int RichTextView::RoomForSheet() const {
 // Small enough for the whole width of the sheet, as long as that can be read.
 double RichTextView::FittingZoom() const {
   const double sheet = RichTextFormats(*viewport(), 1, {}).Pixels(SheetWidth());
-  const double zoom = std::floor(RoomForSheet() / sheet * kFittingZooms) / kFittingZooms;
+  const double room = RoomForSheet() - kTableEdge;
+  const double zoom = std::floor(room / sheet * kFittingZooms) / kFittingZooms;
   return std::clamp(zoom, kLeastFittingZoom, 1.0);
 }
 
@@ -147,7 +150,7 @@ double RichTextView::FittingZoom() const {
 void RichTextView::PlaceSheet() {
   if (!box_is_there_.Connected()) return;
   const RichTextFormats formats = Formats();
-  const int sheet = static_cast<int>(std::ceil(formats.Pixels(SheetWidth())));
+  const int sheet = static_cast<int>(std::ceil(formats.Pixels(SheetWidth()))) + kTableEdge;
   const int side = kSpace + std::max(0, (RoomForSheet() - sheet) / 2);
   if (viewportMargins().left() != side) setViewportMargins(side, 0, side, 0);
   const double margin = formats.Pixels(kSheetMargin);
