@@ -31,6 +31,7 @@ QWidget* DocumentButtons(workarea::DocumentsPane& documents) {
 QWidget* Options(forms::OptionGroup& group) {
   QWidget* row = Row({});
   for (int i = 0; i < group.size(); ++i) Append(row, Widget(group.option(i)));
+  Append(row, Spring());
   return row;
 }
 
