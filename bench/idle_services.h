@@ -28,6 +28,17 @@ class IdlePages : public forms::Pages, private forms::TextMetrics {
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup&) override { return {}; }
 };
 
+class IdleSpeller : public forms::Speller {
+  bool available() override { return false; }
+  bool IsCorrect(std::string_view) override { return true; }
+  std::vector<std::string> Suggest(std::string_view) override { return {}; }
+};
+
+class IdleThesaurus : public forms::Thesaurus {
+  bool available() override { return false; }
+  std::vector<forms::Meaning> LookUp(std::string_view) override { return {}; }
+};
+
 class IdleFolders : public forms::FolderBrowser {
   std::vector<std::string> Drives() override { return {}; }
   std::string ProgramPath() override { return {}; }

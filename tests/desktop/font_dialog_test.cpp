@@ -63,6 +63,15 @@ TEST(FontDialogue, WhatItStartsOnComesBackWhenItIsAccepted) {
   EXPECT_EQ(dialogs.ChooseFont(Start()), Start());
 }
 
+TEST(FontDialogue, AFontThatThisMachineLacksKeepsItsNameAndStyle) {
+  forms::Font start = Start();
+  start.name = "Times Old Roman";
+  start.bold = false;
+  MessageDialogs dialogs;
+  WhenModal([](QWidget* modal) { Press(modal, QDialogButtonBox::Ok); });
+  EXPECT_EQ(dialogs.ChooseFont(start), start);
+}
+
 TEST(FontDialogue, WhatIsChosenComesBack) {
   MessageDialogs dialogs;
   WhenModal([](QWidget* modal) {

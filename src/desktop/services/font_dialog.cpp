@@ -2,6 +2,8 @@
 
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QIcon>
 #include <QPixmap>
 #include <QVBoxLayout>
@@ -18,14 +20,27 @@ constexpr double kLeastSize = 1;  // points
 constexpr double kLargestSize = 1000;
 constexpr int kSwatch = 16;  // pixels
 
+// What the font is shown in: one that the machine doesn't have, in the family that stands for it.
+// Qt's list finds a style by its name, and each family calls its plain one differently.
+QFont ShownFont(const forms::Font& font) {
+  QFont shown = ScreenFont(font);
+  QString family = FromCore(font.name);
+  if (!QFontDatabase::hasFamily(family)) family = QFontInfo(shown).family();
+  shown.setFamily(family);
+  shown.setStyleName(QFontInfo(shown).styleName());
+  return shown;
+}
+
 }  // namespace
 
 FontDialog::FontDialog(const forms::Font& start, QWidget* parent)
     : QDialog(parent),
-      choice_(new QFontDialog(ScreenFont(start))),
+      start_name_(start.name),
+      start_family_(ShownFont(start).family()),
+      choice_(new QFontDialog(ShownFont(start))),
       color_button_(new QPushButton(QStringLiteral("&Color..."))),
       color_(ToQColor(start.color)) {
-  setWindowTitle(QStringLiteral("Printer Font"));
+  setWindowTitle(QStringLiteral("Font"));
   choice_->setOptions(QFontDialog::NoButtons | QFontDialog::DontUseNativeDialog);
   choice_->setWindowFlags(Qt::Widget);  // it would open a window of its own
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
@@ -43,7 +58,8 @@ FontDialog::FontDialog(const forms::Font& start, QWidget* parent)
 
 forms::Font FontDialog::font() const {
   const QFont chosen = choice_->currentFont();
-  return {.name = ToCore(chosen.family()),
+  const bool is_same = chosen.family() == start_family_;
+  return {.name = is_same ? start_name_ : ToCore(chosen.family()),
           .size = std::clamp(chosen.pointSizeF(), kLeastSize, kLargestSize),
           .bold = chosen.bold(),
           .italic = chosen.italic(),

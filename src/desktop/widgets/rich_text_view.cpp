@@ -22,9 +22,10 @@ constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
 constexpr double kLeastFittingZoom = 0.75;
-constexpr double kFittingZooms = 20;  // in 1: each is another rendering of the whole document
-constexpr int kSheetMargin = 480;     // twips
-constexpr int kTableEdge = 2;         // pixels by which a table's borders are wider than its cells
+// Letters get whole pixels only; at a quarter's steps most of them keep their proportions.
+constexpr double kFittingZooms = 4;  // in 1
+constexpr int kSheetMargin = 480;    // twips
+constexpr int kTableEdge = 2;        // pixels by which a table's borders are wider than its cells
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
