@@ -1,8 +1,8 @@
 #include "richtext/rtf_writer.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "richtext/rich_text_reader.h"
 #include "richtext/rich_text_writer.h"
 
 namespace tarnwell::richtext {
@@ -126,9 +126,14 @@ void RtfWriter::Text(std::string_view text) {
 
 std::string WriteRichText(const RichDocument& document) { return RtfWriter(document).Write(); }
 
-std::string SaveRichText(const RichDocument& document, std::string_view read_from) {
-  if (ReadRichText(read_from) == document) return std::string(read_from);
-  return WriteRichText(document);
+StoredForm StoredFormOf(std::string bytes, const RichDocument& read) {
+  return {std::move(bytes), WriteRichText(read)};
+}
+
+// Writing is much quicker than reading the old bytes again.
+std::string SaveRichText(const RichDocument& document, const StoredForm& read_from) {
+  std::string rtf = WriteRichText(document);
+  return rtf == read_from.rewritten ? read_from.bytes : rtf;
 }
 
 }  // namespace tarnwell::richtext

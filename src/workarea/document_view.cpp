@@ -1,10 +1,10 @@
 #include "workarea/document_view.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include "forms/form.h"
 #include "richtext/rich_text_reader.h"
-#include "richtext/rich_text_writer.h"
 
 namespace tarnwell::workarea {
 
@@ -57,12 +57,14 @@ void DocumentView::InsertTemplate(std::string_view file, std::string_view kind) 
 void DocumentView::Load(std::string_view file) {
   const forms::Hourglass hourglass(context_.window);
   Clear();
-  stored_ = context_.folder.ReadWhole(file).value_or("");
-  if (!stored_.empty()) text.SetDocument(richtext::ReadRichText(stored_));
+  std::string bytes = context_.folder.ReadWhole(file).value_or("");
+  if (bytes.empty()) return;
+  text.SetDocument(richtext::ReadRichText(bytes));
+  stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
 }
 
 void DocumentView::Clear() {
-  stored_.clear();
+  stored_ = {};
   text.Clear();
   unsaved_ = false;
 }
@@ -71,7 +73,7 @@ bool DocumentView::Write(std::string_view file) {
   const forms::Hourglass hourglass(context_.window);
   std::string bytes = richtext::SaveRichText(text.document(), stored_);
   if (!context_.folder.WriteWhole(file, bytes)) return false;
-  stored_ = std::move(bytes);
+  stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
   unsaved_ = false;
   return true;
 }

@@ -10,6 +10,7 @@
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/rich_text_box.h"
+#include "richtext/rich_text_writer.h"
 #include "workarea/text_tools.h"
 
 namespace tarnwell::workarea {
@@ -62,7 +63,7 @@ class DocumentView {
   void Load(std::string_view file);
 
   forms::Context& context_;
-  std::string stored_;  // the bytes that the document on show was read from
+  richtext::StoredForm stored_;  // of the document on show
   bool unsaved_ = false;
   Access access_ = Access::kNone;
 };
