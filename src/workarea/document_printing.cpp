@@ -29,7 +29,8 @@ constexpr EmptyText kEmptyTexts[] = {
 }  // namespace
 
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
-    : print(parent, context, {.range_caption = "Print Selected Document", .auto_size = false}),
+    : print(parent, context,
+            {.as_of_caption = {}, .range_caption = "Print Selected Document", .auto_size = false}),
       texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
             forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
             forms::CheckBox{print.options_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
@@ -62,7 +63,7 @@ void DocumentPrinting::Open(PrintedDocument document) {
 
 void DocumentPrinting::ShowChoices(bool one_document, bool its_texts) {
   print.range_frame.SetVisible(one_document);
-  for (forms::CheckBox& box : texts) box.SetVisible(its_texts);
+  print.options_frame.SetVisible(its_texts);
 }
 
 void DocumentPrinting::Tick(int text) {
