@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "proofing/vsspell1.h"
+#include "proofing/vsthesaurus1.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
 #include "shell/startfrm.h"
@@ -277,6 +279,44 @@ TEST_F(WorkArea1Test, FontAndAlignmentChangeTheSelectionAndAreUnsaved) {
   EXPECT_EQ(paragraph.runs[0].format.half_points, 28);
   view.text.MoveSelection({{0, 0}, {0, 0}});
   EXPECT_EQ(view.tools.alignment.chosen(), 0);
+}
+
+TEST_F(WorkArea1Test, TheSpellingIsCorrectedWhereItStandsInItsFormats) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("We {\\b recieve} a hous\\par and {\\i Hte} end"));
+  rig.speller.misspelled = {{"recieve", {}}, {"hous", {"house"}}, {"Hte", {}}};
+  Open();
+  Press("SSCommand14(0)");
+  rig.loop.during_modal = [&] {
+    EXPECT_EQ(hub().document.text.SelectedText(), "hous");
+    rig.Get<proofing::VSSpell1>("VSSpell1").change.Click();
+  };
+  rig.dialogs.Expect("Spell Check",
+                     "Spell Check has been canceled or has reached the end of your document");
+  hub().document.tools.spelling.Click();
+  EXPECT_EQ(Shown(), "We receive a house\nand The end");
+  EXPECT_TRUE(hub().document.unsaved());
+  const auto& document = hub().document.text.document();
+  EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[0]).runs[1].format.bold);
+  EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[1]).runs[1].format.italic);
+}
+
+TEST_F(WorkArea1Test, ASynonymTakesThePlaceOfTheHighlightedWord) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Big, bold"));
+  rig.thesaurus.meanings["Big"] = {{"(adj) large", {"large", "huge (similar term)"}}};
+  Open();
+  Press("SSCommand14(0)");
+  rig.dialogs.Expect("Thesaurus", "Please highlight word you desire to look up!");
+  hub().document.tools.thesaurus.Click();
+
+  hub().document.text.MoveSelection({{0, 0}, {0, 5}});  // with the comma and the blank
+  rig.loop.during_modal = [&] {
+    auto& dialogue = rig.Get<proofing::VSThesaurus1>("VSThesaurus1");
+    dialogue.synonyms.Pick(1);
+    dialogue.replace.Click();
+  };
+  hub().document.tools.thesaurus.Click();
+  EXPECT_EQ(Shown(), "Huge, bold");
+  EXPECT_TRUE(hub().document.unsaved());
 }
 
 TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {
