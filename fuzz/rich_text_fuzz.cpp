@@ -30,7 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const RichDocument again = ReadRichText(rtf);
   Require(again == document);
   Require(WriteRichText(again) == rtf);
-  Require(SaveRichText(document, StoredFormOf(bytes, ReadRichText(bytes))) == bytes);
+  Require(SaveRichText(document, StoredFormOf(std::string(bytes), ReadRichText(bytes))) == bytes);
   Require(PlainText(again).size() <= 6 * size + 64);
   Require(ToHtml(document) == ToHtml(again));
   RichDocument edited = document;
