@@ -320,6 +320,26 @@ TEST_F(RichTextWidgetTest, ALongDocumentIsShownInPartsAndWholeForAKey) {
   EXPECT_EQ(Shown(*view_->document()), shown);
 }
 
+TEST_F(RichTextWidgetTest, TypingInALongDocumentDoesntWaitForTheRest) {
+  std::string sketch = "first";
+  for (int i = 0; i < 1000; ++i) sketch += i % 10 == 9 ? "|[a,b]" : "|line";
+  Show(sketch.c_str(), {0, 2});
+  const int at_first = view_->document()->blockCount();
+  Key(Qt::Key_X);
+  Key(Qt::Key_Return);
+  Key(Qt::Key_Return);
+  Key(Qt::Key_Backspace);
+  box_.Erase({{4, 1}, {7, 2}});
+  box_.Replace({{10, 0}, {10, 1}}, "in a cell");
+  EXPECT_LT(view_->document()->blockCount(), at_first + 5);
+  QTest::qWait(300);
+  const QStringList shown = Shown(*view_->document());
+  EXPECT_GE(shown.size(), box_.paragraph_count());
+  box_.SetDocument(richtext::RichDocument(box_.document()));
+  QTest::qWait(300);
+  EXPECT_EQ(Shown(*view_->document()), shown);
+}
+
 TEST_F(RichTextWidgetTest, BlocksStayInStepWithTheParagraphsOfAnUnevenTable) {
   const std::string rtf =
       "{\\rtf1\\trowd\\cellx1000\\cellx3000\\pard\\intbl a\\cell b\\cell\\row"

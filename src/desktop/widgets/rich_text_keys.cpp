@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextTable>
 
 #include "desktop/widgets/rich_text_mime.h"
@@ -73,12 +74,14 @@ bool IsText(const QKeyEvent& event) {
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (!box_is_there_.Connected()) return;
-  ShowRest();
+  // Typing doesn't wait for the rest of a long document; going somewhere does.
+  const bool moves = MovesCursor(*event);
+  if (moves || !textCursor().block().next().isValid()) ShowRest();
   if (PressCommandKey(*event) || PressTab(*event) || PressEraseKey(*event) ||
       PressTextKey(*event)) {
     return event->accept();
   }
-  if (MovesCursor(*event)) return QTextEdit::keyPressEvent(event);
+  if (moves) return QTextEdit::keyPressEvent(event);
   event->ignore();
 }
 

@@ -112,26 +112,27 @@ void RichTextRenderer::Update(const richtext::RichDocument& document,
                               const RichTextFormats& formats,
                               const std::vector<richtext::ChangedSpan>& spans) {
   if (spans.empty()) return;
+  const Region region = Merged(spans);
+  // What isn't rendered yet comes as it is by then.
+  if (!is_done_ && region.first + region.before > next_) return RenderAll(document, formats);
   document_ = &document;
   formats_ = &formats;
   QTextCursor edit(&target_);
   edit.beginEditBlock();
   const richtext::ChangedSpan& first = spans.front();
-  bool is_done = true;
+  bool is_shown = true;
   if (spans.size() == 1 && first.where.in_table) {
     Paragraphs after = ParagraphsOf(richtext::CellAt(document, first.where));
     after.erase(after.begin(), after.begin() + static_cast<std::ptrdiff_t>(first.where.index));
     after.resize(first.blocks_after);
     UpdateParagraphs(BlockOf(first.first_paragraph), first.blocks_before, after);
   } else {
-    is_done = UpdateInPlace(Merged(spans));
+    is_shown = UpdateInPlace(region);
   }
   edit.endEditBlock();
-  if (is_done) {
-    shown_ = ShownBlocks();
-  } else {
-    RenderAll(document, formats);
-  }
+  if (!is_shown) return RenderAll(document, formats);
+  shown_ = ShownBlocks();
+  next_ += region.after - region.before;
 }
 
 // Spans follow each other: each counts in the document that the one before left.
