@@ -118,7 +118,8 @@ void WorkArea1::Activate() {
 }
 
 void WorkArea1::Press(int index) {
-  if (index == main_buttons.selected() || !document.Settle()) return;
+  // Closing the print panel would take the pages away from a run that is still making them.
+  if (busy() || index == main_buttons.selected() || !document.Settle()) return;
   printing.print.Close();
   if (index == forms::kExitProgram) return AskToExit();
   main_buttons.PaintSelected(index <= forms::kEmployeeData ? index : -1);
