@@ -19,3 +19,11 @@ function(tarnwell_room name)
   list(TRANSFORM room_DEPENDS PREPEND tarnwell_)
   target_link_libraries(${target} PUBLIC tarnwell_flags ${room_DEPENDS})
 endfunction()
+
+# tarnwell_precompile(TARGET header...): reads headers that most files of the target include, and that
+# rarely change, once for all of them. Every file still includes what it uses. GCC's compiler cache
+# needs the flag, and the sloppiness that CMakePresets.json gives it.
+function(tarnwell_precompile target)
+  target_precompile_headers(${target} PRIVATE ${ARGN})
+  target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
+endfunction()
