@@ -48,7 +48,8 @@ class RecurrencePanel {
   void Start(ChangeMode change_mode);
   void AskToRemove();
   void ShowRunning(bool running);
-  std::optional<text::Date> Walk(const RecurrenceRequest& request, RecurrenceRun& run);
+  std::optional<text::Date> Walk(const RecurrenceRequest& request, RecurrenceRun& run,
+                                 DayBook& book);
 
   forms::Form& form_;
   forms::Context& context_;

@@ -109,4 +109,9 @@ bool RecordFile::Close() {
   return file && file->Close();
 }
 
+Outcome RecordFile::Finish(bool all_put) {
+  if (Close() && all_put) return {};
+  return fault_ == Fault::kNone ? Fault::kBroken : fault_;
+}
+
 }  // namespace tarnwell::storage

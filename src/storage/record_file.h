@@ -49,6 +49,8 @@ class RecordFile {
 
   // False if the file wasn't open or can't say that all is written. Also closes.
   bool Close();
+  // Closes after a change of which `all_put` says whether the Puts worked.
+  Outcome Finish(bool all_put);
 
  private:
   std::size_t Width() const { return static_cast<std::size_t>(record_length_); }

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -179,6 +180,26 @@ TEST_F(BoundWidgets, TheCalendarIsUsedByKeysAndByTheMouse) {
   QTest::mouseClick(calendar, Qt::LeftButton, {}, calendar->PlaceOf(clicked).center());
   EXPECT_EQ(form_.day.date(), clicked);
   EXPECT_EQ(calendar->accessibleDescription(), QStringLiteral("Monday, August 31, 2026"));
+}
+
+TEST_F(BoundWidgets, TheCalendarsTitleOffersAYear) {
+  auto* calendar = dynamic_cast<MonthCalendar*>(Find("MonthView1"));
+  ASSERT_NE(calendar, nullptr);
+  const auto choose = [&](const QString& year) {
+    for (QAction* entry : calendar->findChildren<QMenu*>().last()->actions()) {
+      if (entry->text() == year) return entry->trigger();
+    }
+    ADD_FAILURE() << "not offered";
+  };
+  const text::Date leap_day = text::MakeDate(2024, 2, 29);
+  form_.day.SetDate(leap_day);
+  QTest::mouseClick(calendar, Qt::LeftButton, {}, {calendar->width() / 2, 12});
+  choose(QStringLiteral("2030"));
+  EXPECT_EQ(form_.day.date(), leap_day);  // the page is turned, no day picked
+  EXPECT_FALSE(calendar->PlaceOf(text::MakeDate(2030, 2, 28)).isEmpty());
+  QTest::keyClick(calendar, Qt::Key_F4);
+  choose(QStringLiteral("2033"));
+  EXPECT_EQ(form_.day.date(), text::MakeDate(2033, 2, 28));
 }
 
 TEST_F(BoundWidgets, TimersTickWhileTheyAreEnabled) {

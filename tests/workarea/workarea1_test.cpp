@@ -294,6 +294,7 @@ TEST_F(WorkArea1Test, TheSpellingIsCorrectedWhereItStandsInItsFormats) {
                      "Spell Check has been canceled or has reached the end of your document");
   hub().document.tools.spelling.Click();
   EXPECT_EQ(Shown(), "We receive a house\nand The end");
+  EXPECT_EQ(hub().status(), "3 words corrected");
   EXPECT_TRUE(hub().document.unsaved());
   const auto& document = hub().document.text.document();
   EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[0]).runs[1].format.bold);
