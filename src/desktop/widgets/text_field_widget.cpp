@@ -21,12 +21,16 @@ class LineEdit : public QLineEdit {
 
   std::function<void()> on_click;
   std::function<void(int)> on_arrow;
+  // Enter had a meaning here, so the default button doesn't get it.
+  bool took_enter = false;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
     if (takes_arrows_ && event->key() == Qt::Key_Up) return on_arrow(-1);
     if (takes_arrows_ && event->key() == Qt::Key_Down) return on_arrow(1);
+    took_enter = false;
     QLineEdit::keyPressEvent(event);
+    if (took_enter) event->accept();
   }
   void focusInEvent(QFocusEvent* event) override {
     QLineEdit::focusInEvent(event);
@@ -83,8 +87,10 @@ QWidget* Widget(forms::TextField& field) {
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
                    binding->Forward([&field](const QString& text) { field.Type(ToCore(text)); }));
-  QObject::connect(edit, &QLineEdit::returnPressed, binding,
-                   binding->Forward([&field] { field.PressEnter(); }));
+  QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
+    edit->took_enter = static_cast<bool>(field.on_enter);
+    field.PressEnter();
+  }));
   edit->on_arrow = binding->Forward([&field](int step) { field.PressArrow(step); });
   edit->on_click = binding->Forward([&field] { field.Click(); });
   return edit;
