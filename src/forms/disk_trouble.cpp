@@ -37,11 +37,13 @@ void TellNotSaved(Context& context, std::string_view what, storage::Fault why) {
                         Icon::kCritical});
 }
 
+std::string UnreadableNote(std::string_view what, storage::Fault why) {
+  return std::string(what).append(" can't be read: ").append(ReasonOf(why)) +
+         ".\nNothing will be written over it.";
+}
+
 void TellUnreadable(Context& context, std::string_view what, storage::Fault why) {
-  ShowMessage(context, {"Can't Be Read",
-                        std::string(what).append(" can't be read: ").append(ReasonOf(why)) +
-                            ".\nNothing will be written over it.",
-                        Icon::kCritical});
+  ShowMessage(context, {"Can't Be Read", UnreadableNote(what, why), Icon::kCritical});
 }
 
 bool AskToLeaveUnsaved(Context& context) {

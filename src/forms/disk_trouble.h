@@ -18,7 +18,11 @@ std::string_view ReasonOf(storage::Fault fault);
 // unsaved.
 void TellNotSaved(Context& context, std::string_view what, storage::Fault why);
 
-// Of a file that is there and can't be read. What is shown in its place has to be locked.
+// What stands in the place of a file that is there and can't be read: two sentences, each a line.
+// What shows it has to be locked.
+std::string UnreadableNote(std::string_view what, storage::Fault why);
+
+// The same in a box, for what has no place of its own.
 void TellUnreadable(Context& context, std::string_view what, storage::Fault why);
 
 // Whether to go on after a save that failed, and lose what isn't saved. No is the default.

@@ -89,7 +89,7 @@ void WorkArea1::BuildMenus() {
 
 void WorkArea1::EnableMenus() {
   for (const auto& [entry, command] : command_entries_) entry->SetEnabled(command->enabled());
-  if (copy_entry_) copy_entry_->SetEnabled(document.access() != DocumentView::Access::kNone);
+  if (copy_entry_) copy_entry_->SetEnabled(document.is_readable());
 }
 
 void WorkArea1::Load() {
@@ -124,6 +124,7 @@ void WorkArea1::Press(int index) {
   main_buttons.PaintSelected(index <= forms::kEmployeeData ? index : -1);
   context_.variables.MainArea = static_cast<std::int16_t>(index);
   if (index <= forms::kEmployeeData) return ShowMainArea(static_cast<forms::MainArea>(index));
+  LeaveArea();  // coming back begins with the first area
   context_.navigator.Show(index == forms::kInformationAdvisor ? forms::form_names::kInfoAdv
                                                               : forms::form_names::kToolsandInfo1);
 }
@@ -188,7 +189,7 @@ void WorkArea1::CopyDocument() {
 }
 
 void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
-  if (!document.Settle()) return;
+  if (!document.OfferToSave()) return;
   CoverAreas(true);
   printing.OpenAll(breaks);
 }
