@@ -126,15 +126,5 @@ TEST(Writing, CharactersPastTheFirstPlaneAreWrittenAsPairs) {
   EXPECT_EQ(PlainText(ReadRichText(rtf)), "a😀1");
 }
 
-TEST(Reading, MemoryIsBoundByTheSizeOfTheFile) {
-  constexpr int kParagraphs = 80'000;
-  std::string hostile = "{\\rtf1\\pard";
-  for (int i = 0; i < 100; ++i) hostile += "\\brdrs";
-  for (int i = 0; i < kParagraphs; ++i) hostile += "\\par";
-  const RichDocument document = ReadRichText(hostile + " end}");
-  EXPECT_LT(document.blocks.size(), std::size_t{kParagraphs});
-  EXPECT_TRUE(PlainText(document).ends_with("end"));
-}
-
 }  // namespace
 }  // namespace tarnwell::richtext
