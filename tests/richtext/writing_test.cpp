@@ -120,6 +120,14 @@ TEST(Writing, ADocumentMadeByAnEditorGetsTheTablesItNeeds) {
   EXPECT_EQ(ParagraphAt(again, 0).format.list->marker, "•");
 }
 
+TEST(Writing, ANewFontGetsANumberThatIsFree) {
+  RichDocument document =
+      ReadRichText("{\\rtf1\\deff1{\\fonttbl{\\f2147483647 Arial;}{\\f0 Courier;}}\\pard a\\par}");
+  std::get<Paragraph>(document.blocks[0]).runs[0].format.font = "Times";
+  const std::string rtf = WriteRichText(document);
+  EXPECT_NE(rtf.find("{\\f2\\fnil\\fcharset0 Times;}"), std::string::npos) << rtf;
+}
+
 TEST(Writing, CharactersPastTheFirstPlaneAreWrittenAsPairs) {
   const std::string rtf = WriteRichText(FromPlainText("a😀1"));
   EXPECT_EQ(rtf, std::string(kHead) + "\\pard\\plain a\\u-10179?\\u-8704?1\\par\n}\n");
