@@ -6,6 +6,7 @@
 
 #include "richtext/editor.h"
 #include "richtext/fragment.h"
+#include "richtext/limits.h"
 #include "richtext/paragraphs.h"
 #include "richtext/plain_text.h"
 #include "richtext/typed_text.h"
@@ -154,7 +155,7 @@ CharacterFormat RichTextBox::StartFormat() const {
 }
 
 void RichTextBox::Replace(Range range, std::string_view utf8) {
-  if (locked_) return;
+  if (locked()) return;
   range = richtext::Clamped(document_, range);
   const richtext::Paragraph& paragraph = richtext::ParagraphAt(document_, range.from.paragraph);
   Typing typing = richtext::TypingAt(paragraph, range.from.offset);
@@ -182,12 +183,13 @@ Font RichTextBox::FontOf(const CharacterFormat& format) const {
 Font RichTextBox::SelectionFont() const { return FontOf(StartFormat()); }
 
 void RichTextBox::SetSelectionFont(const Font& font) {
-  if (locked_) return;
+  if (locked()) return;
   const CharacterFormat start = StartFormat();
   const Font shown = FontOf(start);
   ReformatSelection([&](CharacterFormat& format) {
     format.font = font.name == shown.name ? start.font : font.name;
-    format.half_points = std::max(1, static_cast<int>(std::lround(font.size * 2)));
+    format.half_points =
+        std::clamp(static_cast<int>(std::lround(font.size * 2)), 1, richtext::kLargestHalfPoints);
     format.bold = font.bold;
     format.italic = font.italic;
     SetUnderline(font.underline, format);
@@ -215,7 +217,7 @@ richtext::Alignment RichTextBox::SelectionAlignment() const {
 }
 
 void RichTextBox::SetSelectionAlignment(richtext::Alignment alignment) {
-  if (locked_) return;
+  if (locked()) return;
   Do(StepKind::kOther, [&](Editor& editor) {
     editor.ReformatParagraphs(selection_, [alignment](richtext::ParagraphFormat& format) {
       format.alignment = alignment;

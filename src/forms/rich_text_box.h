@@ -37,8 +37,9 @@ class RichTextBox : public Control {
   void Clear() { SetDocument({}); }
   bool IsBlank() const;
 
-  // A person can select and copy, not change.
-  bool locked() const { return locked_; }
+  // A person can select and copy, not change. So it is, too, with a document that is only the
+  // beginning of its file.
+  bool locked() const { return locked_ || document_.is_part; }
   void SetLocked(bool locked);
   // Of text without a colour of its own; empty for the look's own.
   const std::optional<Color>& text_color() const { return text_color_; }
@@ -69,8 +70,8 @@ class RichTextBox : public Control {
   void SetSelectionFont(const Font& font);
   richtext::Alignment SelectionAlignment() const;
   void SetSelectionAlignment(richtext::Alignment alignment);
-  bool CanUndo() const { return !locked_ && history_.CanUndo(); }
-  bool CanRedo() const { return !locked_ && history_.CanRedo(); }
+  bool CanUndo() const { return !locked() && history_.CanUndo(); }
+  bool CanRedo() const { return !locked() && history_.CanRedo(); }
 
   // A person's gestures.
   void MoveSelection(richtext::Range range);
@@ -99,7 +100,7 @@ class RichTextBox : public Control {
   int scroll_requests() const { return scroll_requests_; }
 
  private:
-  bool CanEdit() const { return !locked_ && Reachable(); }
+  bool CanEdit() const { return !locked() && Reachable(); }
   // Runs `edit`, which edits by the editor and gives the new selection, as one step.
   using Edit = std::function<richtext::Range(richtext::Editor&)>;
   // False if it changed nothing.

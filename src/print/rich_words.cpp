@@ -59,12 +59,6 @@ void AddPart(int style, std::string_view text, RunPlace begin, std::vector<RichP
 
 }  // namespace
 
-std::size_t CharacterStart(std::string_view utf8, std::size_t size) {
-  if (size >= utf8.size()) return utf8.size();
-  while (size > 0 && (static_cast<unsigned char>(utf8[size]) & 0xC0) == 0x80) --size;
-  return size;
-}
-
 void RichWordReader::Read(RunPlace place, RichWord& word) {
   word.kind = RichWord::Kind::kEnd;
   word.parts.clear();

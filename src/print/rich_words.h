@@ -53,7 +53,4 @@ class RichWordReader {
   std::size_t length_ = 0;  // of the word, in bytes
 };
 
-// Where `utf8` may be cut at or before `size` bytes.
-std::size_t CharacterStart(std::string_view utf8, std::size_t size);
-
 }  // namespace tarnwell::print

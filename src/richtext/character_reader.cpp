@@ -3,12 +3,12 @@
 #include "richtext/code_pages.h"
 #include "richtext/format_reader.h"
 #include "richtext/kept_words.h"
+#include "richtext/limits.h"
 
 namespace tarnwell::richtext {
 namespace {
 
 constexpr int kDefaultHalfPoints = 24;
-constexpr int kMostHalfPoints = 3276;
 
 // \fcs is a switch that stands twice before every text, with 0 and with 1: only the very same word
 // takes its place.
@@ -78,7 +78,7 @@ void ApplyCharacterWord(const KnownWord& word, const Token& token, std::string_v
     case Word::kFont:
       return tables.SetFont(token.NumberOr(0), state);
     case Word::kSize:
-      format.half_points = std::clamp(token.NumberOr(kDefaultHalfPoints), 1, kMostHalfPoints);
+      format.half_points = std::clamp(token.NumberOr(kDefaultHalfPoints), 1, kLargestHalfPoints);
       return;
     case Word::kColor:
       format.color = tables.ColorAt(token.NumberOr(0));

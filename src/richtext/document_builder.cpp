@@ -1,9 +1,11 @@
 #include "richtext/document_builder.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "richtext/list_words.h"
 #include "richtext/runs.h"
+#include "richtext/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -26,18 +28,26 @@ std::size_t SizeOf(const ParagraphFormat& format) {
 DocumentBuilder::DocumentBuilder(std::size_t source_size, std::vector<Block>& blocks)
     : blocks_(blocks), room_(kLeastRoom + kRoomPerByte * source_size) {}
 
-bool DocumentBuilder::Spend(std::size_t size) {
-  if (size > room_) return false;
-  room_ -= size;
+bool DocumentBuilder::Take(std::size_t count, std::size_t& left) {
+  if (count > left) is_full_ = true;
+  if (is_full_) return false;
+  left -= count;
   return true;
 }
 
+bool DocumentBuilder::Spend(std::size_t size) { return Take(size, room_); }
+
 bool DocumentBuilder::SpendParagraph(const FormatState& state) {
-  return Spend(sizeof(Block) + SizeOf(state.paragraph) + SizeOf(state.character));
+  return Take(1, paragraphs_left_) &&
+         Spend(sizeof(Block) + SizeOf(state.paragraph) + SizeOf(state.character));
 }
 
 void DocumentBuilder::AddRun(Run run) {
-  if (Spend(sizeof run + SizeOf(run.format))) PushRun(std::move(run));
+  const std::size_t most = std::min(runs_left_, kMostRunsOfParagraph - paragraph_.runs.size());
+  is_full_ = is_full_ || most == 0;
+  if (is_full_ || !Spend(sizeof run + SizeOf(run.format))) return;
+  --runs_left_;
+  PushRun(std::move(run));
 }
 
 void DocumentBuilder::PushRun(Run run) {
@@ -46,18 +56,26 @@ void DocumentBuilder::PushRun(Run run) {
 }
 
 void DocumentBuilder::AddText(std::string_view utf8, const FormatState& state) {
-  if (utf8.empty()) return;
+  const std::size_t room = std::min(text_left_, paragraph_text_left_);
+  const std::size_t size = utf8.size();
+  if (size > room) utf8 = utf8.substr(0, CharacterStart(utf8, room));
+  if (!utf8.empty()) AppendText(utf8, state);
+  is_full_ = is_full_ || size > room;
+  if (is_full_) return;
+  text_left_ -= size;
+  paragraph_text_left_ -= size;
+}
+
+void DocumentBuilder::AppendText(std::string_view utf8, const FormatState& state) {
   if (!paragraph_.runs.empty()) {
     Run& last = paragraph_.runs.back();
     auto* const text = std::get_if<std::string>(&last.content);
-    const bool continues = last.field == state.field && last.format == state.character;
-    if (text != nullptr && (continues || room_ < sizeof(Run) + SizeOf(state.character))) {
+    if (text != nullptr && last.field == state.field && last.format == state.character) {
       *text += utf8;
       return;
     }
   }
-  Spend(sizeof(Run) + SizeOf(state.character));
-  PushRun({state.character, std::string(utf8), state.field});
+  AddRun({state.character, std::string(utf8), state.field});
 }
 
 void DocumentBuilder::AddPicture(Picture picture, const FormatState& state) {
@@ -90,6 +108,7 @@ std::string* DocumentBuilder::OpenSectionBreak() {
 
 Paragraph DocumentBuilder::TakeParagraph(const FormatState& state) {
   Paragraph paragraph = std::exchange(paragraph_, Paragraph{});
+  paragraph_text_left_ = kLongestParagraph;
   paragraph.format = state.paragraph;
   paragraph.mark = state.character;
   std::string marker = std::exchange(marker_, std::string());
@@ -110,13 +129,13 @@ Paragraph DocumentBuilder::TakeParagraph(const FormatState& state) {
 }
 
 void DocumentBuilder::EndParagraph(const FormatState& state) {
-  if (!SpendParagraph(state)) return AddText("\n", state);
-  CloseParagraph(state);
+  if (SpendParagraph(state)) CloseParagraph(state);
 }
 
 void DocumentBuilder::CloseParagraph(const FormatState& state) {
   Paragraph paragraph = TakeParagraph(state);
   if (state.in_table) {
+    Take(1, row_left_);
     cell_.push_back(std::move(paragraph));
   } else {
     EndOpenRow();
@@ -125,7 +144,7 @@ void DocumentBuilder::CloseParagraph(const FormatState& state) {
 }
 
 void DocumentBuilder::EndSection(const FormatState& state) {
-  if (!SpendParagraph(state)) return AddText("\n", state);
+  if (!SpendParagraph(state)) return;
   EndOpenRow();
   Paragraph paragraph = TakeParagraph(state);
   paragraph.section_break = "\\sect";
@@ -133,31 +152,25 @@ void DocumentBuilder::EndSection(const FormatState& state) {
 }
 
 void DocumentBuilder::EndCell(const FormatState& state) {
-  if (!SpendParagraph(state)) return AddText("\t", state);
-  CloseCell(state);
+  if (SpendParagraph(state)) CloseCell(state);
 }
 
 void DocumentBuilder::CloseCell(const FormatState& state) {
+  Take(1, row_left_);
   cell_.push_back(TakeParagraph(state));
   row_.push_back(std::exchange(cell_, {}));
 }
 
 void DocumentBuilder::EndRow() {
   if (row_.empty()) return;
+  row_left_ = kLongestRow;
   const std::size_t cells = row_definition_.CellsFor(row_.size());
-  if (!Spend(sizeof(TableRow) + cells * (sizeof(Cell) + sizeof(Paragraph)))) {
-    return EndRowAsParagraphs();
-  }
+  // What has been read of it is shown in any case.
+  Take(cells - row_.size(), paragraphs_left_);
+  Spend(sizeof(TableRow) + cells * (sizeof(Cell) + sizeof(Paragraph)));
   Table* table = blocks_.empty() ? nullptr : std::get_if<Table>(&blocks_.back());
   if (table == nullptr) table = &std::get<Table>(blocks_.emplace_back(Table{}));
   table->rows.push_back(row_definition_.MakeRow(std::exchange(row_, {}), blank_));
-}
-
-// A definition of many cells costs more than the few texts that make use of it.
-void DocumentBuilder::EndRowAsParagraphs() {
-  for (std::vector<Paragraph>& cell : std::exchange(row_, {})) {
-    for (Paragraph& paragraph : cell) blocks_.emplace_back(std::move(paragraph));
-  }
 }
 
 void DocumentBuilder::EndOpenRow() {

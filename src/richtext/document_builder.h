@@ -9,13 +9,14 @@
 #include <vector>
 
 #include "richtext/format_reader.h"
+#include "richtext/limits.h"
 #include "richtext/rich_document.h"
 #include "richtext/row_definition.h"
 
 namespace tarnwell::richtext {
 
-// Memory stays within a bound by the size of the source: past it texts run on without further
-// formats and paragraphs, and what isn't text is left out. No sound document comes near.
+// Memory stays within a bound by the size of the source, and the document within limits.h. What
+// comes past them is left out. No sound document comes near.
 class DocumentBuilder {
  public:
   DocumentBuilder(std::size_t source_size, std::vector<Block>& blocks);
@@ -33,6 +34,8 @@ class DocumentBuilder {
   void EndSection(const FormatState& state);
   void EndCell(const FormatState& state);
   void EndRow();
+  // Something was left out: the rest needn't be read.
+  bool is_full() const { return is_full_; }
   // A text without a paragraph's end, cells without a row's end.
   void Finish(const FormatState& state);
 
@@ -46,12 +49,14 @@ class DocumentBuilder {
 
  private:
   bool Spend(std::size_t size);
+  // Takes from what is left; where that isn't enough the builder is full.
+  bool Take(std::size_t count, std::size_t& left);
   bool SpendParagraph(const FormatState& state);
+  void AppendText(std::string_view utf8, const FormatState& state);
   void AddRun(Run run);
   void PushRun(Run run);
   void CloseParagraph(const FormatState& state);
   void CloseCell(const FormatState& state);
-  void EndRowAsParagraphs();
   // Cells that no end of a row followed become a row of their own.
   void EndOpenRow();
   Paragraph TakeParagraph(const FormatState& state);
@@ -60,6 +65,12 @@ class DocumentBuilder {
 
   std::vector<Block>& blocks_;
   std::size_t room_;
+  std::size_t paragraphs_left_ = kMostParagraphs;
+  std::size_t row_left_ = kLongestRow;  // paragraphs
+  std::size_t runs_left_ = kMostRuns;
+  std::size_t text_left_ = kMostText;
+  std::size_t paragraph_text_left_ = kLongestParagraph;
+  bool is_full_ = false;
   Paragraph paragraph_;
   std::string marker_;
   std::vector<Paragraph> cell_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include "richtext/code_pages.h"
 #include "richtext/rtf_words.h"
@@ -41,7 +42,7 @@ std::string Tab(const TabStop& tab) {
 }  // namespace
 
 WriterTables::WriterTables(const RichDocument& document)
-    : fonts_(document.fonts), colors_(document.colors), next_font_(document.default_font + 1) {
+    : fonts_(document.fonts), colors_(document.colors), default_number_(document.default_font) {
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), [&document](const Font& candidate) {
     return candidate.number == document.default_font;
   });
@@ -49,14 +50,25 @@ WriterTables::WriterTables(const RichDocument& document)
 }
 
 int WriterTables::FontNumber(const std::string& name) {
-  // Past the default font, which stays without a name where the table doesn't list it.
-  int next = next_font_;
-  for (const Font& font : fonts_) {
-    if (font.name == name) return font.number;
-    next = std::max(next, font.number + 1);
-  }
-  fonts_.push_back({next, name, 0, "\\fnil"});
-  return next;
+  const auto named = std::ranges::find(fonts_, name, &Font::name);
+  if (named != fonts_.end()) return named->number;
+  const int number = FreeNumber();
+  fonts_.push_back({number, name, 0, "\\fnil"});
+  return number;
+}
+
+// Not the default font's, which stays without a name where the table doesn't list it.
+int WriterTables::FreeNumber() const {
+  int highest = default_number_;
+  for (const Font& font : fonts_) highest = std::max(highest, font.number);
+  if (highest < std::numeric_limits<int>::max()) return highest + 1;
+  int number = 0;
+  const auto is_taken = [&] {
+    return number == default_number_ ||
+           std::ranges::find(fonts_, number, &Font::number) != fonts_.end();
+  };
+  while (is_taken()) ++number;
+  return number;
 }
 
 bool WriterTables::HoldsSymbols(const std::string& font) const {

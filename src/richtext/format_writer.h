@@ -27,9 +27,11 @@ class WriterTables {
   std::string Rtf(int code_page) const;
 
  private:
+  int FreeNumber() const;
+
   std::vector<Font> fonts_;
   std::vector<std::optional<Color>> colors_;
-  int next_font_;
+  int default_number_;
   std::string default_font_;
 };
 

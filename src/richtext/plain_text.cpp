@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "richtext/limits.h"
+#include "richtext/utf8.h"
+
 namespace tarnwell::richtext {
 namespace {
 
@@ -30,7 +33,13 @@ void Append(const std::vector<Paragraph>& paragraphs, std::string& text) {
   }
 }
 
-void AppendParagraph(std::string_view line, RichDocument& document) {
+// False where limits.h has no room for all of the line.
+bool AppendParagraph(std::string_view line, std::size_t& room, RichDocument& document) {
+  if (document.blocks.size() == kMostParagraphs) return false;
+  const std::size_t most = std::min(room, kLongestParagraph);
+  const bool is_whole = line.size() <= most;
+  if (!is_whole) line = line.substr(0, CharacterStart(line, most));
+  room -= line.size();
   Paragraph paragraph;
   std::string text;
   std::copy_if(line.begin(), line.end(), std::back_inserter(text), [](char c) {
@@ -38,6 +47,7 @@ void AppendParagraph(std::string_view line, RichDocument& document) {
   });
   if (!text.empty()) paragraph.runs.push_back({{}, std::move(text), kNoField});
   document.blocks.emplace_back(std::move(paragraph));
+  return is_whole;
 }
 
 }  // namespace
@@ -69,9 +79,10 @@ bool IsBlank(const RichDocument& document) {
 
 RichDocument FromPlainText(std::string_view utf8) {
   RichDocument document;
-  while (!utf8.empty()) {
+  std::size_t room = kMostText;
+  while (!utf8.empty() && !document.is_part) {
     const std::size_t end = std::min(utf8.find_first_of("\r\n"), utf8.size());
-    AppendParagraph(utf8.substr(0, end), document);
+    document.is_part = !AppendParagraph(utf8.substr(0, end), room, document);
     const bool is_pair = utf8.substr(end).starts_with("\r\n");
     utf8.remove_prefix(std::min(end + (is_pair ? 2 : 1), utf8.size()));
   }

@@ -213,6 +213,8 @@ struct RichDocument {
       prologue;  // style sheet, lists, information, headers and footers of the first section
   std::vector<Field> fields;
   std::vector<Block> blocks;
+  // Its source held more than limits.h allows: this is its beginning, and no text to be saved.
+  bool is_part = false;
   bool operator==(const RichDocument&) const = default;
 };
 

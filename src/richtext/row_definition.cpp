@@ -61,6 +61,8 @@ void RowDefinition::EndCell(int right_edge) {
 
 void RowDefinition::ApplyToBorder(const Token& token, std::string_view source,
                                   const FormatTables& tables) {
+  // Written first of a cell's words it would be the row's, or the paragraph's.
+  if (border_ == nullptr && kept_ == &next_.other && kept_->empty()) return;
   if (border_ == nullptr) return KeepWord(source, *kept_);
   if (token.text == "brdrw") {
     border_->width = LengthOf(token);

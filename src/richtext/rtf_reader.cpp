@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "richtext/code_pages.h"
+#include "richtext/limits.h"
 #include "richtext/runs.h"
 #include "richtext/text_escape.h"
 
@@ -18,11 +19,13 @@ RtfReader::RtfReader(std::string_view rtf)
     : tokenizer_(rtf), states_(1), builder_(rtf.size(), document_.blocks) {}
 
 RichDocument RtfReader::Read() && {
-  while (!ended_) {
+  std::size_t left = kMostTokens;
+  for (; !ended_ && left > 0 && !builder_.is_full(); --left) {
     const Token token = tokenizer_.Next();
     if (token.kind == TokenKind::kEnd) break;
     Take(token);
   }
+  document_.is_part = left == 0 || builder_.is_full();
   LeaveFields();
   builder_.Finish(state());
   document_.code_page = tables_.code_page;

@@ -63,6 +63,12 @@ char32_t TakeUtf8(std::string_view& rest) {
   return whole ? character : kReplacementCharacter;
 }
 
+std::size_t CharacterStart(std::string_view utf8, std::size_t size) {
+  if (size >= utf8.size()) return utf8.size();
+  while (size > 0 && (static_cast<unsigned char>(utf8[size]) & 0xC0) == 0x80) --size;
+  return size;
+}
+
 void Utf16Joiner::Take(char16_t unit, std::string& utf8) {
   const bool is_low = unit >= 0xDC00 && unit <= 0xDFFF;
   if (is_low && high_ != 0) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ void AppendUtf8(char32_t character, std::string& out);
 // Takes one character off the front of `rest`, which isn't empty. A byte that can't stand where it
 // does gives the replacement character.
 char32_t TakeUtf8(std::string_view& rest);
+
+// Where `utf8` may be cut at or before `size` bytes.
+std::size_t CharacterStart(std::string_view utf8, std::size_t size);
 
 // UTF-16 units, which come one at a time, to characters.
 class Utf16Joiner {

@@ -130,6 +130,28 @@ TEST(Reading, ARowTakesItsCellsAsTheyCome) {
   EXPECT_EQ(table.rows[1].cells.at(1).right_edge, 2440);  // not defined: an inch
 }
 
+// A cell's words are written before its fill and its sides.
+TEST(Reading, ABorderWordThatNamesNoSideStaysWithTheWordBeforeIt) {
+  const struct {
+    const char* words;
+    const char* of_row;
+    const char* of_cell;
+  } cases[] = {
+      {"\\clcbpat1\\brdrw5", "", ""},
+      {"\\clbrdrt\\brdrs\\clcbpat1\\brdrw5", "", ""},
+      {"\\clvertalt\\brdrw5\\clcbpat1", "", "\\clvertalt\\brdrw5"},
+      {"\\brdrw5\\clcbpat1", "\\brdrw5", ""},
+  };
+  for (const auto& c : cases) {
+    const RichDocument document =
+        ReadBody("\\trowd" + std::string(c.words) + "\\cellx9\\pard\\intbl a\\cell\\row");
+    const TableRow& row = std::get<Table>(document.blocks.at(0)).rows.at(0);
+    EXPECT_EQ(row.other, c.of_row) << c.words;
+    EXPECT_EQ(row.cells.at(0).other, c.of_cell) << c.words;
+    EXPECT_EQ(ReadRichText(WriteRichText(document)), document) << c.words;
+  }
+}
+
 TEST(Reading, ANestedTableIsReadOnceHoweverItsLevelsAreSaid) {
   const RichDocument document =
       ReadBody("\\pard\\itap2 a\\cell\\row b\\itap2 c\\cell\\row\\pard\\itap2\\itap2 d\\par e");

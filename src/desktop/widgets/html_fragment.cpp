@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "richtext/limits.h"
+
 namespace tarnwell::desktop {
 namespace {
 
@@ -39,7 +41,8 @@ int HalfPointsOf(const QTextCharFormat& format) {
   constexpr double kSteps[] = {0.7, 0.85, 1, 1.2, 1.5, 2, 2.4};
   const int adjustment = format.intProperty(QTextFormat::FontSizeAdjustment);
   points *= kSteps[std::clamp(adjustment + 2, 0, 6)];
-  return std::max(1, static_cast<int>(std::lround(points * 2)));
+  return std::clamp(static_cast<int>(std::lround(std::min(points, 1e4) * 2)), 1,
+                    richtext::kLargestHalfPoints);
 }
 
 richtext::CharacterFormat FormatOf(const QTextCharFormat& format) {

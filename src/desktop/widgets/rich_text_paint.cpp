@@ -6,21 +6,14 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
-#include <QTextTable>
 
 #include "desktop/widgets/rich_text_view.h"
+#include "desktop/widgets/rich_text_visible.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 const QColor kBreakColor{0x8A, 0x94, 0x9E};
-
-// The first block that may be seen at the view's top; in a table the first one of the row.
-QTextBlock FirstBlock(const QTextCursor& cursor) {
-  const QTextTable* const table = cursor.currentTable();
-  if (table == nullptr) return cursor.block();
-  return table->cellAt(table->cellAt(cursor).row(), 0).firstCursorPosition().block();
-}
 
 bool HasExtras(const QTextBlock& block) {
   const QTextBlockFormat format = block.blockFormat();
@@ -36,16 +29,14 @@ void RichTextView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setClipRect(event->rect());
   painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());
-  const double bottom = verticalScrollBar()->value() + event->rect().bottom() + 1;
-  const QTextBlock first = FirstBlock(cursorForPosition(QPoint(0, event->rect().top())));
+  const double top = verticalScrollBar()->value() + event->rect().top();
+  const QTextCursor first = cursorForPosition(QPoint(0, event->rect().top()));
   const QAbstractTextDocumentLayout& layout = *document()->documentLayout();
-  for (QTextBlock block = first; block.isValid(); block = block.next()) {
-    const QRectF place = layout.blockBoundingRect(block);
-    // A table's cells stand side by side.
-    if (place.top() > bottom && QTextCursor(block).currentTable() == nullptr) break;
-    if (place.top() > bottom || !HasExtras(block)) continue;
-    PaintMarker(painter, block, place.topLeft());
-    PaintPageBreaks(painter, block, place.topLeft());
+  for (const QTextBlock& block : BlocksBetween(top, top + event->rect().height(), first, layout)) {
+    if (!HasExtras(block)) continue;
+    const QPointF origin = layout.blockBoundingRect(block).topLeft();
+    PaintMarker(painter, block, origin);
+    PaintPageBreaks(painter, block, origin);
   }
 }
 
