@@ -30,6 +30,16 @@ void Append(const std::vector<Paragraph>& paragraphs, std::string& text) {
   }
 }
 
+// A picture, or a drawing or an object that this program can keep but not show.
+bool IsPicture(const Run& run) {
+  if (std::holds_alternative<Picture>(run.content)) return true;
+  const auto* const kept = std::get_if<Opaque>(&run.content);
+  constexpr std::string_view kDrawings[] = {"\\pict", "\\shp", "\\object", "\\do\\"};
+  return kept != nullptr && std::ranges::any_of(kDrawings, [kept](std::string_view word) {
+           return kept->rtf.find(word) != std::string::npos;
+         });
+}
+
 void AppendParagraph(std::string_view line, RichDocument& document) {
   Paragraph paragraph;
   std::string text;
@@ -65,6 +75,13 @@ bool IsBlank(const RichDocument& document) {
     }
   }
   return true;
+}
+
+bool HoldsNothing(const RichDocument& document) {
+  return IsBlank(document) && std::ranges::all_of(document.blocks, [](const Block& block) {
+           const auto* const paragraph = std::get_if<Paragraph>(&block);
+           return paragraph != nullptr && std::ranges::none_of(paragraph->runs, IsPicture);
+         });
 }
 
 RichDocument FromPlainText(std::string_view utf8) {
