@@ -50,7 +50,7 @@ class SpellingSession {
   void ChangeAll(std::string_view right);
   void IgnoreAll() { ignored_.insert(word_); }
   // False when the word couldn't be saved for later runs.
-  bool Add() { return user_words_.Add(word_); }
+  storage::Outcome Add() { return user_words_.Add(word_); }
   void Cancel() { result_.canceled = true; }
 
   const SpellingResult& result() const { return result_; }

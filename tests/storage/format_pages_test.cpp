@@ -63,7 +63,7 @@ TEST_F(FormatPagesTest, SequentialFile) {
   ExpectBytesOfPage("a.fil", "sequential-file.md");
 
   WriteFileOfPage("b.fil", "sequential-file.md");
-  EXPECT_THAT(ReadNameList(folder_, "b.fil"), ElementsAre("Due", "12.5", "a, b"));
+  EXPECT_THAT(ReadNameList(folder_, "b.fil").names, ElementsAre("Due", "12.5", "a, b"));
 }
 
 TEST_F(FormatPagesTest, PlannerYearFile) {
