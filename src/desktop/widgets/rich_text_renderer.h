@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QSize>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
@@ -32,8 +33,12 @@ class RichTextRenderer {
 
   QTextBlock BlockOf(int paragraph) const;
   int ParagraphOf(const QTextBlock& block) const;
-  // The file of a picture that the text shows, by its name there; empty for no such picture.
-  QByteArray PictureFile(const QString& name) const { return pictures_.value(name); }
+  // A picture that the text shows, by its name there: its file and its size in the text's pixels.
+  struct ShownPicture {
+    QByteArray file;
+    QSize size;
+  };
+  ShownPicture PictureOf(const QString& name) const { return pictures_.value(name); }
 
  private:
   // A block of the document as it is shown.
@@ -70,7 +75,7 @@ class RichTextRenderer {
   std::size_t next_ = 0;  // block to be rendered
   bool is_done_ = true;
   bool is_fresh_ = true;  // the last of Qt's blocks waits for a paragraph
-  QHash<QString, QByteArray> pictures_;
+  QHash<QString, ShownPicture> pictures_;
   // During a rendering.
   const richtext::RichDocument* document_ = nullptr;
   const RichTextFormats* formats_ = nullptr;
