@@ -7,7 +7,7 @@ namespace tarnwell::desktop {
 QWidget* ExportView(print::ExportPanel& panel) {
   QWidget* places = Row(
       {
-          Grow(Column({Widget(panel.drives_heading), AtStart(Widget(panel.drives)),
+          Grow(Column({Widget(panel.drives_heading), Widget(panel.drives),
                        Widget(panel.folders_heading), Grow(Widget(panel.folders))})),
           Grow(
               Column({Widget(panel.files_heading), Widget(panel.name), Grow(Widget(panel.files))})),
