@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QTest>
+#include <QtEndian>
 
 #include "desktop/widgets/picture_files.h"
 
@@ -21,12 +22,12 @@ QByteArray PictureFile(QSize size, const char* type) {
   return file;
 }
 
-// The head of a PNG file of this size, and nothing behind it.
-QByteArray Head(quint32 width, quint32 height) {
-  QByteArray file = PictureFile({1, 1}, "PNG");
-  QByteArray size;
-  QDataStream(&size, QIODevice::WriteOnly) << width << height;
-  return file.replace(16, 8, size).left(33);
+// A BMP file whose head tells of this size, with nothing behind it.
+QByteArray Head(qint32 width, qint32 height) {
+  QByteArray size(8, '\0');
+  qToLittleEndian(width, size.data());
+  qToLittleEndian(height, size.data() + 4);
+  return PictureFile({1, 1}, "BMP").replace(18, 8, size);
 }
 
 TEST(PictureFiles, AreReadAsWhatTheyAreAndWithinBounds) {
@@ -36,7 +37,8 @@ TEST(PictureFiles, AreReadAsWhatTheyAreAndWithinBounds) {
     EXPECT_EQ(Decoded(file, {15, 10}).size(), QSize(15, 10)) << type;
     EXPECT_EQ(Decoded(file, {3000, 10}).size(), QSize(30, 10)) << type;
   }
-  const QByteArray others[] = {{}, "text", PictureFile({3, 2}, "PPM"), Head(100'000, 100'000)};
+  EXPECT_EQ(PixelsOf(Head(10'000, 10'000)), QSize(10'000, 10'000));
+  const QByteArray others[] = {{}, "text", PictureFile({3, 2}, "PPM"), Head(10'000, 10'001)};
   for (const QByteArray& file : others) {
     EXPECT_FALSE(PixelsOf(file).isValid());
     EXPECT_TRUE(Decoded(file, {1, 1}).isNull());
