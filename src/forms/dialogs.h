@@ -32,8 +32,9 @@ class Dialogs {
   virtual Answer Message(const MessageBox& box) = 0;
   // Empty when it was cancelled.
   virtual std::optional<Color> ChooseColor(Color start) = 0;
-  // A printer's font with its size, style and colour; empty when it was cancelled.
-  virtual std::optional<Font> ChooseFont(const Font& start) = 0;
+  // A printer's font with its size, style and colour: the parts that a person chose, whatever the
+  // start is open in. Empty when it was cancelled.
+  virtual std::optional<FontParts> ChooseFont(const FontParts& start) = 0;
 };
 
 }  // namespace tarnwell::forms

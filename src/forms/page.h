@@ -27,6 +27,39 @@ struct Font {
   friend bool operator==(const Font&, const Font&) = default;
 };
 
+// Some of a font: what all letters of a selection have in common, or what a person chose.
+struct FontParts {
+  FontParts() = default;
+  FontParts(const Font& font)
+      : name(font.name),
+        size(font.size),
+        bold(font.bold),
+        italic(font.italic),
+        underline(font.underline),
+        strike(font.strike),
+        color(font.color) {}
+
+  std::optional<std::string> name;
+  std::optional<double> size;  // points
+  std::optional<bool> bold;
+  std::optional<bool> italic;
+  std::optional<bool> underline;
+  std::optional<bool> strike;
+  std::optional<Color> color;
+
+  friend bool operator==(const FontParts&, const FontParts&) = default;
+};
+
+inline Font WithParts(const Font& font, const FontParts& parts) {
+  return {.name = parts.name.value_or(font.name),
+          .size = parts.size.value_or(font.size),
+          .bold = parts.bold.value_or(font.bold),
+          .italic = parts.italic.value_or(font.italic),
+          .underline = parts.underline.value_or(font.underline),
+          .strike = parts.strike.value_or(font.strike),
+          .color = parts.color.value_or(font.color)};
+}
+
 struct Margins {
   int left = 100;
   int top = 100;

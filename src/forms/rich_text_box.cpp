@@ -9,6 +9,7 @@
 #include "richtext/limits.h"
 #include "richtext/paragraphs.h"
 #include "richtext/plain_text.h"
+#include "richtext/selection.h"
 #include "richtext/typed_text.h"
 
 namespace tarnwell::forms {
@@ -36,6 +37,21 @@ richtext::Color ToRich(Color color) {
 void SetUnderline(bool underlined, CharacterFormat& format) {
   if (underlined == (format.underline != richtext::Underline::kNone)) return;
   format.underline = underlined ? richtext::Underline::kSingle : richtext::Underline::kNone;
+}
+
+template <typename Part>
+void KeepCommon(const std::optional<Part>& other, std::optional<Part>& part) {
+  if (part != other) part.reset();
+}
+
+void KeepCommon(const FontParts& other, FontParts& parts) {
+  KeepCommon(other.name, parts.name);
+  KeepCommon(other.size, parts.size);
+  KeepCommon(other.bold, parts.bold);
+  KeepCommon(other.italic, parts.italic);
+  KeepCommon(other.underline, parts.underline);
+  KeepCommon(other.strike, parts.strike);
+  KeepCommon(other.color, parts.color);
 }
 
 }  // namespace
@@ -78,7 +94,9 @@ std::string RichTextBox::ParagraphText(int paragraph) const {
   return richtext::ShownText(richtext::ParagraphAt(document_, paragraph));
 }
 
-std::string RichTextBox::SelectedText() const { return richtext::ShownText(document_, selection_); }
+std::string RichTextBox::SelectedText() const {
+  return richtext::SelectedText(document_, selection_);
+}
 
 richtext::RichDocument RichTextBox::SelectedPart() const {
   richtext::RichDocument part = richtext::Slice(document_, selection_);
@@ -147,11 +165,10 @@ Position RichTextBox::InsertPlain(Editor& editor, Position at, std::string_view 
 
 CharacterFormat RichTextBox::StartFormat() const {
   if (typing_format_) return *typing_format_;
-  const richtext::Paragraph& paragraph =
-      richtext::ParagraphAt(document_, selection_.from.paragraph);
-  const int offset = selection_.from.offset;
-  return selection_.empty() ? richtext::TypingAt(paragraph, offset).format
-                            : richtext::FormatBehind(paragraph, offset);
+  const Position start = richtext::SelectedBy(document_, selection_).begin();
+  const richtext::Paragraph& paragraph = richtext::ParagraphAt(document_, start.paragraph);
+  return selection_.empty() ? richtext::TypingAt(paragraph, start.offset).format
+                            : richtext::FormatBehind(paragraph, start.offset);
 }
 
 void RichTextBox::Replace(Range range, std::string_view utf8) {
@@ -161,8 +178,7 @@ void RichTextBox::Replace(Range range, std::string_view utf8) {
   Typing typing = richtext::TypingAt(paragraph, range.from.offset);
   if (!range.empty()) typing.format = richtext::FormatBehind(paragraph, range.from.offset);
   Do(StepKind::kOther, [&](Editor& editor) {
-    editor.Erase(range);
-    const Position end = InsertPlain(editor, range.from, utf8, typing);
+    const Position end = InsertPlain(editor, editor.Erase(range), utf8, typing);
     return Range{end, end};
   });
 }
@@ -180,21 +196,29 @@ Font RichTextBox::FontOf(const CharacterFormat& format) const {
   return font;
 }
 
-Font RichTextBox::SelectionFont() const { return FontOf(StartFormat()); }
+FontParts RichTextBox::SelectionFont() const {
+  if (typing_format_ || selection_.empty()) return FontOf(StartFormat());
+  std::optional<FontParts> common;
+  richtext::ForEachFormat(document_, selection_, [&](const CharacterFormat& format) {
+    const FontParts font = FontOf(format);
+    common ? KeepCommon(font, *common) : void(common = font);
+  });
+  return common.value_or(FontOf(StartFormat()));
+}
 
-void RichTextBox::SetSelectionFont(const Font& font) {
-  if (locked()) return;
-  const CharacterFormat start = StartFormat();
-  const Font shown = FontOf(start);
+void RichTextBox::SetSelectionFont(const FontParts& parts) {
+  if (locked() || parts == FontParts()) return;
   ReformatSelection([&](CharacterFormat& format) {
-    format.font = font.name == shown.name ? start.font : font.name;
-    format.half_points =
-        std::clamp(static_cast<int>(std::lround(font.size * 2)), 1, richtext::kLargestHalfPoints);
-    format.bold = font.bold;
-    format.italic = font.italic;
-    SetUnderline(font.underline, format);
-    format.strike = font.strike;
-    format.color = font.color == shown.color ? start.color : ToRich(font.color);
+    if (parts.name) format.font = *parts.name;
+    if (parts.size) {
+      format.half_points = std::clamp(static_cast<int>(std::lround(*parts.size * 2)), 1,
+                                      richtext::kLargestHalfPoints);
+    }
+    format.bold = parts.bold.value_or(format.bold);
+    format.italic = parts.italic.value_or(format.italic);
+    if (parts.underline) SetUnderline(*parts.underline, format);
+    format.strike = parts.strike.value_or(format.strike);
+    if (parts.color) format.color = ToRich(*parts.color);
   });
 }
 
@@ -213,7 +237,8 @@ bool RichTextBox::ReformatSelection(const Reformatting& change) {
 }
 
 richtext::Alignment RichTextBox::SelectionAlignment() const {
-  return richtext::ParagraphAt(document_, selection_.from.paragraph).format.alignment;
+  const Position start = richtext::SelectedBy(document_, selection_).begin();
+  return richtext::ParagraphAt(document_, start.paragraph).format.alignment;
 }
 
 void RichTextBox::SetSelectionAlignment(richtext::Alignment alignment) {

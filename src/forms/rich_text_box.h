@@ -64,20 +64,21 @@ class RichTextBox : public Control {
 
   // Keeps the format of the range's first character; the cursor stands behind the new text.
   void Replace(richtext::Range range, std::string_view utf8);
+  // What all letters of the selection have in common; without a selection, of what is typed next.
+  FontParts SelectionFont() const;
+  // Nothing but these parts; what else the letters have stays.
+  void SetSelectionFont(const FontParts& parts);
   // At the start of the selection.
-  Font SelectionFont() const;
-  // Without a selection: for what is typed next. The colour of SelectionFont() means that of the
-  // selection's start, so text without a colour of its own stays so.
-  void SetSelectionFont(const Font& font);
   richtext::Alignment SelectionAlignment() const;
   void SetSelectionAlignment(richtext::Alignment alignment);
   bool CanUndo() const { return !locked() && history_.CanUndo(); }
   bool CanRedo() const { return !locked() && history_.CanRedo(); }
 
-  // A person's gestures.
+  // A person's gestures. richtext/selection.h says what a selection is in tables.
   void MoveSelection(richtext::Range range);
   // Replaces the selection. "\n" begins a new paragraph, "\f" a new page, U+2028 a new line.
   void Type(std::string_view utf8);
+  // Without a selection it stays within a cell and never takes a table.
   void Erase(richtext::Range range);
   // From the cursor back to there, or the selection. At the start of an item it ends the list.
   void Backspace(richtext::Position back_to);

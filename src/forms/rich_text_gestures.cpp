@@ -6,6 +6,7 @@
 #include "richtext/editor.h"
 #include "richtext/fragment.h"
 #include "richtext/paragraphs.h"
+#include "richtext/selection.h"
 
 namespace tarnwell::forms {
 namespace {
@@ -14,6 +15,7 @@ using richtext::CharacterFormat;
 using richtext::Editor;
 using richtext::Position;
 using richtext::Range;
+using richtext::Selected;
 using richtext::StepKind;
 
 // A key's worth of text; more came by a paste or from an input method.
@@ -45,16 +47,16 @@ void RichTextBox::MoveSelection(Range range) {
 
 void RichTextBox::Type(std::string_view utf8) {
   if (!CanEdit() || utf8.empty()) return;
-  richtext::Typing typing = richtext::TypingAt(
-      richtext::ParagraphAt(document_, selection_.from.paragraph), selection_.from.offset);
+  const Position start = richtext::SelectedBy(document_, selection_).begin();
+  richtext::Typing typing =
+      richtext::TypingAt(richtext::ParagraphAt(document_, start.paragraph), start.offset);
   typing.format = StartFormat();
   const bool is_key = IsOneCharacter(utf8) && utf8 != "\n";
   // A word and the blanks behind it are one step; what follows a blank begins the next.
   const bool is_blank = utf8 == " " || utf8 == "\t";
   if (!is_blank && after_blank_) history_.EndStep();
   const bool changed = Do(is_key ? StepKind::kTyping : StepKind::kOther, [&](Editor& editor) {
-    editor.Erase(selection_);
-    const Position end = InsertPlain(editor, selection_.from, utf8, typing);
+    const Position end = InsertPlain(editor, editor.Erase(selection_), utf8, typing);
     return Range{end, end};
   });
   after_blank_ = is_blank;
@@ -64,9 +66,11 @@ void RichTextBox::Type(std::string_view utf8) {
 void RichTextBox::Erase(Range range) {
   if (!CanEdit()) return;
   range = richtext::Clamped(document_, range);
+  const bool is_text = richtext::SelectedBy(document_, range).kind == Selected::Kind::kText;
+  if (selection_.empty() && !is_text) return;
   Tell(Do(selection_.empty() ? StepKind::kErasing : StepKind::kOther, [&](Editor& editor) {
-    editor.Erase(range);
-    return Range{range.from, range.from};
+    const Position at = editor.Erase(range);
+    return Range{at, at};
   }));
 }
 
@@ -87,8 +91,8 @@ void RichTextBox::Paste(const richtext::RichDocument& fragment) {
   richtext::RichDocument part = fragment;
   richtext::Detach(part);
   Tell(Do(StepKind::kOther, [&](Editor& editor) {
-    editor.Erase(selection_);
-    const Position end = editor.Insert(selection_.from, std::move(part));
+    const Position at = editor.Erase(selection_);
+    const Position end = editor.Insert(at, std::move(part));
     return Range{end, end};
   }));
 }
@@ -96,18 +100,23 @@ void RichTextBox::Paste(const richtext::RichDocument& fragment) {
 void RichTextBox::MoveText(Range range, Position to) {
   range = richtext::Clamped(document_, range);
   to = richtext::Clamped(document_, to);
-  if (!CanEdit() || range.empty() || (range.from <= to && to <= range.to)) return;
+  const Selected selected = richtext::SelectedBy(document_, range);
+  if (!CanEdit() || range.empty() || selected.Holds(to)) return;
   Tell(Do(StepKind::kOther, [&](Editor& editor) {
     richtext::RichDocument part = richtext::Slice(document_, range);
-    if (to < range.from) {
+    if (to < range.from || selected.kind == Selected::Kind::kCells) {
+      // Emptying cells moves no place, only the numbers of paragraphs behind them.
+      const richtext::Place place = richtext::FindPlace(document_, to.paragraph);
       editor.Erase(range);
+      to.paragraph = richtext::FirstParagraphOf(document_, place) + static_cast<int>(place.index);
       return Range{to, editor.Insert(to, std::move(part))};
     }
     const Position end = editor.Insert(to, std::move(part));
     const int count = paragraph_count();
     editor.Erase(range);
     const int gone = count - paragraph_count();
-    return Range{Moved(to, range, gone), Moved(end, range, gone)};
+    const Range& erased = selected.parts.front();
+    return Range{Moved(to, erased, gone), Moved(end, erased, gone)};
   }));
 }
 

@@ -154,12 +154,12 @@ void PrintPanel::ReportProgress(int done, int total) {
 }
 
 void PrintPanel::ChooseFont() {
-  const auto font = context_.dialogs.ChooseFont(context_.variables.PrintFont());
-  if (!font) return;
-  context_.variables.SetPrintFont(*font);
-  if (job_.font) {
-    settings::WritePrinterFont(context_.folder, *job_.font, {font->name, font->size});
-  }
+  const forms::Font start = context_.variables.PrintFont();
+  const auto chosen = context_.dialogs.ChooseFont(start);
+  if (!chosen) return;
+  const forms::Font font = forms::WithParts(start, *chosen);
+  context_.variables.SetPrintFont(font);
+  if (job_.font) settings::WritePrinterFont(context_.folder, *job_.font, {font.name, font.size});
   ShowFont();
   Rebuild();
 }

@@ -6,6 +6,7 @@
 
 #include "richtext/fragment.h"
 #include "richtext/list_numbering.h"
+#include "richtext/selection.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -20,49 +21,6 @@ bool HasSameLists(const Change& change) {
         const auto* const b = std::get_if<Paragraph>(&after);
         return a != nullptr && b != nullptr && a->format.list == b->format.list;
       });
-}
-
-// What the range leaves of a table in which it begins or ends: `first` and `last` are places in it.
-void ClearCells(const Place& first, int from, const Place& last, int to, Table& table) {
-  for (std::size_t row = first.row; row <= last.row; ++row) {
-    std::vector<Cell>& cells = table.rows[row].cells;
-    const std::size_t begin = row == first.row ? first.cell : 0;
-    const std::size_t end = row == last.row ? last.cell + 1 : cells.size();
-    for (std::size_t i = begin; i < end; ++i) {
-      std::vector<Paragraph>& paragraphs = cells[i].paragraphs;
-      const bool is_first = row == first.row && i == first.cell;
-      const bool is_last = row == last.row && i == last.cell;
-      const std::size_t last_index = is_last ? last.index : paragraphs.size() - 1;
-      const int last_offset = is_last ? to : ShownLength(paragraphs.back());
-      EraseInCell(is_first ? first.index : 0, is_first ? from : 0, last_index, last_offset,
-                  paragraphs);
-    }
-  }
-}
-
-Place FirstIn(std::size_t block) { return {block, true, 0, 0, 0}; }
-
-Place LastIn(const Table& table, std::size_t block) {
-  const std::size_t row = table.rows.size() - 1;
-  const std::size_t cell = table.rows[row].cells.size() - 1;
-  return {block, true, row, cell, table.rows[row].cells[cell].paragraphs.size() - 1};
-}
-
-void ClearTo(const Place& last, int to, Block& block) {
-  if (auto* const table = std::get_if<Table>(&block)) {
-    return ClearCells(FirstIn(last.block), 0, last, to, *table);
-  }
-  EraseShown(0, to, std::get<Paragraph>(block).runs);
-}
-
-void ClearFrom(const Place& first, int from, Block& block) {
-  if (auto* const table = std::get_if<Table>(&block)) {
-    const Place last = LastIn(*table, first.block);
-    const Cell& cell = table->rows[last.row].cells[last.cell];
-    return ClearCells(first, from, last, ShownLength(cell.paragraphs.back()), *table);
-  }
-  Paragraph& paragraph = std::get<Paragraph>(block);
-  EraseShown(from, ShownLength(paragraph), paragraph.runs);
 }
 
 }  // namespace
@@ -136,18 +94,22 @@ std::size_t Editor::ItemsFrom(Place place, std::size_t most) const {
   return count;
 }
 
-void Editor::Erase(const Range& range) {
-  if (range.empty()) return;
-  const Place first = FindPlace(document_, range.from.paragraph);
-  const Place last = FindPlace(document_, range.to.paragraph);
-  if (first.InSameCell(last) || (!first.in_table && !last.in_table)) {
-    EraseBetween(first, last, range);
+Position Editor::Erase(const Range& range) {
+  if (range.empty()) return range.from;
+  const Selected selected = SelectedBy(document_, range);
+  if (selected.kind == Selected::Kind::kTables) {
+    EraseTables(selected.parts.front());
   } else {
-    EraseAcrossTables(first, last, range);
+    // From the end on, so that the numbers before stay.
+    std::for_each(selected.parts.rbegin(), selected.parts.rend(),
+                  [this](const Range& part) { EraseBetween(part); });
   }
+  return selected.begin();
 }
 
-void Editor::EraseBetween(const Place& first, const Place& last, const Range& range) {
+void Editor::EraseBetween(const Range& range) {
+  const Place first = FindPlace(document_, range.from.paragraph);
+  const Place last = FindPlace(document_, range.to.paragraph);
   Paragraph paragraph = CopyAt(first);
   if (first == last) {
     EraseShown(range.from.offset, range.to.offset, paragraph.runs);
@@ -163,30 +125,25 @@ void Editor::EraseBetween(const Place& first, const Place& last, const Range& ra
   Replace(first, count, {std::move(paragraph)});
 }
 
-void Editor::EraseAcrossTables(const Place& first, const Place& last, const Range& range) {
-  const Place start{first.block};
-  std::vector<Block> after = BlocksAt(start, 1);
-  if (first.block == last.block) {
-    ClearCells(first, range.from.offset, last, range.to.offset, std::get<Table>(after.front()));
-    return Replace(start, 1, std::move(after));
+void Editor::EraseTables(const Range& range) {
+  const Place first = FindPlace(document_, range.from.paragraph);
+  const Place last = FindPlace(document_, range.to.paragraph);
+  if (!first.in_table && !last.in_table) return EraseBetween(range);
+  std::vector<Block> after;
+  if (!first.in_table) {
+    Paragraph head = CopyAt(first);
+    EraseShown(range.from.offset, ShownLength(head), head.runs);
+    after.emplace_back(std::move(head));
+  } else if (!last.in_table) {
+    Paragraph tail = CopyAt(last);
+    EraseShown(0, range.to.offset, tail.runs);
+    after.emplace_back(std::move(tail));
+  } else if (last.block + 1 == document_.blocks.size()) {
+    // Somewhere a person goes on writing.
+    after.emplace_back(CopyAt({last.block + 1}));
   }
-  ClearFrom(first, range.from.offset, after.front());
-  const auto is_paragraph = [](const Block& block) {
-    return std::holds_alternative<Paragraph>(block);
-  };
-  if (first.in_table && last.in_table) {
-    std::vector<Block> between = BlocksAt({first.block + 1}, last.block - first.block - 1);
-    const auto separator = std::ranges::find_if(between, is_paragraph);
-    if (separator != between.end()) {
-      ClearTo({}, ShownLength(std::get<Paragraph>(*separator)), *separator);
-      after.push_back(std::move(*separator));
-    }
-  }
-  if (CountAt(last) != 0) {
-    after.push_back(document_.blocks[last.block]);
-    ClearTo(last, range.to.offset, after.back());
-  }
-  Replace(start, last.block - first.block + CountAt(last), std::move(after));
+  const std::size_t end = last.in_table ? last.block + 1 : last.block + CountAt(last);
+  Replace({first.block}, end - first.block, std::move(after));
 }
 
 Position Editor::InsertText(Position at, std::string_view utf8, const Typing& typing) {
@@ -326,21 +283,26 @@ void Editor::ReformatIn(int number, const Range& range,
 }
 
 void Editor::Reformat(const Range& range, const std::function<void(CharacterFormat&)>& change) {
-  for (int number = range.from.paragraph; number <= range.to.paragraph; ++number) {
-    ReformatIn(number, range, [&](Paragraph& paragraph) {
-      const bool is_last = number == range.to.paragraph;
-      const int from = number == range.from.paragraph ? range.from.offset : 0;
-      richtext::Reformat(from, is_last ? range.to.offset : ShownLength(paragraph), change,
-                         paragraph.runs);
-      if (!is_last) change(paragraph.mark);
-    });
+  const Selected selected = SelectedBy(document_, range);
+  for (const Range& part : selected.parts) {
+    for (int number = part.from.paragraph; number <= part.to.paragraph; ++number) {
+      ReformatIn(number, part, [&](Paragraph& paragraph) {
+        const bool is_last = number == part.to.paragraph;
+        const int from = number == part.from.paragraph ? part.from.offset : 0;
+        richtext::Reformat(from, is_last ? part.to.offset : ShownLength(paragraph), change,
+                           paragraph.runs);
+        if (!is_last || selected.kind == Selected::Kind::kCells) change(paragraph.mark);
+      });
+    }
   }
 }
 
 void Editor::ReformatParagraphs(const Range& range,
                                 const std::function<void(ParagraphFormat&)>& change) {
-  for (int number = range.from.paragraph; number <= range.to.paragraph; ++number) {
-    ReformatIn(number, range, [&change](Paragraph& paragraph) { change(paragraph.format); });
+  for (const Range& part : SelectedBy(document_, range).parts) {
+    for (int number = part.from.paragraph; number <= part.to.paragraph; ++number) {
+      ReformatIn(number, part, [&change](Paragraph& paragraph) { change(paragraph.format); });
+    }
   }
 }
 

@@ -14,16 +14,17 @@
 
 namespace tarnwell::richtext {
 
-// Ranges and positions are Clamped() ones of the document. What isn't shown stays, unless whole
-// paragraphs go with it. No edit changes the grid of a table, and none makes two tables meet.
+// Ranges and positions are Clamped() ones of the document; selection.h says what a range takes in.
+// What isn't shown stays, unless whole paragraphs go with it. No edit changes the grid of a table,
+// and none makes two tables meet.
 class Editor {
  public:
   explicit Editor(RichDocument& document)
       : document_(document), fields_before_(document.fields.size()) {}
 
-  // Joins what is left of the first and of the last paragraph; tables between them go. A range that
-  // begins or ends inside a table clears the cells that it touches.
-  void Erase(const Range& range);
+  // Joins what is left of the first and of the last paragraph; tables between them go. Of cells it
+  // takes the contents. Gives the position where it was.
+  Position Erase(const Range& range);
 
   // One line of text. Each of these gives the position behind what was inserted.
   Position InsertText(Position at, std::string_view utf8, const Typing& typing);
@@ -59,8 +60,10 @@ class Editor {
   // A copy, in the document's default font for the paragraph that isn't stored.
   Paragraph CopyAt(const Place& place) const;
 
-  void EraseBetween(const Place& first, const Place& last, const Range& range);
-  void EraseAcrossTables(const Place& first, const Place& last, const Range& range);
+  // Within a cell, or from one paragraph outside tables to another.
+  void EraseBetween(const Range& range);
+  // Takes the tables in which it begins and ends.
+  void EraseTables(const Range& range);
   Position InsertInline(const Place& place, Position at, Paragraph inserted);
   Position InsertBlocks(const Place& place, Position at, std::vector<Block> inserted);
   void TakeFields(RichDocument& fragment);

@@ -8,6 +8,7 @@
 #include "richtext/paragraphs.h"
 #include "richtext/run_edit.h"
 #include "richtext/runs.h"
+#include "richtext/selection.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -27,55 +28,56 @@ void ForEachParagraphOf(std::vector<Block>& blocks, Visit visit) {
   }
 }
 
-// Leaves of the table what stands at or before `last`, up to `to` in its paragraph.
-void CutBehind(const Place& last, int to, Table& table) {
-  table.rows.resize(last.row + 1);
-  std::vector<Cell>& cells = table.rows.back().cells;
-  for (std::size_t i = last.cell + 1; i < cells.size(); ++i) ClearCell(cells[i].paragraphs);
-  std::vector<Paragraph>& paragraphs = cells[last.cell].paragraphs;
-  paragraphs.resize(last.index + 1);
-  paragraphs.back().runs = Split(paragraphs.back().runs, to).head;
+// A part of a table by itself, where the table's first column was.
+Table CellsOf(const Table& table, const Place& first, const Place& last) {
+  Table part;
+  const std::vector<RowPart> rows = CellsBetween(table, first, last);
+  const auto left_of = [&table](const RowPart& row) {
+    const TableRow& whole = table.rows[row.row];
+    return row.begin == 0 ? whole.left_edge : whole.cells[row.begin - 1].right_edge;
+  };
+  for (const RowPart& row : rows) {
+    TableRow& copy = part.rows.emplace_back(table.rows[row.row]);
+    const int shift = left_of(rows.front()) - table.rows[rows.front().row].left_edge;
+    copy.left_edge = left_of(row) - shift;
+    copy.cells.erase(copy.cells.begin() + static_cast<std::ptrdiff_t>(row.end), copy.cells.end());
+    copy.cells.erase(copy.cells.begin(),
+                     copy.cells.begin() + static_cast<std::ptrdiff_t>(row.begin));
+    for (Cell& cell : copy.cells) cell.right_edge -= shift;
+  }
+  return part;
 }
 
-void CutBefore(const Place& first, int from, Table& table) {
-  std::vector<Cell>& cells = table.rows[first.row].cells;
-  for (std::size_t i = 0; i < first.cell; ++i) ClearCell(cells[i].paragraphs);
-  std::vector<Paragraph>& paragraphs = cells[first.cell].paragraphs;
-  paragraphs.erase(paragraphs.begin(),
-                   paragraphs.begin() + static_cast<std::ptrdiff_t>(first.index));
-  paragraphs.front().runs = Split(paragraphs.front().runs, from).tail;
-  table.rows.erase(table.rows.begin(), table.rows.begin() + static_cast<std::ptrdiff_t>(first.row));
-}
+void CutBehind(int to, Paragraph& paragraph) { paragraph.runs = Split(paragraph.runs, to).head; }
 
-void CutBehind(const Place& last, int to, Block& block) {
-  if (auto* const table = std::get_if<Table>(&block)) return CutBehind(last, to, *table);
-  auto& paragraph = std::get<Paragraph>(block);
-  paragraph.runs = Split(paragraph.runs, to).head;
-}
-
-void CutBefore(const Place& first, int from, Block& block) {
-  if (auto* const table = std::get_if<Table>(&block)) return CutBefore(first, from, *table);
-  auto& paragraph = std::get<Paragraph>(block);
+void CutBefore(int from, Paragraph& paragraph) {
   paragraph.runs = Split(paragraph.runs, from).tail;
 }
 
 std::vector<Block> Cut(const RichDocument& document, const Range& range) {
-  const Place first = FindPlace(document, range.from.paragraph);
-  const Place last = FindPlace(document, range.to.paragraph);
+  const Selected selected = SelectedBy(document, range);
+  const Range& part = selected.parts.front();
+  const Place first = FindPlace(document, part.from.paragraph);
+  const Place last = FindPlace(document, selected.parts.back().to.paragraph);
+  if (selected.kind == Selected::Kind::kCells) {
+    const auto& table = std::get<Table>(document.blocks[first.block]);
+    return {CellsOf(table, FindPlace(document, range.from.paragraph),
+                    FindPlace(document, range.to.paragraph))};
+  }
   std::vector<Block> blocks;
-  if (first.InSameCell(last)) {
+  if (selected.kind == Selected::Kind::kText && first.in_table) {
     const std::vector<Paragraph>& paragraphs = CellAt(document, first).paragraphs;
     blocks.assign(paragraphs.begin() + static_cast<std::ptrdiff_t>(first.index),
                   paragraphs.begin() + static_cast<std::ptrdiff_t>(last.index) + 1);
-    CutBehind({}, range.to.offset, blocks.back());
-    CutBefore({}, range.from.offset, blocks.front());
-    return blocks;
+  } else {
+    const std::size_t end = std::min(last.block + 1, document.blocks.size());
+    for (std::size_t i = first.block; i < end; ++i) blocks.push_back(document.blocks[i]);
   }
-  const std::size_t end = std::min(last.block + 1, document.blocks.size());
-  for (std::size_t i = first.block; i < end; ++i) blocks.push_back(document.blocks[i]);
   if (blocks.empty()) return blocks;
-  if (last.block < document.blocks.size()) CutBehind(last, range.to.offset, blocks.back());
-  CutBefore(first, range.from.offset, blocks.front());
+  auto* const tail = std::get_if<Paragraph>(&blocks.back());
+  if (tail != nullptr && last.block < document.blocks.size()) CutBehind(part.to.offset, *tail);
+  if (auto* const head = std::get_if<Paragraph>(&blocks.front()))
+    CutBefore(part.from.offset, *head);
   return blocks;
 }
 
@@ -187,19 +189,6 @@ Paragraph Joined(const Paragraph& first, int from, const Paragraph& last, int to
   joined.runs = std::move(runs);
   AppendRuns(std::move(rest), joined.runs);
   return joined;
-}
-
-void EraseInCell(std::size_t first, int from, std::size_t last, int to,
-                 std::vector<Paragraph>& paragraphs) {
-  if (first == last) return EraseShown(from, to, paragraphs[first].runs);
-  paragraphs[first] = Joined(paragraphs[first], from, paragraphs[last], to);
-  paragraphs.erase(paragraphs.begin() + static_cast<std::ptrdiff_t>(first) + 1,
-                   paragraphs.begin() + static_cast<std::ptrdiff_t>(last) + 1);
-}
-
-void ClearCell(std::vector<Paragraph>& paragraphs) {
-  paragraphs.resize(1);
-  EraseShown(0, ShownLength(paragraphs.front()), paragraphs.front().runs);
 }
 
 }  // namespace tarnwell::richtext

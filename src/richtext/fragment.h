@@ -10,8 +10,8 @@
 
 namespace tarnwell::richtext {
 
-// What the range shows, as a document with the same tables. Of a table that it ends in come the
-// rows that it touches, with the texts of cells outside it empty. What isn't shown stays behind.
+// What the range selects, as a document; cells come as a table of their own. What isn't shown stays
+// behind.
 RichDocument Slice(const RichDocument& document, const Range& range);
 
 // Drops what means something only in the document that the fragment comes from: styles, numbers of
@@ -24,10 +24,5 @@ std::vector<Block> WithoutTables(std::vector<Block> blocks);
 // Joins what is left of `last` from `to` on to what is left of `first` up to `from`; what isn't
 // shown between stays. The paragraph's format is that of the first, if anything is left of it.
 Paragraph Joined(const Paragraph& first, int from, const Paragraph& last, int to);
-
-// Takes out what is shown from one place of a cell to another.
-void EraseInCell(std::size_t first, int from, std::size_t last, int to,
-                 std::vector<Paragraph>& paragraphs);
-void ClearCell(std::vector<Paragraph>& paragraphs);
 
 }  // namespace tarnwell::richtext

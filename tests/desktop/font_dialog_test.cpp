@@ -6,9 +6,9 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
@@ -57,19 +57,43 @@ QLineEdit* SizeField(QWidget* dialog) {
   return nullptr;
 }
 
-TEST(FontDialogue, WhatItStartsOnComesBackWhenItIsAccepted) {
-  MessageDialogs dialogs;
-  WhenModal([](QWidget* modal) { Press(modal, QDialogButtonBox::Ok); });
-  EXPECT_EQ(dialogs.ChooseFont(Start()), Start());
+QString FamilyShown(QWidget* dialog) {
+  for (auto* list : dialog->findChildren<QListWidget*>()) {
+    if (list->accessibleName().isEmpty()) {
+      const auto chosen = list->selectedItems();
+      return chosen.isEmpty() ? QString() : chosen.front()->text();
+    }
+  }
+  return QStringLiteral("no list");
 }
 
-TEST(FontDialogue, AFontThatThisMachineLacksKeepsItsNameAndStyle) {
+TEST(FontDialogue, OpensOnTheFontInUseAndChangesNothingByItself) {
   forms::Font start = Start();
-  start.name = "Times Old Roman";
-  start.bold = false;
+  for (const char* const name : {start.name.c_str(), "Times Old Roman"}) {
+    start.name = name;
+    MessageDialogs dialogs;
+    WhenModal([name](QWidget* modal) {
+      EXPECT_EQ(ToCore(FamilyShown(modal)), name);
+      EXPECT_EQ(SizeField(modal)->text(), QStringLiteral("12"));
+      EXPECT_TRUE(Box(modal, "Bold")->isChecked() && !Box(modal, "Italic")->isChecked());
+      Press(modal, QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(dialogs.ChooseFont(start), forms::FontParts());
+  }
+}
+
+TEST(FontDialogue, WhatIsMixedIsShownOpenAndStaysSo) {
   MessageDialogs dialogs;
-  WhenModal([](QWidget* modal) { Press(modal, QDialogButtonBox::Ok); });
-  EXPECT_EQ(dialogs.ChooseFont(start), start);
+  WhenModal([](QWidget* modal) {
+    EXPECT_EQ(FamilyShown(modal), QString());
+    EXPECT_EQ(SizeField(modal)->text(), QString());
+    EXPECT_EQ(Box(modal, "Underline")->checkState(), Qt::PartiallyChecked);
+    Box(modal, "Bold")->click();
+    Press(modal, QDialogButtonBox::Ok);
+  });
+  forms::FontParts bold;
+  bold.bold = true;
+  EXPECT_EQ(dialogs.ChooseFont({}), bold);
 }
 
 TEST(FontDialogue, WhatIsChosenComesBack) {
@@ -96,7 +120,7 @@ TEST(FontDialogue, WhatIsChosenComesBack) {
       if (button->text() == QLatin1String("&Color...")) button->click();
     }
   });
-  forms::Font expected = Start();
+  forms::FontParts expected;
   expected.size = 24;
   expected.strike = true;
   expected.underline = false;

@@ -112,7 +112,7 @@ TEST_F(OutsideFiles, APasteOpensNone) {
   const QString drawing = QStringLiteral("data:image/png;base64,") +
                           QString::fromLatin1(DrawingOf(trap_.File("picture.svg")).toBase64());
   const QString pages[] = {
-      QStringLiteral("<link rel=\"stylesheet\" href=\"%1\"/><p>x").arg(css),
+      QStringLiteral("<link rel=\"stylesheet\" type=\"text/css\" href=\"%1\"/><p>x").arg(css),
       QStringLiteral("<style>@import url(%1);</style><p>x").arg(css),
       QStringLiteral("<style>@import \"%1\";</style><p>x").arg(trap_.File("page.css")),
       QStringLiteral("<body background=\"%1\"><p>x").arg(picture),
@@ -177,7 +177,7 @@ TEST_F(OutsideFiles, TheHelpOpensItsOwnPagesOnly) {
       QStringLiteral("http://localhost/page.html"),
       QStringLiteral("linked.html"),
       QStringLiteral("notes.txt")};
-  QString page = QStringLiteral("<link rel=\"stylesheet\" href=\"%1\"/><img src=\"%2\">")
+  QString page = QStringLiteral("<link type=\"text/css\" href=\"%1\"/><img src=\"%2\">")
                      .arg(trap_.Address("page.css"), trap_.Address("picture.svg"));
   for (const QString& link : outside)
     page += QStringLiteral("<p><a href=\"%1\">outside</a>").arg(link);

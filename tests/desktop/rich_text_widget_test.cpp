@@ -352,6 +352,67 @@ TEST_F(RichTextWidgetTest, BlocksStayInStepWithTheParagraphsOfAnUnevenTable) {
   }
 }
 
+// Whether something in the paragraph's place has the colour of a selection.
+bool IsPainted(RichTextView& view, int paragraph) {
+  const QTextBlock block = view.document()->findBlockByNumber(paragraph);
+  const QRect place = view.document()->documentLayout()->blockBoundingRect(block).toRect();
+  const QImage image = view.viewport()->grab().toImage().copy(place);
+  const QRgb color = view.palette().color(QPalette::Highlight).rgb();
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixel(x, y) == color) return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(RichTextWidgetTest, TheCellsPaintedAreTheCellsSelected) {
+  const auto mouse = [this](QEvent::Type type, int paragraph, Qt::MouseButtons buttons) {
+    const QTextBlock block = view_->document()->findBlockByNumber(paragraph);
+    const QPointF place = view_->cursorRect(QTextCursor(block)).center() + QPointF(3, 0);
+    QMouseEvent event(type, place, view_->viewport()->mapToGlobal(place),
+                      type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, buttons, {});
+    QCoreApplication::sendEvent(view_->viewport(), &event);
+  };
+  const char* const sketch = "xx|[aa,bb,cc;dd,ee,ff;gg,hh,ii]|yy";
+  const struct {
+    int from;
+    int to;
+    const char* selected;
+    const char* erased;
+  } drags[] = {
+      {1, 5, "aa\nbb\ndd\nee", "xx|[,,cc;,,ff;gg,hh,ii]|yy"},
+      {5, 1, "aa\nbb\ndd\nee", "xx|[,,cc;,,ff;gg,hh,ii]|yy"},
+      {3, 8, "bb\ncc\nee\nff\nhh\nii", nullptr},
+      {8, 3, "bb\ncc\nee\nff\nhh\nii", nullptr},
+      {1, 3, "aa\nbb\ncc", "xx|[,,;dd,ee,ff;gg,hh,ii]|yy"},
+      {5, 10, nullptr, nullptr},
+      {10, 5, nullptr, nullptr},
+      {0, 5, nullptr, nullptr},
+  };
+  for (const auto& drag : drags) {
+    SCOPED_TRACE(std::to_string(drag.from) + " to " + std::to_string(drag.to));
+    Show(sketch);
+    mouse(QEvent::MouseButtonPress, drag.from, Qt::LeftButton);
+    mouse(QEvent::MouseMove, drag.to, Qt::LeftButton);
+    mouse(QEvent::MouseButtonRelease, drag.to, Qt::NoButton);
+    if (drag.selected != nullptr) {
+      EXPECT_EQ(box_.SelectedText(), drag.selected);
+    }
+    ASSERT_FALSE(box_.selection().empty());
+    Key(Qt::Key_B, Qt::ControlModifier);
+    const richtext::RichDocument bold = box_.document();
+    for (int i = 1; i < 10; ++i) {
+      const bool is_bold = richtext::ParagraphAt(bold, i).runs.front().format.bold;
+      EXPECT_EQ(IsPainted(*view_, i), is_bold) << i;
+    }
+    if (!drag.erased) continue;
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(text(), drag.erased);
+  }
+}
+
 class RandomEditsInAWidgetTest : public RichTextWidgetTest,
                                  public ::testing::WithParamInterface<const char*> {
  protected:

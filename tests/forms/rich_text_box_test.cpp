@@ -139,7 +139,7 @@ TEST_F(RichTextBoxTest, TypingMakesParagraphsLinesAndPagesAndNothingUnseen) {
 TEST_F(RichTextBoxTest, TheFormatOfWhatIsTypedNextHoldsUntilTheCursorMoves) {
   Show("ab", {0, 1});
   box.ToggleBold();
-  EXPECT_TRUE(box.SelectionFont().bold);
+  EXPECT_EQ(box.SelectionFont().bold, true);
   EXPECT_FALSE(box.CanUndo());
   TypeKeys("xy");
   EXPECT_EQ(text(), "a*xy*b");
@@ -149,24 +149,115 @@ TEST_F(RichTextBoxTest, TheFormatOfWhatIsTypedNextHoldsUntilTheCursorMoves) {
   EXPECT_EQ(text(), "a*xy*bz");
 }
 
-TEST_F(RichTextBoxTest, AFontKeepsTheColourThatTextHasFromTheView) {
-  ShowSelected("ab", {{0, 0}, {0, 1}});
+TEST_F(RichTextBoxTest, OnlyTheChosenPartsOfAFontChange) {
+  box.SetDocument(richtext::ReadRichText(
+      "{\\rtf1{\\fonttbl{\\f0 Times;}{\\f1 Arial;}}{\\colortbl;\\red255;}\\pard\\fs20 a"
+      "{\\f1\\b\\cf1 b}{\\fs28\\ul\\strike\\i c}\\par}"));
   box.SetTextColor(kPureBlue);
-  Font font = box.SelectionFont();
-  EXPECT_EQ(font.color, kPureBlue);
-  font.name = "Arial";
-  font.size = 8.5;
-  box.SetSelectionFont(font);
-  const richtext::CharacterFormat format = richtext::ParagraphAt(box.document(), 0).runs[0].format;
-  EXPECT_EQ(format.font, "Arial");
-  EXPECT_EQ(format.half_points, 17);
-  EXPECT_EQ(format.color, std::nullopt);
-  font.color = kYellow;
-  box.SetSelectionFont(font);
-  EXPECT_EQ(box.SelectionFont(), font);
-  box.Undo();
-  box.Undo();
-  EXPECT_EQ(box.document(), FromSketch("ab"));
+  box.Select({{0, 0}, {0, 1}});
+  FontParts common = Font{.name = "Times", .size = 10, .color = kPureBlue};
+  EXPECT_EQ(box.SelectionFont(), common);
+  box.Select({{0, 0}, {0, 2}});
+  common.name.reset();
+  common.bold.reset();
+  common.color.reset();
+  EXPECT_EQ(box.SelectionFont(), common);
+  box.Select({{0, 0}, {0, 3}});
+  EXPECT_EQ(box.SelectionFont(), FontParts());
+
+  const richtext::RichDocument loaded = box.document();
+  const auto formats = [](const richtext::RichDocument& document) {
+    std::vector<richtext::CharacterFormat> all;
+    for (const auto& run : richtext::ParagraphAt(document, 0).runs) all.push_back(run.format);
+    return all;
+  };
+  const auto change = [&](auto set_part, auto set_format) {
+    FontParts parts;
+    set_part(parts);
+    box.SetSelectionFont(parts);
+    auto expected = formats(loaded);
+    std::ranges::for_each(expected, set_format);
+    EXPECT_EQ(formats(box.document()), expected);
+    box.Undo();
+    EXPECT_EQ(box.document(), loaded);
+  };
+  change([](auto& parts) { parts.name = "Courier"; },
+         [](auto& format) { format.font = "Courier"; });
+  change([](auto& parts) { parts.size = 8.5; }, [](auto& format) { format.half_points = 17; });
+  change([](auto& parts) { parts.bold = true; }, [](auto& format) { format.bold = true; });
+  change([](auto& parts) { parts.italic = false; }, [](auto& format) { format.italic = false; });
+  change([](auto& parts) { parts.strike = true; }, [](auto& format) { format.strike = true; });
+  change([](auto& parts) { parts.underline = true; },
+         [](auto& format) { format.underline = richtext::Underline::kSingle; });
+  change([](auto& parts) { parts.color = kPureBlue; },
+         [](auto& format) {
+           format.color = richtext::Color{0, 0, 255};
+         });
+  box.SetSelectionFont({});
+  EXPECT_FALSE(box.CanUndo());
+}
+
+TEST_F(RichTextBoxTest, SelectedCellsAreEditedAndNoOthers) {
+  const char* const before = "x|[a,b,c;d,e,f]|y";
+  const Range ranges[] = {{{1, 1}, {5, 0}}, {{2, 0}, {4, 1}}};  // drawn forwards and backwards
+  const auto expect = [&](const char* after, const char* what) {
+    EXPECT_EQ(text(), after) << what;
+    box.Undo();
+    EXPECT_EQ(text(), before) << what;
+  };
+  for (const Range& range : ranges) {
+    ShowSelected(before, range);
+    EXPECT_EQ(box.SelectedText(), "a\nb\nd\ne");
+    EXPECT_EQ(Sketch(box.SelectedPart()), "[a,b;d,e]");
+    box.Erase(box.selection());
+    expect("x|[,,c;,,f]|y", "erased");
+    box.Type("z");
+    expect("x|[z,,c;,,f]|y", "typed over");
+    box.Paste(FromSketch("*p*"));
+    expect("x|[*p*,,c;,,f]|y", "pasted over");
+    box.ToggleBold();
+    expect("x|[*a*,*b*,c;*d*,*e*,f]|y", "bold");
+    FontParts parts;
+    parts.bold = true;
+    box.SetSelectionFont(parts);
+    expect("x|[*a*,*b*,c;*d*,*e*,f]|y", "font");
+    box.SetSelectionAlignment(richtext::Alignment::kRight);
+    for (int i = 0; i < box.paragraph_count(); ++i) {
+      const bool selected = i == 1 || i == 2 || i == 4 || i == 5;
+      EXPECT_EQ(
+          richtext::ParagraphAt(box.document(), i).format.alignment == richtext::Alignment::kRight,
+          selected)
+          << i;
+    }
+    box.Undo();
+    box.MoveText(range, {7, 1});
+    expect("x|[,,c;,,f]|y|[a,b;d,e]|", "moved");
+    box.MoveText(range, {3, 1});
+    expect("x|[,,ca\tb/d\te;,,f]|y", "moved into the table");
+    box.MoveText(range, {4, 1});
+    EXPECT_EQ(text(), before);
+  }
+}
+
+TEST_F(RichTextBoxTest, OverATablesEdgeAWholeTableIsSelected) {
+  ShowSelected("xy|[a,b;c,d]|z", {{0, 1}, {2, 0}});
+  EXPECT_EQ(box.SelectedText(), "y\na\nb\nc\nd");
+  box.ToggleBold();
+  EXPECT_EQ(text(), "x*y*|[*a*,*b*;*c*,*d*]|z");
+  box.Type("v");
+  EXPECT_EQ(text(), "x*v*|z");
+}
+
+TEST_F(RichTextBoxTest, AKeyWithoutASelectionErasesNoTable) {
+  const char* const before = "ab|[c,d]|e";
+  const Range ranges[] = {{{0, 2}, {3, 0}}, {{0, 2}, {1, 0}}, {{1, 1}, {2, 0}}, {{2, 1}, {3, 0}}};
+  for (const Range& range : ranges) {
+    Show(before, range.from);
+    box.Erase(range);
+    Show(before, range.to);
+    box.Backspace(range.from);
+    EXPECT_EQ(text(), before);
+  }
 }
 
 TEST_F(RichTextBoxTest, BackspaceAtAnItemsStartEndsTheListThere) {

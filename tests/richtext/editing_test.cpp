@@ -3,6 +3,7 @@
 #include "richtext/editor.h"
 #include "richtext/fragment.h"
 #include "richtext/rich_text_writer.h"
+#include "richtext/selection.h"
 #include "richtext/sketch.h"
 
 namespace tarnwell::richtext {
@@ -26,12 +27,19 @@ TEST(Erasing, JoinsParagraphsAndNeverBreaksATable) {
       {"ab|middle|cd", {{0, 1}, {2, 1}}, "ad"},
       {"ab|[c,d]|ef", {{0, 1}, {3, 1}}, "af"},
       {"[a/b,c]", {{0, 1}, {1, 0}}, "[ab,c]"},
-      {"[ab,c;d,ef]|x", {{0, 1}, {3, 1}}, "[a,;,f]|x"},
-      {"ab|[cd,e]|f", {{0, 1}, {1, 1}}, "a|[d,e]|f"},
-      {"ab|c|[d,e;f,g]", {{0, 1}, {4, 0}}, "a|[,;f,g]"},
-      {"[a,bc/d]|ef", {{1, 1}, {3, 1}}, "[a,b]|f"},
-      {"[a,b]|c|d|[e,f]", {{1, 0}, {4, 1}}, "[a,]||[,f]"},
+      {"[ab,c;d,ef]|x", {{0, 1}, {3, 0}}, "[,;,]|x"},
+      {"[ab/x,c,d;e,f,g]", {{1, 1}, {5, 1}}, "[,,d;,,g]"},
+      {"[ab,c,d;e,f,g]", {{1, 1}, {3, 1}}, "[,,d;,,g]"},
+      {"ab|[cd,e]|f", {{0, 1}, {1, 1}}, "a|f"},
+      {"ab|[cd,e]|fg", {{0, 2}, {3, 0}}, "ab|fg"},
+      {"ab|[cd,e]|fg", {{0, 2}, {3, 1}}, "ab|g"},
+      {"ab|[cd,e]|fg", {{0, 1}, {3, 0}}, "a|fg"},
+      {"ab|c|[d,e;f,g]", {{0, 1}, {4, 0}}, "a"},
+      {"[a,bc/d]|ef", {{1, 1}, {3, 1}}, "f"},
+      {"[a,b]|c|d|[e,f]", {{1, 0}, {4, 1}}, ""},
       {"a|[b,c]", {{0, 0}, {3, 0}}, ""},
+      {"a|[b,c]", {{1, 0}, {3, 0}}, "a|"},
+      {"|[b,c]|", {{0, 0}, {3, 0}}, ""},
       {"1.>a|2.>b|3.>c|x|3.>y", {{0, 1}, {1, 0}}, "1.>ab|2.>c|x|3.>y"},
       {"(1)>a|-|(2)>b", {{0, 1}, {1, 1}}, "(1)>a|(2)>b"},
   };
@@ -88,6 +96,33 @@ TEST(Breaking, AParagraphPartsAndAListGoesOn) {
   }
 }
 
+TEST(Selecting, CellsAreTheOnesThatAGridHasBetweenTheTwo) {
+  const std::string rtf =
+      "{\\rtf1\\trowd\\cellx1000\\cellx2000\\cellx3000\\pard\\intbl a\\cell b\\cell c\\cell\\row"
+      "\\trowd\\cellx2030\\cellx3000\\pard\\intbl d\\cell e\\cell\\row"
+      "\\trowd\\cellx1000\\cellx2000\\cellx3000\\pard\\intbl f\\par g\\cell\\cell "
+      "h\\cell\\row\\pard x}";
+  const struct {
+    Range range;
+    const char* text;
+  } cases[] = {
+      {{{0, 1}, {1, 0}}, "a\nb"},
+      {{{1, 0}, {2, 0}}, "b\nc"},
+      {{{1, 0}, {5, 1}}, "a\nb\nd\nf\ng\n"},
+      {{{2, 0}, {4, 0}}, "c\ne"},
+      {{{1, 1}, {7, 0}}, "b\n"},
+      {{{2, 1}, {5, 0}}, "a\nb\nc\nd\ne\nf\ng\n\nh"},
+      {{{5, 0}, {6, 1}}, "f\ng"},
+      {{{4, 1}, {9, 1}}, "a\nb\nc\nd\ne\nf\ng\n\nh\nx"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(SelectedText(ReadRichText(rtf), c.range), c.text);
+  }
+  const RichDocument cells = Slice(ReadRichText(rtf), {{1, 0}, {2, 0}});
+  const TableRow& row = std::get<Table>(cells.blocks.front()).rows.front();
+  EXPECT_EQ(row.cells[1].right_edge - row.left_edge, 2000);
+}
+
 TEST(Inserting, AFragmentGoesInlineOrPartsTheParagraph) {
   const struct {
     const char* before;
@@ -130,8 +165,10 @@ TEST(Slicing, TakesWhatTheRangeShows) {
       {"ab{}cd|ef", {{0, 1}, {0, 3}}, "bc"},
       {"ab|cd", {{0, 1}, {1, 1}}, "b|c"},
       {"[ab/cd,e]", {{0, 1}, {1, 1}}, "b|c"},
-      {"[a,b;c,d;e,f]|g", {{3, 0}, {6, 1}}, "[,d;e,f]|g"},
-      {"x|[a,b;c,d]", {{0, 0}, {3, 0}}, "x|[a,b;,]"},
+      {"[a,b;c,d;e,f]|g", {{3, 0}, {6, 1}}, "[a,b;c,d;e,f]|g"},
+      {"x|[a,b;c,d]", {{0, 0}, {3, 0}}, "x|[a,b;c,d]"},
+      {"x|[a,b;c,d]|y", {{0, 1}, {5, 0}}, "[a,b;c,d]"},
+      {"[a,b,c;d,e,f;g,h,i]", {{2, 1}, {4, 0}}, "[b,c;e,f]"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(Sketch(Slice(FromSketch(c.document), c.range)), c.slice) << c.document;

@@ -71,8 +71,8 @@ class ScriptedDialogs : public forms::Dialogs {
     return chosen;
   }
 
-  void ExpectFont(std::optional<forms::Font> chosen) { fonts_.push_back(chosen); }
-  std::optional<forms::Font> ChooseFont(const forms::Font& start) override {
+  void ExpectFont(std::optional<forms::FontParts> chosen) { fonts_.push_back(chosen); }
+  std::optional<forms::FontParts> ChooseFont(const forms::FontParts& start) override {
     last_start_font = start;
     if (fonts_.empty()) {
       ADD_FAILURE() << "unexpected font dialogue";
@@ -85,12 +85,12 @@ class ScriptedDialogs : public forms::Dialogs {
 
   forms::MessageBox last;
   forms::Color last_start_color = 0;
-  forms::Font last_start_font;
+  forms::FontParts last_start_font;
 
  private:
   std::deque<Expected> expected_;
   std::deque<std::optional<forms::Color>> colors_;
-  std::deque<std::optional<forms::Font>> fonts_;
+  std::deque<std::optional<forms::FontParts>> fonts_;
 };
 
 // Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.

@@ -1,31 +1,48 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QDialog>
-#include <QFontDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
-#include <string>
+#include <optional>
 
 #include "forms/page.h"
 
 namespace tarnwell::desktop {
 
-// Qt's choice of a font, with the colour that a text has beside it. A font that the machine doesn't
-// have keeps its name unless another is chosen.
+// Chooses a font with the colour that a text has beside it. What the start is open in is shown as
+// open, and a font that the machine doesn't have stands in the list by its name.
 class FontDialog : public QDialog {
  public:
-  FontDialog(const forms::Font& start, QWidget* parent);
+  FontDialog(const forms::FontParts& start, QWidget* parent);
 
-  forms::Font font() const;
+  // What is chosen other than the start.
+  forms::FontParts changes() const;
 
  private:
+  QLayout* Families();
+  QLayout* Sizes();
+  QLayout* Styles();
+  QLayout* SampleAndButtons();
+  std::optional<std::string> Family() const;
+  std::optional<double> Size() const;
+  forms::FontParts Chosen() const;
   void AskForColor();
-  void ShowColor();
+  void ShowSample();
 
-  std::string start_name_;
-  QString start_family_;  // in which it is shown
-  QFontDialog* choice_;
+  forms::FontParts start_;
+  QListWidget* families_;
+  QLineEdit* size_;
+  QListWidget* sizes_;
+  QCheckBox* bold_;
+  QCheckBox* italic_;
+  QCheckBox* strike_;
+  QCheckBox* underline_;
+  QLabel* sample_;
   QPushButton* color_button_;
-  QColor color_;
+  std::optional<forms::Color> color_;
 };
 
 }  // namespace tarnwell::desktop

@@ -112,11 +112,11 @@ std::optional<forms::Color> MessageDialogs::ChooseColor(forms::Color start) {
   return FromQColor(chosen);
 }
 
-std::optional<forms::Font> MessageDialogs::ChooseFont(const forms::Font& start) {
+std::optional<forms::FontParts> MessageDialogs::ChooseFont(const forms::FontParts& start) {
   const ModalQuestion question;
   FontDialog dialog(start, question.asker());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-  return dialog.font();
+  return dialog.changes();
 }
 
 }  // namespace tarnwell::desktop

@@ -8,7 +8,7 @@ class MessageDialogs : public forms::Dialogs {
  public:
   forms::Answer Message(const forms::MessageBox& box) override;
   std::optional<forms::Color> ChooseColor(forms::Color start) override;
-  std::optional<forms::Font> ChooseFont(const forms::Font& start) override;
+  std::optional<forms::FontParts> ChooseFont(const forms::FontParts& start) override;
 };
 
 }  // namespace tarnwell::desktop

@@ -24,6 +24,7 @@ class PictureCache {
   // the same file at the same size, in pixels of the screen.
   QPixmap At(const QString& name, const QByteArray& file, QSize size);
 
+  int kilobytes() const { return static_cast<int>(pictures_.totalCost()); }
   const QPixmap& waiting() const { return waiting_; }  // the grey field
 
   // Lets what was thrown out for want of room come again, because others are in sight now.

@@ -6,8 +6,8 @@
 
 #include "desktop/widgets/rich_text_pictures.h"
 #include "desktop/widgets/rich_text_positions.h"
-#include "desktop/widgets/table_grid.h"
 #include "richtext/paragraphs.h"
+#include "richtext/table_grid.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -208,6 +208,8 @@ void RichTextRenderer::UpdateParagraphs(const QTextBlock& first, std::size_t bef
     cursor.setPosition(EndOf(block));
     cursor.setPosition(EndOf(last), QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
+    // Of a block without text and one behind it Qt keeps the format of the latter.
+    Fill(*after[common - 1], table, cursor);
   }
   for (std::size_t i = common; i < after.size(); ++i) {
     cursor.movePosition(QTextCursor::EndOfBlock);
@@ -238,7 +240,7 @@ void RichTextRenderer::InsertTable(std::size_t first, std::size_t end, QTextCurs
     }
   }
   if (rows.empty()) return;
-  const TableGrid grid = GridOf(rows);
+  const richtext::TableGrid grid = richtext::GridOf(rows);
   QTextTableFormat format;
   format.setBorderCollapse(true);
   format.setBorder(0);

@@ -4,7 +4,7 @@
 
 #include "richtext/rich_document.h"
 
-namespace tarnwell::desktop {
+namespace tarnwell::richtext {
 
 // A table as a grid with the edges of all its rows, so that each cell takes one or more columns.
 struct TableGrid {
@@ -17,6 +17,6 @@ struct TableGrid {
 
 // Edges that nearly meet are taken as one. The first and last cells of a row reach to the grid's
 // ends. A table of very many different edges gets columns of equal width instead.
-TableGrid GridOf(const std::vector<const richtext::TableRow*>& rows);
+TableGrid GridOf(const std::vector<const TableRow*>& rows);
 
-}  // namespace tarnwell::desktop
+}  // namespace tarnwell::richtext

@@ -1,22 +1,22 @@
-#include "desktop/widgets/table_grid.h"
+#include "richtext/table_grid.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace tarnwell::desktop {
+namespace tarnwell::richtext {
 namespace {
 
-using Rows = std::vector<const richtext::TableRow*>;
+using Rows = std::vector<const TableRow*>;
 
 constexpr int kNearly = 60;  // twips
 constexpr std::size_t kMostColumns = 64;
 constexpr int kUsualWidth = 1440;
 
 // The right edges of a row's cells, each further right than the one before.
-std::vector<int> EdgesOf(const richtext::TableRow& row) {
+std::vector<int> EdgesOf(const TableRow& row) {
   std::vector<int> edges;
   int last = row.left_edge;
-  for (const richtext::Cell& cell : row.cells) {
+  for (const Cell& cell : row.cells) {
     last = std::max(cell.right_edge, last + 1);
     edges.push_back(last);
   }
@@ -25,7 +25,7 @@ std::vector<int> EdgesOf(const richtext::TableRow& row) {
 
 std::vector<int> UnionOf(const Rows& rows, int tolerance) {
   std::vector<int> all;
-  for (const richtext::TableRow* const row : rows) {
+  for (const TableRow* const row : rows) {
     const std::vector<int> edges = EdgesOf(*row);
     all.insert(all.end(), edges.begin(), edges.end());
   }
@@ -38,7 +38,7 @@ std::vector<int> UnionOf(const Rows& rows, int tolerance) {
 }
 
 // Empty where two edges of a row fall together.
-std::vector<int> SpansOf(const richtext::TableRow& row, const std::vector<int>& edges) {
+std::vector<int> SpansOf(const TableRow& row, const std::vector<int>& edges) {
   std::vector<int> spans;
   std::ptrdiff_t begin = 0;
   const std::vector<int> own = EdgesOf(row);
@@ -54,7 +54,7 @@ std::vector<int> SpansOf(const richtext::TableRow& row, const std::vector<int>& 
 
 bool SetSpans(const Rows& rows, const std::vector<int>& edges, TableGrid& grid) {
   grid.spans.clear();
-  for (const richtext::TableRow* const row : rows) {
+  for (const TableRow* const row : rows) {
     grid.spans.push_back(SpansOf(*row, edges));
     if (grid.spans.back().empty() && !row->cells.empty()) return false;
   }
@@ -64,9 +64,9 @@ bool SetSpans(const Rows& rows, const std::vector<int>& edges, TableGrid& grid) 
 TableGrid EvenGrid(const Rows& rows) {
   TableGrid grid;
   std::size_t columns = 1;
-  for (const richtext::TableRow* const row : rows) columns = std::max(columns, row->cells.size());
+  for (const TableRow* const row : rows) columns = std::max(columns, row->cells.size());
   grid.widths.assign(columns, kUsualWidth);
-  for (const richtext::TableRow* const row : rows) {
+  for (const TableRow* const row : rows) {
     std::vector<int>& spans = grid.spans.emplace_back(row->cells.size(), 1);
     if (!spans.empty()) spans.back() += static_cast<int>(columns - row->cells.size());
   }
@@ -84,7 +84,7 @@ TableGrid GridOf(const Rows& rows) {
   }
   if (edges.empty() || edges.size() > kMostColumns) return EvenGrid(rows);
   grid.left_edge = edges.front() - 1;
-  for (const richtext::TableRow* const row : rows) {
+  for (const TableRow* const row : rows) {
     grid.left_edge = std::min(grid.left_edge, row->left_edge);
   }
   int left = grid.left_edge;
@@ -95,4 +95,4 @@ TableGrid GridOf(const Rows& rows) {
   return grid;
 }
 
-}  // namespace tarnwell::desktop
+}  // namespace tarnwell::richtext
