@@ -41,6 +41,7 @@ class Dialogs : public forms::Dialogs {
 };
 class Window : public forms::Window {
   forms::Size screen() override { return {}; }
+  forms::Size room() override { return {}; }
   forms::Size size() override { return {}; }
   void SetSize(forms::Size) override {}
   void SetMinimumSize(forms::Size) override {}

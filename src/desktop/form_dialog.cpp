@@ -6,6 +6,12 @@
 #include <QVBoxLayout>
 
 namespace tarnwell::desktop {
+namespace {
+
+// What a window manager puts around a dialogue, at most.
+constexpr QSize kFrame{16, 48};
+
+}  // namespace
 
 FormDialog::FormDialog(QWidget* window, FormPage* page, bool frameless,
                        std::function<void()> on_close)
@@ -25,7 +31,8 @@ FormDialog::FormDialog(QWidget* window, FormPage* page, bool frameless,
 
 void FormDialog::ShowOver(QWidget& window) {
   if (!isVisible()) {
-    adjustSize();
+    const QSize room = screen()->availableSize() - kFrame;
+    resize(sizeHint().boundedTo(room));
     QRect place({}, size());
     place.moveCenter(window.isVisible() ? window.geometry().center()
                                         : screen()->availableGeometry().center());

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/menus.h"
 #include "desktop/widgets/text.h"
@@ -22,7 +23,7 @@ FormPage::FormPage(forms::Form& form, QWidget* view) : form_(form) {
   setAccessibleName(FromCore(form.caption()));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(view);
+  layout->addWidget(Scrolled(view));
   setAutoFillBackground(true);
   ShowBackground();
   for (const auto& item : form.menus().items()) menus_.push_back(MakeMenu(*item));

@@ -190,7 +190,12 @@ void MainWindow::AnnounceSize() {
   navigator_->top()->Resized();
 }
 
-forms::Size MainWindow::screen() { return ToTwips(QMainWindow::screen()->size()); }
+forms::Size MainWindow::screen() {
+  const QScreen& monitor = *QMainWindow::screen();
+  return ToTwips((QSizeF(monitor.size()) * monitor.devicePixelRatio()).toSize());
+}
+
+forms::Size MainWindow::room() { return ToTwips(QMainWindow::screen()->availableSize()); }
 
 // Forms count the frame and the title bar in. What they have just asked for is the size, before the
 // frame is known that it takes.
@@ -199,13 +204,13 @@ forms::Size MainWindow::size() {
 }
 
 void MainWindow::SetSize(forms::Size size) {
-  wanted_size_ = ToPixels(size);
+  wanted_size_ = ToPixels(size).boundedTo(QMainWindow::screen()->availableSize());
   resize(wanted_size_ - Frame());
   meet_frame_.start(kManagersTime);
 }
 
 void MainWindow::SetMinimumSize(forms::Size size) {
-  least_size_ = ToPixels(size);
+  least_size_ = ToPixels(size).boundedTo(QMainWindow::screen()->availableSize());
   setMinimumSize(least_size_ - Frame());
 }
 

@@ -52,6 +52,7 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   void ProgramEnded() override;
 
   forms::Size screen() override;
+  forms::Size room() override;
   forms::Size size() override;
   void SetSize(forms::Size size) override;
   void SetMinimumSize(forms::Size size) override;

@@ -42,8 +42,13 @@ struct Size {
 class Window {
  public:
   virtual ~Window() = default;
+  // Of the monitor, counted in its own pixels.
   virtual Size screen() = 0;
+  // The most that a window can have of the screen, as size() counts. It is less than screen() where
+  // the desktop enlarges everything or keeps a part for itself.
+  virtual Size room() = 0;
   virtual Size size() = 0;
+  // No more than the room.
   virtual void SetSize(Size size) = 0;
   virtual void SetMinimumSize(Size size) = 0;
   virtual bool maximized() = 0;

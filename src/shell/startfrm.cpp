@@ -109,7 +109,7 @@ void Startfrm::RunLoadRoutine() {
 
 void Startfrm::TakeDisplay() {
   const settings::Display stored = settings::ReadDisplay(context_.folder);
-  context_.window.SetMinimumSize(kLeastSize);
+  context_.window.SetMinimumSize(LeastSize());
   if (!stored.smaller_screen) {
     context_.variables.SmallerScreen = 0;
     return context_.window.SetMaximized(true);
@@ -129,6 +129,12 @@ bool Startfrm::ScreenIsLargeEnough() {
            forms::Icon::kInformation});
   context_.navigator.EndProgram();
   return false;
+}
+
+// A monitor that is large enough may show everything enlarged, with less room for the window.
+forms::Size Startfrm::LeastSize() {
+  const forms::Size room = context_.window.room();
+  return {std::min(kLeastSize.width, room.width), std::min(kLeastSize.height, room.height)};
 }
 
 void Startfrm::TakeBackground() {
@@ -175,10 +181,11 @@ void Startfrm::Activate() {
 void Startfrm::Resized() {
   if (loading_) return;
   const forms::Size size = context_.window.size();
-  if (size.width < kLeastSize.width) {
-    context_.window.SetSize({kLeastSize.width, size.height});
-  } else if (size.height < kLeastSize.height) {
-    context_.window.SetSize({size.width, kLeastSize.height});
+  const forms::Size least = LeastSize();
+  if (size.width < least.width) {
+    context_.window.SetSize({least.width, size.height});
+  } else if (size.height < least.height) {
+    context_.window.SetSize({size.width, least.height});
   } else {
     FollowWindowState();
   }

@@ -42,6 +42,7 @@ class Startfrm : public forms::Form {
   void BuildMenus();
   void RunLoadRoutine();
   bool ScreenIsLargeEnough();
+  forms::Size LeastSize();
   void TakeDisplay();
   void TakeBackground();
   void ShowReminder();

@@ -2,8 +2,14 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOptionFrame>
 #include <map>
 
 #include "desktop/widgets/month_calendar.h"
@@ -29,31 +35,80 @@ bool MayBeNameless(const forms::Control& control) {
   return (label && label->caption().empty()) || (panel && panel->caption().empty());
 }
 
+bool LineFits(const QLineEdit& line) {
+  QStyleOptionFrame option;
+  option.initFrom(&line);
+  const QRect inside = line.style()->subElementRect(QStyle::SE_LineEditContents, &option, &line);
+  // The cursor stands behind the last letter.
+  return line.fontMetrics().horizontalAdvance(line.text()) < inside.width() &&
+         line.height() >= line.sizeHint().height();
+}
+
+bool HeadingsFit(const QHeaderView& header) {
+  for (int i = 0; i < header.count(); ++i) {
+    if (!header.isSectionHidden(i) && header.sectionSize(i) < header.sectionSizeHint(i)) {
+      return false;
+    }
+  }
+  return header.height() >= header.sizeHint().height();
+}
+
+bool Holds(QSize place, QSize content) { return place.expandedTo(content) == place; }
+
 bool TextFits(QWidget& widget) {
   if (auto* label = qobject_cast<QLabel*>(&widget)) {
-    if (label->wordWrap()) return label->heightForWidth(label->width()) <= label->height();
-    return label->text().isEmpty() || (label->width() >= label->sizeHint().width() &&
-                                       label->height() >= label->sizeHint().height());
+    if (label->text().isEmpty()) return true;
+    if (!label->wordWrap()) return Holds(label->size(), label->sizeHint());
+    return label->heightForWidth(label->width()) <= label->height() &&
+           label->width() >= label->minimumSizeHint().width();
   }
   if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
-    return line->fontMetrics().horizontalAdvance(line->text()) <= line->contentsRect().width() &&
-           line->height() >= line->sizeHint().height();
+    return qobject_cast<QComboBox*>(line->parentWidget()) || LineFits(*line);
+  }
+  if (auto* header = qobject_cast<QHeaderView*>(&widget)) {
+    return header->orientation() == Qt::Vertical || HeadingsFit(*header);
+  }
+  if (auto* bar = qobject_cast<QProgressBar*>(&widget)) {
+    return Holds(bar->size(), bar->fontMetrics().size(Qt::TextSingleLine, bar->text()));
   }
   if (qobject_cast<QAbstractButton*>(&widget) || qobject_cast<QComboBox*>(&widget) ||
-      dynamic_cast<desktop::MonthCalendar*>(&widget)) {
-    return widget.width() >= widget.sizeHint().width() &&
-           widget.height() >= widget.sizeHint().height();
+      qobject_cast<QMenuBar*>(&widget) || dynamic_cast<desktop::MonthCalendar*>(&widget)) {
+    return Holds(widget.size(), widget.minimumSizeHint().expandedTo(widget.sizeHint()));
   }
   return true;
+}
+
+// The scroll area whose contents `widget` is, or nullptr.
+QScrollArea* ScrollerOf(QWidget& widget) {
+  QWidget* viewport = widget.parentWidget();
+  auto* area = viewport ? qobject_cast<QScrollArea*>(viewport->parentWidget()) : nullptr;
+  return area && area->widget() == &widget ? area : nullptr;
 }
 
 bool SticksOut(QWidget& widget, QWidget& page) {
   QRect place(QPoint(), widget.size());
   for (QWidget* inner = &widget; inner != &page; inner = inner->parentWidget()) {
+    if (ScrollerOf(*inner)) return false;
     place.translate(inner->pos());
     if (!inner->parentWidget()->rect().contains(place)) return true;
   }
   return false;
+}
+
+// Where the widget shows a text on the page, without what lies outside a scroll area's view; empty
+// for what only holds other widgets.
+QRect SeenPlace(QWidget& widget, QWidget& page) {
+  const auto* label = qobject_cast<QLabel*>(&widget);
+  const bool shows_text = widget.focusPolicy() != Qt::NoFocus ||
+                          qobject_cast<QProgressBar*>(&widget) ||
+                          (label && !label->text().isEmpty());
+  if (!shows_text) return {};
+  QRect place(QPoint(), widget.size());
+  for (QWidget* inner = &widget; inner != &page; inner = inner->parentWidget()) {
+    place.translate(inner->pos());
+    if (ScrollerOf(*inner)) place &= inner->parentWidget()->rect();
+  }
+  return place;
 }
 
 std::string Describe(QWidget& widget) {
@@ -105,11 +160,28 @@ std::string Text(QSize size) {
   return std::to_string(size.width()) + "x" + std::to_string(size.height());
 }
 
+std::vector<std::string> OverlapFaults(const std::vector<QWidget*>& widgets, QWidget& page) {
+  std::vector<std::pair<QWidget*, QRect>> seen;
+  std::vector<std::string> faults;
+  for (QWidget* widget : widgets) {
+    const QRect place = SeenPlace(*widget, page);
+    if (place.isEmpty()) continue;
+    for (const auto& [other, its_place] : seen) {
+      if (!place.intersects(its_place) || other->isAncestorOf(widget)) continue;
+      faults.push_back("over each other: " + Describe(*other) + " and " + Describe(*widget));
+    }
+    seen.emplace_back(widget, place);
+  }
+  return faults;
+}
+
 std::vector<std::string> CutOffFaults(QWidget& page) {
   std::vector<std::string> faults;
+  std::vector<QWidget*> seen;
   for (QWidget* widget : page.findChildren<QWidget*>()) {
     // A combo box's own list isn't part of the page.
     if (!widget->isVisibleTo(&page) || widget->window() != page.window()) continue;
+    seen.push_back(widget);
     if (!TextFits(*widget)) {
       const QSize wanted = widget->sizeHint();
       faults.push_back("cut off: " + Describe(*widget) + ", " + Text(widget->size()) + " of " +
@@ -117,6 +189,19 @@ std::vector<std::string> CutOffFaults(QWidget& page) {
     }
     if (SticksOut(*widget, page)) faults.push_back("sticks out: " + Describe(*widget));
   }
+  const auto overlaps = OverlapFaults(seen, page);
+  faults.insert(faults.end(), overlaps.begin(), overlaps.end());
+  return faults;
+}
+
+std::vector<std::string> ScrollFaults(QWidget& page) {
+  const auto* area = page.findChild<QScrollArea*>();
+  std::vector<std::string> faults;
+  if (!area) return faults;
+  const QSize needed = area->widget()->size();
+  const std::string sizes = ": " + Text(needed) + " in " + Text(area->size());
+  if (area->horizontalScrollBar()->isVisible()) faults.push_back("scrolls sideways" + sizes);
+  if (area->verticalScrollBar()->isVisible()) faults.push_back("scrolls" + sizes);
   return faults;
 }
 

@@ -3,6 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableWidget>
 #include <QTest>
 
 #include "desktop/desktop.h"
@@ -18,6 +26,7 @@ using testing::AllFaults;
 using ::testing::Contains;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using testing::ScrollFaults;
 
 // What a form hides while it shows a panel.
 struct Replacement {
@@ -51,13 +60,38 @@ std::vector<forms::Control*> ReplacedBy(forms::Form& form, const forms::Control&
 // "&Page Setup" and "&Print" are fixed so; the letter goes from one to the other.
 const std::string kSharedMnemonic = "mnemonic p: SSCommand80(1) and SSCommand80(4)";
 
-// What the least size of the window leaves a form inside frame, title, menu and status bars.
-constexpr QSize kSmallestPage{1000, 660};
+// What a screen leaves a form inside frame, title, menu and status bars.
+QSize PageOn(QSize screen) { return screen - QSize(24, 108); }
+
+constexpr QSize kLeastScreen{1024, 768};
+constexpr QSize kWideScreen{1280, 720};  // of a full HD display at 150 %
+constexpr QSize kLaptopScreen{1366, 768};
+
+struct Sight {
+  const char* family;
+  int points;
+  QSize screen;
+  bool may_scroll;
+};
+const Sight kSights[] = {
+    {"DejaVu Sans", 10, kLeastScreen, false},     {"DejaVu Sans", 10, kWideScreen, true},
+    {"DejaVu Sans", 12, kLaptopScreen, true},     {"DejaVu Sans", 12, kLeastScreen, true},
+    {"Liberation Sans", 10, kLeastScreen, false}, {"Noto Sans", 10, kLeastScreen, true},
+    {"Noto Sans", 14, kLaptopScreen, true},
+};
+
+// Until what the last change asked for has been laid out.
+void Settle() {
+  for (int i = 0; i < 3; ++i) {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+  }
+}
 
 // Looks at each form when it gets on top, then once more with each of its hidden panels.
 class Inspector : public forms::NavigatorObserver {
  public:
-  explicit Inspector(MainWindow& window) : window_(window) {}
+  Inspector(MainWindow& window, const Sight& sight) : window_(window), sight_(sight) {}
 
   void FormLoaded(forms::Form& form, bool modal) override { window_.FormLoaded(form, modal); }
   void FormUnloaded(forms::Form& form) override { window_.FormUnloaded(form); }
@@ -95,22 +129,55 @@ class Inspector : public forms::NavigatorObserver {
   }
 
   void Inspect(forms::Form& form) {
-    window_.QWidget::resize(1024, 768);
-    QTest::qWait(20);
-    // A view that needs more room would keep the window larger.
-    const QSize needed = window_.PageOf(form)->minimumSizeHint();
-    EXPECT_LE(needed.width(), kSmallestPage.width()) << form.name();
-    EXPECT_LE(needed.height(), kSmallestPage.height()) << form.name();
-    auto faults = AllFaults(form, *window_.PageOf(form));
+    FormPage& page = *window_.PageOf(form);
+    GiveExactly(PageOn(sight_.screen), page);
+    auto faults = AllFaults(form, page);
     std::erase(faults, kSharedMnemonic);
     EXPECT_THAT(faults, IsEmpty()) << form.name();
+    if (!sight_.may_scroll) {
+      EXPECT_THAT(ScrollFaults(page), IsEmpty()) << form.name();
+    }
     inspected.push_back(form.name());
   }
 
+  // The start screen lets no window get smaller than 1007 by 747.
+  static bool KeptLarger(const QWidget& window) {
+    return window.frameSize().width() == 1007 || window.frameSize().height() == 747;
+  }
+
+  // A dialogue keeps its own size, which the screen must hold.
+  void GiveExactly(QSize size, FormPage& page) {
+    Settle();
+    QWidget& window = *page.window();
+    const QSize least = window.minimumSizeHint();
+    EXPECT_LE(least.width(), size.width());
+    EXPECT_LE(least.height(), size.height());
+    if (&window == &window_) {
+      window.setMinimumSize(1, 1);  // the start screen keeps its own on a screen that has it
+      window.resize(window.size() + size - page.size());
+      Settle();
+      EXPECT_TRUE(page.size() == size || KeptLarger(window)) << testing::Text(page.size());
+    } else {
+      EXPECT_LE(window.width(), sight_.screen.width());
+      EXPECT_LE(window.height(), sight_.screen.height());
+    }
+  }
+
   MainWindow& window_;
+  const Sight sight_;
 };
 
-TEST(Completeness, EveryFormHasAViewWithAllOfItsControlsReadableAtTheLeastScreenSize) {
+class Completeness : public ::testing::TestWithParam<Sight> {
+ protected:
+  Completeness() { QApplication::setFont(QFont(GetParam().family, GetParam().points)); }
+  ~Completeness() override { QApplication::setFont(usual_); }
+
+ private:
+  const QFont usual_ = QApplication::font();
+};
+
+TEST_P(Completeness, EveryFormHasAViewWithAllOfItsControlsReadable) {
+  ASSERT_EQ(QFontInfo(QApplication::font()).family(), GetParam().family);
   const testing::TemporaryFolder folder;
   const Folders folders{QString::fromStdString(folder.path()),
                         QStringLiteral(TARNWELL_SOURCE_DIR "/data")};
@@ -124,14 +191,24 @@ TEST(Completeness, EveryFormHasAViewWithAllOfItsControlsReadableAtTheLeastScreen
     SCOPED_TRACE(name);
     Desktop desktop(folders);
     desktop.program().variables().SplashShown = 99;
-    Inspector inspector(desktop.window());
+    Inspector inspector(desktop.window(), GetParam());
     desktop.navigator().SetObserver(&inspector);
     desktop.navigator().Show(name);
     EXPECT_THAT(inspector.inspected, Contains(name));
   }
 }
 
-// A form with one fault of each kind, so that the test above is known to find them.
+INSTANTIATE_TEST_SUITE_P(Sights, Completeness, ::testing::ValuesIn(kSights), [](const auto& one) {
+  const Sight& sight = one.param;
+  return QStringLiteral("%1_%2_on_%3_by_%4")
+      .arg(QString(sight.family).remove(' '))
+      .arg(sight.points)
+      .arg(sight.screen.width())
+      .arg(sight.screen.height())
+      .toStdString();
+});
+
+// A form with faults of each kind, so that the test above is known to find them.
 class FaultyForm : public forms::Form {
  public:
   explicit FaultyForm(forms::Context& context) : Form(context, "Faulty1", "Faulty") {}
@@ -144,7 +221,7 @@ class FaultyForm : public forms::Form {
   forms::Label squeezed{panel, "Label1", "A text that is longer than its place"};
 };
 
-TEST(Completeness, TheInspectionFindsEachKindOfFault) {
+TEST(CompletenessInspection, FindsEachKindOfFault) {
   testing::SampleWorld world;
   FaultyForm form(world.context);
   QWidget* squeezed = Widget(form.squeezed);
@@ -162,12 +239,61 @@ TEST(Completeness, TheInspectionFindsEachKindOfFault) {
   outside->show();
 
   const auto faults = AllFaults(form, page);
-  EXPECT_EQ(faults.size(), 5u) << ::testing::PrintToString(faults);
+  EXPECT_EQ(faults.size(), 7u) << ::testing::PrintToString(faults);
   EXPECT_THAT(faults, Contains("not placed: Command3"));
   EXPECT_THAT(faults, Contains("nameless: Text1"));
   EXPECT_THAT(faults, Contains("mnemonic s: Command1 and Command2"));
   EXPECT_THAT(faults, Contains(HasSubstr("cut off: Label1")));
   EXPECT_THAT(faults, Contains(HasSubstr("sticks out: Command4")));
+  EXPECT_THAT(faults, Contains("over each other: Command1 \"Save\" and Command4 \"Outside\""));
+}
+
+// One of each kind that shows a text, in 60 by 26 pixels.
+TEST(CompletenessInspection, FindsATextThatItsWidgetCuts) {
+  const QString text = QStringLiteral("A text that is longer than its place");
+  QWidget page;
+  auto* box = new QComboBox(&page);
+  box->addItem(text);
+  auto* wrapped = new QLabel(text, &page);
+  wrapped->setWordWrap(true);
+  auto* table = new QTableWidget(1, 1, &page);
+  table->setHorizontalHeaderLabels({text});
+  table->setColumnWidth(0, 40);
+  const std::vector<QWidget*> cut{box,
+                                  wrapped,
+                                  table->horizontalHeader(),
+                                  new QLabel(text, &page),
+                                  new QPushButton(text, &page),
+                                  new QCheckBox(text, &page),
+                                  new QRadioButton(text, &page),
+                                  new QLineEdit(text, &page)};
+  int top = 0;
+  for (QWidget* widget : cut) {
+    widget->setObjectName(widget->metaObject()->className());
+    (widget->parent() == table ? table : widget)->setGeometry(0, top += 30, 60, 26);
+  }
+  wrapped->setObjectName("wrapped");
+  page.show();
+  Settle();
+  const auto faults = testing::CutOffFaults(page);
+  for (const QWidget* widget : cut) {
+    EXPECT_THAT(faults,
+                Contains(HasSubstr("cut off: " + widget->objectName().toStdString() + " ")));
+  }
+}
+
+TEST(CompletenessInspection, FindsAPageThatScrolls) {
+  QWidget page;
+  auto* content = new QWidget;
+  QWidget* scrolled = Scrolled(AtLeast({300, 300}, content));
+  scrolled->setParent(&page);
+  page.show();
+  for (const auto& [size, faults] :
+       {std::pair(QSize(300, 300), 0u), {QSize(320, 200), 1u}, {QSize(200, 200), 2u}}) {
+    scrolled->resize(size);
+    Settle();
+    EXPECT_EQ(ScrollFaults(page).size(), faults) << testing::Text(size);
+  }
 }
 
 }  // namespace

@@ -243,5 +243,15 @@ TEST_F(MainWindowTest, SizesAreTwipsOfWholePixels) {
   EXPECT_EQ(window.size(), (forms::Size{1007 * 15, 747 * 15}));
 }
 
+TEST_F(MainWindowTest, NoSizeIsLargerThanTheScreen) {
+  navigator_.Show("Lower");
+  forms::Window& window = window_;
+  window.SetMinimumSize({20000, 20000});
+  window.SetSize({30000, 20000});
+  EXPECT_EQ(window.room(), (forms::Size{1024 * 15, 768 * 15}));
+  EXPECT_EQ(window.size(), window.room());
+  EXPECT_LE(window_.minimumHeight(), 768);
+}
+
 }  // namespace
 }  // namespace tarnwell::desktop

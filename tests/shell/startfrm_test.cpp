@@ -119,6 +119,22 @@ TEST_F(StartfrmTest, TheWindowsOwnButtonsChangeTheSetting) {
   EXPECT_EQ(rig.program->variables().SmallerScreen, 0);
 }
 
+// A full HD display at 150 % has room for 1280 by 720, less a task bar.
+TEST_F(StartfrmTest, AnEnlargedScreenIsUsedAsFarAsItGoes) {
+  rig.window.screen_size = {1920 * 15, 1080 * 15};
+  rig.window.room_size = {1280 * 15, 690 * 15};
+  Start();
+  form().Resized();
+  EXPECT_TRUE(rig.window.is_maximized);
+  rig.window.is_maximized = false;
+  rig.window.normal_size = *rig.window.room_size;
+  form().Resized();
+  EXPECT_EQ(GColor3().GetText(35), "Yes");
+  rig.window.normal_size.height = 600 * 15;
+  form().Resized();
+  EXPECT_EQ(rig.window.normal_size, *rig.window.room_size);
+}
+
 TEST_F(StartfrmTest, TheButtonsLeadToTheOtherDisplay) {
   settings::WriteWindowSize(rig.folder, 12000, 15500);
   Start();

@@ -119,7 +119,8 @@ class FakeEventLoop : public forms::EventLoop {
 class FakeWindow : public forms::Window {
  public:
   forms::Size screen() override { return screen_size; }
-  forms::Size size() override { return is_maximized ? screen_size : normal_size; }
+  forms::Size room() override { return room_size.value_or(screen_size); }
+  forms::Size size() override { return is_maximized ? room() : normal_size; }
   void SetSize(forms::Size size) override { normal_size = size; }
   void SetMinimumSize(forms::Size) override {}
   bool maximized() override { return is_maximized; }
@@ -129,6 +130,7 @@ class FakeWindow : public forms::Window {
   void Beep() override { ++beeps; }
 
   forms::Size screen_size{1920 * 15, 1080 * 15};
+  std::optional<forms::Size> room_size;  // the whole screen where there is none
   forms::Size normal_size{16000, 12000};
   bool is_maximized = false;
   int centered = 0;

@@ -53,7 +53,7 @@ QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
   // All that stands beside the preview makes room for an enlarged one.
   QWidget* beside = ShownWhile(
       panel.preview, [&panel] { return panel.preview.zoom() != forms::Zoom::kEnlarged; },
-      Options(panel, own_options));
+      ScrolledColumn(Options(panel, own_options)));
   return Widget(panel.panel,
                 Column({
                     Grow(Row({Grow(Widget(panel.preview, pictures)), beside}, kWideSpace)),

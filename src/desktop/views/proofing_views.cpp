@@ -8,12 +8,12 @@ namespace tarnwell::desktop {
 namespace {
 
 // A word and the two ends of its sentence fit, whatever they are.
-constexpr int kLeastWidth = 760;
-constexpr int kLeastHeight = 420;
+constexpr int kLetters = 88;
+constexpr int kLines = 24;
 
 QWidget* InDialogueSize(QWidget* content) {
-  content->setMinimumSize(kLeastWidth, kLeastHeight);
-  return content;
+  const QFontMetrics text = content->fontMetrics();
+  return AtLeast({kLetters * text.averageCharWidth(), kLines * text.height()}, content);
 }
 
 }  // namespace

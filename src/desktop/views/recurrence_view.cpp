@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kDigits = 3;
 constexpr int kLettersOfRun = 105;
+constexpr int kLettersOfRange = 70;
 
 QWidget* NumberBox(forms::TextField& field) { return OfLetters(Widget(field), kDigits); }
 
@@ -72,7 +73,8 @@ QWidget* RecurrenceView(planner::RecurrencePanel& panel) {
       panel.panel,
       Column({
           Widget(panel.appointment),
-          Widget(panel.choice.panel, Row({Rules(panel.choice), Range(panel.choice), Spring()})),
+          Widget(panel.choice.panel,
+                 Row({Rules(panel.choice), Grow(AtMost(Range(panel.choice), kLettersOfRange))})),
           run,
           Row({Primary(Widget(panel.ok)), Widget(panel.remove), Widget(panel.cancel), Spring()}),
           Spring(),

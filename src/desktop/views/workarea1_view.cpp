@@ -28,28 +28,29 @@ QWidget* DocumentButtons(workarea::DocumentsPane& documents) {
   return rows;
 }
 
-QWidget* Options(forms::OptionGroup& group) {
-  QWidget* row = Row({});
-  for (int i = 0; i < group.size(); ++i) Append(row, Widget(group.option(i)));
-  Append(row, Spring());
-  return row;
+QWidget* Views(forms::OptionGroup& views) {
+  return Flow({Widget(views.option(0)), Widget(views.option(1)), Widget(views.option(2))});
+}
+
+QWidget* Alignment(workarea::TextTools& tools) {
+  forms::OptionGroup& group = tools.alignment;
+  return Inline(Widget(tools.alignment_frame, Row({Widget(group.option(0)), Widget(group.option(1)),
+                                                   Widget(group.option(2))})));
 }
 
 QWidget* Document(workarea::DocumentView& view) {
   return Widget(
       view.panel,
       Column({
-          Row({Grow(Widget(view.heading)), Widget(view.status_label), Widget(view.status)}),
-          Widget(view.actions, Options(view.views)),
+          Flow({Widget(view.heading), Row({Widget(view.status_label), Widget(view.status)})}),
+          Inline(Widget(view.actions, Views(view.views))),
           Grow(Widget(view.text)),
-          Row({WithIcon("next-mark", Widget(view.tools.find_mark)), Widget(view.insert_template),
-               Spring(), WithIcon("spelling", Widget(view.tools.spelling)),
-               WithIcon("thesaurus", Widget(view.tools.thesaurus))},
-              kTightSpace),
-          Row({Primary(Widget(view.save)), Widget(view.tools.font),
-               Widget(view.tools.alignment_frame, Options(view.tools.alignment)), Spring(),
-               WithIcon("print", Widget(view.print_options)), Widget(view.exit)},
-              kTightSpace),
+          Flow({Primary(Widget(view.save)), WithIcon("next-mark", Widget(view.tools.find_mark)),
+                Widget(view.insert_template), Widget(view.tools.font), Alignment(view.tools),
+                WithIcon("spelling", Widget(view.tools.spelling)),
+                WithIcon("thesaurus", Widget(view.tools.thesaurus)),
+                WithIcon("print", Widget(view.print_options)), Widget(view.exit)},
+               kTightSpace),
       }));
 }
 
@@ -63,8 +64,9 @@ QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) 
 
 QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas =
-      Widget(form.areas, Row({Areas(form.area_buttons), DocumentButtons(form.documents),
-                              Grow(Document(form.document))}));
+      Widget(form.areas,
+             Narrowable(Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents)})),
+                        Document(form.document)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));

@@ -15,18 +15,18 @@ constexpr int kLettersOfRow = 105;
 constexpr int kLettersOfPanel = 150;
 
 QWidget* Day(planner::Zcalandar1& form) {
-  QWidget* sort_time = Widget(
-      form.sort_frame, Row({Widget(form.sort_time.option(0)), Widget(form.sort_time.option(1))}));
+  QWidget* sort_time = Inline(Widget(
+      form.sort_frame, Row({Widget(form.sort_time.option(0)), Widget(form.sort_time.option(1))})));
   return Widget(
       form.day,
       Column({
           Wrapped(Widget(form.date_caption)),
           new DayRowsWidget(form),
-          Row({sort_time, Spring(), WithIcon("month", Widget(form.view_month)),
-               WithIcon("print", Widget(form.print_options))}),
-          Row({WithIcon("save", Widget(form.save)), WithIcon("clear", Widget(form.clear_entries)),
-               WithIcon("spelling", Widget(form.check_spelling)), Spring(),
-               WithIcon("exit", Widget(form.exit))}),
+          Flow({WithIcon("save", Widget(form.save)), WithIcon("clear", Widget(form.clear_entries)),
+                WithIcon("spelling", Widget(form.check_spelling)),
+                WithIcon("month", Widget(form.view_month)),
+                WithIcon("print", Widget(form.print_options)), WithIcon("exit", Widget(form.exit)),
+                sort_time}),
           Spring(),
       }));
 }

@@ -38,6 +38,8 @@ QWidget* Widget(forms::ProgressBar& bar);
 QWidget* Widget(forms::RichTextBox& box);
 // A panel around `content`. With a caption it is a card with a title, else a plain area.
 QWidget* Widget(forms::Panel& panel, QWidget* content);
+// A panel with its title before the content instead of above it.
+QWidget* Inline(QWidget* panel);
 
 // `content` is there as long as `shown` holds, which is asked again with each change of the
 // control.

@@ -1,7 +1,6 @@
 #include "desktop/widgets/card.h"
 
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/look.h"
@@ -32,7 +31,7 @@ QWidget* Card(QWidget* content, int space) {
   auto* card = new CardWidget;
   card->SetCard(true);
   card->setPalette(PaletteOn(Qt::white));
-  auto* layout = new QVBoxLayout(card);
+  auto* layout = new TightLayout(QBoxLayout::TopToBottom, card);
   layout->setContentsMargins(space, space, space, space);
   layout->addWidget(content);
   return card;

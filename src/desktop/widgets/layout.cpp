@@ -1,14 +1,14 @@
 #include "desktop/widgets/layout.h"
 
-#include <QBoxLayout>
 #include <QGridLayout>
+#include <algorithm>
 
 namespace tarnwell::desktop {
 namespace {
 
 QWidget* Box(QBoxLayout::Direction direction, std::initializer_list<Cell> cells, int space) {
   auto* widget = new QWidget;
-  auto* layout = new QBoxLayout(direction, widget);
+  auto* layout = new TightLayout(direction, widget);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(space);
   for (const Cell& cell : cells) Append(widget, cell);
@@ -48,6 +48,15 @@ void Append(QWidget* row_or_column, Cell cell) {
   }
 }
 
+// Qt finds the least height on its way to the usual one, through this very function.
+int TightLayout::heightForWidth(int width) const {
+  if (measuring_) return QBoxLayout::heightForWidth(width);
+  measuring_ = true;
+  const int least = minimumHeightForWidth(std::min(width, parentWidget()->maximumWidth()));
+  measuring_ = false;
+  return least;
+}
+
 QWidget* Row(std::initializer_list<Cell> cells, int space) {
   return Box(QBoxLayout::LeftToRight, cells, space);
 }
@@ -77,6 +86,14 @@ QWidget* Grid(std::initializer_list<std::initializer_list<Cell>> rows, int growi
 QWidget* AtMost(QWidget* content, int letters) {
   content->setMaximumWidth(letters * content->fontMetrics().averageCharWidth());
   return content;
+}
+
+QWidget* AtLeast(QSize size, QWidget* content) {
+  QWidget* column = Column({Grow(content)}, 0);
+  QWidget* row = Row({Grow(column)}, 0);
+  static_cast<QBoxLayout*>(column->layout())->addStrut(size.width());
+  static_cast<QBoxLayout*>(row->layout())->addStrut(size.height());
+  return row;
 }
 
 QWidget* OfLetters(QWidget* field, int letters) {

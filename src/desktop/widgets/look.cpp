@@ -23,7 +23,7 @@ QPushButton {
 QPushButton:hover { background: #F0F5FB; border-color: #7F97B2; }
 QPushButton:pressed { background: #DFE9F5; }
 QPushButton:focus { border: 2px solid #1F5FBF; padding: 4px 12px; }
-QPushButton:disabled { background: #F1F2F4; color: #7B858F; border-color: #D3D8DD; }
+QPushButton:disabled { background: #F1F2F4; color: #5F6974; border-color: #D3D8DD; }
 QPushButton[compact="true"] { padding: 3px 6px; }
 QPushButton[compact="true"]:focus { padding: 2px 5px; }
 QPushButton[listed="true"] { text-align: left; padding: 3px 8px; min-height: 1.2em; }
@@ -33,7 +33,7 @@ QPushButton[primary="true"]:hover { background: #2A6DD0; }
 QPushButton[primary="true"]:pressed { background: #184C9A; }
 QPushButton[primary="true"]:focus { border: 2px solid #FFC83D; }
 QPushButton[primary="true"]:disabled {
-  background: #C3CEDC; border-color: #C3CEDC; color: #5E6873;
+  background: #C3CEDC; border-color: #C3CEDC; color: #4E5863;
 }
 QPushButton[selected="true"] { background: #F4F5FF; color: #5555FF; border-color: #F4F5FF; }
 QPushButton[selected="true"]:focus { border: 2px solid #5555FF; }
@@ -46,7 +46,7 @@ QLineEdit, QComboBox {
 QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
 QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
-QComboBox:disabled { color: #7B858F; }
+QComboBox:disabled { color: #5F6974; }
 QTableView, QListView {
   border: 1px solid #AEB8C2; gridline-color: #DDE1E6; selection-background-color: #1F5FBF;
   selection-color: #FFFFFF;
@@ -58,6 +58,15 @@ QHeaderView::section {
   background: #EEF1F4; color: #1C2530; font-weight: 600; padding: 4px 3px; border: none;
   border-right: 1px solid #DDE1E6; border-bottom: 1px solid #AEB8C2;
 }
+QScrollBar { background: #E4E8EC; border: none; }
+QScrollBar:vertical { width: 14px; }
+QScrollBar:horizontal { height: 14px; }
+QScrollBar::handle { background: #6B7885; border-radius: 4px; margin: 2px; }
+QScrollBar::handle:vertical { min-height: 28px; }
+QScrollBar::handle:horizontal { min-width: 28px; }
+QScrollBar::handle:hover { background: #4F5B67; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox::down-arrow { image: url(:/icons/down.svg); width: 12px; height: 12px; }
 QComboBox QAbstractItemView {
@@ -72,7 +81,7 @@ QMenuBar::item:selected { background: #E1EAF6; }
 QMenu { background: #FFFFFF; color: #1C2530; border: 1px solid #C3CAD2; padding: 4px; }
 QMenu::item { padding: 5px 28px 5px 24px; border-radius: 4px; }
 QMenu::item:selected { background: #E1EAF6; color: #1C2530; }
-QMenu::item:disabled { color: #7B858F; }
+QMenu::item:disabled { color: #5F6974; }
 QMenu::separator { height: 1px; background: #DDE1E6; margin: 4px 8px; }
 QStatusBar { background: #FBFBFC; color: #1C2530; border-top: 1px solid #DDE1E6; }
 QStatusBar::item { border: none; }
@@ -104,6 +113,35 @@ double Luminance(const QColor& color) {
 QColor Blend(const QColor& a, const QColor& b, double share_of_b) {
   const auto mix = [&](int x, int y) { return static_cast<int>(x + (y - x) * share_of_b); };
   return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+// Every role has its colour here: one that is left out would be the desktop's own, which on a dark
+// desktop is light letters or a dark ground.
+QPalette LightPalette() {
+  const QColor ink(0x1C, 0x25, 0x30);
+  const QColor faint(0x5F, 0x69, 0x74);
+  const QColor neutral = ToQColor(forms::kNeutral);
+  QPalette palette(neutral, neutral);
+  palette.setColor(QPalette::Base, Qt::white);
+  palette.setColor(QPalette::AlternateBase, QColor(0xF4, 0xF6, 0xF8));
+  palette.setColor(QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE6));
+  palette.setColor(QPalette::Highlight, kAccent);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::Link, kAccent);
+  palette.setColor(QPalette::LinkVisited, QColor(0x6A, 0x3F, 0xA0));
+  palette.setColor(QPalette::PlaceholderText, faint);
+  for (const auto role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+    palette.setColor(role, ink);
+    palette.setColor(QPalette::Disabled, role, faint);
+  }
+  for (int role = 0; role < QPalette::NColorRoles; ++role) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+      const auto one = static_cast<QPalette::ColorRole>(role);
+      palette.setBrush(group, one, palette.brush(group, one));
+    }
+  }
+  return palette;
 }
 
 }  // namespace
@@ -175,16 +213,7 @@ void ApplyLook(QApplication& application) {
                     QStringLiteral("Noto Sans"), QStringLiteral("Liberation Sans"), font.family()});
   font.setPointSizeF(std::max(kLeastPointSize, font.pointSizeF()));
   application.setFont(font);
-  QPalette palette;
-  palette.setColor(QPalette::Window, ToQColor(forms::kNeutral));
-  palette.setColor(QPalette::Base, Qt::white);
-  palette.setColor(QPalette::Highlight, kAccent);
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(role, QColor(0x1C, 0x25, 0x30));
-    palette.setColor(QPalette::Disabled, role, QColor(0x7B, 0x85, 0x8F));
-  }
-  application.setPalette(palette);
+  application.setPalette(LightPalette());
   application.setStyleSheet(QString::fromLatin1(kStyleSheet));
 }
 

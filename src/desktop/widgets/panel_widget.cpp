@@ -1,9 +1,9 @@
 #include <QLabel>
-#include <QVBoxLayout>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/card.h"
+#include "desktop/widgets/layout.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 #include "forms/form.h"
@@ -16,7 +16,7 @@ class PanelWidget : public CardWidget {
  public:
   // An inner panel is a frame inside another one and has a smaller head.
   PanelWidget(QWidget* content, bool inner)
-      : title_(new QLabel), layout_(new QVBoxLayout(this)), inner_(inner) {
+      : title_(new QLabel), layout_(new TightLayout(QBoxLayout::TopToBottom, this)), inner_(inner) {
     title_->setTextFormat(Qt::PlainText);
     title_->setFont(ScaledFont(inner ? TextSize::kStrong : TextSize::kHeading));
     layout_->setSpacing(inner ? kTightSpace : kSpace);
@@ -29,15 +29,24 @@ class PanelWidget : public CardWidget {
     title_->setVisible(!title.isEmpty());
     const bool card = !title.isEmpty() || background.has_value();
     const int margin = card ? (inner_ ? kSpace : kWideSpace) : 0;
-    layout_->setContentsMargins(margin, margin, margin, margin);
+    const int above = inline_ ? kTightSpace : margin;
+    layout_->setContentsMargins(margin, above, margin, above);
     SetCard(card);
     if (card) setPalette(PaletteOn(background ? ToQColor(*background) : QColor(Qt::white)));
   }
 
+  void SetInline() {
+    inline_ = true;
+    layout_->setDirection(QBoxLayout::LeftToRight);
+    layout_->setSpacing(kSpace);
+    layout_->setContentsMargins(kSpace, kTightSpace, kSpace, kTightSpace);
+  }
+
  private:
   QLabel* title_;
-  QVBoxLayout* layout_;
+  QBoxLayout* layout_;
   bool inner_;
+  bool inline_ = false;
 };
 
 }  // namespace
@@ -50,6 +59,11 @@ QWidget* Widget(forms::Panel& panel, QWidget* content) {
     NameForScreenReader(widget, panel, panel.caption());
   });
   return widget;
+}
+
+QWidget* Inline(QWidget* panel) {
+  static_cast<PanelWidget*>(panel)->SetInline();
+  return panel;
 }
 
 }  // namespace tarnwell::desktop

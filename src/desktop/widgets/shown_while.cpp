@@ -1,6 +1,6 @@
-#include <QVBoxLayout>
 
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 class Follower : public QWidget {
  public:
   Follower(forms::Control& control, std::function<bool()> shown, QWidget* content) {
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new TightLayout(QBoxLayout::TopToBottom, this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(content);
     subscription_ = control.OnChanged([this, shown = std::move(shown)] { setVisible(shown()); });
