@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kAreaHelp = 3010;
 constexpr int kRecoveryPlanHelp = 3048;
-constexpr int kPrintHelp = 1014;
 
 std::int16_t Twips(int length) {
   return static_cast<std::int16_t>(std::min<int>(length, std::numeric_limits<std::int16_t>::max()));
@@ -38,7 +37,7 @@ WorkArea1::WorkArea1(forms::Context& context)
   BuildDocumentCommands();
   BuildMenus();
   forms::AddHelpMenu(*this, context_,
-                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", kPrintHelp}});
+                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", forms::kPrintHelp}});
 }
 
 void WorkArea1::BuildDocumentCommands() {
@@ -197,7 +196,6 @@ void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
 void WorkArea1::CoverAreas(bool covered) {
   areas.SetVisible(!covered);
   options_->SetEnabled(!covered);
-  SetHelpContext(covered ? kPrintHelp : HelpOf(area_));
 }
 
 void WorkArea1::ShowColors() {

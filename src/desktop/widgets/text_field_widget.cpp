@@ -1,5 +1,5 @@
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <algorithm>
@@ -15,8 +15,15 @@ namespace {
 class LineEdit : public QLineEdit {
  public:
   std::function<void()> on_click;
+  // Enter had a meaning here, so the default button doesn't get it.
+  bool took_enter = false;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    took_enter = false;
+    QLineEdit::keyPressEvent(event);
+    if (took_enter) event->accept();
+  }
   // On the release, so that a box which the click brings doesn't leave the button down in here.
   void mouseReleaseEvent(QMouseEvent* event) override {
     QLineEdit::mouseReleaseEvent(event);
@@ -58,8 +65,10 @@ QWidget* Widget(forms::TextField& field) {
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
                    binding->Forward([&field](const QString& text) { field.Type(ToCore(text)); }));
-  QObject::connect(edit, &QLineEdit::returnPressed, binding,
-                   binding->Forward([&field] { field.PressEnter(); }));
+  QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
+    edit->took_enter = static_cast<bool>(field.on_enter);
+    field.PressEnter();
+  }));
   edit->on_click = binding->Forward([&field] { field.Click(); });
   return edit;
 }
