@@ -176,7 +176,12 @@ void Walker::Gesture() {
 
 // The window that takes part at present: an open menu, a box, else the window of the form on top.
 QWidget* Walker::Room() const {
-  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  QWidget* popup = QApplication::activePopupWidget();
+  return popup ? popup : Window();
+}
+
+// Keys for an open menu go through it: the menu may end at the first of them.
+QWidget* Walker::Window() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   if (auto* page = desktop_->window().TopPage()) return page->window();
   return &desktop_->window();
@@ -264,7 +269,7 @@ void Walker::Wheel() {
 }
 
 void Walker::PressKey() {
-  QWindow* window = Room()->windowHandle();
+  QWindow* window = Window()->windowHandle();
   if (!window) return;
   const int kind = Random(10);
   int key = kKeys[static_cast<std::size_t>(Random(static_cast<int>(kKeys.size())))];
@@ -290,7 +295,7 @@ void Walker::TypeText() {
   const QString& text = texts[Random(static_cast<int>(texts.size()))];
   Note(QStringLiteral("type ") + text);
   for (const QChar letter : text) {
-    QWindow* window = desktop_ && !desktop_->ended() ? Room()->windowHandle() : nullptr;
+    QWindow* window = desktop_ && !desktop_->ended() ? Window()->windowHandle() : nullptr;
     if (!window) return;
     QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
   }

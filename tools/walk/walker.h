@@ -67,6 +67,7 @@ class Walker : public QObject {
 
   int Random(int below);
   QWidget* Room() const;
+  QWidget* Window() const;
   QWidget* RandomWidget();
   QPoint RandomPlace(QWidget& widget, QWidget& window);
   std::vector<std::string> Content();
