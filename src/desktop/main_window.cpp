@@ -236,6 +236,7 @@ void MainWindow::showEvent(QShowEvent* event) {
 
 // The frame is known only now, some time after the window came or was maximised or restored.
 void MainWindow::MeetFrame() {
+  if (!isVisible()) return;
   if (!least_size_.isEmpty()) setMinimumSize(least_size_ - Frame());
   if (isMaximized()) {
     FillScreenUnmanaged();

@@ -89,6 +89,8 @@ bool Navigator::Close(Form& form) {
 void Navigator::EndProgram() {
   if (ended_) return;
   ended_ = true;
+  // A click that is still under way does nothing any more.
+  for (auto& form : stack_) form->on_top_ = false;
   if (observer_) observer_->ProgramEnded();
 }
 

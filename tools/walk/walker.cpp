@@ -6,13 +6,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
+#include <QThread>
 #include <QWheelEvent>
 #include <QWindow>
 #include <array>
 #include <filesystem>
+#include <utility>
 
 #include "desktop/form_dialog.h"
+#include "desktop/services/nested_loop.h"
 #include "desktop/widgets/text.h"
 #include "forms/choice.h"
 #include "forms/text_field.h"
@@ -41,7 +43,15 @@ QString Describe(const QWidget& widget) {
   return kind + QLatin1Char(' ') + name;
 }
 
+// How many loops wait for an answer: the program's own, and those of Qt's dialogues and menus.
+int LoopDepth() { return desktop::NestedLoop::depth() + QThread::currentThread()->loopLevel(); }
+
 }  // namespace
+
+Walker::Walker(WalkPlan plan) : plan_(std::move(plan)), random_(plan_.seed) {
+  next_step_.setSingleShot(true);
+  next_step_.callOnTimeout([this] { Step(); });
+}
 
 WalkReport Walker::Walk() {
   while (report_.steps < plan_.steps && report_.faults.isEmpty()) Run();
@@ -55,22 +65,21 @@ void Walker::Run() {
   leaving_ = false;
   // The splash screen waits a while; once is enough to walk over it.
   const bool splash = report_.starts++ == 0;
-  if (splash) StepSoon();
+  if (splash) next_step_.start(0);
   desktop.program().variables().SplashShown = splash ? 0 : 99;
   desktop.Start();
-  if (!splash) StepSoon();
+  next_step_.start(0);
   while (!desktop.ended()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  next_step_.stop();
   desktop_ = nullptr;
 }
 
-void Walker::StepSoon() {
-  QTimer::singleShot(0, this, [this] { Step(); });
-}
-
 // The next step is ordered first: this one may open a box and come back only when that is closed.
+// While it is made nothing follows but in a loop that it began.
 void Walker::Step() {
   if (!desktop_ || desktop_->ended()) return;
-  StepSoon();
+  next_step_.start(0);
+  if (gesture_depth_ == LoopDepth()) return;
   if (leaving_) return Leave();
   Look();
   if (report_.steps >= plan_.steps || !report_.faults.isEmpty()) {
@@ -80,7 +89,9 @@ void Walker::Step() {
   ++report_.steps;
   patience_.Renew();
   if (const forms::Form* top = desktop_->navigator().top()) ++report_.visits[top->name()];
+  const int outer = std::exchange(gesture_depth_, LoopDepth());
   Gesture();
+  gesture_depth_ = outer;
 }
 
 // Out of everything that waits for an answer, the innermost first.
@@ -165,7 +176,12 @@ void Walker::Gesture() {
 
 // The window that takes part at present: an open menu, a box, else the window of the form on top.
 QWidget* Walker::Room() const {
-  if (QWidget* popup = QApplication::activePopupWidget()) return popup;
+  QWidget* popup = QApplication::activePopupWidget();
+  return popup ? popup : Window();
+}
+
+// Keys for an open menu go through it: the menu may end at the first of them.
+QWidget* Walker::Window() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   if (auto* page = desktop_->window().TopPage()) return page->window();
   return &desktop_->window();
@@ -253,7 +269,7 @@ void Walker::Wheel() {
 }
 
 void Walker::PressKey() {
-  QWindow* window = Room()->windowHandle();
+  QWindow* window = Window()->windowHandle();
   if (!window) return;
   const int kind = Random(10);
   int key = kKeys[static_cast<std::size_t>(Random(static_cast<int>(kKeys.size())))];
@@ -279,7 +295,7 @@ void Walker::TypeText() {
   const QString& text = texts[Random(static_cast<int>(texts.size()))];
   Note(QStringLiteral("type ") + text);
   for (const QChar letter : text) {
-    QWindow* window = desktop_ && !desktop_->ended() ? Room()->windowHandle() : nullptr;
+    QWindow* window = desktop_ && !desktop_->ended() ? Window()->windowHandle() : nullptr;
     if (!window) return;
     QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
   }

@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 #include <map>
 #include <random>
@@ -44,13 +45,12 @@ struct WalkReport {
 // it is.
 class Walker : public QObject {
  public:
-  explicit Walker(WalkPlan plan) : plan_(std::move(plan)), random_(plan_.seed) {}
+  explicit Walker(WalkPlan plan);
 
   WalkReport Walk();
 
  private:
   void Run();
-  void StepSoon();
   void Step();
   void Look();
   void LookAtBox(QWidget& box);
@@ -67,6 +67,7 @@ class Walker : public QObject {
 
   int Random(int below);
   QWidget* Room() const;
+  QWidget* Window() const;
   QWidget* RandomWidget();
   QPoint RandomPlace(QWidget& widget, QWidget& window);
   std::vector<std::string> Content();
@@ -79,7 +80,9 @@ class Walker : public QObject {
   QStringList last_steps_;
   QPointer<QWidget> last_box_;
   std::size_t stamp_before_box_ = 0;
+  QTimer next_step_;
   bool leaving_ = false;
+  int gesture_depth_ = -1;  // of nested loops when the step in hand began; -1 for none
   Patience patience_;
 };
 

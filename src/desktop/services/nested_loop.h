@@ -13,6 +13,7 @@ class NestedLoop {
   NestedLoop& operator=(const NestedLoop&) = delete;
 
   static bool Any() { return depth_ > 0; }
+  static int depth() { return depth_; }
 
  private:
   static inline int depth_ = 0;  // there is one thread
