@@ -61,6 +61,11 @@ void DocumentView::Load(std::string_view file) {
   if (bytes.empty()) return;
   text.SetDocument(richtext::ReadRichText(bytes));
   stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
+  if (!text.document().is_part) return;
+  panel.form().Message({"Document",
+                        "This document is too long to be shown whole. Its beginning can be read "
+                        "and copied, but not changed; the file stays as it is.",
+                        forms::Icon::kInformation});
 }
 
 void DocumentView::Clear() {
