@@ -49,6 +49,7 @@ class MemoryFileSystem : public storage::FileSystem {
     for (const auto& entry : contents) names.push_back(entry.first);
     return names;
   }
+  storage::Fault fault() const override { return storage::Fault::kMissing; }
 
  private:
   class MemoryFile : public storage::File {

@@ -12,7 +12,7 @@ constexpr RecordMeaning kGColor1[] = {
     {14, 14, Form::kText, "grid background of the budget"},
     {15, 15, Form::kText, "budget panel setting"},
     {16, 22, Form::kText, "panel colour"},
-    {25, 25, Form::kText, "grid background of the display grids"},
+    {25, 25, Form::kText, "port of the modem"},
     {26, 26, Form::kText, "\"OFF\": vehicles' date checker is off"},
     {27, 40, Form::kText, "panel colour"},
     {42, 42, Form::kText, "grid background of the work area"},
@@ -23,7 +23,7 @@ constexpr RecordMeaning kGColor1[] = {
 
 constexpr RecordMeaning kGColor2[] = {
     {5, 40, Form::kText, "panel colour"},
-    {41, 42, Form::kText, "setting of the contact picture pages"},
+    {41, 42, Form::kText, "setting of the picture pages"},
 };
 
 constexpr RecordMeaning kGColor3[] = {
@@ -33,12 +33,14 @@ constexpr RecordMeaning kGColor3[] = {
     {11, 16, Form::kText, "guide lines when printing"},
     {17, 17, Form::kText, "panel colour of document images"},
     {19, 19, Form::kText, "text-box colour of document images"},
+    {25, 25, Form::kText, "grid background of the display grids"},
     {35, 35, Form::kText, "\"Yes\": smaller-screen display"},
     {36, 36, Form::kTagged, "window height in twips"},
     {37, 37, Form::kTagged, "window width in twips"},
     {40, 40, Form::kText, "vehicles' distance unit, 0 miles, 1 kilometers"},
     {56, 56, Form::kText, "guide lines when printing"},
-    {58, 58, Form::kText, "rows without a time, 0 first, 1 last"},
+    {57, 58, Form::kText, "rows without a time, 0 first, 1 last"},
+    {59, 59, Form::kText, "guide lines when printing"},
     {91, 105, Form::kText, "panel colour"},
 };
 

@@ -11,8 +11,7 @@
 
 namespace tarnwell::desktop {
 
-FormPage::FormPage(forms::Form& form, QWidget* view, forms::HelpViewer& help)
-    : form_(form), help_(help) {
+FormPage::FormPage(forms::Form& form, QWidget* view) : form_(form) {
   const auto changed = [this] {
     ShowBackground();
     if (on_changed) on_changed();
@@ -42,16 +41,24 @@ void FormPage::TakeFocus() {
   }
 }
 
-void FormPage::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) return form_.PressEscape();
-  if (event->key() == Qt::Key_F1 && form_.help_context() != 0) {
-    return help_.Show(form_.help_context());
+bool FormPage::TakeKey(const QKeyEvent& event) {
+  switch (event.key()) {
+    case Qt::Key_Escape:
+      return form_.PressEscape();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return form_.PressEnter();
+    default:
+      return false;
   }
-  QWidget::keyPressEvent(event);
+}
+
+void FormPage::keyPressEvent(QKeyEvent* event) {
+  if (!TakeKey(*event)) QWidget::keyPressEvent(event);
 }
 
 void FormPage::contextMenuEvent(QContextMenuEvent* event) {
-  if (!form_.popup_menu()) return;
+  if (!form_.popup_menu() || !form_.popup_menu()->AnyReachable()) return;
   if (!popup_menu_) popup_menu_ = MakeMenu(*form_.popup_menu());
   popup_menu_->popup(event->globalPos());
 }

@@ -48,6 +48,8 @@ MainWindow::MainWindow(MakeLook make_look, forms::HelpViewer& help)
   sweep_.callOnTimeout([this] { FreeRetired(); });
   size_announcement_.setSingleShot(true);
   size_announcement_.callOnTimeout([this] { AnnounceSize(); });
+  meet_frame_.setSingleShot(true);
+  meet_frame_.callOnTimeout([this] { MeetFrame(); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -70,9 +72,14 @@ FormPage* MainWindow::PageOf(const forms::Form& form) const {
   return found == pages_.end() ? nullptr : *found;
 }
 
+FormPage* MainWindow::TopPage() const {
+  if (!navigator_ || navigator_->ended() || !navigator_->top()) return nullptr;
+  return PageOf(*navigator_->top());
+}
+
 void MainWindow::FormLoaded(forms::Form& form, bool modal) {
   const FormLook look = make_look_(form);
-  auto* page = new FormPage(form, look.view, help_);
+  auto* page = new FormPage(form, look.view);
   page->on_changed = [this, page] {
     if (navigator_->top() == &page->form()) ShowChrome(*page);
   };
@@ -165,16 +172,16 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) size_announcement_.start(0);
+  if (event->type() != QEvent::WindowStateChange) return;
+  size_announcement_.start(0);
+  meet_frame_.start(kManagersTime);
 }
 
-// Keys that the page didn't get because nothing on it has the focus.
+// Keys that nothing took: the focus is on the menu bar or on nothing, or the page had no use for
+// them. Never sent back to the page, from which they may have come.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (stack_->currentWidget() && !stack_->currentWidget()->isAncestorOf(focusWidget())) {
-    QCoreApplication::sendEvent(stack_->currentWidget(), event);
-  } else {
-    QMainWindow::keyPressEvent(event);
-  }
+  auto* page = static_cast<FormPage*>(stack_->currentWidget());
+  if (!page || !page->TakeKey(*event)) QMainWindow::keyPressEvent(event);
 }
 
 // Later than the event, so that a form never meets its own change of the size inside a handler.
@@ -185,12 +192,16 @@ void MainWindow::AnnounceSize() {
 
 forms::Size MainWindow::screen() { return ToTwips(QMainWindow::screen()->size()); }
 
-// Forms count the frame and the title bar in.
-forms::Size MainWindow::size() { return ToTwips(frameSize()); }
+// Forms count the frame and the title bar in. What they have just asked for is the size, before the
+// frame is known that it takes.
+forms::Size MainWindow::size() {
+  return ToTwips(isMaximized() || wanted_size_.isEmpty() ? frameSize() : wanted_size_);
+}
 
 void MainWindow::SetSize(forms::Size size) {
   wanted_size_ = ToPixels(size);
   resize(wanted_size_ - Frame());
+  meet_frame_.start(kManagersTime);
 }
 
 void MainWindow::SetMinimumSize(forms::Size size) {
@@ -198,10 +209,14 @@ void MainWindow::SetMinimumSize(forms::Size size) {
   setMinimumSize(least_size_ - Frame());
 }
 
-QSize MainWindow::Frame() const { return frameSize() - QMainWindow::size(); }
+// Of the window that isn't maximised; a maximised one may have another frame.
+QSize MainWindow::Frame() const {
+  return isMaximized() ? frame_ : frameSize() - QMainWindow::size();
+}
 
 void MainWindow::SetMaximized(bool maximized) {
   if (maximized == isMaximized()) return;
+  frame_ = Frame();
   const QSize normal = normalGeometry().size();
   setWindowState(maximized ? windowState() | Qt::WindowMaximized
                            : windowState() & ~Qt::WindowMaximized);
@@ -211,10 +226,10 @@ void MainWindow::SetMaximized(bool maximized) {
 
 void MainWindow::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
-  QTimer::singleShot(kManagersTime, this, [this] { MeetFrame(); });
+  meet_frame_.start(kManagersTime);
 }
 
-// The frame is known only now.
+// The frame is known only now, some time after the window came or was maximised or restored.
 void MainWindow::MeetFrame() {
   if (!least_size_.isEmpty()) setMinimumSize(least_size_ - Frame());
   if (isMaximized()) {

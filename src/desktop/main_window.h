@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "desktop/form_page.h"
+#include "desktop/window_keys.h"
 #include "forms/navigator.h"
 #include "forms/services.h"
 
@@ -41,6 +42,9 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   void ComeForward();
   // The page of a loaded form, or nullptr.
   FormPage* PageOf(const forms::Form& form) const;
+  // The page of the form on top, or nullptr.
+  FormPage* TopPage() const;
+  forms::HelpViewer& help() { return help_; }
 
   void FormLoaded(forms::Form& form, bool modal) override;
   void FormRaised(forms::Form& form) override;
@@ -82,9 +86,12 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   std::vector<std::unique_ptr<QWidget>> retired_;  // pages and dialogs of unloaded forms
   QTimer sweep_;
   QTimer size_announcement_;
+  QTimer meet_frame_;
   QSize least_size_;   // pixels, with the frame
   QSize wanted_size_;  // likewise; empty once the window has it
+  QSize frame_;        // what frame and title bar added to the window before it was maximised
   bool hourglass_ = false;
+  WindowKeys keys_{*this};
 };
 
 }  // namespace tarnwell::desktop

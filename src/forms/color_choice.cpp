@@ -1,5 +1,6 @@
 #include "forms/color_choice.h"
 
+#include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "text/letters.h"
 
@@ -89,7 +90,8 @@ void ColorChoice::ApplyBackground(std::optional<Color> color) {
 void ColorChoice::ApplyText(Color color) {
   if (color == background()) return ColorConflict(context_);
   text_ = color;
-  settings::WriteTextColor(context_.folder, color);
+  const auto stored = settings::WriteTextColor(context_.folder, color);
+  if (!stored) TellNotSaved(context_, "The text color", stored.fault());
   Changed();
 }
 
@@ -98,15 +100,19 @@ void ColorChoice::Changed() {
   if (on_change) on_change();
 }
 
-void ColorChoice::Save() {
+storage::Outcome ColorChoice::Save() {
   if (panel_chosen_) {
-    settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
+    const auto stored = settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
+    if (!stored) return stored;
     context_.variables.PanelColorNew = Stored(panel_).Text();
   }
   if (background_chosen_ && background_record_) {
-    settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
+    const auto stored =
+        settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
+    if (!stored) return stored;
   }
   changed_ = panel_chosen_ = background_chosen_ = false;
+  return {};
 }
 
 bool ColorChoice::Leave(Buttons buttons) {
@@ -114,8 +120,11 @@ bool ColorChoice::Leave(Buttons buttons) {
   const Answer answer = ShowMessage(
       context_,
       {"Color Changes", "Save changes made to Panel and or Text Color?", Icon::kQuestion, buttons});
-  if (answer == Answer::kYes) Save();
-  return answer != Answer::kCancel;
+  if (answer != Answer::kYes) return answer != Answer::kCancel;
+  const auto saved = Save();
+  if (saved) return true;
+  TellNotSaved(context_, "The color", saved.fault());
+  return AskToLeaveUnsaved(context_);
 }
 
 Color ColorChoice::StartColor(ColorTarget target) const {

@@ -9,7 +9,8 @@ namespace tarnwell::forms {
 
 struct CommandStyle {
   std::string_view tool_tip = {};
-  bool cancel = false;  // Esc on the form presses it
+  bool cancel = false;      // Esc on the form presses it
+  bool is_default = false;  // Enter presses it where nothing else has a use for the key
 };
 
 // A button. "&" in its caption marks the mnemonic, "&&" is a plain ampersand.
@@ -17,7 +18,10 @@ class Command : public Clickable {
  public:
   Command(Container& parent, std::string_view name, std::string_view caption,
           CommandStyle style = {})
-      : Clickable(parent, name), caption_(caption), cancel_(style.cancel) {
+      : Clickable(parent, name),
+        caption_(caption),
+        cancel_(style.cancel),
+        is_default_(style.is_default) {
     SetToolTip(style.tool_tip);
   }
 
@@ -28,6 +32,7 @@ class Command : public Clickable {
   }
   bool cancel() const { return cancel_; }
   void SetCancel(bool cancel) { cancel_ = cancel; }
+  bool is_default() const { return is_default_; }
 
   // One of a row of buttons that stay down: painted in the selected colour and drawn flat.
   bool selected() const { return selected_; }
@@ -47,6 +52,7 @@ class Command : public Clickable {
  private:
   std::string caption_;
   bool cancel_;
+  bool is_default_;
   bool selected_ = false;
   bool no_drop_ = false;
 };

@@ -27,8 +27,8 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
 
-  // Closing the box by other means answers Cancel where there is such a button, No to Yes/No, else
-  // OK.
+  // Closing the box by other means answers Cancel where there is such a button, and OK to an OK
+  // alone. A box of Yes and No stays until one of the two is pressed: either may lose something.
   virtual Answer Message(const MessageBox& box) = 0;
   // Empty when it was cancelled.
   virtual std::optional<Color> ChooseColor(Color start) = 0;

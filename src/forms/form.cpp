@@ -4,6 +4,7 @@
 
 #include "forms/command.h"
 #include "forms/message.h"
+#include "forms/panel.h"
 
 namespace tarnwell::forms {
 namespace {
@@ -13,6 +14,16 @@ void Collect(const Container& container, std::vector<Control*>& controls) {
     controls.push_back(control);
     if (auto* inner = dynamic_cast<Container*>(control)) Collect(*inner, controls);
   }
+}
+
+bool PressFirst(const std::vector<Control*>& controls, bool (Command::*has_key)() const) {
+  for (Control* control : controls) {
+    auto* command = dynamic_cast<Command*>(control);
+    if (!command || !(command->*has_key)() || !command->Reachable()) continue;
+    command->Click();
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -47,12 +58,17 @@ Control* Form::Find(std::string_view name) const {
   return found == controls.end() ? nullptr : *found;
 }
 
-void Form::PressEscape() {
+int Form::help_context() const {
   for (Control* control : AllControls()) {
-    auto* command = dynamic_cast<Command*>(control);
-    if (command && command->cancel() && command->Reachable()) return command->Click();
+    const auto* panel = dynamic_cast<Panel*>(control);
+    if (panel && panel->help_context() != 0 && panel->Reachable()) return panel->help_context();
   }
+  return help_context_;
 }
+
+bool Form::PressEscape() { return PressFirst(AllControls(), &Command::cancel); }
+
+bool Form::PressEnter() { return PressFirst(AllControls(), &Command::is_default); }
 
 forms::Answer Form::Message(const MessageBox& box) { return ShowMessage(context_, box); }
 

@@ -42,15 +42,17 @@ class Form : public Container {
   MenuItem& menus() { return menus_; }
   // What a right-click pops up; nullptr for nothing.
   MenuItem* popup_menu() const { return popup_menu_; }
-  // Help page of the whole screen, 0 for none.
-  int help_context() const { return help_context_; }
+  // Help page of what is on show: of a panel that has one, else of the screen; 0 for none.
+  int help_context() const;
 
   Control* focus() const { return focus_; }
   // Every control, in the order of their making, those in panels too.
   std::vector<Control*> AllControls() const;
   // By fixed name; nullptr if there is none.
   Control* Find(std::string_view name) const;
-  void PressEscape();
+  // Both press the command for that key that a person can reach. False where there is none.
+  bool PressEscape();
+  bool PressEnter();
 
   // A long run is under way: the menus are dead and the form can't be closed.
   bool busy() const { return busy_; }

@@ -14,6 +14,7 @@ struct HelpTopic {
 };
 
 inline constexpr int kProgramOverview = 1000;
+inline constexpr int kPrintHelp = 1014;
 
 // The "&Help" menu that every main screen has: the overview, the screen's own topics, the about
 // box.

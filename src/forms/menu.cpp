@@ -1,5 +1,7 @@
 #include "forms/menu.h"
 
+#include <algorithm>
+
 namespace tarnwell::forms {
 
 MenuItem& MenuItem::AddEntry(std::string_view name, std::string_view caption, Handler on_click) {
@@ -32,6 +34,12 @@ void MenuItem::SetChecked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;
   changed_.Notify();
+}
+
+bool MenuItem::AnyReachable() const {
+  return std::ranges::any_of(items_, [](const auto& item) {
+    return item->submenu() ? item->AnyReachable() : item->Reachable();
+  });
 }
 
 void MenuItem::Click() {

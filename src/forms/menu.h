@@ -44,6 +44,8 @@ class MenuItem {
   void SetCheckable() { checkable_ = true; }
 
   bool Reachable() const { return visible_ && enabled_ && (!parent_ || parent_->Reachable()); }
+  // A person can choose something below it: a menu of dead entries isn't worth popping up.
+  bool AnyReachable() const;
   void Click();
   // The submenu is about to open: the form brings its entries up to date.
   void Open();

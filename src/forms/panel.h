@@ -25,6 +25,10 @@ class Panel : public Control, public Container {
     Changed();
   }
 
+  // Help page while it is on show, instead of the form's; 0 for the form's own.
+  int help_context() const { return help_context_; }
+  void SetHelpContext(int context) { help_context_ = context; }
+
   // Empty for the look's own colour.
   const std::optional<Color>& background() const { return background_; }
   void SetBackground(std::optional<Color> color) {
@@ -34,6 +38,7 @@ class Panel : public Control, public Container {
 
  private:
   std::string caption_;
+  int help_context_ = 0;
   std::optional<Color> background_;
 };
 

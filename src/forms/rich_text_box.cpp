@@ -51,7 +51,7 @@ void RichTextBox::SetDocument(richtext::RichDocument document) {
   Changed();
 }
 
-bool RichTextBox::IsBlank() const { return richtext::IsBlank(document_); }
+bool RichTextBox::IsBlank() const { return richtext::HoldsNothing(document_); }
 
 void RichTextBox::SetLocked(bool locked) {
   if (locked_ == locked) return;

@@ -35,6 +35,7 @@ class RichTextBox : public Control {
   // By the program: the cursor at the start, nothing to undo, no handler runs.
   void SetDocument(richtext::RichDocument document);
   void Clear() { SetDocument({}); }
+  // No text but blanks, no picture, no table: nothing that a person would miss.
   bool IsBlank() const;
 
   // A person can select and copy, not change. So it is, too, with a document that is only the

@@ -34,10 +34,15 @@ void TextField::Type(std::string_view text) {
   const bool different = typed != text_;
   SetText(typed);
   if (different) Run(on_change);
+  Run(on_type);
 }
 
 void TextField::PressEnter() {
   if (Reachable()) Run(on_enter);
+}
+
+void TextField::PressArrow(int step) {
+  if (Reachable() && on_arrow) on_arrow(step);
 }
 
 void TextField::Click() {

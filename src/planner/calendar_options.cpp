@@ -32,11 +32,14 @@ CalendarOptions ReadCalendarOptions(storage::ProgramFolder& folder) {
   return options;
 }
 
-void WriteCalendarOptions(storage::ProgramFolder& folder, const CalendarOptions& options) {
+storage::Outcome WriteCalendarOptions(storage::ProgramFolder& folder,
+                                      const CalendarOptions& options) {
   storage::RecordFile file(folder, storage::file_names::kCalendarOptions, kRecordLength);
+  bool all_put = true;
   for (const Field& field : kFields) {
-    file.PutInteger(field.record, static_cast<std::int16_t>(options.*field.value));
+    all_put &= file.PutInteger(field.record, static_cast<std::int16_t>(options.*field.value));
   }
+  return file.Finish(all_put);
 }
 
 forms::DatePickerLook LookOf(const CalendarOptions& options) {

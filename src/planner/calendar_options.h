@@ -15,7 +15,8 @@ struct CalendarOptions {
 };
 
 CalendarOptions ReadCalendarOptions(storage::ProgramFolder& folder);
-void WriteCalendarOptions(storage::ProgramFolder& folder, const CalendarOptions& options);
+storage::Outcome WriteCalendarOptions(storage::ProgramFolder& folder,
+                                      const CalendarOptions& options);
 
 forms::DatePickerLook LookOf(const CalendarOptions& options);
 

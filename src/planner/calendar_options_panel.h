@@ -4,6 +4,7 @@
 
 #include "forms/choice.h"
 #include "forms/command.h"
+#include "forms/context.h"
 #include "forms/panel.h"
 #include "planner/calendar_options.h"
 
@@ -12,7 +13,7 @@ namespace tarnwell::planner {
 // The panel "Calendar Options": a choice applies at once, "&Close" stores all four.
 class CalendarOptionsPanel {
  public:
-  CalendarOptionsPanel(forms::Container& parent, storage::ProgramFolder& folder);
+  CalendarOptionsPanel(forms::Container& parent, forms::Context& context);
 
   forms::Panel panel;
   forms::Panel weekday_frame{panel, "Frame1", "Start Week With"};
@@ -27,7 +28,7 @@ class CalendarOptionsPanel {
       week_numbers_frame, "Option9", {"Yes (Display)", "No (Don't Display)"}};
   forms::OptionGroup months{months_frame, "Option10", {"One Month (1)", "Two Months (2)"}};
   forms::OptionGroup mark_today{today_frame, "Option11", {"No", "Yes"}};
-  forms::Command close{panel, "Command9", "&Close"};
+  forms::Command close{panel, "Command9", "&Close", {.cancel = true}};
 
   // Reads the stored options.
   void Load();
@@ -38,9 +39,10 @@ class CalendarOptionsPanel {
 
  private:
   void Show();
+  void Close();
   void Change(int CalendarOptions::*option, int value);
 
-  storage::ProgramFolder& folder_;
+  forms::Context& context_;
   CalendarOptions options_;
 };
 

@@ -31,6 +31,12 @@ PlannerDay Unpack(std::string_view bytes) {
   return day;
 }
 
+bool IsUnreadable(const storage::RecordFile& file, storage::Fault* fault) {
+  if (file.is_open() && !file.has_failed()) return false;
+  if (fault) *fault = file.fault();
+  return true;
+}
+
 std::string Pack(const DayRows& rows) {
   storage::StructureWriter fields(kStoredBytes);
   for (const DayRow& row : rows) fields.FixedText(row.time, kTimeWidth);
@@ -57,29 +63,31 @@ int DayRecordNumber(unsigned month, unsigned day) {
 
 std::string PlannerYearFileName(int year) { return storage::file_names::PlannerYear(year); }
 
-std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date) {
+std::optional<PlannerDay> ReadDay(storage::ProgramFolder& folder, text::Date date,
+                                  storage::Fault* fault) {
   auto file = OpenYear(folder, date);
-  if (!file.is_open()) return std::nullopt;
   const std::string bytes = file.GetStructure(RecordOf(date), kStoredBytes);
-  if (file.has_failed()) return std::nullopt;
+  if (IsUnreadable(file, fault)) return std::nullopt;
   return Unpack(bytes);
 }
 
-std::vector<PlannerDay> ReadMonth(storage::ProgramFolder& folder, int year, unsigned month) {
+std::optional<std::vector<PlannerDay>> ReadMonth(storage::ProgramFolder& folder, int year,
+                                                 unsigned month, storage::Fault* fault) {
   constexpr int kLeapYear = 2024;
   const auto last = text::DayOf(text::AddDays(
       text::MakeDate(month == 12 ? kLeapYear + 1 : kLeapYear, month % 12 + 1, 1), -1));
   auto file = OpenYear(folder, text::MakeDate(year, month, 1));
   std::vector<PlannerDay> days;
-  for (unsigned day = 1; day <= last && file.is_open(); ++day) {
+  for (unsigned day = 1; day <= last; ++day) {
     days.push_back(Unpack(file.GetStructure(DayRecordNumber(month, day), kStoredBytes)));
+    if (IsUnreadable(file, fault)) return std::nullopt;
   }
   return days;
 }
 
-bool WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {
+storage::Outcome WriteDay(storage::ProgramFolder& folder, text::Date date, const DayRows& rows) {
   auto file = OpenYear(folder, date);
-  return file.PutStructure(RecordOf(date), Pack(rows)) && file.Close();
+  return file.Finish(file.PutStructure(RecordOf(date), Pack(rows)));
 }
 
 }  // namespace tarnwell::planner

@@ -10,9 +10,12 @@ MonthPanel::MonthPanel(forms::Container& parent) : panel(parent, "SSPanel3") {
   grid.SetColumns({{"Day", 0.156}, {"Time", 0.2}, {"Appointment/Activity", 0.64}});
 }
 
-void MonthPanel::Fill(storage::ProgramFolder& folder, text::Date date) {
+storage::Outcome MonthPanel::Fill(storage::ProgramFolder& folder, text::Date date) {
+  auto fault = storage::Fault::kNone;
+  auto rows = ListMonth(folder, text::YearOf(date), text::MonthOf(date), &fault);
+  if (!rows) return fault;
+  rows_ = std::move(*rows);
   month_ = text::MakeDate(text::YearOf(date), text::MonthOf(date), 1);
-  rows_ = ListMonth(folder, text::YearOf(date), text::MonthOf(date));
   panel.SetCaption(MonthTitle(text::YearOf(date), text::MonthOf(date)));
   const forms::Grid::Batch batch(grid);
   grid.SetRows(1);
@@ -24,6 +27,7 @@ void MonthPanel::Fill(storage::ProgramFolder& folder, text::Date date) {
     grid.SetText(place, 1, row.time);
     grid.SetText(place, 2, row.entry);
   }
+  return {};
 }
 
 }  // namespace tarnwell::planner

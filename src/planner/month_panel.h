@@ -22,8 +22,9 @@ class MonthPanel {
   forms::Command print{panel, "Command6", "Print &Month"};
   forms::Command close{panel, "Command5", "&Close"};
 
-  // Lists the month of that date. A month without rows has one empty row.
-  void Fill(storage::ProgramFolder& folder, text::Date date);
+  // Lists the month of that date. A month without rows has one empty row. A month that can't be
+  // read leaves the list as it was.
+  storage::Outcome Fill(storage::ProgramFolder& folder, text::Date date);
   const std::vector<MonthRow>& rows() const { return rows_; }
   // The first day of the month listed.
   text::Date month() const { return month_; }

@@ -20,10 +20,13 @@ std::string MonthTitle(int year, unsigned month) {
   return std::string(text::kMonthNames.at(month - 1)) + " " + std::to_string(year);
 }
 
-std::vector<MonthRow> ListMonth(storage::ProgramFolder& folder, int year, unsigned month) {
+std::optional<std::vector<MonthRow>> ListMonth(storage::ProgramFolder& folder, int year,
+                                               unsigned month, storage::Fault* fault) {
+  const auto days = ReadMonth(folder, year, month, fault);
+  if (!days) return std::nullopt;
   std::vector<MonthRow> rows;
   int day = 0;
-  for (const PlannerDay& stored : ReadMonth(folder, year, month)) {
+  for (const PlannerDay& stored : *days) {
     std::string label = DayLabel(++day);
     for (const DayRow& row : stored.rows) {
       if (text::Trim(row.entry).empty()) continue;

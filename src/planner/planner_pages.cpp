@@ -38,6 +38,7 @@ void PlannerPages::PrintDay(text::Date date, const DayRows& rows, forms::Panel& 
                       LayoutOf(columns, context_.variables));
   };
   job.font = settings::PrinterFont::kPlannerDay;
+  print.as_of->SetVisible(false);  // only the month's head has that date
   Open(std::move(job), below);
 }
 
@@ -53,6 +54,7 @@ void PlannerPages::PrintMonth() {
   };
   job.guide_lines = settings::GuideLines::kPlannerMonth;
   job.font = settings::PrinterFont::kPlannerMonth;
+  print.as_of->SetVisible(true);
   Open(std::move(job), month.panel);
 }
 

@@ -58,6 +58,11 @@ class RecurrenceWalk {
   // never leaves the Beginning Date and never ends by itself.
   std::optional<Candidate> Next();
 
+  // "End Date after:" has given all of its days.
+  bool HasCountedAll() const {
+    return request_.end_kind == EndKind::kEndDateAfter && used_ >= request_.occurrences;
+  }
+
   // The length of the progress bar; at 0 or below the walk has no candidate.
   int ProgressMaximum() const { return progress_maximum_; }
 

@@ -44,7 +44,8 @@ void RecurrenceChoice::AddModes() {
 }
 
 void RecurrenceChoice::WatchBox(NumberBox box, forms::TextField& field) {
-  field.on_change = [this, box, &field] {
+  // A number that is typed over the same number chooses its rule too.
+  field.on_type = [this, box, &field] {
     field.SetText(AcceptNumber(box, field.text()));
     if (box == NumberBox::kOccurrences) {
       end_kind.Choose(static_cast<int>(EndKind::kEndDateAfter));

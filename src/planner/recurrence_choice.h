@@ -11,6 +11,10 @@
 
 namespace tarnwell::planner {
 
+constexpr forms::TextFieldStyle NumberBoxStyle(std::string_view spoken_name) {
+  return {.max_length = 2, .spoken_name = spoken_name, .select_on_entry = true};
+}
+
 // A recurrence request as controls: which rule, how often, from when until when. What is typed or
 // picked is put right at once, so the request can be run as it stands.
 class RecurrenceChoice {
@@ -27,33 +31,31 @@ class RecurrenceChoice {
 
   forms::OptionGroup modes;  // Option3, in all four frames; the index is the RecurrenceMode
 
-  forms::TextField every_days{daily, "Text4", {.max_length = 2, .spoken_name = "Days"}};
+  forms::TextField every_days{daily, "Text4", NumberBoxStyle("Days")};
   forms::Label days_label{daily, "Label4", "day(s)"};
 
-  forms::TextField every_weeks{weekly, "Text5", {.max_length = 2, .spoken_name = "Weeks"}};
+  forms::TextField every_weeks{weekly, "Text5", NumberBoxStyle("Weeks")};
   forms::Label weeks_label{weekly, "Label5", "week(s) on the following day:"};
   forms::OptionGroup weekday{
       weekly,
       "Option5",
       {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"}};
 
-  forms::TextField day_of_month{
-      monthly, "Text6(0)", {.max_length = 2, .spoken_name = "Day of the month"}};
+  forms::TextField day_of_month{monthly, "Text6(0)", NumberBoxStyle("Day of the month")};
   forms::Label of_every_label{monthly, "Label6", "of every:"};
-  forms::TextField every_months{monthly, "Text6(1)", {.max_length = 2, .spoken_name = "Months"}};
+  forms::TextField every_months{monthly, "Text6(1)", NumberBoxStyle("Months")};
   forms::Label months_label{monthly, "Label7", "month(s)"};
 
   forms::ComboBox month{yearly, "Combo2", "Month"};
-  forms::TextField day{yearly, "Text9", {.max_length = 2, .spoken_name = "Day"}};
+  forms::TextField day{yearly, "Text9", NumberBoxStyle("Day")};
   forms::Label show_every_label{yearly, "Label8", " Show every:"};
-  forms::TextField every_years{yearly, "Text8", {.max_length = 2, .spoken_name = "Years"}};
+  forms::TextField every_years{yearly, "Text8", NumberBoxStyle("Years")};
   forms::Label years_label{yearly, "Label9", "year(s)"};
 
   forms::Label beginning_label{range, "Label10", "  Beginning Date:"};
   forms::Label beginning{range, "Text7"};
   forms::OptionGroup end_kind{range, "Option4", {"End Date after:", "End Date:"}};
-  forms::TextField occurrences{
-      range, "Text11", {.max_length = 2, .spoken_name = "Number of occurrences"}};
+  forms::TextField occurrences{range, "Text11", NumberBoxStyle("Number of occurrences")};
   forms::Label occurrences_label{range, "Label11", "occurance(s)"};
   forms::Label end{range, "Text10"};
   forms::Label calendar_label{range, "Label12", "Use Calendar to change either date:"};

@@ -21,6 +21,12 @@ std::optional<RecurrenceMessage> RunReport(const RecurrenceCounts& counts) {
   return RecurrenceMessage{"Recurrence Option", text};
 }
 
+RecurrenceMessage FailureReport(int failed_days, std::string_view reason) {
+  const std::string dates = failed_days == 1 ? " date" : " dates";
+  return {"Not Saved", std::to_string(failed_days) + dates +
+                           " could not be changed: " + std::string(reason) + "."};
+}
+
 RecurrenceMessage Interruption(EndKind end_kind, text::Date last_tried) {
   return {"Recurrence Interruption!",
           "Recurrence File Update has been Stopped Prior to Completion!\n"

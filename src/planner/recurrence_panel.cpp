@@ -1,5 +1,6 @@
 #include "planner/recurrence_panel.h"
 
+#include "forms/disk_trouble.h"
 #include "planner/day_store.h"
 #include "planner/recurrence_messages.h"
 #include "settings/planner_settings.h"
@@ -14,16 +15,22 @@ class FolderDayBook : public DayBook {
   explicit FolderDayBook(storage::ProgramFolder& folder) : folder_(folder) {}
 
   std::optional<DayRows> ReadDay(text::Date date) override {
-    auto day = planner::ReadDay(folder_, date);
+    auto day = planner::ReadDay(folder_, date, &fault_);
     if (!day) return std::nullopt;
     return std::move(day->rows);
   }
   bool WriteDay(text::Date date, const DayRows& rows) override {
-    return planner::WriteDay(folder_, date, rows);
+    const auto written = planner::WriteDay(folder_, date, rows);
+    if (!written) fault_ = written.fault();
+    return static_cast<bool>(written);
   }
+
+  // Why the last day that couldn't be read or written couldn't.
+  storage::Fault fault() const { return fault_; }
 
  private:
   storage::ProgramFolder& folder_;
+  storage::Fault fault_ = storage::Fault::kNone;
 };
 
 forms::MessageBox BoxOf(const RecurrenceMessage& message, forms::Icon icon,
@@ -54,8 +61,8 @@ void RecurrencePanel::Open(text::Date date, const DayRow& row) {
 
 void RecurrencePanel::AskToRemove() {
   choice.ChooseEveryDayOfRange();
-  const auto question =
-      BoxOf(RemovalQuestion(), forms::Icon::kQuestion, forms::Buttons::kYesNoCancel);
+  auto question = BoxOf(RemovalQuestion(), forms::Icon::kQuestion, forms::Buttons::kYesNoCancel);
+  question.default_button = 2;
   if (form_.Confirmed(question)) Start(ChangeMode::kRemove);
 }
 
@@ -72,10 +79,15 @@ void RecurrencePanel::Start(ChangeMode change_mode) {
   request.appointment = appointment_;
   const int sort_time = settings::ReadSortTime(context_.folder);
   RecurrenceRun run{change_mode, request.appointment, static_cast<SortTimeOption>(sort_time), {}};
-  const auto stopped_at = Walk(request, run);
+  FolderDayBook book(context_.folder);
+  const auto stopped_at = Walk(request, run, book);
   ShowRunning(false);
   if (stopped_at) {
     form_.Message(BoxOf(Interruption(request.end_kind, *stopped_at), forms::Icon::kCritical));
+  }
+  if (run.counts.failed_days > 0) {
+    const auto reason = forms::ReasonOf(book.fault());
+    form_.Message(BoxOf(FailureReport(run.counts.failed_days, reason), forms::Icon::kCritical));
   }
   const auto report = change_mode == ChangeMode::kAdd ? RunReport(run.counts) : std::nullopt;
   if (report) form_.Message(BoxOf(*report, forms::Icon::kInformation));
@@ -92,20 +104,20 @@ void RecurrencePanel::ShowRunning(bool running) {
   run_panel.SetVisible(running);
   if (running) stop.Focus();
   stop.SetChecked(false);
+  progress.Start(0);
   asked_to_stop_ = false;
 }
 
 // The candidate behind which the user stopped the walk; none if it came to its end.
 std::optional<text::Date> RecurrencePanel::Walk(const RecurrenceRequest& request,
-                                                RecurrenceRun& run) {
-  FolderDayBook book(context_.folder);
+                                                RecurrenceRun& run, DayBook& book) {
   RecurrenceWalk walk(request);
   progress.Start(walk.ProgressMaximum());
   while (const auto candidate = walk.Next()) {
     if (candidate->applies) ApplyToDay(run, candidate->date, book);
     progress.SetValue(walk.Progress());
     context_.loop.Yield();
-    if (asked_to_stop_) return candidate->date;
+    if (asked_to_stop_ && !walk.HasCountedAll()) return candidate->date;
   }
   progress.SetValue(walk.Progress());
   return std::nullopt;

@@ -23,7 +23,7 @@ class RecurrencePanel {
   forms::Panel panel;
   forms::Label appointment{panel, "Label14", {}, forms::LabelRole::kHeading};
   RecurrenceChoice choice;
-  forms::Command ok{panel, "SSCommand4", "OK"};
+  forms::Command ok{panel, "SSCommand4", "OK", forms::CommandStyle{.is_default = true}};
   forms::Command remove{panel, "SSCommand5", "Remove This Recurrence"};
   forms::Command cancel{panel, "SSCommand3", "Cancel", forms::CommandStyle{.cancel = true}};
 
@@ -48,7 +48,8 @@ class RecurrencePanel {
   void Start(ChangeMode change_mode);
   void AskToRemove();
   void ShowRunning(bool running);
-  std::optional<text::Date> Walk(const RecurrenceRequest& request, RecurrenceRun& run);
+  std::optional<text::Date> Walk(const RecurrenceRequest& request, RecurrenceRun& run,
+                                 DayBook& book);
 
   forms::Form& form_;
   forms::Context& context_;

@@ -45,7 +45,10 @@ bool Change(const RecurrenceRun& run, DayRows& rows) {
 void ApplyToDay(RecurrenceRun& run, text::Date date, DayBook& book) {
   if (!date.ok()) return;
   std::optional<DayRows> rows = book.ReadDay(date);
-  if (!rows) return;
+  if (!rows) {
+    ++run.counts.failed_days;
+    return;
+  }
   for (DayRow& row : *rows) {
     Trim(row.time);
     Trim(row.entry);
@@ -55,7 +58,8 @@ void ApplyToDay(RecurrenceRun& run, text::Date date, DayBook& book) {
     return;
   }
   if (!Change(run, *rows)) return;
-  if (book.WriteDay(date, SortDay(*rows, run.sort_time))) ++run.counts.entries_made;
+  const bool written = book.WriteDay(date, SortDay(*rows, run.sort_time));
+  ++(written ? run.counts.entries_made : run.counts.failed_days);
 }
 
 }  // namespace tarnwell::planner

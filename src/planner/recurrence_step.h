@@ -27,6 +27,7 @@ enum class ChangeMode { kIdle = 0, kRemove = 77, kAdd = 88 };
 struct RecurrenceCounts {
   int full_days = 0;
   int entries_made = 0;
+  int failed_days = 0;  // couldn't be read or written
 };
 
 // One run over many days.
@@ -39,7 +40,7 @@ struct RecurrenceRun {
 
 // Adds the appointment to the day unless it is there already, or removes its first row that has
 // exactly this time and text. A day whose last row has a text counts as full and is left alone in
-// both modes. What can't be read or written is passed over without a word.
+// both modes. What can't be read or written is counted and passed over.
 void ApplyToDay(RecurrenceRun& run, text::Date date, DayBook& book);
 
 }  // namespace tarnwell::planner

@@ -3,8 +3,6 @@
 #include "planner/day_sort.h"
 #include "planner/day_store.h"
 #include "settings/planner_settings.h"
-#include "storage/file_names.h"
-#include "storage/sequential_file.h"
 #include "text/date_reading.h"
 #include "text/letters.h"
 
@@ -15,9 +13,8 @@ constexpr std::size_t kDateWidth = 10;
 
 }  // namespace
 
-std::vector<ToDoItem> ReadToDoItems(storage::ProgramFolder& folder) {
+std::vector<ToDoItem> ReadToDoItems(storage::SequentialReader& reader) {
   std::vector<ToDoItem> items;
-  storage::SequentialReader reader(folder, storage::file_names::kToDoList);
   while (!reader.AtEnd()) {
     const std::string entry = text::Trim(reader.Next());
     const std::string date = reader.Next();
@@ -41,11 +38,12 @@ bool PlaceToDoEntry(DayRows& rows, const std::string& entry) {
   return false;
 }
 
-void ImportToDoItem(storage::ProgramFolder& folder, const ToDoItem& item) {
-  auto stored = ReadDay(folder, item.date);
-  if (!stored || !PlaceToDoEntry(stored->rows, item.entry)) return;
+storage::Outcome ImportToDoItem(storage::ProgramFolder& folder, const ToDoItem& item) {
+  auto fault = storage::Fault::kNone;
+  auto stored = ReadDay(folder, item.date, &fault);
+  if (!stored || !PlaceToDoEntry(stored->rows, item.entry)) return fault;
   const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(folder));
-  WriteDay(folder, item.date, SortDay(stored->rows, option));
+  return WriteDay(folder, item.date, SortDay(stored->rows, option));
 }
 
 }  // namespace tarnwell::planner

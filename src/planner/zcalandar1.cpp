@@ -1,10 +1,12 @@
 #include "planner/zcalandar1.h"
 
+#include <algorithm>
+
+#include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/help_menu.h"
 #include "forms/navigator.h"
 #include "planner/day_copy.h"
-#include "planner/day_sort.h"
 #include "planner/day_store.h"
 #include "settings/planner_settings.h"
 #include "text/date_mask.h"
@@ -12,8 +14,6 @@
 
 namespace tarnwell::planner {
 namespace {
-
-constexpr const char* kTitle = "Daily Planner";
 
 // Every half hour from 6:00 AM to 10:00 PM.
 std::vector<std::string> TimesOffered() {
@@ -30,7 +30,7 @@ std::vector<std::string> TimesOffered() {
 Zcalandar1::Zcalandar1(forms::Context& context)
     : Form(context, forms::form_names::kZcalandar1,
            "Tools and Program Information - Daily Planner"),
-      calendar_options(*this, context.folder),
+      calendar_options(*this, context),
       recurrence(*this, context),
       pages(*this, context),
       background(*this, context, settings::GridBackground::kPlanner),
@@ -43,7 +43,7 @@ Zcalandar1::Zcalandar1(forms::Context& context)
     picker.SetToday(context_.clock.Today());
   };
   time_picker.on_pick = [this] { PickTime(); };
-  sort_time.on_pick = [this](int index) { settings::WriteSortTime(context_.folder, index); };
+  sort_time.on_pick = [this](int index) { StoreSortTime(index); };
   save.on_click = [this] { Save(); };
   clear_entries.on_click = [this] { ClearEntries(); };
   exit.on_click = [this] { Exit(); };
@@ -93,7 +93,7 @@ void Zcalandar1::BuildMenus() {
   paste_entry_->SetEnabled(false);
   forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
   export_entry_ = &utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
-                                      [this] { pages.ExportMonth(kTitle + std::string(".xls")); });
+                                      [this] { pages.ExportMonth("Daily Planner.xls"); });
   export_entry_->SetEnabled(false);
   SetPopupMenu(options);
   forms::AddHelpMenu(*this, context_);
@@ -112,6 +112,8 @@ void Zcalandar1::BuildRows() {
         if (!loaded_) RefuseRowWithoutDay();
       };
     }
+    times[i].on_arrow = [this, i](int step) { WalkRows(times, i, step); };
+    entries[i].on_arrow = [this, i](int step) { WalkRows(entries, i, step); };
     times[i].on_enter = [this, i] { entries[i].Focus(); };
     entries[i].on_enter = [this, i] { times[(i + 1) % kRowsPerDay].Focus(); };
     recurrence_buttons[i].SetSpokenName("Recurrence Option " + number);
@@ -139,7 +141,23 @@ void Zcalandar1::TakeRowInHand(int row) {
     times[i].SetMarked(static_cast<int>(i) == row);
     entries[i].SetMarked(static_cast<int>(i) == row);
   }
-  time_picker.Select(forms::ComboBox::kNone);
+  ShowTimeOfRow();
+}
+
+// The picker stands on the row's own time, where that is one of its times.
+void Zcalandar1::ShowTimeOfRow() {
+  const std::string time = text::Trim(times[static_cast<std::size_t>(row_in_hand_)].text());
+  const auto& offered = time_picker.items();
+  const auto found = std::ranges::find_if(
+      offered, [&](const std::string& item) { return text::EqualIgnoringCase(item, time); });
+  time_picker.Select(found == offered.end() ? forms::ComboBox::kNone
+                                            : static_cast<int>(found - offered.begin()));
+}
+
+void Zcalandar1::WalkRows(forms::ControlArray<forms::TextField, kRowsPerDay>& column,
+                          std::size_t row, int step) {
+  const int target = static_cast<int>(row) + step;
+  if (target >= 0 && target < kRowsPerDay) column[static_cast<std::size_t>(target)].Focus();
 }
 
 void Zcalandar1::Typed(int row) {
@@ -148,18 +166,25 @@ void Zcalandar1::Typed(int row) {
     entries[static_cast<std::size_t>(row)].SetText({});
     return RefuseRowWithoutDay();
   }
+  ShowTimeOfRow();
   MarkChanged();
 }
 
 void Zcalandar1::RefuseRowWithoutDay() {
   Message({"Data Entry", "Please select a Day before entering data!", forms::Icon::kInformation});
+  EnableRows(false);
+}
+
+void Zcalandar1::EnableRows(bool enabled) {
   for (std::size_t i = 0; i < kRowsPerDay; ++i) {
-    times[i].SetEnabled(false);
-    entries[i].SetEnabled(false);
+    times[i].SetEnabled(enabled);
+    entries[i].SetEnabled(enabled);
   }
+  time_picker.SetEnabled(enabled);
 }
 
 void Zcalandar1::PickTime() {
+  if (!loaded_) return;
   const auto row = static_cast<std::size_t>(row_in_hand_);
   times[row].SetText(time_picker.text());
   entries[row].Focus();
@@ -171,32 +196,20 @@ void Zcalandar1::PickDay() {
   ShowDay(picker.date());
 }
 
-// Offers to save the day on screen before another one takes its place. False, with the picker back
-// on that day, when the save failed: the rows are all that is left of the user's work.
-bool Zcalandar1::LeaveLoadedDay(SaveNote note) {
-  if (!unsaved_ || !loaded_) return true;
-  if (Confirmed({kTitle, "Save changes/entries before next action?", forms::Icon::kQuestion,
-                 forms::Buttons::kYesNo}) &&
-      SaveUnder(*loaded_, note) == SaveResult::kFailed) {
-    picker.SetDate(loaded_);
-    return false;
-  }
-  unsaved_ = false;
-  return true;
-}
-
 void Zcalandar1::ShowDay(std::optional<text::Date> date) {
-  const auto stored = date ? ReadDay(context_.folder, *date) : std::nullopt;
+  auto fault = storage::Fault::kNone;
+  const auto stored = date ? ReadDay(context_.folder, *date, &fault) : std::nullopt;
   loaded_ = stored ? date : std::nullopt;
   unsaved_ = false;
-  for (std::size_t i = 0; i < kRowsPerDay; ++i) {
-    times[i].SetEnabled(true);
-    entries[i].SetEnabled(true);
-  }
+  EnableRows(fault == storage::Fault::kNone);
   ShowRows(stored ? stored->rows : DayRows{});
   EnableCommands(stored.has_value(), stored && stored->saved);
   const char* mask = context_.variables.day_first() ? "dd mmmm, yyyy - ddd" : "mmmm dd, yyyy - ddd";
-  date_caption.SetCaption(loaded_ ? text::FormatDate(*loaded_, mask) : std::string());
+  const std::string shown = date ? text::FormatDate(*date, mask) : std::string();
+  date_caption.SetCaption(fault == storage::Fault::kNone
+                              ? shown
+                              : shown + " can't be read: " + std::string(forms::ReasonOf(fault)) +
+                                    ".");
 }
 
 void Zcalandar1::ShowRows(const DayRows& rows) {
@@ -205,6 +218,7 @@ void Zcalandar1::ShowRows(const DayRows& rows) {
     entries[i].SetText(rows[i].entry);
   }
   MarkRowsWithoutText();
+  ShowTimeOfRow();
 }
 
 // A recurrence needs a text.
@@ -247,40 +261,6 @@ DayRows Zcalandar1::Rows() {
   return rows;
 }
 
-void Zcalandar1::Save() {
-  if (loaded_) SaveUnder(*loaded_);
-}
-
-Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date, SaveNote note) {
-  if (!HasRows(Rows()) &&
-      !Confirmed({"Save", "There are currently No Entries to Save!\nSave anyway?",
-                  forms::Icon::kQuestion, forms::Buttons::kYesNo, 2})) {
-    return SaveResult::kDeclined;
-  }
-  const forms::Hourglass hourglass(context_.window);
-  const auto option = static_cast<SortTimeOption>(settings::ReadSortTime(context_.folder));
-  ShowRows(SortDay(Rows(), option));
-  if (!WriteDay(context_.folder, date, Rows())) return SaveResult::kFailed;
-  unsaved_ = false;
-  EnableCommands(true, true);
-  if (note == SaveNote::kShown) {
-    Message({"Save File Command", "Entries Have Been Time Sorted and File Saved.",
-             forms::Icon::kInformation});
-  }
-  return SaveResult::kSaved;
-}
-
-void Zcalandar1::Exit() {
-  if (unsaved_ && loaded_) {
-    const forms::Answer answer = Message({kTitle, "Save changes/entries before exiting?",
-                                          forms::Icon::kQuestion, forms::Buttons::kYesNoCancel});
-    if (answer == forms::Answer::kCancel) return;
-    if (answer == forms::Answer::kYes && SaveUnder(*loaded_) == SaveResult::kFailed) return;
-  }
-  if (!colors.Leave(forms::Buttons::kYesNoCancel)) return;
-  context_.navigator.Unload(*this);
-}
-
 void Zcalandar1::ShowColors() {
   for (forms::Panel* panel :
        {&day, &pages.month.panel, &pages.print.panel, &pages.exporting.panel, &background.panel,
@@ -291,16 +271,6 @@ void Zcalandar1::ShowColors() {
     times[i].SetColor(colors.text());
     entries[i].SetColor(colors.text());
   }
-}
-
-bool Zcalandar1::QueryUnload(forms::UnloadCause) {
-  if (unsaved_ && loaded_ &&
-      Confirmed({kTitle, "Save changes/entries before exiting?", forms::Icon::kQuestion,
-                 forms::Buttons::kYesNo}) &&
-      SaveUnder(*loaded_) == SaveResult::kFailed) {
-    return false;
-  }
-  return colors.Leave(forms::Buttons::kYesNo);
 }
 
 void Zcalandar1::ClearEntries() {

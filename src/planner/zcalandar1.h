@@ -71,12 +71,15 @@ class Zcalandar1 : public forms::Form {
   void BuildMenus();
   void BuildRows();
   void TakeRowInHand(int row);
+  void ShowTimeOfRow();
+  void WalkRows(forms::ControlArray<forms::TextField, kRowsPerDay>& column, std::size_t row,
+                int step);
   void Typed(int row);
   void RefuseRowWithoutDay();
+  void EnableRows(bool enabled);
   void PickTime();
 
   void PickDay();
-  bool LeaveLoadedDay(SaveNote note = SaveNote::kShown);
   void ShowDay(std::optional<text::Date> date);
   void ShowRows(const DayRows& rows);
   void MarkChanged();
@@ -86,8 +89,15 @@ class Zcalandar1 : public forms::Form {
   DayRows Rows();
 
   void Save();
+  // A failure is told, and the rows stay as they were.
   SaveResult SaveUnder(text::Date date, SaveNote note = SaveNote::kShown);
+  // Of the day on screen.
+  SaveResult OfferToSave(const char* question, SaveNote note = SaveNote::kShown);
+  // Asks when the save failed.
+  bool MayLeave(SaveResult result);
+  bool LeaveLoadedDay();
   void Exit();
+  void StoreSortTime(int option);
   void ShowColors();
   void ClearEntries();
   void CopyDay();

@@ -1,9 +1,9 @@
 // What takes the place of the planner's rows, and what runs over them.
 
+#include "forms/disk_trouble.h"
 #include "planner/row_texts.h"
 #include "planner/zcalandar1.h"
 #include "proofing/spelling.h"
-#include "settings/planner_settings.h"
 #include "text/letters.h"
 
 namespace tarnwell::planner {
@@ -26,7 +26,7 @@ void Zcalandar1::OpenRecurrence(int row) {
   if (!loaded_ || text::Trim(entries[i].text()).empty()) return;
   if (unsaved_) {
     // The rows stay on the screen, saved or not; the button is to be pressed again.
-    LeaveLoadedDay(SaveNote::kNone);
+    OfferToSave("Save changes/entries before next action?", SaveNote::kNone);
     return;
   }
   recurrence_buttons[i].SetSelected(true);
@@ -51,7 +51,10 @@ void Zcalandar1::ViewMonth() {
   if (!LeaveLoadedDay()) return SetStatus({});
   if (was_unsaved) ShowDay(loaded_);
   if (!loaded_) return SetStatus({});  // the day can't be read any more
-  pages.month.Fill(context_.folder, *loaded_);
+  if (const auto filled = pages.month.Fill(context_.folder, *loaded_); !filled) {
+    forms::TellUnreadable(context_, "The month", filled.fault());
+    return SetStatus({});
+  }
   picker.SetVisible(false);  // the month on screen holds until the panel is closed
   CoverRows(pages.month.panel);
 }
@@ -83,8 +86,6 @@ void Zcalandar1::PrintDay() {
 
 void Zcalandar1::ClosePrint() {
   picker.SetVisible(day.visible());
-  // The month's guide lines and the sort time lie in one record.
-  sort_time.Choose(settings::ReadSortTime(context_.folder));
   EnableMenus();
 }
 
@@ -100,7 +101,7 @@ void Zcalandar1::CheckSpelling() {
   texts.on_replace = [this] { MarkChanged(); };
   const proofing::SpellingResult result = proofing::CheckSpelling(context_, texts);
   proofing::ReportCheckedEntries(context_, "Spelling Check", !result.changes.empty());
-  SetStatus({});
+  SetStatus(proofing::CorrectedNote(result.changes.size()));
 }
 
 void Zcalandar1::ImportToDo() {
@@ -108,14 +109,13 @@ void Zcalandar1::ImportToDo() {
   // The day is read again at the end, which would drop what isn't saved.
   if (!LeaveLoadedDay()) return;
   const text::Date on_screen = *loaded_;
-  if (todo_import.Open()) {
-    day.SetVisible(false);
-    picker.SetEnabled(false);
-    todo_import.Run(on_screen);
-    picker.SetEnabled(true);
-    day.SetVisible(true);
-    picker.SetDate(on_screen);
-  }
+  if (!todo_import.Open()) return;
+  day.SetVisible(false);
+  picker.SetEnabled(false);
+  todo_import.Run(on_screen);
+  picker.SetEnabled(true);
+  day.SetVisible(true);
+  picker.SetDate(on_screen);
   ShowDay(on_screen);
 }
 

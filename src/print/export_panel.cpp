@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "text/letters.h"
 
 namespace tarnwell::print {
 namespace {
 
-constexpr const char* kFirstDrive = "c:";
 constexpr const char* kAbove = "..";
 constexpr std::string_view kExtension = ".XLS";
 
@@ -16,15 +16,15 @@ bool HasExtension(std::string_view name) {
   return text::UpperCase(text::Right(name, kExtension.size())) == kExtension;
 }
 
-std::string WithBackslash(std::string path) {
-  if (!path.ends_with('\\')) path += '\\';
+std::string WithSlash(std::string path) {
+  if (!path.ends_with('/')) path += '/';
   return path;
 }
 
-// Of a folder with a "\" behind; itself at the top of a drive.
+// Of a folder with a "/" behind; itself at the top.
 std::string FolderAbove(const std::string& folder) {
   if (folder.size() < 2) return folder;
-  const std::size_t end = folder.rfind('\\', folder.size() - 2);
+  const std::size_t end = folder.rfind('/', folder.size() - 2);
   return end == std::string::npos ? folder : folder.substr(0, end + 1);
 }
 
@@ -64,10 +64,19 @@ void ExportPanel::Open(const forms::Grid& grid, std::string_view file_name) {
   grid_ = &grid;
   no_drive_ = false;
   name.SetText(file_name);
-  drives.SetItems(context_.folders.Drives());
+  places_ = context_.folders.Places();
+  std::vector<std::string> names;
+  for (const forms::Place& place : places_) names.push_back(place.name);
+  drives.SetItems(std::move(names));
   panel.SetVisible(true);
-  if (!Show(context_.folders.ProgramPath())) Show(WithBackslash(kFirstDrive));
+  no_drive_ = !FallBack();
   EnableSave();
+}
+
+// To the program's own folder, or to the first place that can be read.
+bool ExportPanel::FallBack() {
+  return Show(context_.folders.ProgramPath()) ||
+         std::ranges::any_of(places_, [&](const forms::Place& place) { return Show(place.path); });
 }
 
 void ExportPanel::Close() {
@@ -79,7 +88,7 @@ void ExportPanel::Close() {
 
 // False, with everything as it was, when the folder can't be read.
 bool ExportPanel::Show(const std::string& folder) {
-  const std::string path_text = WithBackslash(folder);
+  const std::string path_text = WithSlash(folder);
   const auto below = context_.folders.Folders(path_text);
   const auto names = context_.folders.Files(path_text);
   if (!below || !names) return false;
@@ -91,14 +100,23 @@ bool ExportPanel::Show(const std::string& folder) {
   std::vector<std::string> sheets;
   std::ranges::copy_if(*names, std::back_inserter(sheets), HasExtension);
   files.SetItems(std::move(sheets));
-  const std::string drive = text::UpperCase(folder_.substr(0, folder_.find('\\')));
-  const auto found = std::ranges::find_if(
-      drives.items(), [&](const std::string& item) { return text::UpperCase(item) == drive; });
-  drives.Select(found == drives.items().end() ? forms::ComboBox::kNone
-                                              : static_cast<int>(found - drives.items().begin()));
+  SelectDrive();
   path.SetCaption(folder_);
   ShowLines();
   return true;
+}
+
+// The place that lies nearest above the folder.
+void ExportPanel::SelectDrive() {
+  int nearest = forms::ComboBox::kNone;
+  std::size_t longest = 0;
+  for (std::size_t i = 0; i < places_.size(); ++i) {
+    const std::string place = WithSlash(places_[i].path);
+    if (!folder_.starts_with(place) || place.size() <= longest) continue;
+    nearest = static_cast<int>(i);
+    longest = place.size();
+  }
+  drives.Select(nearest);
 }
 
 void ExportPanel::ShowLines() {
@@ -115,18 +133,18 @@ void ExportPanel::OpenFolder() {
       chosen == kAbove && folders.selected() == 0 ? FolderAbove(folder_) : folder_ + chosen;
   if (Show(folder)) return;
   forms::ShowMessage(context_,
-                     {"Device Status", "Device Unavailable!  ", forms::Icon::kInformation});
-  Show(WithBackslash(kFirstDrive));
+                     {"Device Status", "Device Unavailable!  ", forms::Icon::kExclamation});
+  FallBack();
 }
 
 void ExportPanel::PickDrive() {
   no_drive_ = false;
-  if (!Show(WithBackslash(drives.text()))) {
-    forms::ShowMessage(context_, {"Device/Drive Error", "Device/Drive is Unavailable!",
-                                  forms::Icon::kInformation});
-    if (!Show(WithBackslash(kFirstDrive))) {
+  if (!Show(places_.at(static_cast<std::size_t>(drives.selected())).path)) {
+    forms::ShowMessage(
+        context_, {"Device/Drive Error", "Device/Drive is Unavailable!", forms::Icon::kCritical});
+    if (!FallBack()) {
       forms::ShowMessage(context_,
-                         {"Device Status", "Device Unavailable!  ", forms::Icon::kInformation});
+                         {"Device Status", "Device Unavailable!  ", forms::Icon::kExclamation});
       no_drive_ = true;
     }
   }
@@ -158,10 +176,11 @@ void ExportPanel::Export() {
         context_, {"Export Error", "File Name is Missing or Incorrect", forms::Icon::kCritical});
     return;
   }
-  {
+  const auto written = [&] {
     const forms::Hourglass hourglass(context_.window);
-    context_.folders.WriteFile(folder_ + file, TabDelimited(*grid_));
-  }
+    return context_.folders.WriteFile(folder_ + file, TabDelimited(*grid_));
+  }();
+  if (!written) return forms::TellNotSaved(context_, "The file " + file, written.fault());
   forms::ShowMessage(context_, {"Export Function", "Export Completed to selected location!",
                                 forms::Icon::kInformation});
   Show(folder_);

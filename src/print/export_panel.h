@@ -38,6 +38,7 @@ class ExportPanel {
   forms::Panel panel;
   forms::ControlArray<forms::Label, 4> lines{panel, "Label100"};
   forms::Label drives_heading{panel, "Label20", "Drives:"};
+  // The places of this machine from which folders are reached.
   forms::ComboBox drives{panel, "Drive1", "Drives"};
   forms::Label folders_heading{panel, "Label21", "Folders:"};
   // The folder above is its first row, "..", where there is one. A folder is opened, not picked.
@@ -63,6 +64,8 @@ class ExportPanel {
   void PickFile();
   void Export();
   bool Show(const std::string& folder);
+  void SelectDrive();
+  bool FallBack();
   void ShowLines();
   void EnableSave();
   std::string TakeName();
@@ -70,7 +73,8 @@ class ExportPanel {
   forms::Context& context_;
   ExportStyle style_;
   const forms::Grid* grid_ = nullptr;
-  std::string folder_;  // with a "\" behind
+  std::vector<forms::Place> places_;
+  std::string folder_;  // with a "/" behind
   bool no_drive_ = false;
 };
 

@@ -12,11 +12,16 @@ constexpr std::string_view kStop = "TheEnd1";
 
 // `wrong` is in capitals with a blank at either end, like `right`, and so is the row but for the
 // capitals.
-void CorrectRow(std::string& row, const std::string& wrong, const std::string& right) {
+void CorrectRow(std::string& row, const std::string& wrong, const std::string& right,
+                const std::set<std::string>& kept) {
   std::size_t place = 0;
   while ((place = text::UpperCase(row).find(wrong, place)) != std::string::npos) {
     const std::string found = row.substr(place, wrong.size());
     const std::string word = text::Trim(found);
+    if (kept.contains(word)) {
+      place += wrong.size() - 1;  // the blank behind it may be the next word's
+      continue;
+    }
     const std::string written = " " + WithCapitalsOf(word, text::Trim(right)) + " ";
     row.replace(place, wrong.size(), written);
     place += written.size();
@@ -50,7 +55,7 @@ class ColumnCopy : public CheckedText {
 }  // namespace
 
 void CorrectRows(std::vector<std::string>& rows, std::vector<SpellingChange> changes,
-                 std::size_t longest) {
+                 std::size_t longest, const std::set<std::string>& kept) {
   const std::string stop(kStop);
   changes.push_back({stop, stop});
   for (const SpellingChange& change : changes) {
@@ -59,25 +64,25 @@ void CorrectRows(std::vector<std::string>& rows, std::vector<SpellingChange> cha
     for (std::string& row : rows) {
       if (text::Trim(row).empty()) continue;
       std::string padded = " " + row + " ";
-      CorrectRow(padded, wrong, change.right);
+      CorrectRow(padded, wrong, change.right, kept);
       row = text::Left(text::Trim(padded), longest);
     }
   }
 }
 
-bool CheckSpellingOfColumn(forms::Context& context, forms::Grid& grid, int column,
-                           std::size_t longest) {
+std::size_t CheckSpellingOfColumn(forms::Context& context, forms::Grid& grid, int column,
+                                  std::size_t longest) {
   ColumnCopy copy(grid, column);
   const SpellingResult result = CheckSpelling(context, copy);
   std::vector<std::string> rows;
   for (int row = 1; row < grid.rows(); ++row) rows.push_back(grid.text(row, column));
-  CorrectRows(rows, result.changes, longest);
+  CorrectRows(rows, result.changes, longest, result.kept);
   const forms::Grid::Batch batch(grid);
   for (int row = 1; row < grid.rows(); ++row) {
     const std::string& corrected = rows[static_cast<std::size_t>(row - 1)];
     if (grid.text(row, column) != corrected) grid.SetText(row, column, corrected);
   }
-  return !result.changes.empty();
+  return result.changes.size();
 }
 
 }  // namespace tarnwell::proofing

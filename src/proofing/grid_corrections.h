@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,13 +19,13 @@ namespace tarnwell::proofing {
 // in the capitals of the words that are found. A correction finds a word that has a blank, or an
 // end of the row, on either side; of two such words that share a blank only the first. Rows that
 // have a text are trimmed and cut to `longest` characters on the way. An entry "TheEnd1", in any
-// capitals, ends the list of changes.
+// capitals, ends the list of changes. Words that the check kept stay in these capitals.
 void CorrectRows(std::vector<std::string>& rows, std::vector<SpellingChange> changes,
-                 std::size_t longest);
+                 std::size_t longest, const std::set<std::string>& kept = {});
 
 // Checks the column's cells below the heading row, with the cursor on the cell that is asked about.
-// True when a word was changed.
-bool CheckSpellingOfColumn(forms::Context& context, forms::Grid& grid, int column,
-                           std::size_t longest);
+// How many words were changed.
+std::size_t CheckSpellingOfColumn(forms::Context& context, forms::Grid& grid, int column,
+                                  std::size_t longest);
 
 }  // namespace tarnwell::proofing

@@ -36,6 +36,10 @@ SpellingResult CheckSpelling(forms::Context& context, CheckedText& text) {
   return session.result();
 }
 
+std::string CorrectedNote(std::size_t corrected) {
+  return std::to_string(corrected) + (corrected == 1 ? " word" : " words") + " corrected";
+}
+
 void ReportCheckedEntries(forms::Context& context, std::string_view title, bool changed) {
   const std::string name(title);
   forms::ShowMessage(context,

@@ -63,22 +63,53 @@ bool SpellingSession::CorrectPair(const WordPlace& first) {
 // Corrects the word if that needs no answer. Afterwards `word_` is the word.
 bool SpellingSession::NeedsAnswer(const WordPlace& place) {
   word_ = DictionaryForm(place.In(content_));
-  if (user_words_.Has(word_) || ignored_.contains(word_)) return false;
-  std::string right(FindCorrection(word_));
+  if (user_words_.Has(word_) || ignored_.contains(word_)) {
+    result_.kept.insert(word_);
+    return false;
+  }
+  std::string right;
   if (const auto found = change_all_.find(text::LowerCase(word_)); found != change_all_.end()) {
     right = found->second;
+  } else {
+    if (IsRight()) return false;
+    right = FindCorrection(word_);
+    if (right.empty() || StandsOutInCapitals(place)) {
+      result_.kept.insert(word_);  // until it is changed
+      return true;
+    }
   }
-  if (right.empty()) return !speller_.IsCorrect(word_);
   const std::string written = WithCapitalsOf(word_, right);
   if (written != word_) Replace(place, written, {word_, right});
   return false;
+}
+
+// The dictionary may take "i" for the letter. Without a dictionary only the table's words are
+// wrong.
+bool SpellingSession::IsRight() const {
+  if (word_ == "i") return false;
+  if (!speller_.available()) return FindCorrection(word_).empty();
+  return speller_.IsCorrect(word_);
+}
+
+bool SpellingSession::StandsOutInCapitals(const WordPlace& place) const {
+  if (word_.size() < 2 || text::UpperCase(word_) != word_) return false;
+  const std::string line = text::FromUtf8(LineAround(content_, place));
+  return text::UpperCase(line) != line;
 }
 
 Surroundings SpellingSession::surroundings(std::size_t width) const {
   return SurroundingsOf(content_, in_hand_, width);
 }
 
-std::vector<std::string> SpellingSession::Suggestions() { return speller_.Suggest(word_); }
+std::vector<std::string> SpellingSession::Suggestions() {
+  std::vector<std::string> words = speller_.Suggest(word_);
+  const std::string_view right = FindCorrection(word_);
+  if (right.empty()) return words;
+  const std::string best = WithCapitalsOf(word_, right);
+  std::erase(words, best);
+  words.insert(words.begin(), best);
+  return words;
+}
 
 // What the change list says for the word in hand. A word that is written with a capital everywhere
 // keeps it: then the dictionary doesn't have it without.
@@ -101,6 +132,7 @@ void SpellingSession::Replace(const WordPlace& place, std::string_view right,
                               SpellingChange change) {
   const std::string utf8 = InApostrophesOf(place.In(content_), right);
   text_.Replace(part_, place.offset, place.length, utf8);
+  result_.kept.erase(change.wrong);
   result_.changes.push_back(std::move(change));
   // The text may have cut it, to what a row can hold.
   OpenPart(part_);

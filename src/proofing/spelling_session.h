@@ -26,12 +26,14 @@ struct SpellingChange {
 
 struct SpellingResult {
   std::vector<SpellingChange> changes;  // one for each word replaced, in the order of the text
+  std::set<std::string> kept;           // words that were to stay as they are, in these capitals
   bool canceled = false;
 };
 
-// A word that the user added is right. A word of the table of corrections is corrected without
-// asking, even if the dictionary has it too ("i", "fora"): the table was made for slips that happen
-// to be words. Of the others the dictionary decides, and what it doesn't have is asked about.
+// A word that the user added is right, and so is one of the dictionary, but for "i". What is left
+// and stands in the table of corrections is corrected without asking. Only in capitals it may as
+// well be an abbreviation ("HSA"): where its line isn't all in capitals, it is asked about with the
+// table's word proposed. So is what neither of them has.
 class SpellingSession {
  public:
   SpellingSession(forms::Speller& speller, storage::ProgramFolder& folder, CheckedText& text);
@@ -50,7 +52,7 @@ class SpellingSession {
   void ChangeAll(std::string_view right);
   void IgnoreAll() { ignored_.insert(word_); }
   // False when the word couldn't be saved for later runs.
-  bool Add() { return user_words_.Add(word_); }
+  storage::Outcome Add() { return user_words_.Add(word_); }
   void Cancel() { result_.canceled = true; }
 
   const SpellingResult& result() const { return result_; }
@@ -59,6 +61,8 @@ class SpellingSession {
   bool OpenPart(int part);
   bool CorrectPair(const WordPlace& first);
   bool NeedsAnswer(const WordPlace& place);
+  bool IsRight() const;
+  bool StandsOutInCapitals(const WordPlace& place) const;
   std::string SmallForm(std::string_view right);
   void Replace(const WordPlace& place, std::string_view right, SpellingChange change);
 

@@ -15,9 +15,9 @@ constexpr std::string_view kOwner = "'s";
 }  // namespace
 
 UserWords::UserWords(storage::ProgramFolder& folder) : folder_(folder) {
-  for (std::string& word : storage::ReadNameList(folder, storage::file_names::kUserWords)) {
-    words_.insert(std::move(word));
-  }
+  auto list = storage::ReadNameList(folder, storage::file_names::kUserWords);
+  fault_ = list.fault;
+  for (std::string& word : list.names) words_.insert(std::move(word));
 }
 
 bool UserWords::Has(std::string_view word) const {
@@ -30,9 +30,10 @@ bool UserWords::Has(std::string_view word) const {
   return text::UpperCase(word) == word && words_.contains(WithCapitalsOf("Aa", small));
 }
 
-bool UserWords::Add(std::string_view word) {
+storage::Outcome UserWords::Add(std::string_view word) {
   if (word.ends_with(kOwner)) word.remove_suffix(kOwner.size());
-  if (!words_.emplace(word).second) return true;
+  if (!words_.emplace(word).second) return {};
+  if (fault_ != storage::Fault::kNone) return fault_;
   return storage::WriteNameList(folder_, storage::file_names::kUserWords,
                                 {words_.begin(), words_.end()});
 }

@@ -19,11 +19,13 @@ class UserWords {
   // of a sentence or a heading gives it; or as an owner ("Tarnwell's").
   bool Has(std::string_view word) const;
 
-  // False when it couldn't be saved: then it counts only as long as this object lives.
-  bool Add(std::string_view word);
+  // When it couldn't be saved, it counts only as long as this object lives. A list that couldn't be
+  // read is never written.
+  storage::Outcome Add(std::string_view word);
 
  private:
   storage::ProgramFolder& folder_;
+  storage::Fault fault_ = storage::Fault::kNone;  // of reading the list
   std::set<std::string, std::less<>> words_;
 };
 

@@ -1,5 +1,6 @@
 #include "proofing/vsspell1.h"
 
+#include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "text/letters.h"
@@ -30,7 +31,9 @@ VSSpell1::VSSpell1(forms::Context& context)
     Next();
   };
   add.on_click = [this] {
-    session->Add();
+    if (const auto added = session->Add(); !added) {
+      forms::TellNotSaved(context_, "The word", added.fault());
+    }
     Next();
   };
   help.on_click = [this] { context_.help.Show(kSpellingHelp); };

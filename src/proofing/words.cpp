@@ -52,13 +52,22 @@ bool IsLetterAt(std::string_view text, std::size_t place) {
   return place < text.size() && IsIn(static_cast<unsigned char>(text[place]) | 0x20, 'a', 'z');
 }
 
-// A letter that numbers a paragraph, "i)", or stands in an abbreviation, "i.e.".
+bool BeginsLine(std::string_view text, std::size_t place) {
+  while (place > 0 && (text[place - 1] == ' ' || text[place - 1] == '\t')) --place;
+  return place == 0 || text[place - 1] == '\r' || text[place - 1] == '\n';
+}
+
+// A letter that numbers a paragraph, "i." or "i)" at its beginning or "(i)", or stands in an
+// abbreviation, "i.e.".
 bool IsLoneLetter(std::string_view text, const WordPlace& word) {
   if (word.length != 1) return false;
   const std::size_t begin = word.offset;
-  const std::size_t end = word.end();
-  if (end < text.size() && text[end] == ')') return true;
-  if (end < text.size() && text[end] == '.' && IsLetterAt(text, end + 1)) return true;
+  const char behind = word.end() < text.size() ? text[word.end()] : ' ';
+  const bool in_bracket = begin > 0 && text[begin - 1] == '(';
+  if (behind == ')' && in_bracket) return true;
+  if ((behind == ')' || behind == '.') && BeginsLine(text, begin)) return true;
+  if (behind == ')') return text[begin] != 'i';
+  if (behind == '.' && IsLetterAt(text, word.end() + 1)) return true;
   return begin >= 2 && text[begin - 1] == '.' && IsLetterAt(text, begin - 2);
 }
 
@@ -122,6 +131,13 @@ std::vector<WordPlace> WordsOf(std::string_view text) {
   std::vector<WordPlace> words = std::move(collector).words();
   std::erase_if(words, [&](const WordPlace& word) { return IsLoneLetter(text, word); });
   return words;
+}
+
+std::string_view LineAround(std::string_view text, const WordPlace& word) {
+  const std::size_t before = text.find_last_of("\r\n", word.offset);
+  const std::size_t begin = before == std::string_view::npos ? 0 : before + 1;
+  const std::size_t end = text.find_first_of("\r\n", word.end());
+  return text.substr(begin, end == std::string_view::npos ? end : end - begin);
 }
 
 bool StandTogether(std::string_view text, const WordPlace& first, const WordPlace& second) {

@@ -20,9 +20,12 @@ struct WordPlace {
 };
 
 // In the order of the text. An apostrophe between two letters belongs to the word. Left out are web
-// and mail addresses, the letters of "i.e." and "(i)", words with a digit, and words with a letter
-// that the code page can't hold.
+// and mail addresses, the letters of "i.e." and "(i)" and of an "i." that begins a line, words with
+// a digit, and words with a letter that the code page can't hold.
 std::vector<WordPlace> WordsOf(std::string_view text);
+
+// The line of the text in which the word stands.
+std::string_view LineAround(std::string_view text, const WordPlace& word);
 
 // Nothing but blanks lies between the two.
 bool StandTogether(std::string_view text, const WordPlace& first, const WordPlace& second);

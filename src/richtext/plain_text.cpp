@@ -33,6 +33,16 @@ void Append(const std::vector<Paragraph>& paragraphs, std::string& text) {
   }
 }
 
+// A picture, or a drawing or an object that this program can keep but not show.
+bool IsPicture(const Run& run) {
+  if (std::holds_alternative<Picture>(run.content)) return true;
+  const auto* const kept = std::get_if<Opaque>(&run.content);
+  constexpr std::string_view kDrawings[] = {"\\pict", "\\shp", "\\object", "\\do\\"};
+  return kept != nullptr && std::ranges::any_of(kDrawings, [kept](std::string_view word) {
+           return kept->rtf.find(word) != std::string::npos;
+         });
+}
+
 // False where limits.h has no room for all of the line.
 bool AppendParagraph(std::string_view line, std::size_t& room, RichDocument& document) {
   if (document.blocks.size() == kMostParagraphs) return false;
@@ -75,6 +85,13 @@ bool IsBlank(const RichDocument& document) {
     }
   }
   return true;
+}
+
+bool HoldsNothing(const RichDocument& document) {
+  return IsBlank(document) && std::ranges::all_of(document.blocks, [](const Block& block) {
+           const auto* const paragraph = std::get_if<Paragraph>(&block);
+           return paragraph != nullptr && std::ranges::none_of(paragraph->runs, IsPicture);
+         });
 }
 
 RichDocument FromPlainText(std::string_view utf8) {

@@ -17,6 +17,10 @@ std::string PlainText(const RichDocument& document);
 // Whether the text holds nothing but blanks, tabs and breaks. Pictures aren't text.
 bool IsBlank(const RichDocument& document);
 
+// Whether nobody would miss the document: it is blank and has no picture, no drawing that is only
+// kept, and no table.
+bool HoldsNothing(const RichDocument& document);
+
 // A paragraph a line; CR LF, LF and CR end a line. The empty text gives no paragraph.
 RichDocument FromPlainText(std::string_view utf8);
 

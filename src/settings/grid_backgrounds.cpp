@@ -6,15 +6,14 @@ namespace tarnwell::settings {
 namespace {
 
 using storage::file_names::kGColor1;
-
-constexpr RecordPlace kDisplayGridsOrModem{kGColor1, 25};
+using storage::file_names::kGColor3;
 
 RecordPlace PlaceOf(GridBackground function) {
   switch (function) {
     case GridBackground::kBudget:
       return {kGColor1, 14};
     case GridBackground::kDisplayGrids:
-      return kDisplayGridsOrModem;
+      return {kGColor3, 25};
     case GridBackground::kWorkArea:
       return {kGColor1, 42};
     case GridBackground::kPlanner:
@@ -23,33 +22,17 @@ RecordPlace PlaceOf(GridBackground function) {
   return {};
 }
 
-bool IsPort(const StoredColor& stored) {
-  const auto number = stored.color();
-  return number && *number >= kFirstPort && *number <= kLastPort;
-}
-
 }  // namespace
 
 StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground function) {
   if (HoldsForTheRun(function)) return {};
-  const auto stored = StoredColor::FromText(ReadText(folder, PlaceOf(function)));
-  if (function == GridBackground::kDisplayGrids && IsPort(stored)) return {};
-  return stored;
+  return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
 void WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
                          const StoredColor& background) {
   if (function == GridBackground::kPlanner) return;
   WriteText(folder, PlaceOf(function), background.Text());
-}
-
-int ReadModemPort(storage::ProgramFolder& folder) {
-  const auto stored = StoredColor::FromText(ReadText(folder, kDisplayGridsOrModem));
-  return IsPort(stored) ? *stored.color() : kFirstPort;
-}
-
-void WriteModemPort(storage::ProgramFolder& folder, int port) {
-  WriteText(folder, kDisplayGridsOrModem, std::to_string(port));
 }
 
 }  // namespace tarnwell::settings

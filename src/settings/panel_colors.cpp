@@ -46,9 +46,7 @@ RecordPlace PlaceOf(PanelColor function) {
       return {kGColor1, 27};
     case PanelColor::kVehicles:
       return {kGColor1, 32};
-    case PanelColor::kEmployeePictures:
-      return {kGColor1, 36};
-    case PanelColor::kContactPictures:
+    case PanelColor::kPicturePages:
       return {kGColor2, 40};
     case PanelColor::kWorkArea:
       return {kGColor3, 2};
@@ -64,9 +62,9 @@ RecordPlace PlaceOf(FieldColor function) {
       return {kGColor1, 15};
     case FieldColor::kDocumentImages:
       return {kGColor3, 19};
-    case FieldColor::kContactPictures:
+    case FieldColor::kPicturePages:
       return {kGColor2, 41};
-    case FieldColor::kContactPicturesText:
+    case FieldColor::kPicturePagesText:
       return {kGColor2, 42};
   }
   return {};
@@ -78,9 +76,9 @@ StoredColor ReadPanelColor(storage::ProgramFolder& folder, PanelColor function) 
   return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
-void WritePanelColor(storage::ProgramFolder& folder, PanelColor function,
-                     const StoredColor& color) {
-  WriteText(folder, PlaceOf(function), color.Text());
+storage::Outcome WritePanelColor(storage::ProgramFolder& folder, PanelColor function,
+                                 const StoredColor& color) {
+  return WriteText(folder, PlaceOf(function), color.Text());
 }
 
 void WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
@@ -102,17 +100,18 @@ StoredColor ReadTextColor(storage::ProgramFolder& folder) {
                                            : StoredColor();
 }
 
-void WriteTextColor(storage::ProgramFolder& folder, std::int32_t color) {
-  OpenGColor3(folder).PutTagged(kTextColor, color);
+storage::Outcome WriteTextColor(storage::ProgramFolder& folder, std::int32_t color) {
+  auto file = OpenGColor3(folder);
+  return file.Finish(file.PutTagged(kTextColor, color));
 }
 
 StoredColor ReadFieldColor(storage::ProgramFolder& folder, FieldColor function) {
   return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
-void WriteFieldColor(storage::ProgramFolder& folder, FieldColor function,
-                     const StoredColor& color) {
-  WriteText(folder, PlaceOf(function), color.Text());
+storage::Outcome WriteFieldColor(storage::ProgramFolder& folder, FieldColor function,
+                                 const StoredColor& color) {
+  return WriteText(folder, PlaceOf(function), color.Text());
 }
 
 }  // namespace tarnwell::settings

@@ -45,7 +45,7 @@ bool WritePictureFolder(storage::ProgramFolder& folder, PictureFolder screens,
                         const std::string& path) {
   storage::SequentialWriter file;
   file.WriteText(path);
-  return file.Save(folder, FileOf(screens));
+  return static_cast<bool>(file.Save(folder, FileOf(screens)));
 }
 
 std::string ReadImageStartValue(storage::ProgramFolder& folder) {

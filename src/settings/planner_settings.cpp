@@ -6,16 +6,18 @@
 namespace tarnwell::settings {
 namespace {
 
-constexpr int kSortTime = 58;
+// Record numbers in GColor3.Fil.
+int RecordOf(SortTime owner) { return owner == SortTime::kPlanner ? 58 : 57; }
 
 }  // namespace
 
-int ReadSortTime(storage::ProgramFolder& folder) {
-  return text::Trim(OpenGColor3(folder).GetText(kSortTime)) == "1" ? 1 : 0;
+int ReadSortTime(storage::ProgramFolder& folder, SortTime owner) {
+  return text::Trim(OpenGColor3(folder).GetText(RecordOf(owner))) == "1" ? 1 : 0;
 }
 
-void WriteSortTime(storage::ProgramFolder& folder, int option) {
-  OpenGColor3(folder).PutText(kSortTime, option == 1 ? "1" : "0");
+storage::Outcome WriteSortTime(storage::ProgramFolder& folder, int option, SortTime owner) {
+  return WriteText(folder, {storage::file_names::kGColor3, RecordOf(owner)},
+                   option == 1 ? "1" : "0");
 }
 
 }  // namespace tarnwell::settings

@@ -20,7 +20,7 @@ int RecordOf(GuideLines screens) {
     case GuideLines::kCalendarSheet:
       return 56;
     case GuideLines::kPlannerMonth:
-      return 58;
+      return 59;
   }
   return 0;
 }

@@ -15,7 +15,7 @@ enum class GuideLines {
   kVehicles,
   kDisplays,  // display grids of contacts and employees
   kCalendarSheet,
-  kPlannerMonth,  // its record is also ReadSortTime's: either choice carries over to the other
+  kPlannerMonth,
 };
 
 // 0 without, 1 with margin guides in the preview. Anything else on the disk reads as 0.

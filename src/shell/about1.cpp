@@ -12,7 +12,7 @@ About1::About1(forms::Context& context)
       product(*this, "Label1", kProductName, forms::LabelRole::kTitle),
       version(*this, "Label2", kVersionText),
       maker(*this, "Label3", kMakersLine, forms::LabelRole::kNote),
-      close(*this, "Command1", "&OK", {.cancel = true}) {
+      close(*this, "Command1", "&OK", {.cancel = true, .is_default = true}) {
   logo.SetSpokenName(kProductName);
   close.on_click = [this] { context_.navigator.Unload(*this); };
 }

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "storage/fault.h"
+
 namespace tarnwell::storage {
 
 enum class OpenMode {
@@ -20,7 +22,8 @@ enum class OpenMode {
   kCreateFresh,  // read and write; made, and an existing file is an error
 };
 
-// Paths are UTF-8. No member throws; failure is the false, empty or negative result.
+// Paths are UTF-8. No member throws; failure is the false, empty or negative result, and the file
+// system's `fault` says why.
 class File {
  public:
   virtual ~File() = default;
@@ -40,8 +43,10 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
+  // Opens a plain file. What isn't one is refused, and so is a link at the path's last step: it
+  // could lead out of the folder.
   virtual std::unique_ptr<File> Open(const std::string& path, OpenMode mode) = 0;
-  // True for a plain file.
+  // True for whatever has that name, plain file or not.
   virtual bool Exists(const std::string& path) = 0;
   virtual bool Rename(const std::string& from, const std::string& to) = 0;
   // A missing file is no error.
@@ -52,8 +57,10 @@ class FileSystem {
   virtual bool FlushFolder(const std::string& path) = 0;
   // Makes a folder and those above it; one that is there already is no error.
   virtual bool MakeFolder(const std::string& path) = 0;
-  // The names of the plain files in a folder, in no order; none when it can't be read.
+  // All names in a folder, in no order; none when it can't be read.
   virtual std::optional<std::vector<std::string>> List(const std::string& folder) = 0;
+  // Why the last call that failed did, be it here or on one of the files.
+  virtual Fault fault() const = 0;
 };
 
 // The machine's own file system.

@@ -9,7 +9,7 @@
 
 namespace tarnwell::storage {
 
-// The plain files of one folder, found by names of code page 1252 whatever their capitals. Where
+// The files of one folder, found by names of code page 1252 whatever their capitals. Where
 // two files differ only in capitals, a name reaches the one it reached before, else the first in
 // byte order; the other stays untouched. The folder may change behind our back.
 class FolderNames {

@@ -21,6 +21,40 @@ auto Retry(Call call) {
   return result;
 }
 
+Fault FaultOf(int error) {
+  switch (error) {
+    case ENOENT:
+      return Fault::kMissing;
+    case EACCES:
+    case EPERM:
+    case EBADF:  // opened for reading alone
+      return Fault::kNotPermitted;
+    case EROFS:
+      return Fault::kReadOnly;
+    case ENOSPC:
+    case EDQUOT:
+      return Fault::kFull;
+    case ENODEV:
+    case ENOTDIR:
+    case ESTALE:
+    case ENOTCONN:
+      return Fault::kGone;
+    case EFBIG:
+      return Fault::kTooLarge;
+    case ELOOP:
+    case EISDIR:
+    case ENXIO:
+      return Fault::kNotPlain;
+    case EMFILE:
+    case ENFILE:
+    case EBUSY:
+    case ETXTBSY:
+      return Fault::kInUse;
+    default:
+      return Fault::kBroken;
+  }
+}
+
 int OpenDescriptor(const std::string& path, int flags) {
   return Retry([&] { return ::open(path.c_str(), flags | O_CLOEXEC, 0666); });
 }
@@ -28,14 +62,14 @@ int OpenDescriptor(const std::string& path, int flags) {
 // A descriptor is gone after close, even if a signal broke the call off.
 bool CloseDescriptor(int descriptor) { return ::close(descriptor) == 0 || errno == EINTR; }
 
-bool IsPlainFile(const std::string& path) {
+bool IsPlainFile(int descriptor) {
   struct stat status;
-  return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 
 class PosixFile : public File {
  public:
-  explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
+  PosixFile(int descriptor, Fault& fault) : descriptor_(descriptor), fault_(fault) {}
   ~PosixFile() override { Close(); }
   PosixFile(const PosixFile&) = delete;
   PosixFile& operator=(const PosixFile&) = delete;
@@ -49,7 +83,10 @@ class PosixFile : public File {
         return ::pread(descriptor_, buffer.data() + done, buffer.size() - done,
                        static_cast<off_t>(place));
       });
-      if (count < 0) return -1;
+      if (count < 0) {
+        fault_ = FaultOf(errno);
+        return -1;
+      }
       if (count == 0) break;
       done += static_cast<std::size_t>(count);
     }
@@ -58,11 +95,11 @@ class PosixFile : public File {
 
   bool WriteAt(std::uint64_t offset, std::string_view bytes) override {
     while (!bytes.empty()) {
-      if (offset > kLastOffset) return false;
+      if (offset > kLastOffset) return Failed(EFBIG);
       const ssize_t count = Retry([&] {
         return ::pwrite(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(offset));
       });
-      if (count <= 0) return false;
+      if (count <= 0) return Failed(count == 0 ? ENOSPC : errno);
       bytes.remove_prefix(static_cast<std::size_t>(count));
       offset += static_cast<std::uint64_t>(count);
     }
@@ -71,24 +108,33 @@ class PosixFile : public File {
 
   std::optional<std::uint64_t> Size() override {
     struct stat status;
-    if (::fstat(descriptor_, &status) != 0) return std::nullopt;
+    if (::fstat(descriptor_, &status) != 0) {
+      fault_ = FaultOf(errno);
+      return std::nullopt;
+    }
     return static_cast<std::uint64_t>(status.st_size);
   }
 
   bool Flush() override {
-    return Retry([&] { return ::fdatasync(descriptor_); }) == 0;
+    return Retry([&] { return ::fdatasync(descriptor_); }) == 0 || Failed(errno);
   }
 
   bool Close() override {
     if (descriptor_ == kClosed) return true;
-    return CloseDescriptor(std::exchange(descriptor_, kClosed));
+    return CloseDescriptor(std::exchange(descriptor_, kClosed)) || Failed(errno);
   }
 
  private:
+  bool Failed(int error) {
+    fault_ = FaultOf(error);
+    return false;
+  }
+
   static constexpr int kClosed = -1;
   static constexpr auto kLastOffset = static_cast<std::uint64_t>(std::numeric_limits<off_t>::max());
 
   int descriptor_;
+  Fault& fault_;
 };
 
 int FlagsOf(OpenMode mode) {
@@ -107,19 +153,30 @@ int FlagsOf(OpenMode mode) {
 
 class PosixFileSystem : public FileSystem {
  public:
+  // A pipe or a device is opened without waiting, so that it can be refused.
   std::unique_ptr<File> Open(const std::string& path, OpenMode mode) override {
-    const int descriptor = OpenDescriptor(path, FlagsOf(mode));
-    return descriptor < 0 ? nullptr : std::make_unique<PosixFile>(descriptor);
+    const int descriptor = OpenDescriptor(path, FlagsOf(mode) | O_NOFOLLOW | O_NONBLOCK);
+    if (descriptor < 0) {
+      Failed(errno);
+      return nullptr;
+    }
+    if (IsPlainFile(descriptor)) return std::make_unique<PosixFile>(descriptor, fault_);
+    CloseDescriptor(descriptor);
+    fault_ = Fault::kNotPlain;
+    return nullptr;
   }
 
-  bool Exists(const std::string& path) override { return IsPlainFile(path); }
+  bool Exists(const std::string& path) override {
+    struct stat status;
+    return ::lstat(path.c_str(), &status) == 0 || Failed(errno);
+  }
 
   bool Rename(const std::string& from, const std::string& to) override {
-    return std::rename(from.c_str(), to.c_str()) == 0;
+    return std::rename(from.c_str(), to.c_str()) == 0 || Failed(errno);
   }
 
   bool Remove(const std::string& path) override {
-    return ::unlink(path.c_str()) == 0 || errno == ENOENT;
+    return ::unlink(path.c_str()) == 0 || errno == ENOENT || Failed(errno);
   }
 
   void CopyPermissions(const std::string& from, const std::string& to) override {
@@ -129,10 +186,10 @@ class PosixFileSystem : public FileSystem {
 
   bool FlushFolder(const std::string& path) override {
     const int descriptor = OpenDescriptor(path, O_RDONLY | O_DIRECTORY);
-    if (descriptor < 0) return false;
+    if (descriptor < 0) return Failed(errno);
     // Some file systems of the network know no flush of a folder and have nothing to flush.
-    const bool is_flushed =
-        Retry([&] { return ::fsync(descriptor); }) == 0 || errno == EINVAL || errno == ENOTSUP;
+    const bool is_flushed = Retry([&] { return ::fsync(descriptor); }) == 0 || errno == EINVAL ||
+                            errno == ENOTSUP || Failed(errno);
     return CloseDescriptor(descriptor) && is_flushed;
   }
 
@@ -142,22 +199,34 @@ class PosixFileSystem : public FileSystem {
       ::mkdir(path.substr(0, slash).c_str(), 0777);  // the last call tells whether it all worked
     }
     if (::mkdir(path.c_str(), 0777) == 0) return true;
+    const int error = errno;
     struct stat status;
-    return ::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    return (::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) || Failed(error);
   }
 
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
     const std::unique_ptr<DIR, int (*)(DIR*)> stream(::opendir(folder.c_str()), ::closedir);
-    if (!stream) return std::nullopt;
+    if (!stream) {
+      Failed(errno);
+      return std::nullopt;
+    }
     std::vector<std::string> names;
     while (const dirent* entry = ::readdir(stream.get())) {
-      const bool is_plain =
-          entry->d_type == DT_REG || ((entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) &&
-                                      IsPlainFile(folder + "/" + entry->d_name));
-      if (is_plain) names.emplace_back(entry->d_name);
+      const std::string_view name = entry->d_name;
+      if (name != "." && name != "..") names.emplace_back(name);
     }
     return names;
   }
+
+  Fault fault() const override { return fault_; }
+
+ private:
+  bool Failed(int error) {
+    fault_ = FaultOf(error);
+    return false;
+  }
+
+  Fault fault_ = Fault::kNone;
 };
 
 }  // namespace

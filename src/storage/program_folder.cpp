@@ -41,63 +41,87 @@ ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,
       redo_note_(files, user_folder_ + "/" + std::string(file_names::kRedoNote)) {}
 
 std::unique_ptr<File> ProgramFolder::Open(std::string_view name, OpenMode mode) {
-  if (!IsPlainFileName(name)) return nullptr;
+  auto [file, fault] = TryOpen(name, mode);
+  if (!file) fault_ = fault;
+  return std::move(file);
+}
+
+ProgramFolder::Opened ProgramFolder::TryOpen(std::string_view name, OpenMode mode) {
+  if (!IsPlainFileName(name)) return {nullptr, Fault::kNotPlain};
   const bool is_fresh = mode == OpenMode::kCreateFresh;
   const OpenMode existing = mode == OpenMode::kCreate ? OpenMode::kReadWrite : mode;
   if (const auto path = user_names_.Known(name); path && !is_fresh) {
-    if (auto file = files_.Open(*path, existing)) return file;
+    if (auto file = files_.Open(*path, existing)) return {std::move(file)};
   }
   if (const auto path = user_names_.Locate(name)) {
-    return is_fresh ? nullptr : files_.Open(*path, existing);
+    return is_fresh ? Opened{nullptr, Fault::kNotPermitted} : OpenAt(*path, existing);
   }
+  if (!user_names_.is_listed()) return {nullptr, FolderFault()};
   if (mode == OpenMode::kRead) return OpenSupplied(name);
-  if (mode == OpenMode::kReadWrite) return nullptr;
-  const auto new_path = NewPath(name);
-  auto file = new_path ? files_.Open(*new_path, OpenMode::kCreateFresh) : nullptr;
-  if (file) user_names_.Learn(name);
-  return file;
+  if (mode == OpenMode::kReadWrite) return {nullptr, Fault::kMissing};
+  auto opened = OpenAt(NewPath(name), OpenMode::kCreateFresh);
+  if (opened.file) user_names_.Learn(name);
+  return opened;
 }
 
-std::unique_ptr<File> ProgramFolder::OpenSupplied(std::string_view name) {
+ProgramFolder::Opened ProgramFolder::OpenAt(const std::string& path, OpenMode mode) {
+  auto file = files_.Open(path, mode);
+  const Fault fault = file ? Fault::kNone : files_.fault();
+  return {std::move(file), fault};
+}
+
+ProgramFolder::Opened ProgramFolder::OpenSupplied(std::string_view name) {
   if (const auto path = supplied_names_.Known(name)) {
-    if (auto file = files_.Open(*path, OpenMode::kRead)) return file;
+    if (auto file = files_.Open(*path, OpenMode::kRead)) return {std::move(file)};
   }
   const auto path = supplied_names_.Locate(name);
-  return path ? files_.Open(*path, OpenMode::kRead) : nullptr;
+  return path ? OpenAt(*path, OpenMode::kRead) : Opened{nullptr, Fault::kMissing};
+}
+
+ReadResult ProgramFolder::Read(std::string_view name, std::uint64_t longest) {
+  const auto [file, fault] = TryOpen(name, OpenMode::kRead);
+  if (!file) return {{}, fault};
+  const auto size = file->Size();
+  if (!size) return {{}, files_.fault()};
+  if (*size > longest) return {{}, Fault::kTooLarge};
+  ReadResult result{std::string(static_cast<std::size_t>(*size), '\0')};
+  const std::ptrdiff_t count = file->ReadAt(0, result.content);
+  if (count < 0) return {{}, files_.fault()};
+  result.content.resize(static_cast<std::size_t>(count));
+  return result;
 }
 
 std::optional<std::string> ProgramFolder::ReadWhole(std::string_view name) {
-  const auto file = Open(name, OpenMode::kRead);
-  const auto size = file ? file->Size() : std::nullopt;
-  if (!size || *size > kMaxWholeFile) return std::nullopt;
-  std::string content(static_cast<std::size_t>(*size), '\0');
-  const std::ptrdiff_t count = file->ReadAt(0, content);
-  if (count < 0) return std::nullopt;
-  content.resize(static_cast<std::size_t>(count));
-  return content;
+  auto result = Read(name);
+  if (result.fault != Fault::kNone) return std::nullopt;
+  return std::move(result.content);
 }
 
-bool ProgramFolder::WriteWhole(std::string_view name, std::string_view content) {
-  if (!IsPlainFileName(name)) return false;
+Outcome ProgramFolder::WriteWhole(std::string_view name, std::string_view content) {
+  if (!IsPlainFileName(name)) return fault_ = Fault::kNotPlain;
   auto path = user_names_.Locate(name);
+  if (!path && !user_names_.is_listed()) return fault_ = FolderFault();
   if (!path) path = NewPath(name);
-  if (!path || !SaveWhole(files_, user_folder_, *path, content)) return false;
+  // A link, a folder or a pipe of that name isn't ours to replace.
+  if (OpenAt(*path, OpenMode::kRead).fault == Fault::kNotPlain) return fault_ = Fault::kNotPlain;
+  if (!SaveWhole(files_, user_folder_, *path, content)) return fault_ = files_.fault();
   user_names_.Learn(name);
-  return true;
+  return {};
 }
 
-bool ProgramFolder::Delete(std::string_view name) {
-  if (!IsPlainFileName(name)) return false;
+Outcome ProgramFolder::Delete(std::string_view name) {
+  if (!IsPlainFileName(name)) return fault_ = Fault::kNotPlain;
   const auto path = user_names_.Locate(name);
-  if (!path) return user_names_.is_listed();
-  if (!files_.Remove(*path)) return false;
+  if (!path && !user_names_.is_listed()) return fault_ = FolderFault();
+  if (path && !files_.Remove(*path)) return fault_ = files_.fault();
   user_names_.Forget(name);
-  return true;
+  return {};
 }
 
-bool ProgramFolder::Copy(std::string_view source, std::string_view target) {
-  const auto content = ReadWhole(source);
-  return content && WriteWhole(target, *content);
+Outcome ProgramFolder::Copy(std::string_view source, std::string_view target) {
+  const auto read = Read(source);
+  if (read.fault != Fault::kNone) return fault_ = read.fault;
+  return WriteWhole(target, read.content);
 }
 
 bool ProgramFolder::Exists(std::string_view name) {
@@ -113,12 +137,11 @@ std::uint64_t ProgramFolder::Length(std::string_view name) {
 
 bool ProgramFolder::WriteAt(File& file, std::string_view name, std::uint64_t offset,
                             std::string_view bytes) {
-  if (RedoNote::InFirstPage(offset, bytes.size()) == bytes.size()) {
-    return file.WriteAt(offset, bytes);
-  }
-  redo_note_.Set(name, offset, bytes);
+  const bool can_tear = RedoNote::InFirstPage(offset, bytes.size()) != bytes.size();
+  if (can_tear) redo_note_.Set(name, offset, bytes);
   const bool is_written = file.WriteAt(offset, bytes);
-  redo_note_.Clear();
+  if (!is_written) fault_ = files_.fault();
+  if (can_tear) redo_note_.Clear();
   return is_written;
 }
 
@@ -144,9 +167,13 @@ void ProgramFolder::FinishTornWrite() {
   redo_note_.Remove();
 }
 
-std::optional<std::string> ProgramFolder::NewPath(std::string_view name) const {
-  if (!user_names_.is_listed()) return std::nullopt;
+std::string ProgramFolder::NewPath(std::string_view name) const {
   return user_folder_ + "/" + text::ToUtf8(name);
+}
+
+Fault ProgramFolder::FolderFault() const {
+  const Fault fault = files_.fault();
+  return fault == Fault::kMissing ? Fault::kGone : fault;
 }
 
 }  // namespace tarnwell::storage

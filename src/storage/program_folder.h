@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "storage/fault.h"
 #include "storage/file_system.h"
 #include "storage/folder_names.h"
 #include "storage/redo_note.h"
@@ -18,6 +19,17 @@ namespace tarnwell::storage {
 // character, not "." or "..", not longer than a file system takes (255 bytes of UTF-8), and none of
 // the names that the store keeps for itself (file_names::kOwnPrefix).
 bool IsPlainFileName(std::string_view name);
+
+// The content of a whole file, or why there is none.
+struct ReadResult {
+  std::string content;
+  Fault fault = Fault::kNone;
+
+  bool is_missing() const { return fault == Fault::kMissing; }
+  // There is something that can't be read: what is on show is not what is on the disk, and nothing
+  // may be written over it.
+  bool is_unreadable() const { return fault != Fault::kNone && fault != Fault::kMissing; }
+};
 
 // File names are texts of code page 1252 and become UTF-8 here. Names that differ only in capitals
 // reach one file, the one that is there whatever its capitals. A name that isn't plain makes the
@@ -33,21 +45,25 @@ class ProgramFolder {
   // Opens the user's own file; in mode kRead a supplied file of that name stands in for a missing
   // one.
   std::unique_ptr<File> Open(std::string_view name, OpenMode mode);
-  // Whole content, the user's own before the supplied one; empty when there is none, when it can't
-  // be read, or when it is larger than `kMaxWholeFile` bytes.
+  // Whole content, the user's own before the supplied one, of at most `longest` bytes.
+  ReadResult Read(std::string_view name, std::uint64_t longest = kMaxWholeFile);
+  // The same for readers to whom a file that can't be read is as good as none: what they show is
+  // never written back.
   std::optional<std::string> ReadWhole(std::string_view name);
   // Replaces the file whole: at any instant the name holds the old or the new content, and when it
   // returns true the new one is on the disk.
-  bool WriteWhole(std::string_view name, std::string_view content);
+  Outcome WriteWhole(std::string_view name, std::string_view content);
   // Writes to a file that Open gave for `name`. A process killed meanwhile leaves the old or the
   // new bytes, the new ones perhaps only after Recover.
   bool WriteAt(File& file, std::string_view name, std::uint64_t offset, std::string_view bytes);
   // A missing file is no error; supplied files are never touched.
-  bool Delete(std::string_view name);
-  bool Copy(std::string_view source, std::string_view target);
+  Outcome Delete(std::string_view name);
+  Outcome Copy(std::string_view source, std::string_view target);
   bool Exists(std::string_view name);
-  // Length in bytes of the user's own file, 0 when there is none.
+  // Length in bytes of the user's own file, 0 when there is none or when it can't be told.
   std::uint64_t Length(std::string_view name);
+  // Why the last opening, writing, deleting or copying that failed did.
+  Fault fault() const { return fault_; }
   // Finishes what a killed process left half written and removes what interrupted saves left
   // behind. For the start of the program, under its FolderLock.
   void Recover();
@@ -55,16 +71,25 @@ class ProgramFolder {
   static constexpr std::uint64_t kMaxWholeFile = 256u << 20;
 
  private:
-  std::unique_ptr<File> OpenSupplied(std::string_view name);
+  struct Opened {
+    std::unique_ptr<File> file;
+    Fault fault = Fault::kNone;
+  };
+  Opened TryOpen(std::string_view name, OpenMode mode);
+  Opened OpenAt(const std::string& path, OpenMode mode);
+  Opened OpenSupplied(std::string_view name);
   void FinishTornWrite();
-  // The path of a file that wasn't located; none when it may exist under other capitals.
-  std::optional<std::string> NewPath(std::string_view name) const;
+  // The path of a file that isn't there yet.
+  std::string NewPath(std::string_view name) const;
+  // Why the folder couldn't be listed.
+  Fault FolderFault() const;
 
   FileSystem& files_;
   std::string user_folder_;
   FolderNames user_names_;
   FolderNames supplied_names_;
   RedoNote redo_note_;
+  Fault fault_ = Fault::kNone;
 };
 
 }  // namespace tarnwell::storage

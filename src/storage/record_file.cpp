@@ -16,21 +16,32 @@ RecordFile::RecordFile(ProgramFolder& folder, std::string_view name, int record_
   if (record_length < 1) return;
   file_ = folder.Open(name, OpenMode::kCreate);
   // What may not be changed can still be read; a supplied file doesn't stand in here.
-  if (!file_ && folder.Length(name) > 0) file_ = folder.Open(name, OpenMode::kRead);
+  if (!file_) {
+    fault_ = folder.fault();
+    if (folder.Length(name) > 0) file_ = folder.Open(name, OpenMode::kRead);
+    has_failed_ = !file_;
+  }
 }
 
 std::string RecordFile::Read(int record, std::size_t size) {
   if (!file_ || record < 1) return {};
   std::string bytes(std::min(size, Width()), '\0');
   const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), bytes);
-  has_failed_ = has_failed_ || count < 0;
+  if (count < 0) ReadFailed();
   bytes.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
   return bytes;
 }
 
 bool RecordFile::Write(int record, std::string_view bytes) {
   if (!file_ || record < 1 || bytes.size() > Width()) return false;
-  return folder_.WriteAt(*file_, name_, OffsetOf(record), bytes);
+  if (folder_.WriteAt(*file_, name_, OffsetOf(record), bytes)) return true;
+  if (fault_ == Fault::kNone) fault_ = folder_.fault();  // else it was opened for reading alone
+  return false;
+}
+
+void RecordFile::ReadFailed() {
+  has_failed_ = true;
+  fault_ = folder_.files().fault();
 }
 
 std::string RecordFile::GetText(int record) {
@@ -81,7 +92,7 @@ void RecordFile::Scan(int first, const std::function<void(int, std::string_view)
   const auto piece = std::make_unique_for_overwrite<char[]>(room);
   for (int record = first;;) {
     const std::ptrdiff_t count = file_->ReadAt(OffsetOf(record), {piece.get(), room});
-    has_failed_ = has_failed_ || count < 0;
+    if (count < 0) ReadFailed();
     if (count <= 0) return;
     const auto end = static_cast<std::size_t>(count);
     const std::size_t whole_end = (end + width - 1) / width * width;
@@ -96,6 +107,11 @@ void RecordFile::Scan(int first, const std::function<void(int, std::string_view)
 bool RecordFile::Close() {
   const auto file = std::move(file_);
   return file && file->Close();
+}
+
+Outcome RecordFile::Finish(bool all_put) {
+  if (Close() && all_put) return {};
+  return fault_ == Fault::kNone ? Fault::kBroken : fault_;
 }
 
 }  // namespace tarnwell::storage

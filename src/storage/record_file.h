@@ -23,8 +23,12 @@ class RecordFile {
   RecordFile(ProgramFolder& folder, std::string_view name, int record_length);
 
   bool is_open() const { return file_ != nullptr; }
-  // A read failed on the disk: the empty value that it gave is no answer.
+  // A read failed on the disk, or there is a file that can't be opened: the empty value that it
+  // gave is no answer.
   bool has_failed() const { return has_failed_; }
+  // Why the last opening, reading or writing that failed did; kNone when it was only a value that
+  // doesn't fit.
+  Fault fault() const { return fault_; }
 
   std::string GetText(int record);
   TaggedValue GetTagged(int record);
@@ -45,6 +49,8 @@ class RecordFile {
 
   // False if the file wasn't open or can't say that all is written. Also closes.
   bool Close();
+  // Closes after a change of which `all_put` says whether the Puts worked.
+  Outcome Finish(bool all_put);
 
  private:
   std::size_t Width() const { return static_cast<std::size_t>(record_length_); }
@@ -54,12 +60,14 @@ class RecordFile {
   // The record's first `size` bytes, fewer where the record or the file ends before.
   std::string Read(int record, std::size_t size);
   bool Write(int record, std::string_view bytes);
+  void ReadFailed();
 
   ProgramFolder& folder_;
   std::string name_;
   std::unique_ptr<File> file_;
   int record_length_;
   bool has_failed_ = false;
+  Fault fault_ = Fault::kNone;
 };
 
 }  // namespace tarnwell::storage

@@ -11,7 +11,6 @@ namespace tarnwell::storage {
 namespace {
 
 constexpr std::string_view kValueEnds = ",\r\n";
-constexpr std::size_t kLongestList = 1u << 20;  // names; the program's own lists stay below 1,000
 
 // The shortest digits that read back as the same number. Powers of ten only where plain digits
 // would run long.
@@ -27,8 +26,12 @@ std::string NumberText(double value) {
 
 }  // namespace
 
-SequentialReader::SequentialReader(ProgramFolder& folder, std::string_view name)
-    : content_(folder.ReadWhole(name).value_or(std::string())) {}
+SequentialReader::SequentialReader(ProgramFolder& folder, std::string_view name,
+                                   std::uint64_t longest) {
+  auto read = folder.Read(name, longest);
+  content_ = std::move(read.content);
+  fault_ = read.fault;
+}
 
 std::string SequentialReader::Next() {
   const std::string_view all = content_;
@@ -65,19 +68,20 @@ void SequentialWriter::WriteLine(std::initializer_list<Value> values) {
   content_ += "\r\n";
 }
 
-bool SequentialWriter::Save(ProgramFolder& folder, std::string_view name) const {
+Outcome SequentialWriter::Save(ProgramFolder& folder, std::string_view name) const {
   return folder.WriteWhole(name, content_);
 }
 
-std::vector<std::string> ReadNameList(ProgramFolder& folder, std::string_view name) {
-  std::vector<std::string> names;
+NameList ReadNameList(ProgramFolder& folder, std::string_view name) {
+  NameList list;
   SequentialReader reader(folder, name);
-  while (!reader.AtEnd() && names.size() < kLongestList) names.push_back(reader.Next());
-  return names;
+  if (reader.is_unreadable()) list.fault = reader.fault();
+  while (!reader.AtEnd()) list.names.push_back(reader.Next());
+  return list;
 }
 
-bool WriteNameList(ProgramFolder& folder, std::string_view name,
-                   const std::vector<std::string>& names) {
+Outcome WriteNameList(ProgramFolder& folder, std::string_view name,
+                      const std::vector<std::string>& names) {
   SequentialWriter writer;
   for (const std::string& entry : names) writer.WriteText(entry);
   return writer.Save(folder, name);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -14,11 +15,21 @@
 
 namespace tarnwell::storage {
 
-// Reads the whole file at once. A missing file is at its end from the start.
+// Reads the whole file at once. A missing file is at its end from the start, and so is one that
+// can't be read.
 class SequentialReader {
  public:
-  SequentialReader(ProgramFolder& folder, std::string_view name);
+  // `longest` in bytes; a larger file can't be read.
+  SequentialReader(ProgramFolder& folder, std::string_view name,
+                   std::uint64_t longest = kMaxSequentialFile);
   explicit SequentialReader(std::string content) : content_(std::move(content)) {}
+
+  // The largest list of the program, 20,000 names, takes a quarter of it.
+  static constexpr std::uint64_t kMaxSequentialFile = 8u << 20;
+
+  // There is a file, and it can't be read: what came of it may not be written back.
+  bool is_unreadable() const { return fault_ != Fault::kNone && fault_ != Fault::kMissing; }
+  Fault fault() const { return fault_; }
 
   bool AtEnd() const { return place_ >= content_.size(); }
   // A quoted text up to its closing quote, or an unquoted run up to the next comma or line end,
@@ -30,6 +41,7 @@ class SequentialReader {
 
   std::string content_;
   std::size_t place_ = 0;
+  Fault fault_ = Fault::kNone;
 };
 
 // Collects lines; Save replaces the file whole.
@@ -43,16 +55,21 @@ class SequentialWriter {
   void WriteLine(std::initializer_list<Value> values);
   void WriteText(std::string_view text) { WriteLine({text}); }
 
-  bool Save(ProgramFolder& folder, std::string_view name) const;
+  Outcome Save(ProgramFolder& folder, std::string_view name) const;
   const std::string& content() const { return content_; }
 
  private:
   std::string content_;
 };
 
-// A name list: one quoted text a line, in list order. A missing file is an empty list.
-std::vector<std::string> ReadNameList(ProgramFolder& folder, std::string_view name);
-bool WriteNameList(ProgramFolder& folder, std::string_view name,
-                   const std::vector<std::string>& names);
+// A name list: one quoted text a line, in list order. A missing file is an empty list. One that
+// can't be read is empty too, with the reason in `fault`: nothing may be written over it.
+struct NameList {
+  std::vector<std::string> names;
+  Fault fault = Fault::kNone;
+};
+NameList ReadNameList(ProgramFolder& folder, std::string_view name);
+Outcome WriteNameList(ProgramFolder& folder, std::string_view name,
+                      const std::vector<std::string>& names);
 
 }  // namespace tarnwell::storage

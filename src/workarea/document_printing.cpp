@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "forms/help_menu.h"
 #include "forms/message.h"
 #include "print/rich_text.h"
 #include "richtext/plain_text.h"
@@ -42,6 +43,7 @@ DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& con
       all_progress(all_panel, "ProgressBar1", "Documents loaded"),
       context_(context) {
   all_panel.SetVisible(false);
+  all_panel.SetHelpContext(forms::kPrintHelp);
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     texts[static_cast<std::size_t>(i)].on_change = [this, i] { Tick(i); };
   }

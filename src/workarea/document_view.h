@@ -34,33 +34,40 @@ class DocumentView {
   forms::Command save{panel, "SSCommand6", "&Save"};
   forms::Command exit{panel, "SSCommand7", "E&xit"};
 
-  // What can be done: nothing without a document, reading alone, or everything.
-  enum class Access { kNone, kRead, kEdit };
+  // What can be done: nothing without a document; leaving it alone when it can't be read; reading;
+  // or everything.
+  enum class Access { kNone, kUnreadable, kRead, kEdit };
   Access access() const { return access_; }
-  void SetAccess(Access access);
+  // A text can be read, whether or not it can be edited.
+  bool is_readable() const { return access_ >= Access::kRead; }
 
-  // Shows the file's document; a missing file gives an empty view.
-  void Open(std::string_view file);
-  // Shows another file's document as a new, unsaved text of the document in hand.
-  void OpenTemplate(std::string_view file);
+  // Shows the file's document; a missing file gives an empty view. In the place of one that can't
+  // be read the view says so and why, and is locked.
+  void Open(std::string_view file, Access access);
+  // Without a document.
   void Clear();
-  // OpenTemplate, once the user agrees to lose what is on show, if there is anything. `kind` is the
-  // box's word for that.
-  void InsertTemplate(std::string_view file, std::string_view kind);
+  // Shows a supplied file's document as a new, unsaved text of the document in hand. Before that
+  // the user must agree to lose what is on show, if there is anything and unless it `is_spare`;
+  // `kind` is the box's word for it.
+  void InsertTemplate(std::string_view file, std::string_view kind, bool is_spare = false);
 
   // Writes what is on show; where nobody changed what was read, its very bytes. False when the disk
-  // refused: the text stays, unsaved.
+  // refused: the user was told, and the text stays, unsaved.
   bool Write(std::string_view file);
 
+  // Holds as long as edited text is on show that isn't saved.
   bool unsaved() const { return unsaved_; }
-  // Before the text is left: offers to save it. False when it was to be saved and couldn't be.
+  // Offers to save what is unsaved. False when that was wanted and didn't work.
+  bool OfferToSave();
+  // Likewise before the text is left. False when it has to stay.
   bool Settle();
 
   std::function<bool()> on_save;   // false when the disk refused
   std::function<void()> on_state;  // something came or went that menus depend on
 
  private:
-  void Load(std::string_view file);
+  void SetAccess(Access access);
+  void Show(std::string bytes);
 
   forms::Context& context_;
   richtext::StoredForm stored_;  // of the document on show

@@ -92,7 +92,6 @@ void DocumentsPane::CloseDocument() {
   view_.status.Select(forms::ComboBox::kNone);
   view_.status.SetEnabled(false);
   view_.actions.SetEnabled(false);
-  view_.SetAccess(DocumentView::Access::kNone);
 }
 
 void DocumentsPane::PickView(int option) {
@@ -105,9 +104,9 @@ void DocumentsPane::PickView(int option) {
 // The disclaimer is one text for all documents, and only read. Its sections begin with "<".
 void DocumentsPane::ShowText() {
   const bool disclaimer = text_ == kDisclaimerText;
-  view_.Open(FileOf(text_));
-  view_.SetAccess(disclaimer ? DocumentView::Access::kRead : DocumentView::Access::kEdit);
-  view_.insert_template.SetEnabled(text_ == kPolicyText);
+  using Access = DocumentView::Access;
+  view_.Open(FileOf(text_), disclaimer ? Access::kRead : Access::kEdit);
+  if (text_ != kPolicyText) view_.insert_template.SetEnabled(false);
   view_.tools.StartSearch(disclaimer ? "<" : kInsertionMark);
 }
 

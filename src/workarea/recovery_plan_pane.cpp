@@ -36,10 +36,18 @@ void RecoveryPlanPane::Enter(Area) {
   }
   view_.heading.SetCaption(std::string(" Document: ") + kTitle);
   view_.tools.StartSearch(kInsertionMark);
-  const bool has_plan = context_.folder.Length(file_names::kRecoveryPlan) > 0;
-  view_.Open(has_plan ? file_names::kRecoveryPlan : file_names::kRecoveryPlanInformation);
-  view_.SetAccess(DocumentView::Access::kEdit);
+  const bool has_plan = HasPlan();
+  view_.Open(has_plan ? file_names::kRecoveryPlan : file_names::kRecoveryPlanInformation,
+             DocumentView::Access::kEdit);
   if (!has_plan) ShowInformation(context_);
+}
+
+// The explanation, saved as it stands, is none; what can't be read may be one.
+bool RecoveryPlanPane::HasPlan() const {
+  const auto plan = context_.folder.Read(file_names::kRecoveryPlan);
+  if (plan.is_unreadable()) return true;
+  return !plan.content.empty() &&
+         plan.content != context_.folder.Read(file_names::kRecoveryPlanInformation).content;
 }
 
 PrintedDocument RecoveryPlanPane::ToPrint() {
@@ -54,13 +62,14 @@ bool RecoveryPlanPane::Save() {
 }
 
 void RecoveryPlanPane::InsertTemplate() {
-  view_.InsertTemplate(file_names::kRecoveryPlanTemplate, "Disaster Recovery Plan.");
+  const bool is_explanation = !view_.unsaved() && !HasPlan();
+  view_.InsertTemplate(file_names::kRecoveryPlanTemplate, "Disaster Recovery Plan.",
+                       is_explanation);
 }
 
 void RecoveryPlanPane::CloseDocument() {
   view_.Clear();
   view_.heading.SetCaption("");
-  view_.SetAccess(DocumentView::Access::kNone);
 }
 
 }  // namespace tarnwell::workarea

@@ -20,6 +20,8 @@ class RecoveryPlanPane : public Pane {
   PrintedDocument ToPrint() override;
 
  private:
+  bool HasPlan() const;
+
   forms::Context& context_;
   DocumentView& view_;
 };

@@ -1,5 +1,6 @@
 #include "workarea/text_tools.h"
 
+#include "forms/form.h"
 #include "forms/message.h"
 #include "proofing/spelling.h"
 #include "proofing/synonyms.h"
@@ -58,6 +59,7 @@ TextTools::TextTools(forms::Container& parent, forms::Context& context, forms::R
 void TextTools::StartSearch(std::string_view mark) {
   mark_ = mark;
   position_ = {};
+  text_.form().SetStatus({});  // what it says was about the text before
   ShowAlignment();
 }
 
@@ -95,12 +97,13 @@ void TextTools::ShowAlignment() {
 
 void TextTools::CheckSpelling() {
   CheckedDocument document(text_);
-  proofing::CheckSpelling(context_, document);
+  const std::size_t corrected = proofing::CheckSpelling(context_, document).changes.size();
   if (document.changed) Changed();
   forms::ShowMessage(
       context_,
       {"Spell Check", "Spell Check has been canceled or has reached the end of your document",
        forms::Icon::kInformation});
+  text_.form().SetStatus(proofing::CorrectedNote(corrected));
   text_.Focus();
 }
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kAreaHelp = 3010;
 constexpr int kRecoveryPlanHelp = 3048;
-constexpr int kPrintHelp = 1014;
 
 std::int16_t Twips(int length) {
   return static_cast<std::int16_t>(std::min<int>(length, std::numeric_limits<std::int16_t>::max()));
@@ -38,7 +37,7 @@ WorkArea1::WorkArea1(forms::Context& context)
   BuildDocumentCommands();
   BuildMenus();
   forms::AddHelpMenu(*this, context_,
-                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", kPrintHelp}});
+                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", forms::kPrintHelp}});
 }
 
 void WorkArea1::BuildDocumentCommands() {
@@ -90,7 +89,7 @@ void WorkArea1::BuildMenus() {
 
 void WorkArea1::EnableMenus() {
   for (const auto& [entry, command] : command_entries_) entry->SetEnabled(command->enabled());
-  if (copy_entry_) copy_entry_->SetEnabled(document.access() != DocumentView::Access::kNone);
+  if (copy_entry_) copy_entry_->SetEnabled(document.is_readable());
 }
 
 void WorkArea1::Load() {
@@ -125,6 +124,7 @@ void WorkArea1::Press(int index) {
   main_buttons.PaintSelected(index <= forms::kEmployeeData ? index : -1);
   context_.variables.MainArea = static_cast<std::int16_t>(index);
   if (index <= forms::kEmployeeData) return ShowMainArea(static_cast<forms::MainArea>(index));
+  LeaveArea();  // coming back begins with the first area
   context_.navigator.Show(index == forms::kInformationAdvisor ? forms::form_names::kInfoAdv
                                                               : forms::form_names::kToolsandInfo1);
 }
@@ -189,7 +189,7 @@ void WorkArea1::CopyDocument() {
 }
 
 void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
-  if (!document.Settle()) return;
+  if (!document.OfferToSave()) return;
   CoverAreas(true);
   printing.OpenAll(breaks);
 }
@@ -197,7 +197,6 @@ void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
 void WorkArea1::CoverAreas(bool covered) {
   areas.SetVisible(!covered);
   options_->SetEnabled(!covered);
-  SetHelpContext(covered ? kPrintHelp : HelpOf(area_));
 }
 
 void WorkArea1::ShowColors() {

@@ -5,12 +5,15 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include "desktop/sample_form.h"
 #include "desktop/widgets/layout.h"
@@ -113,6 +116,7 @@ TEST_F(BoundWidgets, ChoicesFollowThePersonAndTheProgram) {
   form_.country.SetItems({"France", "Malm\xF6"});
   form_.country.Select(1);
   EXPECT_EQ(Find<QComboBox>("Combo1")->currentText(), QStringLiteral("Malmö"));
+  Find("Combo1")->setFocus(Qt::TabFocusReason);
   QTest::keyClick(Find("Combo1"), Qt::Key_Up);
   EXPECT_EQ(form_.country.selected(), 0);
 
@@ -124,6 +128,62 @@ TEST_F(BoundWidgets, ChoicesFollowThePersonAndTheProgram) {
 
   Find<QCheckBox>("Check1")->click();
   EXPECT_TRUE(form_.active.checked());
+}
+
+TEST_F(BoundWidgets, AListChangesOnlyUnderAPersonWhoWentIntoIt) {
+  form_.country.SetItems({"France", "Spain", "Italy"});
+  auto* country = Find<QComboBox>("Combo1");
+  const auto turn_wheel = [&] {
+    const QPoint middle = country->rect().center();
+    QWheelEvent wheel(middle, country->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
+                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&wheel);
+    QApplication::sendEvent(country, &wheel);
+  };
+  const struct {
+    const char* what;
+    std::function<void()> go;
+    bool went_in;
+  } cases[] = {
+      {"nobody", [&] { form_.save.Focus(); }, false},
+      {"the program gave it the focus", [&] { form_.country.Focus(); }, false},
+      {"the control before it was disabled",
+       [&] {
+         form_.size.option(1).Focus();
+         form_.size.option(1).SetEnabled(false);
+       },
+       false},
+      {"Tab", [&] { country->setFocus(Qt::TabFocusReason); }, true},
+      {"a click",
+       [&] {
+         QTest::mouseClick(country, Qt::LeftButton);
+         country->hidePopup();
+       },
+       true},
+  };
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.what);
+    form_.size.option(1).SetEnabled(true);
+    form_.save.Focus();
+    form_.country.Select(1);
+    one.go();
+    turn_wheel();
+    EXPECT_EQ(form_.country.selected(), 1);
+    QTest::keyClick(country, Qt::Key_Down);
+    EXPECT_EQ(form_.country.selected(), one.went_in ? 2 : 1);
+  }
+}
+
+TEST_F(BoundWidgets, EnterInAFieldIsTheFieldsOrElseTheDefaultButtons) {
+  auto* city = Find<QLineEdit>("Text1");
+  for (const bool wanted : {true, false}) {
+    int entered = 0;
+    form_.city.on_enter = wanted ? std::function<void()>([&] { ++entered; }) : nullptr;
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(city, &enter);
+    EXPECT_EQ(enter.isAccepted(), wanted);
+    EXPECT_EQ(entered, wanted ? 1 : 0);
+  }
 }
 
 TEST_F(BoundWidgets, NamesToolTipsAndStatesAreTheControls) {
@@ -179,6 +239,26 @@ TEST_F(BoundWidgets, TheCalendarIsUsedByKeysAndByTheMouse) {
   QTest::mouseClick(calendar, Qt::LeftButton, {}, calendar->PlaceOf(clicked).center());
   EXPECT_EQ(form_.day.date(), clicked);
   EXPECT_EQ(calendar->accessibleDescription(), QStringLiteral("Monday, August 31, 2026"));
+}
+
+TEST_F(BoundWidgets, TheCalendarsTitleOffersAYear) {
+  auto* calendar = dynamic_cast<MonthCalendar*>(Find("MonthView1"));
+  ASSERT_NE(calendar, nullptr);
+  const auto choose = [&](const QString& year) {
+    for (QAction* entry : calendar->findChildren<QMenu*>().last()->actions()) {
+      if (entry->text() == year) return entry->trigger();
+    }
+    ADD_FAILURE() << "not offered";
+  };
+  const text::Date leap_day = text::MakeDate(2024, 2, 29);
+  form_.day.SetDate(leap_day);
+  QTest::mouseClick(calendar, Qt::LeftButton, {}, {calendar->width() / 2, 12});
+  choose(QStringLiteral("2030"));
+  EXPECT_EQ(form_.day.date(), leap_day);  // the page is turned, no day picked
+  EXPECT_FALSE(calendar->PlaceOf(text::MakeDate(2030, 2, 28)).isEmpty());
+  QTest::keyClick(calendar, Qt::Key_F4);
+  choose(QStringLiteral("2033"));
+  EXPECT_EQ(form_.day.date(), text::MakeDate(2033, 2, 28));
 }
 
 TEST_F(BoundWidgets, TimersTickWhileTheyAreEnabled) {

@@ -4,14 +4,12 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <cctype>
 #include <map>
 
 #include "desktop/widgets/month_calendar.h"
 #include "desktop/widgets/text.h"
-#include "forms/choice.h"
-#include "forms/command.h"
 #include "forms/label.h"
+#include "forms/mnemonics.h"
 #include "forms/panel.h"
 #include "forms/timer.h"
 
@@ -29,27 +27,6 @@ bool MayBeNameless(const forms::Control& control) {
   const auto* label = dynamic_cast<const forms::Label*>(&control);
   const auto* panel = dynamic_cast<const forms::Panel*>(&control);
   return (label && label->caption().empty()) || (panel && panel->caption().empty());
-}
-
-std::string CaptionOf(const forms::Control& control) {
-  if (const auto* command = dynamic_cast<const forms::Command*>(&control)) {
-    return command->caption();
-  }
-  if (const auto* option = dynamic_cast<const forms::Option*>(&control)) return option->caption();
-  if (const auto* box = dynamic_cast<const forms::CheckBox*>(&control)) return box->caption();
-  return {};
-}
-
-// 0 for none.
-char MnemonicOf(const std::string& caption) {
-  for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
-    if (caption[i] != '&') continue;
-    if (caption[i + 1] != '&') {
-      return static_cast<char>(std::tolower(static_cast<unsigned char>(caption[i + 1])));
-    }
-    ++i;
-  }
-  return 0;
 }
 
 bool TextFits(QWidget& widget) {
@@ -113,7 +90,7 @@ std::vector<std::string> MnemonicFaults(forms::Form& form) {
   std::map<const forms::Container*, std::map<char, std::string>> used;
   std::vector<std::string> faults;
   for (forms::Control* control : form.AllControls()) {
-    const char mnemonic = MnemonicOf(CaptionOf(*control));
+    const char mnemonic = forms::MnemonicOf(forms::CaptionOf(*control));
     if (mnemonic == 0 || !control->visible()) continue;
     const auto [first, is_new] = used[&control->parent()].emplace(mnemonic, control->name());
     if (!is_new) {

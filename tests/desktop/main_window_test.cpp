@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -92,9 +94,79 @@ TEST_F(MainWindowTest, EscapeAndF1ReachTheTopForm) {
   navigator_.Show("Upper");
   auto* field = window_.PageOf(Form("Upper"))->findChild<QLineEdit*>(QStringLiteral("Text1"));
   QTest::keyClick(field, Qt::Key_F1);
-  EXPECT_TRUE(help_.shown.empty());  // a form without a help page
+  EXPECT_EQ(help_.shown, std::vector<int>{1000});  // a form without a help page of its own
   QTest::keyClick(field, Qt::Key_Escape);
   EXPECT_EQ(navigator_.top()->name(), "Lower");
+}
+
+TEST_F(MainWindowTest, AKeyThatNothingTakesComesToAnEnd) {
+  navigator_.Show("Lower");
+  FormPage* page = window_.PageOf(Form("Lower"));
+  auto* field = page->findChild<QLineEdit*>(QStringLiteral("Text1"));
+  for (QWidget* focus : {static_cast<QWidget*>(window_.menuBar()), static_cast<QWidget*>(page),
+                         static_cast<QWidget*>(field), static_cast<QWidget*>(&window_)}) {
+    focus->setFocus();
+    for (const Qt::Key key : {Qt::Key_Q, Qt::Key_F7, Qt::Key_Down}) {
+      QTest::keyClick(window_.windowHandle(), key, Qt::AltModifier);
+      QTest::keyClick(focus, key);
+    }
+  }
+  window_.setFocus();
+  QTest::keyClick(window_.windowHandle(), Qt::Key_Escape);
+  EXPECT_EQ(SampleForm::unloads, 1);
+}
+
+TEST_F(MainWindowTest, HelpComesFromEveryPlace) {
+  navigator_.Show("Lower");
+  std::size_t times = 0;
+  const auto press = [&](QWidget* place) {
+    QTest::keyClick(place, Qt::Key_F1);
+    EXPECT_EQ(help_.shown.size(), ++times) << place->metaObject()->className();
+  };
+  FormPage* page = window_.PageOf(Form("Lower"));
+  for (const char* name : {"Text1", "Command1"}) press(page->findChild<QWidget*>(name));
+  press(&window_);
+  press(window_.menuBar());
+  page->menus().front()->popup(QPoint(10, 10));
+  press(page->menus().front().get());
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  QMessageBox box(&window_);
+  box.setWindowModality(Qt::WindowModal);
+  box.show();
+  press(&box);
+  box.hide();
+  QWidget elsewhere;
+  QTest::keyClick(&elsewhere, Qt::Key_F1);
+  EXPECT_EQ(help_.shown.size(), times);
+}
+
+TEST_F(MainWindowTest, AMnemonicGivesTheFocusToWhatItChooses) {
+  navigator_.Show("Lower");
+  int saved = 0;
+  Form("Lower").save.on_click = [&] { ++saved; };
+  QTest::keyClick(window_.windowHandle(), Qt::Key_V, Qt::AltModifier);
+  EXPECT_EQ(saved, 1);
+  EXPECT_TRUE(Form("Lower").save.focused());
+  // A letter of the menu bar that no control has.
+  QTest::keyClick(window_.windowHandle(), Qt::Key_O, Qt::AltModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
+  // The menu bar is reached though every letter may be a control's.
+  QTest::keyClick(window_.windowHandle(), Qt::Key_F10);
+  EXPECT_NE(window_.menuBar()->activeAction(), nullptr);
+  if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+}
+
+TEST_F(MainWindowTest, ARightClickPopsUpOnlyWhatCanBeChosen) {
+  navigator_.Show("Lower");
+  FormPage* page = window_.PageOf(Form("Lower"));
+  for (const bool enabled : {true, false}) {
+    Form("Lower").menus().SetEnabled(enabled);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(5, 5), QPoint(5, 5));
+    QCoreApplication::sendEvent(page, &event);
+    EXPECT_EQ(QApplication::activePopupWidget() != nullptr, enabled);
+    if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+  }
 }
 
 TEST_F(MainWindowTest, AFormAndItsWidgetsGoOnlyWhenNoHandlerIsLeft) {

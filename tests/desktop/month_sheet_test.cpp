@@ -39,5 +39,18 @@ TEST(MonthSheet, WeekOneHoldsNewYearsDay) {
   EXPECT_EQ(WeekNumber(text::MakeDate(2026, 3, 9), kSunday), 11);
 }
 
+TEST(MonthSheet, AWeekThatBeginsOnMondayIsCountedAsIsoCounts) {
+  const struct {
+    text::Date date;
+    int week;
+  } cases[] = {
+      {text::MakeDate(2027, 1, 1), 53},   {text::MakeDate(2027, 1, 3), 53},
+      {text::MakeDate(2027, 1, 4), 1},    {text::MakeDate(2024, 12, 30), 1},
+      {text::MakeDate(2023, 1, 1), 52},   {text::MakeDate(2026, 3, 9), 11},
+      {text::MakeDate(2020, 12, 31), 53},
+  };
+  for (const auto& one : cases) EXPECT_EQ(WeekNumber(one.date, kMonday), one.week);
+}
+
 }  // namespace
 }  // namespace tarnwell::desktop

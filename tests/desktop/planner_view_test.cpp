@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QStringList>
+#include <QTest>
 
 #include "desktop/desktop.h"
 #include "desktop/widgets/look.h"
@@ -37,6 +38,32 @@ TEST(PlannerView, TabWalksARowFromLeftToRightWithTheTimePickerWhereItStands) {
   form.times[1].Focus();
   EXPECT_EQ(NamesBehind(*time, 5),
             QStringList({"Text2(0)", "Option2(0)", "Text1(1)", "Combo1", "Text2(1)"}));
+}
+
+TEST(PlannerView, ArrowsMoveBetweenRowsAndANumberBoxIsReplacedByTyping) {
+  const tarnwell::testing::TemporaryFolder temporary;
+  Desktop desktop({QString::fromStdString(temporary.path()), {}});
+  desktop.navigator().Show(forms::form_names::kZcalandar1);
+  auto& form = dynamic_cast<planner::Zcalandar1&>(*desktop.navigator().top());
+  desktop.window().show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&desktop.window()));
+  const auto box = [&](const char* name) {
+    return desktop.window().findChild<QLineEdit*>(QLatin1String(name));
+  };
+  QTest::keyClick(box("Text2(0)"), Qt::Key_Down);
+  EXPECT_EQ(form.focus(), &form.entries[1]);
+  QTest::keyClick(box("Text2(1)"), Qt::Key_Up);
+  EXPECT_EQ(form.focus(), &form.entries[0]);
+
+  form.recurrence.panel.SetVisible(true);
+  form.recurrence.Open(text::MakeDate(2026, 3, 9), {"", "Dentist"});
+  QTest::mouseClick(box("Text5"), Qt::LeftButton);
+  QTest::keyClicks(box("Text5"), "5");
+  EXPECT_EQ(form.recurrence.choice.every_weeks.text(), "5");
+  QTest::mouseClick(box("Text4"), Qt::LeftButton);
+  QTest::keyClicks(box("Text4"), "1");
+  EXPECT_EQ(form.recurrence.choice.every_days.text(), "1");
+  EXPECT_EQ(form.recurrence.choice.mode(), planner::RecurrenceMode::kDaily);
 }
 
 TEST(PlannerView, WhatStandsOnAPanelReadsOnAnyColourOfIt) {

@@ -73,7 +73,6 @@ TEST(MessageDialogs, ClosingTheBoxAnswersWithItsLastButton) {
     forms::Buttons buttons;
     forms::Answer answer;
   } cases[] = {{forms::Buttons::kOk, forms::Answer::kOk},
-               {forms::Buttons::kYesNo, forms::Answer::kNo},
                {forms::Buttons::kYesNoCancel, forms::Answer::kCancel}};
   for (const auto& one : cases) {
     MessageDialogs dialogs;
@@ -82,6 +81,21 @@ TEST(MessageDialogs, ClosingTheBoxAnswersWithItsLastButton) {
     WhenModal([](QWidget* modal) { QTest::keyClick(modal, Qt::Key_Escape); });
     EXPECT_EQ(dialogs.Message({"T", "t", forms::Icon::kNone, one.buttons}), one.answer);
   }
+}
+
+TEST(MessageDialogs, AQuestionOfYesAndNoStaysUntilOneOfThemIsPressed) {
+  MessageDialogs dialogs;
+  WhenModal([](QWidget* modal) {
+    modal->close();
+    QTest::keyClick(modal, Qt::Key_Escape);
+    QTest::keyClick(modal, Qt::Key_W, Qt::ControlModifier);
+    qobject_cast<QDialog*>(modal)->reject();
+    EXPECT_TRUE(modal->isVisible());
+    EXPECT_FALSE(modal->windowFlags() & Qt::WindowCloseButtonHint);
+    qobject_cast<QMessageBox*>(modal)->button(QMessageBox::Yes)->click();
+  });
+  EXPECT_EQ(dialogs.Message({"T", "t", forms::Icon::kNone, forms::Buttons::kYesNo}),
+            forms::Answer::kYes);
 }
 
 TEST(MessageDialogs, TheColourDialogueStartsWithTheColourAndMayBeCancelled) {

@@ -6,6 +6,7 @@
 #include "forms/command.h"
 #include "forms/date_picker.h"
 #include "forms/form.h"
+#include "forms/mnemonics.h"
 #include "forms/navigator.h"
 #include "forms/panel.h"
 #include "forms/text_field.h"
@@ -105,6 +106,70 @@ TEST_F(GesturesTest, NonsenseGesturesChangeNothing) {
   EXPECT_EQ(form().calendar.date(), std::nullopt);
   EXPECT_EQ(form().Find("Option1(1)"), &form().options.option(1));
   EXPECT_EQ(form().Find("Option1(2)"), nullptr);
+}
+
+// Two panels, the inner one in the outer, with letters that are used again and again.
+class MnemonicForm : public Form {
+ public:
+  explicit MnemonicForm(Context& context) : Form(context, "Letters", "Letters") {
+    SetHelpContext(3000);
+    inner.SetHelpContext(1014);
+    close.on_click = [this] { closed = true; };
+  }
+  Command exit{*this, "exit", "E&xit"};
+  Panel outer{*this, "outer"};
+  Command close{outer, "close", "&Close && Leave", {.is_default = true}};
+  TextField field{outer, "field"};
+  Panel inner{outer, "inner"};
+  Command print{inner, "print", "&Print"};
+  CheckBox pages{inner, "pages", "&Pages"};
+  OptionGroup ways{inner, "way", {"E&xit", "Down && &Out"}};
+  bool closed = false;
+};
+
+TEST_F(GesturesTest, AMnemonicMeansTheNearestInsideOutThenTheNext) {
+  navigator.Register("Letters", [](Context& c) { return std::make_unique<MnemonicForm>(c); });
+  navigator.Show("Letters");
+  auto& form = dynamic_cast<MnemonicForm&>(*navigator.top());
+  const struct {
+    const char* what;
+    Control* focus;
+    bool inner_shown;
+    char letter;
+    Control* target;
+  } cases[] = {
+      {"the innermost where nothing has the focus", nullptr, true, 'x', &form.ways.option(0)},
+      {"the panel that is hidden has none", nullptr, false, 'x', &form.exit},
+      {"the nearest to the focus, though another comes first", &form.pages, true, 'x',
+       &form.ways.option(0)},
+      {"the screen's own", &form.exit, true, 'c', &form.close},
+      {"two in one panel: the first", &form.field, true, 'p', &form.print},
+      {"then the next", &form.print, true, 'p', &form.pages},
+      {"and round", &form.pages, true, 'p', &form.print},
+      {"a focus that is hidden counts for nothing", &form.pages, false, 'p', nullptr},
+      {"two ampersands are one, and no letter", &form.field, true, ' ', nullptr},
+      {"behind two ampersands", &form.field, true, 'o', &form.ways.option(1)},
+  };
+  for (const auto& one : cases) {
+    form.inner.SetVisible(true);
+    if (one.focus) one.focus->Focus();
+    form.inner.SetVisible(one.inner_shown);
+    EXPECT_EQ(MnemonicTarget(form, one.letter), one.target) << one.what;
+  }
+}
+
+TEST_F(GesturesTest, EnterPressesTheDefaultAndTheHelpIsThatOfThePanelOnShow) {
+  navigator.Register("Letters", [](Context& c) { return std::make_unique<MnemonicForm>(c); });
+  navigator.Show("Letters");
+  auto& form = dynamic_cast<MnemonicForm&>(*navigator.top());
+  EXPECT_EQ(form.help_context(), 1014);
+  form.inner.SetVisible(false);
+  EXPECT_EQ(form.help_context(), 3000);
+  EXPECT_FALSE(form.PressEscape());
+  EXPECT_TRUE(form.PressEnter());
+  EXPECT_TRUE(form.closed);
+  form.outer.SetVisible(false);
+  EXPECT_FALSE(form.PressEnter());
 }
 
 TEST_F(GesturesTest, AListenerMayEndItselfOrOthersWhileItIsCalled) {

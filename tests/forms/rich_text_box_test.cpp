@@ -212,6 +212,20 @@ TEST_F(RichTextBoxTest, ABlankBoxCanBeWrittenIn) {
   EXPECT_EQ(box.document(), richtext::RichDocument{});
 }
 
+TEST_F(RichTextBoxTest, ABoxWithAPictureADrawingOrATableIsNotBlank) {
+  for (const char* const sketch : {"#", "[,]", " |[]| "}) {
+    box.SetDocument(FromSketch(sketch));
+    EXPECT_FALSE(box.IsBlank()) << sketch;
+  }
+  for (const char* const drawing :
+       {"{\\pict\\wmetafile8 00}", "{\\shp{\\*\\shpinst x}}", "{\\object\\objemb{\\result}}"}) {
+    box.SetDocument(richtext::ReadRichText("{\\rtf1\\pard " + std::string(drawing) + "\\par}"));
+    EXPECT_FALSE(box.IsBlank()) << drawing;
+  }
+  box.SetDocument(FromSketch("{} |\\~"));
+  EXPECT_TRUE(box.IsBlank());
+}
+
 TEST_F(RichTextBoxTest, ADocumentWhoseChangesWereTakenBackIsSavedByteForByte) {
   const std::string bytes = richtext::RtfOf("1.>a|2.>b|[c,d]|x");
   box.SetDocument(richtext::ReadRichText(bytes));

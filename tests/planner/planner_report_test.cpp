@@ -26,7 +26,7 @@ TEST(MonthViewTest, DaysAreLabelledAsTheyAreSpoken) {
 TEST(MonthViewTest, ListsTheTextsOfSavedDaysWithTheDayOnItsFirstRow) {
   testing::TemporaryFolder disk;
   storage::ProgramFolder folder(storage::RealFileSystem(), disk.path());
-  EXPECT_THAT(ListMonth(folder, 2026, 3), IsEmpty());
+  EXPECT_THAT(*ListMonth(folder, 2026, 3), IsEmpty());
   DayRows rows;
   rows[0] = {"8:00 AM", ""};
   rows[1] = {"9:00 AM", "Bank"};
@@ -36,11 +36,11 @@ TEST(MonthViewTest, ListsTheTextsOfSavedDaysWithTheDayOnItsFirstRow) {
     ASSERT_TRUE(WriteDay(folder, MakeDate(2028, month, 1), rows));
     ASSERT_TRUE(WriteDay(folder, MakeDate(2028, month, last), rows));
     const std::string label = DayLabel(static_cast<int>(last));
-    EXPECT_THAT(ListMonth(folder, 2028, month),
+    EXPECT_THAT(*ListMonth(folder, 2028, month),
                 ElementsAre(MonthRow{" 1st", "9:00 AM", "Bank"}, MonthRow{"", "", "Call"},
                             MonthRow{label, "9:00 AM", "Bank"}, MonthRow{"", "", "Call"}));
   }
-  EXPECT_THAT(ListMonth(folder, 2028, 11), IsEmpty());
+  EXPECT_THAT(*ListMonth(folder, 2028, 11), IsEmpty());
 }
 
 class PlannerReportTest : public ::testing::Test {

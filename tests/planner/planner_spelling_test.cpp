@@ -25,7 +25,7 @@ class PlannerSpellingTest : public ::testing::Test {
 };
 
 TEST_F(PlannerSpellingTest, EachRowsTextIsCheckedWithItsRowInHand) {
-  rig.speller.misspelled = {{"Dentst", {"Dentist"}}, {"aaa", {"abc"}}};
+  rig.speller.misspelled = {{"Dentst", {"Dentist"}}, {"aaa", {"abc"}}, {"teh", {}}};
   form().entries[0].Type("Call teh bank");
   form().times[1].Type("aaa");  // times aren't checked
   form().entries[12].Type("Dentst");
@@ -39,7 +39,7 @@ TEST_F(PlannerSpellingTest, EachRowsTextIsCheckedWithItsRowInHand) {
   EXPECT_EQ(form().entries[0].text(), "Call the bank");
   EXPECT_EQ(form().times[1].text(), "aaa");
   EXPECT_EQ(form().entries[12].text(), "Dentist");
-  EXPECT_EQ(form().status(), "");
+  EXPECT_EQ(form().status(), "2 words corrected");
 }
 
 TEST_F(PlannerSpellingTest, OnlyAReplacementMakesTheDayUnsaved) {
@@ -64,6 +64,7 @@ TEST_F(PlannerSpellingTest, OnlyAReplacementMakesTheDayUnsaved) {
 }
 
 TEST_F(PlannerSpellingTest, ACorrectedRowIsCutToWhatCanBeTyped) {
+  rig.speller.misspelled = {{"alot", {}}, {"asthe", {}}};
   form().entries[0].Type(std::string(38, 'x') + " alot");
   form().entries[1].Type(std::string(39, 'x') + " asthe");
   ExpectChanged();

@@ -346,6 +346,45 @@ TEST_F(RecurrencePanelTest, TheStopBoxEndsARunBehindTheDayInHand) {
   EXPECT_THAT(DaysWith(kDentist), ElementsAreArray(March({9, 10, 11, 12, 15})));
 }
 
+TEST_F(RecurrencePanelTest, AStopAtTheLastCountedDayIsNoInterruption) {
+  choice().every_days.Type("3");
+  choice().occurrences.Type("2");
+  StopAtYield(2);
+  ExpectReport("2");
+  panel().ok.Click();
+  EXPECT_THAT(DaysWith(kDentist), ElementsAreArray(March({9, 12, 15})));
+}
+
+TEST_F(RecurrencePanelTest, ANumberTypedOverTheSameNumberChoosesItsRule) {
+  const std::pair<forms::TextField*, RecurrenceMode> boxes[] = {
+      {&choice().every_days, RecurrenceMode::kDaily},
+      {&choice().every_weeks, RecurrenceMode::kWeekly},
+      {&choice().day_of_month, RecurrenceMode::kMonthly},
+      {&choice().every_months, RecurrenceMode::kMonthly},
+      {&choice().every_years, RecurrenceMode::kYearly},
+  };
+  for (const auto& [box, mode] : boxes) {
+    EXPECT_TRUE(box->select_on_entry()) << box->name();
+    box->Type("1");
+    EXPECT_EQ(choice().mode(), mode) << box->name();
+  }
+  choice().occurrences.Type("1");
+  EXPECT_EQ(choice().end_kind.chosen(), 0);
+}
+
+TEST_F(RecurrencePanelTest, TheBarIsEmptyBehindTheWarningThatNoRuleIsChosen) {
+  choice().modes.Pick(0);
+  choice().occurrences.Type("3");
+  ExpectReport("3");
+  panel().ok.Click();
+  Open(kToday);
+  rig.dialogs.Expect("OK Button Selection",
+                     "No Recurrence Option was selected!\n"
+                     "Please Select Option Desired before clicking the OK Button.");
+  panel().ok.Click();
+  EXPECT_EQ(panel().progress.value(), 0);
+}
+
 TEST_F(RecurrencePanelTest, AnIntervalOfNoDaysGoesOnUntilItIsStopped) {
   choice().every_days.Type("0");
   StopAtYield(5000);
@@ -390,6 +429,7 @@ TEST_F(RecurrencePanelTest, RemovalTakesOneExactRowFromEveryDayOfTheRange) {
   for (Answer answer : {Answer::kNo, Answer::kCancel}) {
     ExpectRemovalQuestion(answer);
     panel().remove.Click();
+    EXPECT_EQ(rig.dialogs.last.default_button, 2);
     EXPECT_TRUE(panel().panel.visible());
   }
   EXPECT_EQ(rig.loop.yields, 0);
@@ -426,6 +466,8 @@ TEST_F(RecurrencePanelTest, UnsavedChangesAreOfferedToBeSavedBeforeThePanelOpens
   form().recurrence_buttons[2].Click();
   EXPECT_EQ(form().entries[2].text(), "Call");
   EXPECT_EQ(ReadDay(rig.folder, kToday)->rows[2].entry, "");
+  rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
+  form().recurrence_buttons[2].Click();  // the row isn't on the disk yet, so it asks again
   form().recurrence_buttons[2].Click();
   EXPECT_TRUE(panel().panel.visible());
   EXPECT_EQ(panel().appointment.caption(), " Appointment: Call ");

@@ -84,12 +84,13 @@ TEST(RecurrenceStep, ChangesADayOrLeavesItAlone) {
   }
 }
 
-TEST(RecurrenceStep, AFailedReadOrWriteIsPassedOver) {
+TEST(RecurrenceStep, AFailedReadOrWriteIsCountedAndPassedOver) {
   FakeDayBook book;
   RecurrenceRun run{ChangeMode::kAdd, kMeeting, SortTimeOption::kFirst, {}};
   book.readable = false;
   ApplyToDay(run, kDate, book);
   EXPECT_EQ(book.writes, 0);
+  EXPECT_EQ(run.counts.failed_days, 1);
   book = {};
   book.writable = false;
   ApplyToDay(run, kDate, book);
@@ -97,6 +98,7 @@ TEST(RecurrenceStep, AFailedReadOrWriteIsPassedOver) {
   ApplyToDay(run, text::MakeDate(2025, 2, 29), book);
   EXPECT_EQ(book.writes, 1);
   EXPECT_EQ(run.counts.entries_made, 0);
+  EXPECT_EQ(run.counts.failed_days, 2);
 }
 
 TEST(RecurrenceStep, AddingAndRemovingLeavesTheDayAsItWas) {

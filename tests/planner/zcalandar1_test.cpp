@@ -278,60 +278,184 @@ TEST_F(Zcalandar1Test, AnEmptyToDoListIsReported) {
   rig.ClickMenu("mToDo");
 }
 
-TEST(Zcalandar1OnABadDiskTest, AFailedSaveKeepsTheRowsAndSaysNothing) {
-  testing::FailingFileSystem files(storage::RealFileSystem());
-  testing::ProgramRig rig(files);
-  rig.Start();
-  rig.navigator().Show(forms::form_names::kZcalandar1);
-  auto& form = rig.Get<Zcalandar1>("Zcalandar1");
-  form.entries[0].Type("Precious");
+// Rows stand on the screen unsaved, and each box says so as long as they do.
+TEST_F(Zcalandar1Test, RowsOnShowStayUnsavedUntilTheyAreSavedOrReplaced) {
+  const std::string question = "Save changes/entries before next action?";
+  Type(0, "", "Precious");
+  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
+  form().recurrence_buttons[0].Click();
+  EXPECT_EQ(form().entries[0].text(), "Precious");
+  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
+                     Answer::kYes);
+  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
+  rig.dialogs.Expect("Import To Do List Items", "No To Do List Items to Import have been found!");
+  rig.ClickMenu("mToDo");
+  EXPECT_EQ(form().entries[0].text(), "Precious");
+  form().print_options.Click();
+  form().pages.print.commands[2].Click();
+  rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", Answer::kCancel);
+  form().exit.Click();
+  EXPECT_EQ(form().entries[0].text(), "Precious");
+}
+
+TEST_F(Zcalandar1Test, TheTimesPickerStandsOnTheRowsOwnTime) {
+  Type(0, "2:00 pm", "Bank");
+  EXPECT_EQ(form().time_picker.text(), "2:00 PM");
+  Type(1, "2:10 PM", "Call");
+  form().times[1].Focus();
+  EXPECT_EQ(form().time_picker.selected(), forms::ComboBox::kNone);
+  form().entries[0].Focus();
+  EXPECT_EQ(form().time_picker.text(), "2:00 PM");
+}
+
+TEST_F(Zcalandar1Test, ArrowsMoveBetweenTheRows) {
+  form().entries[0].Focus();
+  form().entries[0].PressArrow(-1);
+  EXPECT_EQ(form().focus(), &form().entries[0]);
+  form().entries[0].PressArrow(1);
+  EXPECT_EQ(form().focus(), &form().entries[1]);
+  form().times[13].PressArrow(1);
+  EXPECT_EQ(form().row_in_hand(), 1);
+}
+
+class Zcalandar1OnABadDiskTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    rig.Start();
+    rig.navigator().Show(forms::form_names::kZcalandar1);
+  }
+  Zcalandar1& form() { return rig.Get<Zcalandar1>("Zcalandar1"); }
+  void ExpectNotSaved(const std::string& what) {
+    rig.dialogs.Expect("Not Saved", what +
+                                        " could not be saved: the disk is read-only.\n"
+                                        "It is still on the screen.");
+  }
+  void ExpectQuestion(const char* text, Answer answer) {
+    rig.dialogs.Expect("Daily Planner", text, answer);
+  }
+  void ExpectLeave(Answer answer) {
+    rig.dialogs.Expect("Not Saved", "Leave without saving?", answer);
+  }
+
+  testing::FailingFileSystem files{storage::RealFileSystem()};
+  testing::ProgramRig rig{files};
+  const std::string day = "March 09, 2026 - Mon";
+};
+
+TEST_F(Zcalandar1OnABadDiskTest, AFailedSaveIsToldAndKeepsTheRowsAsTheyWereTyped) {
+  form().times[0].Type("9:00");
+  form().entries[0].Type("Precious");
   files.MakeReadOnly();
-  form.save.Click();
-  EXPECT_EQ(form.entries[0].text(), "Precious");
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before next action?", Answer::kYes);
-  form.picker.SelectDay(MakeDate(2026, 3, 10));
-  EXPECT_EQ(form.picker.date(), MakeDate(2026, 3, 9));
-  EXPECT_EQ(form.entries[0].text(), "Precious");
-  files.MakeReadOnly(false);
-  rig.dialogs.Expect(kSavedTitle, kSavedText);
-  form.save.Click();
-  EXPECT_EQ(ReadDay(rig.folder, MakeDate(2026, 3, 9))->rows[0].entry, "Precious");
+  ExpectNotSaved(day);
+  form().save.Click();
+  EXPECT_EQ(form().times[0].text(), "9:00");
+
+  const char* next = "Save changes/entries before next action?";
+  ExpectQuestion(next, Answer::kYes);
+  ExpectNotSaved(day);
+  form().recurrence_buttons[0].Click();
+  ExpectQuestion(next, Answer::kYes);
+  ExpectNotSaved(day);
+  ExpectLeave(Answer::kNo);
+  form().picker.SelectDay(MakeDate(2026, 3, 10));
+  EXPECT_EQ(form().picker.date(), MakeDate(2026, 3, 9));
+  ExpectQuestion(next, Answer::kYes);
+  ExpectNotSaved(day);
+  ExpectLeave(Answer::kNo);
+  form().view_month.Click();
+  EXPECT_EQ(form().entries[0].text(), "Precious");
+  ExpectQuestion("Save changes/entries before exiting?", Answer::kYes);
+  ExpectNotSaved(day);
+  ExpectLeave(Answer::kNo);
+  form().exit.Click();
+  EXPECT_EQ(form().entries[0].text(), "Precious");
+
+  ExpectQuestion("Save changes/entries before exiting?", Answer::kYes);
+  ExpectNotSaved(day);
+  ExpectLeave(Answer::kYes);
+  rig.navigator().Close(form());
+  EXPECT_EQ(rig.top(), "Startfrm");
 }
 
-TEST(Zcalandar1OnABadDiskTest, ADayThatCantBeReadTakesNoEntries) {
-  testing::FailingFileSystem files(storage::RealFileSystem());
-  testing::ProgramRig rig(files);
-  rig.Start();
-  rig.navigator().Show(forms::form_names::kZcalandar1);
-  auto& form = rig.Get<Zcalandar1>("Zcalandar1");
+TEST_F(Zcalandar1OnABadDiskTest, SettingsThatCantBeStoredAreTold) {
+  files.MakeReadOnly();
+  ExpectNotSaved("The Sort Time choice");
+  form().sort_time.Pick(1);
+  rig.ClickMenu("mOCal");
+  form().calendar_options.months.Pick(1);
+  ExpectNotSaved("The calendar options");
+  ExpectLeave(Answer::kNo);
+  form().PressEscape();
+  EXPECT_TRUE(form().calendar_options.panel.visible());
+  ExpectNotSaved("The calendar options");
+  ExpectLeave(Answer::kYes);
+  form().calendar_options.close.Click();
+  EXPECT_TRUE(form().day.visible());
+  rig.dialogs.ExpectColor(0x800000);
+  ExpectNotSaved("The text color");
+  rig.ClickMenu("mOTC");
+}
+
+TEST_F(Zcalandar1OnABadDiskTest, DaysThatARecurrenceCantChangeAreTold) {
+  ASSERT_TRUE(WriteDay(rig.folder, MakeDate(2026, 3, 9), {DayRow{"9:00 AM", "Dentist"}}));
+  ASSERT_TRUE(WriteDay(rig.folder, MakeDate(2026, 3, 12), {}));
+  form().picker.SelectDay(MakeDate(2026, 3, 10));
+  form().picker.SelectDay(MakeDate(2026, 3, 9));
+  form().recurrence_buttons[0].Click();
+  form().recurrence.choice.every_days.Type("1");
+  form().recurrence.choice.occurrences.Type("3");
+  files.MakeReadOnly();
+  rig.dialogs.Expect("Not Saved", "3 dates could not be changed: the disk is read-only.");
+  form().recurrence.ok.Click();
+}
+
+TEST_F(Zcalandar1OnABadDiskTest, ADayThatCantBeReadSaysWhyAndTakesNoEntries) {
+  ASSERT_TRUE(WriteDay(rig.folder, MakeDate(2027, 1, 1), {DayRow{"", "Stored"}}));
   files.Vanish();
-  form.picker.SelectDay(MakeDate(2027, 1, 1));
-  EXPECT_EQ(form.date_caption.caption(), "");
-  EXPECT_FALSE(form.save.enabled());
-  EXPECT_FALSE(form.clear_entries.enabled());
-  rig.dialogs.Expect("Data Entry", "Please select a Day before entering data!");
-  form.entries[2].Click();
-  form.entries[2].Type("Lost");
-  EXPECT_EQ(form.entries[2].text(), "");
+  form().picker.SelectDay(MakeDate(2027, 1, 1));
+  EXPECT_EQ(form().date_caption.caption(),
+            "January 01, 2027 - Fri can't be read: the disk reported an error.");
+  EXPECT_FALSE(form().save.enabled());
+  EXPECT_FALSE(form().clear_entries.enabled());
+  form().entries[2].Type("Lost");
+  form().time_picker.Pick(3);
+  rig.ClickMenu("mEPaste");
+  EXPECT_EQ(form().entries[2].text() + form().times[0].text(), "");
+  EXPECT_FALSE(form().save.enabled());
   files.Recover();
-  form.picker.SelectDay(MakeDate(2027, 1, 1));
-  form.entries[2].Type("Found");
-  EXPECT_EQ(form.entries[2].text(), "Found");
+  form().picker.SelectDay(MakeDate(2027, 1, 1));
+  EXPECT_EQ(form().date_caption.caption(), "January 01, 2027 - Fri");
+  form().entries[2].Type("Found");
+  EXPECT_EQ(form().entries[2].text(), "Found");
 }
 
-TEST(Zcalandar1OnABadDiskTest, AMonthOfADayThatCantBeReadAnyMoreStaysClosed) {
-  testing::FailingFileSystem files(storage::RealFileSystem());
-  testing::ProgramRig rig(files);
-  rig.Start();
-  rig.navigator().Show(forms::form_names::kZcalandar1);
-  auto& form = rig.Get<Zcalandar1>("Zcalandar1");
-  form.entries[0].Type("Dropped");
+TEST_F(Zcalandar1OnABadDiskTest, AMonthThatCantBeReadStaysClosed) {
+  int reads = 0;
+  files.FailWhen([&](int) { return files.log().back() == "read" && ++reads == 5; });
+  rig.dialogs.Expect("Can't Be Read",
+                     "The month can't be read: the disk reported an error.\n"
+                     "Nothing will be written over it.");
+  form().view_month.Click();
+  EXPECT_FALSE(form().pages.month.panel.visible());
+  EXPECT_EQ(form().status(), "");
+
+  form().entries[0].Type("Dropped");
   files.Vanish();
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before next action?", Answer::kNo);
-  form.view_month.Click();
-  EXPECT_FALSE(form.pages.month.panel.visible());
-  EXPECT_EQ(form.date_caption.caption(), "");
-  EXPECT_EQ(form.status(), "");
+  ExpectQuestion("Save changes/entries before next action?", Answer::kNo);
+  form().view_month.Click();
+  EXPECT_FALSE(form().pages.month.panel.visible());
+  EXPECT_FALSE(form().save.enabled());
+  EXPECT_EQ(form().status(), "");
+}
+
+TEST_F(Zcalandar1OnABadDiskTest, AToDoListThatIsTooLargeIsntReadAndSaysSo) {
+  rig.temporary.Write("TODOActv.FIL", std::string(9u << 20, 'x'));
+  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
+                     Answer::kYes);
+  rig.dialogs.Expect("Can't Be Read",
+                     "The To Do list can't be read: it is too large.\n"
+                     "Nothing will be written over it.");
+  rig.ClickMenu("mToDo");
 }
 
 }  // namespace

@@ -18,8 +18,8 @@ class ExportPanelTest : public ::testing::Test {
     grid.SetColumns({{""}, {"Item"}}, 1);
     grid.SetRows(3);
     grid.SetText(1, 1, "Rent\ta\nb");
-    rig.folders.readable["c:\\Tarnwell\\"] = {{"Sheets"}, {"Old.XLS", "notes.txt"}};
-    rig.folders.readable["c:\\Tarnwell\\Sheets\\"] = {};
+    rig.folders.readable["/home/ann/Tarnwell/"] = {{"Sheets"}, {"Old.XLS", "notes.txt"}};
+    rig.folders.readable["/home/ann/Tarnwell/Sheets/"] = {};
   }
   void Open() { panel.Open(grid, "Timeline.xls"); }
   void ExpectDone() {
@@ -33,14 +33,14 @@ class ExportPanelTest : public ::testing::Test {
 
 TEST_F(ExportPanelTest, OpensOnTheProgramsFolder) {
   Open();
-  EXPECT_EQ(panel.path.caption(), "c:\\Tarnwell\\");
+  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
   EXPECT_EQ(panel.lines[0].caption(),
             "A non-formatted Spreadsheet File will be saved in the program folder:  \n\n"
-            "c:\\Tarnwell\\");
+            "/home/ann/Tarnwell/");
   EXPECT_EQ(panel.lines[1].caption(), "With the following name:  Timeline.xls");
   EXPECT_EQ(panel.lines[2].caption(),
             "Note: If File already exists it will be replaced with this file!");
-  EXPECT_EQ(panel.drives.text(), "c:");
+  EXPECT_EQ(panel.drives.text(), "/home/ann");
   EXPECT_THAT(panel.folders.items(), ElementsAre("..", "Sheets"));
   EXPECT_THAT(panel.files.items(), ElementsAre("Old.XLS"));
 }
@@ -49,16 +49,19 @@ TEST_F(ExportPanelTest, TheWholeGridGoesOutAsTabbedText) {
   Open();
   ExpectDone();
   panel.save.Click();
-  EXPECT_EQ(rig.folders.written["c:\\Tarnwell\\Timeline.xls"], kTable);
+  EXPECT_EQ(rig.folders.written["/home/ann/Tarnwell/Timeline.xls"], kTable);
   panel.close.Click();
   EXPECT_FALSE(panel.is_open());
 }
 
-TEST_F(ExportPanelTest, AFailedWriteIsNotReported) {
+TEST_F(ExportPanelTest, AFailedWriteIsToldInPlaceOfTheConfirmation) {
   Open();
   rig.folders.refuse = true;
-  ExpectDone();
+  rig.dialogs.Expect("Not Saved",
+                     "The file Timeline.xls could not be saved: the disk is full.\n"
+                     "It is still on the screen.");
   panel.save.Click();
+  EXPECT_TRUE(panel.is_open());
 }
 
 TEST_F(ExportPanelTest, FoldersAreWalkedAndAFileOfferedIsReplaced) {
@@ -66,14 +69,14 @@ TEST_F(ExportPanelTest, FoldersAreWalkedAndAFileOfferedIsReplaced) {
   panel.files.Pick(0);
   EXPECT_EQ(panel.name.text(), "Old.XLS");
   panel.folders.Open(1);
-  EXPECT_EQ(panel.path.caption(), "c:\\Tarnwell\\Sheets\\");
+  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/Sheets/");
   ExpectDone();
   panel.save.Click();
-  EXPECT_EQ(rig.folders.written.count("c:\\Tarnwell\\Sheets\\Old.XLS"), 1u);
+  EXPECT_EQ(rig.folders.written.count("/home/ann/Tarnwell/Sheets/Old.XLS"), 1u);
   panel.folders.Open(0);
   panel.folders.Open(0);
-  EXPECT_EQ(panel.path.caption(), "c:\\");
-  EXPECT_THAT(panel.folders.items(), ElementsAre("Tarnwell"));
+  EXPECT_EQ(panel.path.caption(), "/home/ann/");
+  EXPECT_THAT(panel.folders.items(), ElementsAre("..", "Tarnwell"));
 }
 
 TEST_F(ExportPanelTest, OnlyASpreadsheetsNameInThisFolderIsTaken) {
@@ -90,7 +93,7 @@ TEST_F(ExportPanelTest, OnlyASpreadsheetsNameInThisFolderIsTaken) {
   panel.name.Type(" plan.Xls ");
   ExpectDone();
   panel.save.Click();
-  EXPECT_EQ(rig.folders.written.count("c:\\Tarnwell\\plan.Xls"), 1u);
+  EXPECT_EQ(rig.folders.written.count("/home/ann/Tarnwell/plan.Xls"), 1u);
 }
 
 TEST_F(ExportPanelTest, AnExtensionIsSuppliedWhereTheScreenSaysSo) {
@@ -98,21 +101,26 @@ TEST_F(ExportPanelTest, AnExtensionIsSuppliedWhereTheScreenSaysSo) {
   budget.Open(grid, "Budget2026");
   ExpectDone();
   budget.save.Click();
-  EXPECT_EQ(rig.folders.written.count("c:\\Tarnwell\\Budget2026.xls"), 1u);
+  EXPECT_EQ(rig.folders.written.count("/home/ann/Tarnwell/Budget2026.xls"), 1u);
 }
 
-TEST_F(ExportPanelTest, ADriveOrFolderThatIsGoneLeadsBackToTheFirstDrive) {
+TEST_F(ExportPanelTest, ADriveOrFolderThatIsGoneLeadsBackToTheProgramsFolder) {
+  rig.folders.readable["/"] = {{"home"}, {}};
   Open();
+  panel.drives.Pick(2);
+  EXPECT_EQ(panel.path.caption(), "/");
   rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");
   panel.drives.Pick(1);
-  EXPECT_EQ(panel.path.caption(), "c:\\");
-  EXPECT_EQ(panel.drives.text(), "c:");
+  EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kCritical);
+  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
+  EXPECT_EQ(panel.drives.text(), "/home/ann");
   EXPECT_TRUE(panel.save.enabled());
 
-  rig.folders.readable.erase("c:\\Tarnwell\\");
+  rig.folders.readable.erase("/home/ann/Tarnwell/Sheets/");
   rig.dialogs.Expect("Device Status", "Device Unavailable!  ");
-  panel.folders.Open(0);
-  EXPECT_EQ(panel.path.caption(), "c:\\");
+  panel.folders.Open(1);
+  EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kExclamation);
+  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
 
   rig.folders.readable.clear();
   rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");

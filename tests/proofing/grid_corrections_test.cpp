@@ -42,20 +42,27 @@ TEST(CorrectRowsTest, ARowIsCutToItsFirstCharacters) {
   EXPECT_THAT(rows, ElementsAre(filler + " a lo", filler + " alo", filler + " othe"));
 }
 
+TEST(CorrectRowsTest, AWordThatWasKeptStaysInItsCapitals) {
+  std::vector<std::string> rows{"HSA hsa Hsa HSA account"};
+  CorrectRows(rows, {{"hsa", "has"}}, 45, {"HSA"});
+  EXPECT_THAT(rows, ElementsAre("HSA has Hsa HSA account"));
+}
+
 TEST(CheckSpellingOfColumnTest, TheCheckersChangesAreCarriedOverToAllRows) {
   testing::FormRig rig;
+  rig.speller.misspelled = {{"teh", {}}, {"Teh", {}}};
   forms::Grid grid(rig.form, "VSGd1", "List");
   grid.SetColumns({{.title = "No"}, {.title = "Item"}}, 1);
   grid.SetRows(4);
   grid.SetText(1, 1, "Cal\xE9 teh bank");
   grid.SetText(3, 1, "Teh end. Teh, last");
-  EXPECT_TRUE(CheckSpellingOfColumn(rig.context, grid, 1, 45));
+  EXPECT_EQ(CheckSpellingOfColumn(rig.context, grid, 1, 45), 3u);
   EXPECT_EQ(grid.text(1, 1), "Cal\xE9 the bank");
   EXPECT_EQ(grid.text(2, 1), "");
   EXPECT_EQ(grid.text(3, 1), "The end. Teh, last");
-  EXPECT_TRUE(CheckSpellingOfColumn(rig.context, grid, 1, 45)) << "the checker finds it again";
+  EXPECT_EQ(CheckSpellingOfColumn(rig.context, grid, 1, 45), 1u) << "the checker finds it again";
   grid.SetText(3, 1, "The end");
-  EXPECT_FALSE(CheckSpellingOfColumn(rig.context, grid, 1, 45));
+  EXPECT_EQ(CheckSpellingOfColumn(rig.context, grid, 1, 45), 0u);
 }
 
 }  // namespace

@@ -52,19 +52,59 @@ class SpellingTest : public ::testing::Test {
   testing::FormRig rig;
 };
 
-TEST_F(SpellingTest, TheTableCorrectsWithoutAskingEvenWordsThatTheDictionaryHas) {
-  rig.speller.misspelled = {{"Teh", {}}, {"alot", {}}, {"adn", {}}};
-  MemoryText text({"Teh man adn i", "", "like alot; CNA. Their  are, their is fora"});
+TEST_F(SpellingTest, TheTableCorrectsWithoutAskingWhatTheDictionaryDoesntHave) {
+  rig.speller.misspelled = {{"Teh", {}}, {"alot", {}}, {"adn", {}}, {"CNA", {}}};
+  MemoryText text({"Teh man adn i", "CNA", "like alot. Their  are, their is fora", "i. (i)"});
   const SpellingResult result = Check(text);
-  EXPECT_THAT(text.content,
-              ElementsAre("The man and I", "", "like a lot; CAN. There are, there is for a"));
+  EXPECT_THAT(text.content, ElementsAre("The man and I", "CAN",
+                                        "like a lot. There are, there is fora", "i. (i)"));
   EXPECT_THAT(text.shown, IsEmpty());
-  EXPECT_THAT(result.changes,
-              ElementsAre(SpellingChange{"Teh", "the"}, SpellingChange{"adn", "and"},
-                          SpellingChange{"i", "I"}, SpellingChange{"alot", "a lot"},
-                          SpellingChange{"CNA", "can"}, SpellingChange{"Their  are", "there are"},
-                          SpellingChange{"their is", "there is"}, SpellingChange{"fora", "for a"}));
+  EXPECT_THAT(
+      result.changes,
+      ElementsAre(SpellingChange{"Teh", "the"}, SpellingChange{"adn", "and"},
+                  SpellingChange{"i", "I"}, SpellingChange{"CNA", "can"},
+                  SpellingChange{"alot", "a lot"}, SpellingChange{"Their  are", "there are"},
+                  SpellingChange{"their is", "there is"}));
   EXPECT_FALSE(result.canceled);
+}
+
+TEST_F(SpellingTest, AKeyOfTheTableInCapitalsIsAskedAboutAndCanStay) {
+  const char* keys[] = {"HSA", "CNA", "EHR", "IHS"};
+  for (const char* key : keys) rig.speller.misspelled[key] = {"HAS", "other"};
+  rig.speller.misspelled["hsa"];
+  MemoryText text({"The HSA of a CNA\nHSA\nand HSA hsa EHR", "IHS"});
+  const SpellingResult result =
+      Check(text, {[](VSSpell1& form) {
+                     EXPECT_EQ(form.word.caption(), "HSA");
+                     EXPECT_EQ(form.change_to.text(), "HAS");
+                     EXPECT_THAT(form.suggestions.items(), ElementsAre("HAS", "other"));
+                     form.ignore_all.Click();
+                   },
+                   [](VSSpell1& form) {
+                     EXPECT_EQ(form.change_to.text(), "CAN");
+                     form.add.Click();
+                   },
+                   [](VSSpell1& form) {
+                     EXPECT_EQ(form.change_to.text(), "HER");
+                     form.change.Click();
+                   }});
+  EXPECT_THAT(text.content, ElementsAre("The HSA of a CNA\nHSA\nand HSA has HER", "HIS"));
+  EXPECT_THAT(result.kept, ElementsAre("CNA", "HSA"));
+  EXPECT_EQ(CorrectedNote(result.changes.size()), "3 words corrected");
+
+  MemoryText later({"CNA\ncna"});
+  rig.speller.misspelled["cna"];
+  Check(later);
+  EXPECT_THAT(later.content, ElementsAre("CNA\ncan"));
+}
+
+TEST_F(SpellingTest, AWordThatCouldntBeAddedIsTold) {
+  rig.speller.misspelled["zork"];
+  rig.temporary.Write("UserWords.Fil", std::string(9u << 20, 'x'));
+  rig.dialogs.Expect("Not Saved",
+                     "The word could not be saved: it is too large.\nIt is still on the screen.");
+  MemoryText text({"zork"});
+  Check(text, {[](VSSpell1& form) { form.add.Click(); }});
 }
 
 TEST_F(SpellingTest, AnUnknownWordIsAskedAboutInItsSentence) {
@@ -129,7 +169,7 @@ TEST_F(SpellingTest, AnIgnoredWordIsAskedAboutAgainAndAnAddedOneNeverMore) {
 }
 
 TEST_F(SpellingTest, EscapeAndTheCloseBoxKeepWhatWasChangedSoFar) {
-  rig.speller.misspelled = {{"aaa", {"abc"}}};
+  rig.speller.misspelled = {{"aaa", {"abc"}}, {"teh", {}}};
   for (const auto& leave : {std::function([](VSSpell1& form) { form.PressEscape(); }),
                             std::function([this](VSSpell1& form) { rig.navigator.Close(form); })}) {
     MemoryText text({"teh aaa teh aaa teh"});

@@ -25,6 +25,7 @@ TEST(WordsTest, OnlyWhatASpellingAppliesToIsAWord) {
       {"well-known and/or (sic)", {"well", "known", "and", "or", "sic"}},
       {"missing.Blank at its e.g. end", {"missing", "Blank", "at", "its", "end"}},
       {"(i) one i.e. two b) at 5 p.m. Do i. x.Y", {"one", "two", "at", "Do", "i"}},
+      {"i. one\n  i) two (so do i) and (i) i", {"one", "two", "so", "do", "i", "and", "i"}},
       {"3rd A4 2nd-hand B2B ok", {"hand", "ok"}},
       {"Name:____ Date____", {"Name", "Date"}},
       {"see www.tarnwell.test/Rates, https://a.b and ann.b@mail.test now", {"see", "and", "now"}},

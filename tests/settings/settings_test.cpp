@@ -5,8 +5,10 @@
 #include <algorithm>
 
 #include "settings/grid_backgrounds.h"
+#include "settings/modem_port.h"
 #include "settings/panel_colors.h"
 #include "settings/picture_settings.h"
+#include "settings/planner_settings.h"
 #include "settings/print_settings.h"
 #include "settings/stored_color.h"
 #include "settings/vehicle_settings.h"
@@ -60,11 +62,11 @@ TEST_F(SettingsTest, ColoursBackgroundsAndFontsLieWhereTheirPagesSay) {
   WritePanelColor(folder, PanelColor::kPlanner, StoredColor::Default());
   WritePanelColor(folder, PanelColor::kBudget, StoredColor::Number(0xFFFFCC));
   WriteGridBackground(folder, GridBackground::kBudget, StoredColor::Wallpaper(3));
-  WriteGridBackground(folder, GridBackground::kDisplayGrids, StoredColor::Number(0xC0C0C0));
+  WriteModemPort(folder, 3);
   WriteDateCheckerOn(folder, false);
   EXPECT_EQ(disk.Read("GColor1.Fil"), FileOf(ReadFormatExample("gcolor1.md")));
-  WritePanelColor(folder, PanelColor::kContactPictures, StoredColor::Default());
-  WriteFieldColor(folder, FieldColor::kContactPictures, StoredColor::Number(0xFFFFFF));
+  WritePanelColor(folder, PanelColor::kPicturePages, StoredColor::Default());
+  WriteFieldColor(folder, FieldColor::kPicturePages, StoredColor::Number(0xFFFFFF));
   EXPECT_EQ(disk.Read("GColor2.Fil"), FileOf(ReadFormatExample("gcolor2.md")));
   WritePrinterFont(folder, PrinterFont::kPlannerDay, {"Arial", 12});
   EXPECT_EQ(disk.Read("GColor4.Fil"), FileOf(ReadFormatExample("gcolor4.md")));
@@ -72,7 +74,7 @@ TEST_F(SettingsTest, ColoursBackgroundsAndFontsLieWhereTheirPagesSay) {
   EXPECT_EQ(ReadPanelColor(folder, PanelColor::kBudget), StoredColor::Number(0xFFFFCC));
   EXPECT_EQ(ReadGridBackground(folder, GridBackground::kBudget), StoredColor::Wallpaper(3));
   EXPECT_FALSE(ReadDateCheckerOn(folder));
-  EXPECT_EQ(ReadFieldColor(folder, FieldColor::kContactPictures), StoredColor::Number(0xFFFFFF));
+  EXPECT_EQ(ReadFieldColor(folder, FieldColor::kPicturePages), StoredColor::Number(0xFFFFFF));
   EXPECT_EQ(ReadPrinterFont(folder, PrinterFont::kPlannerDay), (StoredFont{"Arial", 12}));
   EXPECT_EQ(ReadPrinterFont(folder, PrinterFont::kPlannerMonth), StoredFont{});
 }
@@ -110,21 +112,38 @@ TEST_F(SettingsTest, TheWorkAreasBackgroundIsWrittenOnly) {
   EXPECT_EQ(disk.Read("GColor1.Fil"), stored);
 }
 
-TEST_F(SettingsTest, ThePortOfTheModemIsNoBackgroundAndABackgroundIsNoPort) {
-  EXPECT_EQ(ReadModemPort(folder), 1);
-  WriteModemPort(folder, 3);
-  EXPECT_EQ(Text("GColor1.Fil", 25), "3");
-  EXPECT_EQ(ReadModemPort(folder), 3);
-  EXPECT_TRUE(ReadGridBackground(folder, GridBackground::kDisplayGrids).empty());
-  WriteGridBackground(folder, GridBackground::kDisplayGrids, StoredColor::Number(0xC0C0C0));
-  EXPECT_EQ(ReadModemPort(folder), 1);
+TEST_F(SettingsTest, SettingsThatOnceSharedARecordHoldBesideEachOther) {
+  WriteModemPort(folder, 255);
+  WriteGridBackground(folder, GridBackground::kDisplayGrids, StoredColor::Wallpaper(7));
+  WriteSortTime(folder, 0);
+  WriteGuideLines(folder, GuideLines::kPlannerMonth, 1);
+  WriteSortTime(folder, 1, SortTime::kCalendarSheet);
+  EXPECT_EQ(ReadModemPort(folder), 255);
+  EXPECT_EQ(ReadGridBackground(folder, GridBackground::kDisplayGrids), StoredColor::Wallpaper(7));
+  EXPECT_EQ(ReadSortTime(folder), 0);
+  EXPECT_EQ(ReadGuideLines(folder, GuideLines::kPlannerMonth), 1);
+  EXPECT_EQ(ReadSortTime(folder, SortTime::kCalendarSheet), 1);
+  EXPECT_EQ(Text("GColor3.Fil", 25), "WP7");
+  EXPECT_EQ(Text("GColor3.Fil", 57), "1");
+}
+
+TEST_F(SettingsTest, WhatIsNoPortInTheModemsRecordIsPortOne) {
+  const std::pair<const char*, int> stored[] = {
+      {"", 1},  {"3", 3},        {" 12 x", 12}, {"255", 255},   {"256", 1},
+      {"0", 1}, {"12632256", 1}, {"WP3", 1},    {"Default", 1}, {"-4", 1},
+  };
+  for (const auto& [text, port] : stored) {
+    storage::RecordFile(folder, "GColor1.Fil", 20).PutText(25, text);
+    EXPECT_EQ(ReadModemPort(folder), port) << text;
+    EXPECT_TRUE(ReadGridBackground(folder, GridBackground::kDisplayGrids).empty()) << text;
+  }
 }
 
 TEST_F(SettingsTest, GuideLinesAreAZeroOrAOne) {
   const std::pair<GuideLines, int> records[] = {
       {GuideLines::kMainScreens, 11},   {GuideLines::kYearSheets, 12},
       {GuideLines::kVehicles, 14},      {GuideLines::kDisplays, 16},
-      {GuideLines::kCalendarSheet, 56}, {GuideLines::kPlannerMonth, 58},
+      {GuideLines::kCalendarSheet, 56}, {GuideLines::kPlannerMonth, 59},
   };
   for (const auto& [screens, record] : records) {
     EXPECT_EQ(ReadGuideLines(folder, screens), 0);

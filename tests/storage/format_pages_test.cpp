@@ -63,7 +63,7 @@ TEST_F(FormatPagesTest, SequentialFile) {
   ExpectBytesOfPage("a.fil", "sequential-file.md");
 
   WriteFileOfPage("b.fil", "sequential-file.md");
-  EXPECT_THAT(ReadNameList(folder_, "b.fil"), ElementsAre("Due", "12.5", "a, b"));
+  EXPECT_THAT(ReadNameList(folder_, "b.fil").names, ElementsAre("Due", "12.5", "a, b"));
 }
 
 TEST_F(FormatPagesTest, PlannerYearFile) {
@@ -86,6 +86,7 @@ TEST_F(FormatPagesTest, CalendarOptions) {
 
 TEST_F(FormatPagesTest, DisplaySettings) {
   RecordFile file(folder_, file_names::kGColor3, 20);
+  file.PutText(25, "12632256");
   file.PutText(35, "Yes");
   file.PutTagged(36, 11200.0f);
   file.PutTagged(37, std::int32_t{15100});

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "support/failing_file_system.h"
 #include "support/temporary_folder.h"
@@ -156,21 +157,63 @@ TEST_F(ProgramFolderTest, AFolderOfThatNameIsNoFile) {
 
 TEST_F(ProgramFolderTest, AVanishedReadOnlyOrFullFolderFailsQuietlyAndKeepsTheOldFile) {
   disk_.Write("a.fil", "old");
-  const std::pair<const char*, std::function<void()>> troubles[] = {
-      {"full", [this] { files_.AllowBytes(1); }},
-      {"read-only", [this] { files_.MakeReadOnly(); }},
-      {"vanished", [this] { files_.Vanish(); }},
+  struct Trouble {
+    const char* name;
+    std::function<void()> start;
+    Fault fault;
   };
-  for (const auto& [trouble, start] : troubles) {
+  const Trouble troubles[] = {
+      {"full", [this] { files_.AllowBytes(1); }, Fault::kFull},
+      {"read-only", [this] { files_.MakeReadOnly(); }, Fault::kReadOnly},
+      {"broken", [this] { files_.Vanish(); }, Fault::kBroken},
+  };
+  for (const auto& [trouble, start, fault] : troubles) {
     start();
-    EXPECT_FALSE(folder_.WriteWhole("a.fil", "new")) << trouble;
+    EXPECT_EQ(folder_.WriteWhole("a.fil", "new").fault(), fault) << trouble;
     EXPECT_FALSE(folder_.WriteWhole("b.fil", "new")) << trouble;
     EXPECT_FALSE(folder_.Copy("a.fil", "b.fil")) << trouble;
     EXPECT_EQ(disk_.Read("a.fil"), "old") << trouble;
     EXPECT_THAT(disk_.Names(), ElementsAre("a.fil")) << trouble;
   }
   EXPECT_EQ(folder_.ReadWhole("a.fil"), std::nullopt);
-  EXPECT_FALSE(ProgramFolder(RealFileSystem(), disk_.path() + "/gone").WriteWhole("a.fil", "x"));
+  EXPECT_TRUE(folder_.Read("a.fil").is_unreadable());
+  ProgramFolder gone(RealFileSystem(), disk_.path() + "/gone");
+  EXPECT_EQ(gone.WriteWhole("a.fil", "x").fault(), Fault::kGone);
+  EXPECT_EQ(gone.Read("a.fil").fault, Fault::kGone);
+}
+
+TEST_F(ProgramFolderTest, WhatIsMissingIsTakenForEmptyAndWhatCannotBeReadIsNot) {
+  EXPECT_TRUE(folder_.Read("a.fil").is_missing());
+  EXPECT_FALSE(folder_.Read("a.fil").is_unreadable());
+  disk_.Write("a.fil", "four");
+  EXPECT_EQ(folder_.Read("a.fil").content, "four");
+  EXPECT_EQ(folder_.Read("a.fil", 3).fault, Fault::kTooLarge);
+  bool has_failed = true;
+  for (int call = 1; has_failed; ++call) {
+    FailingFileSystem files(RealFileSystem());
+    files.FailAt(call);
+    const auto read = ProgramFolder(files, disk_.path()).Read("a.fil");
+    has_failed = files.calls() >= call;
+    EXPECT_TRUE(read.is_unreadable() || read.content == "four") << call;
+  }
+}
+
+// A link could lead out of the folder, and who opens a pipe waits for good.
+TEST_F(ProgramFolderTest, LinksAndPipesInAFilesPlaceAreNeitherReadNorReplaced) {
+  const TemporaryFolder outside;
+  outside.Write("victim", "safe");
+  const std::string target = outside.path() + "/victim";
+  ASSERT_EQ(::symlink(target.c_str(), (disk_.path() + "/link.fil").c_str()), 0);
+  ASSERT_EQ(::symlink((target + "2").c_str(), (disk_.path() + "/dangling.fil").c_str()), 0);
+  ASSERT_EQ(::mkfifo((disk_.path() + "/pipe.fil").c_str(), 0666), 0);
+  for (const char* name : {"link.fil", "dangling.fil", "pipe.fil"}) {
+    EXPECT_EQ(folder_.Read(name).fault, Fault::kNotPlain) << name;
+    EXPECT_EQ(folder_.WriteWhole(name, "x").fault(), Fault::kNotPlain) << name;
+    EXPECT_EQ(folder_.Open(name, OpenMode::kCreate), nullptr) << name;
+  }
+  EXPECT_EQ(outside.Read("victim"), "safe");
+  EXPECT_THAT(outside.Names(), ElementsAre("victim"));
+  EXPECT_THAT(disk_.Names(), ElementsAre("dangling.fil", "link.fil", "pipe.fil"));
 }
 
 TEST_F(ProgramFolderTest, AFileTooLargeForMemoryIsNotRead) {

@@ -85,10 +85,10 @@ TEST(SequentialWriterTest, WritesTheShortestNumberThatReadsBack) {
 TEST(NameListTest, KeepsItsOrderAndCutsATitleAtItsQuote) {
   TemporaryFolder disk;
   ProgramFolder folder(RealFileSystem(), disk.path());
-  EXPECT_THAT(ReadNameList(folder, "JobHold.Fl5"), IsEmpty());
+  EXPECT_THAT(ReadNameList(folder, "JobHold.Fl5").names, IsEmpty());
   EXPECT_THAT(disk.Names(), IsEmpty());
   EXPECT_TRUE(WriteNameList(folder, "JobHold.Fl5", {"Driver", "15\" screen", "Accountant"}));
-  EXPECT_THAT(ReadNameList(folder, "JOBHOLD.FL5"), ElementsAre("Driver", "15", "Accountant"));
+  EXPECT_THAT(ReadNameList(folder, "JOBHOLD.FL5").names, ElementsAre("Driver", "15", "Accountant"));
   EXPECT_TRUE(WriteNameList(folder, "JobHold.Fl5", {"Driver", "Accountant"}));
   EXPECT_EQ(disk.Read("JobHold.Fl5"), "\"Driver\"\r\n\"Accountant\"\r\n");
 }

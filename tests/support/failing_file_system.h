@@ -68,6 +68,11 @@ class FailingFileSystem : public storage::FileSystem {
   std::optional<std::vector<std::string>> List(const std::string& folder) override {
     return Fails("list") ? std::nullopt : wrapped_.List(folder);
   }
+  storage::Fault fault() const override {
+    if (failed_) return storage::Fault::kBroken;
+    if (is_read_only_) return storage::Fault::kReadOnly;
+    return room_ == 0 ? storage::Fault::kFull : wrapped_.fault();
+  }
 
  private:
   class FailingFile : public storage::File {
@@ -101,7 +106,8 @@ class FailingFileSystem : public storage::FileSystem {
 
   bool Fails(const char* call) {
     log_.emplace_back(call);
-    return fails_ && fails_(calls());
+    failed_ = fails_ && fails_(calls());
+    return failed_;
   }
 
   storage::FileSystem& wrapped_;
@@ -109,6 +115,7 @@ class FailingFileSystem : public storage::FileSystem {
   std::vector<std::string> log_;
   std::uint64_t room_ = std::numeric_limits<std::uint64_t>::max();
   bool is_read_only_ = false;
+  bool failed_ = false;
 };
 
 }  // namespace tarnwell::testing

@@ -158,8 +158,10 @@ class FakeFolders : public forms::FolderBrowser {
     std::vector<std::string> files;
   };
 
-  std::vector<std::string> Drives() override { return {"c:", "d:"}; }
-  std::string ProgramPath() override { return "c:\\Tarnwell"; }
+  std::vector<forms::Place> Places() override {
+    return {{"/home/ann", "/home/ann"}, {"STICK", "/media/ann/STICK"}, {"/", "/"}};
+  }
+  std::string ProgramPath() override { return "/home/ann/Tarnwell"; }
   std::optional<std::vector<std::string>> Folders(const std::string& path) override {
     const auto found = readable.find(path);
     return found == readable.end() ? std::nullopt : std::optional(found->second.folders);
@@ -168,12 +170,14 @@ class FakeFolders : public forms::FolderBrowser {
     const auto found = readable.find(path);
     return found == readable.end() ? std::nullopt : std::optional(found->second.files);
   }
-  bool WriteFile(const std::string& path, std::string_view content) override {
-    if (!refuse) written[path] = content;
-    return !refuse;
+  storage::Outcome WriteFile(const std::string& path, std::string_view content) override {
+    if (refuse) return storage::Fault::kFull;
+    written[path] = content;
+    return {};
   }
 
-  std::map<std::string, Content> readable{{"c:\\", {{"Tarnwell"}, {}}}, {"c:\\Tarnwell\\", {}}};
+  std::map<std::string, Content> readable{{"/home/ann/", {{"Tarnwell"}, {}}},
+                                          {"/home/ann/Tarnwell/", {}}};
   std::map<std::string, std::string> written;
   bool refuse = false;
 };

@@ -112,6 +112,7 @@ TEST(DumpTest, PrintsTheExamplesOfThePagesInWords) {
        "record 17 (today's date, 1 shown): 1\n"},
       {"GCOLOR3.FIL", "gcolor3.md",
        "GCOLOR3.FIL: display settings, 1143 bytes\n"
+       "record 25 (grid background of the display grids): \"12632256\"\n"
        "record 35 (\"Yes\": smaller-screen display): \"Yes\"\n"
        "record 36 (window height in twips): 11200 (4-byte float)\n"
        "record 37 (window width in twips): 15100 (4-byte integer)\n"

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "proofing/vsspell1.h"
 #include "proofing/vsthesaurus1.h"
 #include "richtext/plain_text.h"
@@ -134,7 +136,7 @@ TEST_F(WorkArea1Test, EveryWayOutOfAnUnsavedTextAsksToSaveIt) {
   }
 }
 
-TEST_F(WorkArea1Test, ATextThatCantBeSavedStaysOnTheScreen) {
+TEST_F(WorkArea1Test, ATextThatCantBeSavedStaysOnTheScreenUntilTheUserGivesItUp) {
   testing::FailingFileSystem files(storage::RealFileSystem());
   testing::ProgramRig full(files);
   full.Start();
@@ -143,13 +145,113 @@ TEST_F(WorkArea1Test, ATextThatCantBeSavedStaysOnTheScreen) {
   dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
   form.document.text.Type("Precious");
   files.MakeReadOnly();
-  for (int i = 0; i < 3; ++i) full.dialogs.Expect(kSaveTitle, kSaveText, Answer::kYes);
+  const auto expect_refusal = [&] {
+    full.dialogs.Expect("Not Saved",
+                        "The text could not be saved: the disk is read-only.\n"
+                        "It is still on the screen.");
+  };
+  const auto expect_questions = [&](Answer leave) {
+    full.dialogs.Expect(kSaveTitle, kSaveText, Answer::kYes);
+    expect_refusal();
+    full.dialogs.Expect("Not Saved", "Leave without saving?", leave);
+  };
+  expect_refusal();
+  form.document.save.Click();
+  for (int i = 0; i < 3; ++i) expect_questions(Answer::kNo);
   form.document.exit.Click();
   form.main_buttons[forms::kEmployeeData].Click();
   form.document.views.Pick(kCommentsText);
   EXPECT_EQ(richtext::PlainText(form.document.text.document()), "Precious");
+  EXPECT_TRUE(form.document.unsaved());
   EXPECT_EQ(form.main_buttons.selected(), forms::kCompanyData);
   EXPECT_EQ(form.document.views.chosen(), kPolicyText);
+  expect_questions(Answer::kYes);
+  form.document.exit.Click();
+  EXPECT_TRUE(form.document.text.IsBlank());
+}
+
+TEST_F(WorkArea1Test, WhatCantBeReadIsNamedLockedAndLeftAsItIs) {
+  struct {
+    const char* file;
+    const char* area;
+    const char* button;
+    int view;
+  } const cases[] = {
+      {"EmployPolicy0.Fl2", "SSCommand11(2)", "SSCommand14(0)", kPolicyText},
+      {"EmployComment0.Fl2", "SSCommand11(2)", "SSCommand14(0)", kCommentsText},
+      {"EmployAction1.Fl2", "SSCommand11(2)", "SSCommand14(0)", kDisclaimerText},
+      {"DRPln1.Fl2", "SSCommand11(8)", nullptr, kPolicyText},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.file);
+    rig.temporary.Remove(c.file);
+    std::filesystem::create_directory(rig.temporary.path() + "/" + c.file);
+    Open();
+    Press(c.area);
+    if (c.button) Press(c.button);
+    auto& view = hub().document;
+    view.views.Pick(c.view);
+    EXPECT_EQ(Shown(),
+              "This text can't be read: something else has the name of its file.\n"
+              "Nothing will be written over it.");
+    EXPECT_TRUE(view.text.locked());
+    for (const forms::Command* command :
+         {&view.save, &view.insert_template, &view.print_options, &view.tools.find_mark}) {
+      EXPECT_FALSE(command->enabled()) << command->name();
+    }
+    view.text.Type("x");
+    EXPECT_FALSE(view.unsaved());
+    view.exit.Click();
+    EXPECT_EQ(Shown(), "");
+  }
+}
+
+TEST_F(WorkArea1Test, WithoutATemplateTheTextStaysAndTheUserIsTold) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Mine"));
+  std::filesystem::create_directory(rig.temporary.path() + "/EmployPolicy1.Fl1");
+  Open();
+  Press("SSCommand14(0)");
+  hub().document.text.Type("Still ");
+  ExpectSaved();
+  hub().document.save.Click();
+  rig.dialogs.Expect("Insert Template", "No template is supplied for this document.");
+  hub().document.insert_template.Click();
+  EXPECT_EQ(Shown(), "Still Mine");
+  EXPECT_FALSE(hub().document.unsaved());
+  EXPECT_TRUE(hub().document.text.CanUndo());
+
+  Press("SSCommand14(1)");
+  rig.dialogs.Expect("Can't Be Read",
+                     "The template can't be read: something else has the name of its file.\n"
+                     "Nothing will be written over it.");
+  hub().document.insert_template.Click();
+  EXPECT_FALSE(hub().document.unsaved());
+}
+
+TEST_F(WorkArea1Test, ATextStaysUnsavedAsLongAsItIsOnShow) {
+  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Mine"));
+  Open();
+  Press("SSCommand14(0)");
+  hub().document.text.Type("Edits of ");
+  const auto expect_edits = [&] {
+    EXPECT_EQ(Shown(), "Edits of Mine");
+    EXPECT_TRUE(hub().document.unsaved());
+  };
+  ExpectSaveQuestion(Answer::kNo);
+  rig.ClickMenu("mOPAll");
+  hub().printing.print.commands[2].Click();
+  expect_edits();
+  for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
+    ExpectSaveQuestion(Answer::kNo);
+    const forms::MessageBox exit_box = forms::ExitBox();
+    rig.dialogs.Expect(exit_box.title, exit_box.text, answer);
+    hub().main_buttons[forms::kExitProgram].Click();
+    expect_edits();
+  }
+  ExpectSaveQuestion(Answer::kYes);
+  ExpectSaved();
+  hub().document.exit.Click();
+  EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "Edits of Mine");
 }
 
 TEST_F(WorkArea1Test, EachTextOfADocumentHasItsFile) {
@@ -226,14 +328,27 @@ TEST_F(WorkArea1Test, TheRecoveryPlanIsExplainedUntilThereIsOne) {
   enter();
   EXPECT_EQ(Shown(), "About plans");
   EXPECT_FALSE(hub().document.actions.visible());
-  rig.dialogs.Expect("Insert Template",
-                     "The program has detected an existing Disaster Recovery Plan.\n"
-                     "If you insert template and save file the existing file will be overwritten!\n"
-                     "Insert new Template?",
-                     Answer::kYes);
-  hub().document.insert_template.Click();
-  rig.dialogs.Expect(kSaved, "Disaster Recovery Plan Has Been Saved!");
-  hub().document.save.Click();
+  const auto save = [&] {
+    rig.dialogs.Expect(kSaved, "Disaster Recovery Plan Has Been Saved!");
+    hub().document.save.Click();
+  };
+  save();  // as it stands it is no plan yet
+  hub().document.exit.Click();
+  rig.dialogs.Expect("Disaster Recovery Plan Information", information);
+  enter();
+  hub().document.insert_template.Click();  // unasked: there is nothing to lose
+  EXPECT_EQ(Shown(), "Sample plan");
+  const auto refuse_template = [&] {
+    rig.dialogs.Expect("Insert Template",
+                       "The program has detected an existing Disaster Recovery Plan.\n"
+                       "If you insert template and save file the existing file will be "
+                       "overwritten!\nInsert new Template?",
+                       Answer::kNo);
+    hub().document.insert_template.Click();
+  };
+  refuse_template();
+  save();
+  refuse_template();
   EXPECT_EQ(rig.temporary.Read("DRPln1.Fl2"), Rtf("Sample plan"));
 
   hub().document.exit.Click();
@@ -294,6 +409,7 @@ TEST_F(WorkArea1Test, TheSpellingIsCorrectedWhereItStandsInItsFormats) {
                      "Spell Check has been canceled or has reached the end of your document");
   hub().document.tools.spelling.Click();
   EXPECT_EQ(Shown(), "We receive a house\nand The end");
+  EXPECT_EQ(hub().status(), "3 words corrected");
   EXPECT_TRUE(hub().document.unsaved());
   const auto& document = hub().document.text.document();
   EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[0]).runs[1].format.bold);

@@ -8,6 +8,7 @@
 
 class QMainWindow;
 class QTextBrowser;
+class QUrl;
 
 namespace tarnwell::desktop {
 
@@ -21,6 +22,8 @@ class HtmlHelpViewer : public forms::HelpViewer {
 
  private:
   void MakeWindow();
+  // A page of the folder, with or without a place in it. Nothing else is ever opened.
+  void Open(const QUrl& link);
 
   QString folder_;
   QPointer<QMainWindow> window_;

@@ -1,6 +1,8 @@
 #include "desktop/services/message_dialogs.h"
 
+#include <QCloseEvent>
 #include <QColorDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <vector>
@@ -29,7 +31,36 @@ QMessageBox::Icon IconOf(forms::Icon icon) {
   return QMessageBox::NoIcon;
 }
 
-// In the order that a default button's number counts; the last one answers Esc and the close box.
+// A box of Yes and No has no third answer that would do nothing, so it stays until one of the two
+// is pressed: neither Esc nor its close box may count as a No that drops what was written.
+class Box : public QMessageBox {
+ public:
+  Box(QWidget* asker, bool stays) : QMessageBox(asker), stays_(stays) {
+    // Not for the whole application: the help window beside the program stays usable.
+    if (asker) setWindowModality(Qt::WindowModal);
+    if (stays_) setWindowFlag(Qt::WindowCloseButtonHint, false);
+  }
+
+  void reject() override {
+    if (!stays_) QMessageBox::reject();
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (stays_ && event->matches(QKeySequence::Cancel)) return;
+    QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    if (stays_) return event->ignore();
+    QMessageBox::closeEvent(event);
+  }
+
+ private:
+  bool stays_;
+};
+
+// In the order that a default button's number counts; the last one answers Esc and the close box
+// where the box may be closed by them.
 std::vector<QMessageBox::StandardButton> ButtonsOf(forms::Buttons buttons) {
   switch (buttons) {
     case forms::Buttons::kOk:
@@ -59,7 +90,7 @@ forms::Answer AnswerOf(int button) {
 
 forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
   const ModalQuestion question;
-  QMessageBox window(question.asker());
+  Box window(question.asker(), box.buttons == forms::Buttons::kYesNo);
   window.setWindowTitle(FromCore(box.title));
   window.setTextFormat(Qt::PlainText);
   window.setText(FromCore(box.text));

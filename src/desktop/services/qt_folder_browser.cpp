@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 #include <QStorageInfo>
+#include <algorithm>
 
 #include "desktop/widgets/text.h"
 #include "storage/file_system.h"
@@ -10,9 +12,6 @@
 
 namespace tarnwell::desktop {
 namespace {
-
-constexpr char kFirstLetter = 'c';
-constexpr qsizetype kMostDrives = 'z' - kFirstLetter + 1;
 
 bool HoldsUserFiles(const QStorageInfo& volume) {
   if (!volume.isValid() || !volume.isReady()) return false;
@@ -26,13 +25,22 @@ bool HoldsUserFiles(const QStorageInfo& volume) {
   return QFileInfo(root).isDir() && volume.device().contains('/');
 }
 
-std::string DriveOf(qsizetype place) {
-  return {static_cast<char>(kFirstLetter + static_cast<int>(place)), ':'};
+// A folder's or file's name that the core can hold and a path can tell from others.
+bool IsSpeakable(const QString& name) { return FromCore(ToCore(name)) == name; }
+
+// Only an absolute path names a folder.
+QString LocalPath(const std::string& path) {
+  const QString local = FromCore(path);
+  return QDir::isAbsolutePath(local) ? QDir::cleanPath(local) : QString();
 }
 
-// A folder's or file's name that the core can hold and a path can tell from others.
-bool IsSpeakable(const QString& name) {
-  return !name.contains('\\') && FromCore(ToCore(name)) == name;
+void AddPlace(std::vector<forms::Place>& places, const QString& path, const QString& name) {
+  const forms::Place place{ToCore(name), ToCore(path)};
+  const bool known = std::ranges::any_of(
+      places, [&](const forms::Place& other) { return other.path == place.path; });
+  if (!known && IsSpeakable(path) && IsSpeakable(name) && QFileInfo(path).isDir()) {
+    places.push_back(place);
+  }
 }
 
 std::optional<std::vector<std::string>> Names(const QString& folder, QDir::Filters kind) {
@@ -50,48 +58,28 @@ std::optional<std::vector<std::string>> Names(const QString& folder, QDir::Filte
 
 }  // namespace
 
-QStringList MountedVolumes() {
-  QStringList roots;
-  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-    if (HoldsUserFiles(volume)) roots << volume.rootPath();
+std::vector<forms::Place> SystemPlaces() {
+  std::vector<forms::Place> places;
+  const QString home = QDir::homePath();
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  AddPlace(places, documents, documents);
+  AddPlace(places, home, home);
+  QList<QStorageInfo> volumes = QStorageInfo::mountedVolumes();
+  volumes.removeIf([](const QStorageInfo& volume) { return !HoldsUserFiles(volume); });
+  std::ranges::sort(volumes, {}, &QStorageInfo::rootPath);
+  for (const QStorageInfo& volume : volumes) {
+    const QString root = volume.rootPath();
+    // A stick goes by the name of the folder that was made for it.
+    AddPlace(places, root, volume.isRoot() ? root : QFileInfo(root).fileName());
   }
-  roots.removeDuplicates();
-  roots.sort();
-  return roots;
+  return places;
 }
 
-QtFolderBrowser::QtFolderBrowser(QString program_folder, Volumes volumes)
+QtFolderBrowser::QtFolderBrowser(const QString& program_folder, PlacesSource places)
     : program_folder_(QDir::cleanPath(QFileInfo(program_folder).absoluteFilePath())),
-      volumes_(std::move(volumes)) {}
+      places_(std::move(places)) {}
 
-std::vector<std::string> QtFolderBrowser::Drives() {
-  roots_ = volumes_().mid(0, kMostDrives);
-  std::vector<std::string> drives;
-  for (qsizetype i = 0; i < roots_.size(); ++i) drives.push_back(DriveOf(i));
-  return drives;
-}
-
-std::string QtFolderBrowser::ProgramPath() {
-  if (roots_.isEmpty()) Drives();
-  qsizetype drive = -1;
-  for (qsizetype i = 0; i < roots_.size(); ++i) {
-    const QString prefix = roots_[i].endsWith('/') ? roots_[i] : roots_[i] + '/';
-    const bool inside = (program_folder_ + '/').startsWith(prefix);
-    if (inside && (drive < 0 || roots_[i].size() > roots_[drive].size())) drive = i;
-  }
-  if (drive < 0) return DriveOf(0) + "\\";
-  const QString below = QDir(roots_[drive]).relativeFilePath(program_folder_);
-  if (below == QLatin1String(".")) return DriveOf(drive) + "\\";
-  return DriveOf(drive) + "\\" + ToCore(QString(below).replace('/', '\\'));
-}
-
-QString QtFolderBrowser::LocalPath(const std::string& path) const {
-  if (path.size() < 2 || path[1] != ':') return {};
-  const qsizetype drive = (path[0] | 0x20) - kFirstLetter;
-  if (drive < 0 || drive >= roots_.size()) return {};
-  const QString below = FromCore(path.substr(2)).replace('\\', '/');
-  return QDir::cleanPath(roots_[drive] + '/' + below);
-}
+std::string QtFolderBrowser::ProgramPath() { return ToCore(program_folder_); }
 
 std::optional<std::vector<std::string>> QtFolderBrowser::Folders(const std::string& path) {
   return Names(LocalPath(path), QDir::Dirs);
@@ -101,11 +89,13 @@ std::optional<std::vector<std::string>> QtFolderBrowser::Files(const std::string
   return Names(LocalPath(path), QDir::Files);
 }
 
-bool QtFolderBrowser::WriteFile(const std::string& path, std::string_view content) {
+storage::Outcome QtFolderBrowser::WriteFile(const std::string& path, std::string_view content) {
   const QString local = LocalPath(path);
-  if (local.isEmpty()) return false;
-  return storage::SaveWhole(storage::RealFileSystem(), QFileInfo(local).path().toStdString(),
-                            local.toStdString(), content);
+  if (local.isEmpty()) return storage::Fault::kMissing;
+  storage::FileSystem& files = storage::RealFileSystem();
+  const std::string folder = QFileInfo(local).path().toStdString();
+  if (storage::SaveWhole(files, folder, local.toStdString(), content)) return {};
+  return files.fault() == storage::Fault::kNone ? storage::Fault::kBroken : files.fault();
 }
 
 }  // namespace tarnwell::desktop

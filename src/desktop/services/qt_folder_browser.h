@@ -1,36 +1,32 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <functional>
+#include <vector>
 
 #include "forms/folder_browser.h"
 
 namespace tarnwell::desktop {
 
-// Where the machine's volumes are mounted, "/" first; those that hold no user's files are left out.
-QStringList MountedVolumes();
+// The user's home and documents, and where the machine's volumes are mounted; those that hold no
+// user's files are left out.
+std::vector<forms::Place> SystemPlaces();
 
-// A drive's letter holds from one call of Drives to the next, as volumes come and go.
 class QtFolderBrowser : public forms::FolderBrowser {
  public:
-  using Volumes = std::function<QStringList()>;
+  using PlacesSource = std::function<std::vector<forms::Place>()>;
 
-  explicit QtFolderBrowser(QString program_folder, Volumes volumes = MountedVolumes);
+  explicit QtFolderBrowser(const QString& program_folder, PlacesSource places = SystemPlaces);
 
-  std::vector<std::string> Drives() override;
+  std::vector<forms::Place> Places() override { return places_(); }
   std::string ProgramPath() override;
   std::optional<std::vector<std::string>> Folders(const std::string& path) override;
   std::optional<std::vector<std::string>> Files(const std::string& path) override;
-  bool WriteFile(const std::string& path, std::string_view content) override;
+  storage::Outcome WriteFile(const std::string& path, std::string_view content) override;
 
  private:
-  // Empty for a drive that there isn't.
-  QString LocalPath(const std::string& path) const;
-
   QString program_folder_;
-  Volumes volumes_;
-  QStringList roots_;  // of the drives from "c:" on
+  PlacesSource places_;
 };
 
 }  // namespace tarnwell::desktop

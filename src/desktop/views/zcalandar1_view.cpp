@@ -20,7 +20,7 @@ QWidget* Day(planner::Zcalandar1& form) {
   return Widget(
       form.day,
       Column({
-          Widget(form.date_caption),
+          Wrapped(Widget(form.date_caption)),
           new DayRowsWidget(form),
           Row({sort_time, Spring(), WithIcon("month", Widget(form.view_month)),
                WithIcon("print", Widget(form.print_options))}),

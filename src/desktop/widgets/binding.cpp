@@ -20,9 +20,11 @@ Binding::Binding(QWidget* widget, forms::Control& control, std::function<void()>
 
 void Binding::Show() {
   if (!subscription_.Connected()) return;
+  ++showing_;
   widget_->setEnabled(control_.enabled());
   // A widget without a parent would open a window of its own; its place in a layout shows it.
   if (widget_->parentWidget() || !control_.visible()) widget_->setVisible(control_.visible());
+  DropLostFocus();
   widget_->setToolTip(FromCore(control_.tool_tip()));
   if (show_) show_();
   // Only when the control has just got the focus: a change of its text must not fetch the focus
@@ -30,6 +32,14 @@ void Binding::Show() {
   const bool has_focus = control_.focused();
   if (has_focus && !had_focus_ && !widget_->hasFocus()) widget_->setFocus(Qt::OtherFocusReason);
   had_focus_ = has_focus;
+  --showing_;
+}
+
+// Where nothing else on show can take the focus Qt leaves it in what has just been hidden.
+void Binding::DropLostFocus() {
+  QWidget* focus = widget_->window()->focusWidget();
+  if (!focus || (focus->isVisibleTo(widget_->window()) && focus->isEnabled())) return;
+  if (focus == widget_ || widget_->isAncestorOf(focus)) focus->clearFocus();
 }
 
 bool Binding::eventFilter(QObject* watched, QEvent* event) {

@@ -18,6 +18,10 @@ class Binding : public QObject {
  public:
   Binding(QWidget* widget, forms::Control& control, std::function<void()> show);
 
+  // The program is showing a control's state at present. Where that hides or disables the widget
+  // that had the focus, Qt moves it on to another one, into which no person went.
+  static bool Showing() { return showing_ > 0; }
+
   // What the widget's signals do: runs `gesture` unless the control has gone, then shows what came
   // of it.
   template <typename Gesture>
@@ -34,6 +38,9 @@ class Binding : public QObject {
 
  private:
   void Show();
+  void DropLostFocus();
+
+  static inline int showing_ = 0;  // there is one thread
 
   QWidget* widget_;
   forms::Control& control_;

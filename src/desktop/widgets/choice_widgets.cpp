@@ -1,5 +1,7 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QWheelEvent>
 
@@ -10,17 +12,49 @@
 namespace tarnwell::desktop {
 namespace {
 
-// Picks only what a person meant: the wheel over a list that merely lies under the pointer scrolls
-// the screen, not the choice.
+// Picks only what a person meant. The wheel over a closed list scrolls the screen, not the choice,
+// and keys change it only for a person who went into it, by a click or with Tab.
 class DropDown : public QComboBox {
- protected:
-  void wheelEvent(QWheelEvent* event) override {
-    if (hasFocus()) {
-      QComboBox::wheelEvent(event);
-    } else {
-      event->ignore();
-    }
+ public:
+  DropDown() { setFocusPolicy(Qt::StrongFocus); }
+
+  void showPopup() override {
+    entered_ = true;
+    QComboBox::showPopup();
   }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+  void focusInEvent(QFocusEvent* event) override {
+    const Qt::FocusReason reason = event->reason();
+    if (!Binding::Showing() &&
+        (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+         reason == Qt::MouseFocusReason || reason == Qt::ShortcutFocusReason)) {
+      entered_ = true;
+    }
+    QComboBox::focusInEvent(event);
+  }
+
+  void focusOutEvent(QFocusEvent* event) override {
+    // Another window, the menu bar and the open list only borrow the keys.
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+        reason != Qt::MenuBarFocusReason && !view()->isVisible()) {
+      entered_ = false;
+    }
+    QComboBox::focusOutEvent(event);
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool opens = event->key() == Qt::Key_Space || event->key() == Qt::Key_F4 ||
+                       (event->key() == Qt::Key_Down && event->modifiers() == Qt::AltModifier);
+    if (entered_ || opens) return QComboBox::keyPressEvent(event);
+    event->ignore();
+  }
+
+ private:
+  bool entered_ = false;
 };
 
 void ShowItems(QComboBox* box, const forms::ComboBox& combo) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -93,8 +94,10 @@ void GridView::ShowLook() {
   look_ = grid_.look();
   QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : QColor(Qt::white));
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  QPixmap wallpaper;
-  if (!look_.wallpaper.empty() && wallpaper.loadFromData(pictures_.Read(look_.wallpaper))) {
+  const QImage picture =
+      look_.wallpaper.empty() ? QImage() : Decoded(pictures_.Read(look_.wallpaper));
+  if (!picture.isNull()) {
+    const QPixmap wallpaper = QPixmap::fromImage(picture);
     palette = PaletteOn(MeanColor(wallpaper));
     palette.setBrush(QPalette::Base, wallpaper);
   }

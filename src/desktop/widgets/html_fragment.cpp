@@ -3,12 +3,12 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QTextBlock>
-#include <QTextDocument>
 #include <QTextList>
 #include <QTextTable>
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/widgets/closed_document.h"
 #include "richtext/limits.h"
 
 namespace tarnwell::desktop {
@@ -205,7 +205,7 @@ void DropEmptyEnds(std::vector<richtext::Block>& blocks) {
 }  // namespace
 
 richtext::RichDocument HtmlFragment(const QString& html) {
-  QTextDocument page;
+  ClosedDocument page;
   page.setHtml(html);
   richtext::RichDocument fragment;
   AddBlocks(page.rootFrame()->begin(), fragment.blocks);

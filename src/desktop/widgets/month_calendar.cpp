@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QKeyEvent>
 #include <QLocale>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -21,6 +22,7 @@ const QColor kLine(0xAE, 0xB8, 0xC2);
 const QColor kTodayRing(0xC0, 0x39, 0x2B);
 constexpr int kPaneGap = 14;
 constexpr int kMargin = 6;
+constexpr int kYearsAround = 10;
 
 QLocale English() { return QLocale(QLocale::English, QLocale::UnitedStates); }
 
@@ -126,6 +128,21 @@ void MonthCalendar::TurnPages(int count) {
   update();
 }
 
+void MonthCalendar::OfferYears(int shown, int pane, const std::function<void(int)>& take) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const int first = std::max(shown - kYearsAround, static_cast<int>(kFirstMonth.year()));
+  const int last = std::min(shown + kYearsAround, static_cast<int>(kLastMonth.year()));
+  for (int year = first; year <= last; ++year) {
+    QAction* entry = menu->addAction(QString::number(year));
+    connect(entry, &QAction::triggered, this, [take, year] { take(year); });
+    entry->setCheckable(true);
+    entry->setChecked(year == shown);
+    if (year == shown) menu->setActiveAction(entry);
+  }
+  menu->popup(mapToGlobal(Measure().Head(pane).bottomLeft()));
+}
+
 void MonthCalendar::Pick(text::Date date) {
   if (on_pick) on_pick(date);
 }
@@ -149,6 +166,11 @@ void MonthCalendar::mousePressEvent(QMouseEvent* event) {
   const QPoint point = event->pos();
   if (metrics.Back().contains(point)) return TurnPages(-1);
   if (metrics.Forth(look_.months).contains(point)) return TurnPages(1);
+  for (int pane = 0; pane < look_.months; ++pane) {
+    if (!metrics.Head(pane).contains(point)) continue;
+    const int shown = static_cast<int>(ShownMonth(pane).year());
+    return OfferYears(shown, pane, [this, shown](int year) { TurnPages(12 * (year - shown)); });
+  }
   if (metrics.foot_height > 0 && metrics.Foot().contains(point)) return Pick(*today_);
   if (const auto day = DayAt(point)) Pick(*day);
 }
@@ -184,6 +206,12 @@ std::optional<text::Date> MonthCalendar::DayForKey(const QKeyEvent& event) const
 }
 
 void MonthCalendar::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F4) {
+    const text::Date from = date_.value_or(ShownMonth(0) / std::chrono::day{1});
+    return OfferYears(text::YearOf(from), std::max(PaneOf(from), 0), [this, from](int year) {
+      Pick(SameDayOf(Clamped(std::chrono::year{year} / from.month()), from));
+    });
+  }
   if (const auto day = DayForKey(*event)) {
     Pick(*day);
   } else {

@@ -11,7 +11,8 @@ namespace tarnwell::desktop {
 
 // One or two months side by side. Arrow keys pick the days around, Page Up and Page Down the same
 // day of the months around (with Ctrl: years), Home and End the month's first and last day,
-// Ctrl+Home today. The arrows in the head and the wheel turn the pages without picking.
+// Ctrl+Home today. The arrows in the head and the wheel turn the pages without picking. A click on
+// a month's title offers the years around; so does F4, which picks the same day of the year chosen.
 class MonthCalendar : public QWidget {
  public:
   MonthCalendar();
@@ -39,6 +40,8 @@ class MonthCalendar : public QWidget {
   Month ShownMonth(int pane) const;
   int PaneOf(text::Date date) const;
   void TurnPages(int months);
+  // A list below the pane's title, the year `shown` marked. Calls `take` with the year chosen.
+  void OfferYears(int shown, int pane, const std::function<void(int year)>& take);
   void Pick(text::Date date);
   std::optional<text::Date> DayAt(const QPoint& point) const;
   std::optional<text::Date> DayForKey(const QKeyEvent& event) const;

@@ -26,6 +26,13 @@ std::array<text::Date, kDaysOfWeek * kWeeksOfSheet> DaysOfSheet(Month month,
 }
 
 int WeekNumber(text::Date date, unsigned first_weekday) {
+  constexpr unsigned kMonday = 1;
+  if (first_weekday == kMonday) {
+    // A week belongs to the year that its Thursday lies in.
+    const text::Date thursday = text::AddDays(StartOfWeek(date, kMonday), 3);
+    const text::Date first{thursday.year(), std::chrono::January, std::chrono::day{1}};
+    return text::DaysBetween(first, thursday) / kDaysOfWeek + 1;
+  }
   // A week that reaches into the next year is that year's first one.
   const text::Date last_day = text::AddDays(StartOfWeek(date, first_weekday), kDaysOfWeek - 1);
   const text::Date new_year{last_day.year(), std::chrono::January, std::chrono::day{1}};

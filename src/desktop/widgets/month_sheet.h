@@ -27,7 +27,8 @@ Month Clamped(Month month);
 std::array<text::Date, kDaysOfWeek * kWeeksOfSheet> DaysOfSheet(Month month,
                                                                 unsigned first_weekday);
 
-// 1 for the week that holds 1 January.
+// 1 for the week that holds 1 January. Of weeks that begin on Monday, 1 is the first one with four
+// days of the year, as ISO 8601 counts them.
 int WeekNumber(text::Date date, unsigned first_weekday);
 
 // The same day of another month, or that month's last day where it is shorter.

@@ -5,12 +5,15 @@
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_fonts.h"
+#include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 constexpr double kBoxLine = 10;  // twips
+// A PDF file counts finer than any printer prints a picture.
+constexpr double kMostDotsPerTwip = 300.0 / forms::kTwipsPerInch;
 
 }  // namespace
 
@@ -61,7 +64,7 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedBox& box) {
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedPicture& picture) {
-  const QImage image = QImage::fromData(pictures_.Read(picture.file));
+  const QImage image = Decoded(pictures_.Read(picture.file));
   if (image.isNull()) return;
   const QRectF box(picture.x, picture.y, picture.width, picture.height);
   QRectF place({}, QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
@@ -72,13 +75,16 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedPicture& pictu
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture) {
   if (!picture.bytes) return;
-  const QImage image = QImage::fromData(QByteArray::fromRawData(
-      picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())));
+  const QRectF place(picture.x, picture.y, picture.width, picture.height);
+  const QSizeF shown = painter.deviceTransform().mapRect(place).size();
+  const QImage image = Decoded(
+      QByteArray::fromRawData(picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())),
+      shown.boundedTo(place.size() * kMostDotsPerTwip).toSize());
   if (image.isNull()) return;
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   // Signs and drawings keep their edges in a PDF; photographs have none to lose.
   painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));
-  painter.drawImage(QRectF(picture.x, picture.y, picture.width, picture.height), image);
+  painter.drawImage(place, image);
 }
 
 }  // namespace tarnwell::desktop

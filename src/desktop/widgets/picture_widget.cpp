@@ -10,6 +10,7 @@
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/pictures.h"
 
 namespace tarnwell::desktop {
@@ -27,7 +28,7 @@ class PictureWidget : public QWidget {
     file_ = file;
     const QByteArray content = pictures_.Read(file);
     photograph_ = {};
-    if (!drawing_.load(content)) photograph_.loadFromData(content);
+    if (!drawing_.load(content)) photograph_ = Decoded(content);
     updateGeometry();
     update();
   }

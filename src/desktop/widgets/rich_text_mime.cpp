@@ -4,6 +4,7 @@
 #include <QImage>
 
 #include "desktop/widgets/html_fragment.h"
+#include "desktop/widgets/picture_files.h"
 #include "richtext/html.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
@@ -25,12 +26,35 @@ QByteArray RtfIn(const QMimeData& mime) {
   return {};
 }
 
-richtext::RichDocument PictureDocument(const QImage& image) {
+QByteArray PngOf(const QImage& image) {
   QByteArray file;
   QBuffer buffer(&file);
   buffer.open(QIODevice::WriteOnly);
   image.save(&buffer, "PNG");
+  return file;
+}
+
+// The picture that another program offers, as a file for a document; empty for none. Qt would read
+// it by its content, and so might take it for a drawing that names files.
+QByteArray PictureIn(const QMimeData& mime) {
+  bool is_file = false;
+  for (const QString& format : mime.formats()) {
+    if (!format.startsWith(QLatin1String("image/"))) continue;
+    is_file = true;
+    QByteArray file = mime.data(format);
+    const QByteArray type = PictureTypeOf(file);
+    if (!PixelsOf(file).isValid() || format != QLatin1String("image/" + type)) continue;
+    return type == "bmp" ? PngOf(Decoded(file)) : file;
+  }
+  // This program's own.
+  if (is_file || !mime.hasImage()) return {};
+  const QImage image = qvariant_cast<QImage>(mime.imageData());
+  return image.isNull() ? QByteArray() : PngOf(image);
+}
+
+richtext::RichDocument PictureDocument(const QByteArray& file) {
   richtext::Picture picture;
+  if (PictureTypeOf(file) == "jpeg") picture.kind = richtext::Picture::Kind::kJpeg;
   picture.bytes = file.toStdString();
   richtext::RichDocument document;
   richtext::Paragraph paragraph;
@@ -59,9 +83,9 @@ std::optional<richtext::RichDocument> FromMime(const QMimeData& mime) {
     return richtext::ReadRichText({rtf.constData(), static_cast<std::size_t>(rtf.size())});
   }
   if (mime.hasHtml()) return HtmlFragment(mime.html());
-  if (!mime.hasText() && mime.hasImage()) {
-    const QImage image = qvariant_cast<QImage>(mime.imageData());
-    if (!image.isNull()) return PictureDocument(image);
+  if (!mime.hasText()) {
+    const QByteArray picture = PictureIn(mime);
+    if (!picture.isEmpty()) return PictureDocument(picture);
   }
   return std::nullopt;
 }

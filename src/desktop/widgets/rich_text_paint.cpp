@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -25,7 +26,10 @@ bool HasExtras(const QTextBlock& block) {
 }  // namespace
 
 void RichTextView::paintEvent(QPaintEvent* event) {
-  QTextEdit::paintEvent(event);
+  {
+    const QScopedValueRollback<bool> painting(is_painting_, true);
+    QTextEdit::paintEvent(event);
+  }
   QPainter painter(viewport());
   painter.setClipRect(event->rect());
   painter.translate(-horizontalScrollBar()->value(), -verticalScrollBar()->value());

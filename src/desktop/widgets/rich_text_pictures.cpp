@@ -1,39 +1,30 @@
 #include "desktop/widgets/rich_text_pictures.h"
 
-#include <QBuffer>
 #include <QCryptographicHash>
-#include <QImageReader>
+#include <QtMath>
 #include <algorithm>
 #include <utility>
+
+#include "desktop/widgets/picture_files.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
 
-// Only the file's head is read.
-QSize PixelsOf(const QByteArray& file) {
-  QBuffer buffer;
-  buffer.setData(file);
-  buffer.open(QIODevice::ReadOnly);
-  const QSize size = QImageReader(&buffer).size();
-  return size.isValid() ? size : QSize(1, 1);
-}
-
-}  // namespace
-
-QString PictureName(const QByteArray& file) {
+QString NameOf(const QByteArray& file) {
   return QStringLiteral("picture:") +
          QString::fromLatin1(QCryptographicHash::hash(file, QCryptographicHash::Sha1).toHex());
 }
 
-QTextImageFormat PictureFormat(const richtext::Picture& picture, const QString& name,
-                               const QByteArray& file, const RichTextFormats& formats,
-                               double widest) {
+}  // namespace
+
+QTextImageFormat PictureFormat(const richtext::Picture& picture, const QByteArray& file,
+                               const RichTextFormats& formats, double widest) {
   double width = formats.Pixels(picture.width);
   double height = formats.Pixels(picture.height);
   if (width <= 0 || height <= 0) {
-    const QSize pixels = PixelsOf(file);
+    const QSize pixels = PixelsOf(file).expandedTo(QSize(1, 1));
     width = pixels.width() * formats.Pixels(kTwipsPerPixel);
     height = pixels.height() * formats.Pixels(kTwipsPerPixel);
   }
@@ -41,7 +32,7 @@ QTextImageFormat PictureFormat(const richtext::Picture& picture, const QString& 
   height *= std::max(1, picture.scale_y) / 100.0;
   if (widest > 0 && width > widest) height *= widest / std::exchange(width, widest);
   QTextImageFormat format;
-  format.setName(name);
+  format.setName(QStringLiteral("%1/%2x%3").arg(NameOf(file)).arg(qCeil(width)).arg(qCeil(height)));
   format.setWidth(width);
   format.setHeight(height);
   return format;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 #include <QTextImageFormat>
 
 #include "desktop/widgets/rich_text_formats.h"
@@ -11,12 +10,9 @@
 
 namespace tarnwell::desktop {
 
-// The same for the same file.
-QString PictureName(const QByteArray& file);
-
-// At the size that the document gives, else the file's own; at most `widest` pixels wide.
-QTextImageFormat PictureFormat(const richtext::Picture& picture, const QString& name,
-                               const QByteArray& file, const RichTextFormats& formats,
-                               double widest);
+// At the size that the document gives, else the file's own; at most `widest` pixels wide. Its name
+// is the same for the same file at the same size.
+QTextImageFormat PictureFormat(const richtext::Picture& picture, const QByteArray& file,
+                               const RichTextFormats& formats, double widest);
 
 }  // namespace tarnwell::desktop

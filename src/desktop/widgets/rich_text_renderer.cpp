@@ -350,11 +350,11 @@ void RichTextRenderer::InsertRun(const richtext::Run& run, QTextCursor& cursor) 
 
 void RichTextRenderer::InsertPicture(const richtext::Picture& picture, QTextCursor& cursor) {
   const QByteArray file(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
-  const QString name = PictureName(file);
-  pictures_.insert(name, file);
   const richtext::Page& page = document_->page;
   const double widest = formats_->Pixels(page.width - page.left_margin - page.right_margin);
-  cursor.insertImage(PictureFormat(picture, name, file, *formats_, widest));
+  const QTextImageFormat format = PictureFormat(picture, file, *formats_, widest);
+  pictures_.insert(format.name(), {file, QSizeF(format.width(), format.height()).toSize()});
+  cursor.insertImage(format);
 }
 
 }  // namespace tarnwell::desktop

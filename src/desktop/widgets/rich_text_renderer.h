@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QSize>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
@@ -38,8 +39,12 @@ class RichTextRenderer {
   // Of a block without a paragraph the next one.
   int ParagraphOf(const QTextBlock& block) const;
   bool IsFiller(const QTextBlock& block) const;
-  // The file of a picture that the text shows, by its name there; empty for no such picture.
-  QByteArray PictureFile(const QString& name) const { return pictures_.value(name); }
+  // A picture that the text shows, by its name there: its file and its size in the text's pixels.
+  struct ShownPicture {
+    QByteArray file;
+    QSize size;
+  };
+  ShownPicture PictureOf(const QString& name) const { return pictures_.value(name); }
 
  private:
   // A block of the document as it is shown.
@@ -82,7 +87,7 @@ class RichTextRenderer {
   std::size_t next_row_ = 0;  // of tables_
   bool is_done_ = true;
   bool is_fresh_ = true;  // the last of Qt's blocks waits for a paragraph
-  QHash<QString, QByteArray> pictures_;
+  QHash<QString, ShownPicture> pictures_;
   // During a rendering.
   const richtext::RichDocument* document_ = nullptr;
   const RichTextFormats* formats_ = nullptr;

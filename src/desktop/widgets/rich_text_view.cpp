@@ -1,5 +1,6 @@
 #include "desktop/widgets/rich_text_view.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -9,8 +10,10 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <utility>
 
+#include "desktop/widgets/closed_document.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/rich_text_positions.h"
 #include "richtext/paragraphs.h"
@@ -33,11 +36,43 @@ constexpr int kTableEdge = 2;        // pixels by which a table's borders are wi
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
+// Asks the view for the pictures that it shows, and nobody for anything else.
+class ViewDocument : public ClosedDocument {
+ public:
+  using Pictures = std::function<QPixmap(const QString& name)>;
+
+  ViewDocument(QObject* parent, Pictures pictures)
+      : ClosedDocument(parent), pictures_(std::move(pictures)) {}
+
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override {
+    if (type != ImageResource) return {};
+    return pictures_(name.toString());
+  }
+
+ private:
+  Pictures pictures_;
+};
+
+// What QTextEdit does to its first document.
+QTextDocument& Given(QTextDocument* document, QTextEdit& view) {
+  document->setPageSize(QSize(0, 0));
+  document->documentLayout()->setPaintDevice(view.viewport());
+  document->setDefaultFont(view.font());
+  document->setUndoRedoEnabled(false);
+  view.setDocument(document);
+  return *document;
+}
+
 }  // namespace
 
 RichTextView::RichTextView(forms::RichTextBox& box)
-    : box_(box), box_is_there_(box.OnChanged([] {})), renderer_(*document()) {
-  document()->setUndoRedoEnabled(false);
+    : box_(box),
+      box_is_there_(box.OnChanged([] {})),
+      pictures_([this] { viewport()->update(); }),
+      renderer_(
+          Given(new ViewDocument(this, [this](const QString& name) { return PictureNamed(name); }),
+                *this)) {
   document()->setUseDesignMetrics(true);
   setAcceptRichText(true);
   connect(document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
@@ -45,6 +80,7 @@ RichTextView::RichTextView(forms::RichTextBox& box)
   });
   next_part_.setInterval(0);
   connect(&next_part_, &QTimer::timeout, this, [this] { ShowMore(kMoreWork); });
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { pictures_.Retry(); });
   connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
   connect(this, &QTextEdit::selectionChanged, this, [this] { TakeSelection(); });
 }
@@ -242,10 +278,11 @@ void RichTextView::TakeForeignChange() {
       Qt::QueuedConnection);
 }
 
-// Nothing but the pictures of the document itself, never a file or an address.
-QVariant RichTextView::loadResource(int type, const QUrl& name) {
-  if (type != QTextDocument::ImageResource) return {};
-  return QImage::fromData(renderer_.PictureFile(name.toString()));
+// Qt asks for a picture when it lays the text out, too, and does without it there.
+QPixmap RichTextView::PictureNamed(const QString& name) {
+  const RichTextRenderer::ShownPicture picture = renderer_.PictureOf(name);
+  if (!is_painting_) return pictures_.waiting();
+  return pictures_.At(name, picture.file, picture.size * devicePixelRatioF());
 }
 
 }  // namespace tarnwell::desktop

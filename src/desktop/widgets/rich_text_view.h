@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <optional>
 
+#include "desktop/widgets/picture_cache.h"
 #include "desktop/widgets/rich_text_renderer.h"
 #include "forms/rich_text_box.h"
 
@@ -22,8 +23,6 @@ class RichTextView : public QTextEdit {
   // 1 is the document's own size. Until somebody sets it, it follows the view's width.
   double zoom() const { return zoom_; }
   void SetZoom(double zoom);
-
-  QVariant loadResource(int type, const QUrl& name) override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -73,11 +72,13 @@ class RichTextView : public QTextEdit {
   void CopySelection();
   void CutSelection();
 
+  QPixmap PictureNamed(const QString& name);
   void PaintMarker(QPainter& painter, const QTextBlock& block, QPointF origin);
   void PaintPageBreaks(QPainter& painter, const QTextBlock& block, QPointF origin);
 
   forms::RichTextBox& box_;
   forms::Subscription box_is_there_;
+  PictureCache pictures_;
   RichTextRenderer renderer_;
   QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown
@@ -85,6 +86,7 @@ class RichTextView : public QTextEdit {
   bool selection_waits_ = false;  // for its place to be shown
   double zoom_ = 1;
   bool is_zoomed_ = false;  // by a person
+  bool is_painting_ = false;
   // What happens to Qt's text and cursor now is our own doing.
   bool is_showing_ = false;
   bool has_foreign_change_ = false;
