@@ -76,6 +76,11 @@ void DocumentView::Show(std::string bytes) {
   stored_ = {};
   if (!bytes.empty()) stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
   unsaved_ = false;
+  if (!text.document().is_part) return;
+  panel.form().Message({"Document",
+                        "This document is too long to be shown whole. Its beginning can be read "
+                        "and copied, but not changed; the file stays as it is.",
+                        forms::Icon::kInformation});
 }
 
 void DocumentView::Clear() {

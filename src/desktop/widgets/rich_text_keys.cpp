@@ -11,6 +11,8 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextTable>
+#include <algorithm>
+#include <limits>
 
 #include "desktop/widgets/rich_text_mime.h"
 #include "desktop/widgets/rich_text_view.h"
@@ -20,6 +22,9 @@ namespace {
 
 constexpr const char* kLineBreak = "\u2028";
 constexpr const char* kPageBreak = "\f";
+
+constexpr int kBlocksOfPage = 150;                                      // more than any key goes
+constexpr richtext::Position kEnd{std::numeric_limits<int>::max(), 0};  // or before it
 
 bool MovesCursor(const QKeyEvent& event) {
   constexpr QKeySequence::StandardKey kKeys[] = {QKeySequence::MoveToNextChar,
@@ -74,9 +79,10 @@ bool IsText(const QKeyEvent& event) {
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (!box_is_there_.Connected()) return;
-  // Typing doesn't wait for the rest of a long document; going somewhere does.
+  // Nothing waits for the rest of a long document that doesn't come near it.
   const bool moves = MovesCursor(*event);
-  if (moves || !textCursor().block().next().isValid()) ShowRest();
+  const int behind = document()->blockCount() - textCursor().blockNumber();
+  if (behind < (moves ? kBlocksOfPage : 2)) ShowRest();
   if (PressCommandKey(*event) || PressTab(*event) || PressEraseKey(*event) ||
       PressTextKey(*event)) {
     return event->accept();
@@ -91,6 +97,14 @@ bool RichTextView::PressCommandKey(const QKeyEvent& event) {
   if (Matches(event, QKeySequence::Copy)) return CopySelection(), true;
   if (Matches(event, QKeySequence::Cut)) return CutSelection(), true;
   if (Matches(event, QKeySequence::Paste)) return paste(), true;
+  if (Matches(event, QKeySequence::SelectAll)) return SelectToEnd({}), true;
+  if (!renderer_.is_done()) {
+    // Of the document, not of what Qt has of it.
+    if (Matches(event, QKeySequence::SelectEndOfDocument)) {
+      return SelectToEnd(box_.selection().from), true;
+    }
+    if (Matches(event, QKeySequence::MoveToEndOfDocument)) return SelectToEnd(kEnd), true;
+  }
   if (Matches(event, QKeySequence::Bold)) return box_.ToggleBold(), true;
   if (Matches(event, QKeySequence::Italic)) return box_.ToggleItalic(), true;
   if (Matches(event, QKeySequence::Underline)) return box_.ToggleUnderline(), true;
@@ -151,7 +165,13 @@ void RichTextView::MoveToCell(bool forward) {
     --row;
     column = table->columns() - 1;
   }
-  if (row < 0) return;
+  if (row < 0) {
+    const QTextBlock before = document()->findBlock(table->firstPosition() - 1);
+    // Between two parts of one table.
+    if (!renderer_.IsFiller(before) || !before.previous().isValid()) return;
+    cursor.setPosition(BehindFiller(before));
+    return setTextCursor(cursor);
+  }
   if (row == table->rows()) {
     cursor.setPosition(table->lastPosition() + 1);
     return setTextCursor(cursor);
@@ -160,6 +180,12 @@ void RichTextView::MoveToCell(bool forward) {
   cursor.setPosition(next.firstPosition());
   cursor.setPosition(next.lastPosition(), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
+}
+
+void RichTextView::SelectToEnd(richtext::Position from) {
+  const int last = box_.paragraph_count() - 1;
+  const richtext::Position end{last, static_cast<int>(box_.ParagraphText(last).size())};
+  box_.Select({std::min(from, end), end});
 }
 
 void RichTextView::TypeText(const QString& text) { box_.Type(text.toStdString()); }
@@ -250,7 +276,6 @@ void RichTextView::dropEvent(QDropEvent* event) {
 
 void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
   if (!box_is_there_.Connected()) return;
-  ShowRest();
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [this, menu](const char* caption, QKeySequence::StandardKey key, bool enabled,
@@ -270,7 +295,7 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
   add("&Copy", QKeySequence::Copy, has_selection, [this] { CopySelection(); });
   add("&Paste", QKeySequence::Paste, canPaste(), [this] { paste(); });
   menu->addSeparator();
-  add("Select &All", QKeySequence::SelectAll, !document()->isEmpty(), [this] { selectAll(); });
+  add("Select &All", QKeySequence::SelectAll, !document()->isEmpty(), [this] { SelectToEnd({}); });
   menu->popup(event->globalPos());
   event->accept();
 }

@@ -2,7 +2,10 @@
 
 #include <QTextBlock>
 #include <algorithm>
+#include <limits>
 #include <optional>
+#include <ranges>
+#include <utility>
 
 #include "desktop/widgets/rich_text_pictures.h"
 #include "desktop/widgets/rich_text_positions.h"
@@ -24,7 +27,7 @@ bool EndsUnwritten(const richtext::RichDocument& document) {
   return document.blocks.empty() || IsTable(document.blocks.back());
 }
 
-// The block before a table at the document's beginning takes hardly any room.
+// A block that stands only before a table takes hardly any room.
 void MakeThin(QTextCursor& cursor) {
   QTextBlockFormat format;
   format.setLineHeight(1, QTextBlockFormat::FixedHeight);
@@ -49,6 +52,17 @@ void SetMark(QTextCharFormat mark, const QTextTable* table, QTextCursor& cursor)
   cursor.setBlockCharFormat(mark);
 }
 
+// A paragraph of one line and one format is 1; letters and formats take time too.
+constexpr std::size_t kTextOfLine = 100;
+constexpr std::size_t kRunsOfLine = 4;
+constexpr std::size_t kCellWork = 3;
+
+std::size_t WorkOf(const richtext::Paragraph& paragraph) {
+  std::size_t text = 0;
+  for (const richtext::Run& run : paragraph.runs) text += richtext::ShownText(run).size();
+  return 1 + text / kTextOfLine + paragraph.runs.size() / kRunsOfLine;
+}
+
 int EndOf(const QTextBlock& block) { return block.position() + block.length() - 1; }
 
 Paragraphs ParagraphsOf(const richtext::Cell& cell) {
@@ -68,7 +82,10 @@ void RichTextRenderer::Start(const richtext::RichDocument& document,
   target_.setDefaultTextOption(option);
   document_ = &document;
   shown_ = ShownBlocks();
+  fillers_ = FillersIn(document);
   next_ = 0;
+  tables_ = {};
+  next_row_ = 0;
   is_done_ = false;
   is_fresh_ = true;
 }
@@ -76,11 +93,11 @@ void RichTextRenderer::Start(const richtext::RichDocument& document,
 void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
                                  const RichTextFormats& formats) {
   Start(document, formats);
-  RenderMore(document, formats, document.blocks.size());
+  RenderMore(document, formats, std::numeric_limits<std::size_t>::max());
 }
 
 void RichTextRenderer::RenderMore(const richtext::RichDocument& document,
-                                  const RichTextFormats& formats, std::size_t count) {
+                                  const RichTextFormats& formats, std::size_t work) {
   if (is_done_) return;
   document_ = &document;
   formats_ = &formats;
@@ -88,20 +105,16 @@ void RichTextRenderer::RenderMore(const richtext::RichDocument& document,
   cursor.beginEditBlock();
   cursor.movePosition(QTextCursor::End);
   const std::size_t written = document.blocks.size();
-  const std::size_t stop = next_ + std::min(count, written - next_);
-  while (next_ < stop) {
-    if (!IsTable(document.blocks[next_])) {
-      if (!is_fresh_) cursor.insertBlock();
-      Fill(std::get<richtext::Paragraph>(document.blocks[next_++]), nullptr, cursor);
-      is_fresh_ = false;
+  for (std::size_t done = 0; next_ < written && done < work;) {
+    if (IsTable(document.blocks[next_])) {
+      done += RenderPart(cursor);
       continue;
     }
-    if (next_ == 0) MakeThin(cursor);
-    std::size_t end = next_ + 1;
-    while (end < written && IsTable(document.blocks[end])) ++end;
-    InsertTable(next_, end, cursor);
-    is_fresh_ = true;
-    next_ = end;
+    if (!is_fresh_) cursor.insertBlock();
+    const auto& paragraph = std::get<richtext::Paragraph>(document.blocks[next_++]);
+    Fill(paragraph, nullptr, cursor);
+    is_fresh_ = false;
+    done += WorkOf(paragraph);
   }
   is_done_ = next_ >= written;
   if (is_done_ && EndsUnwritten(document)) Fill(ParagraphAt(written), nullptr, cursor);
@@ -114,7 +127,8 @@ void RichTextRenderer::Update(const richtext::RichDocument& document,
   if (spans.empty()) return;
   const Region region = Merged(spans);
   // What isn't rendered yet comes as it is by then.
-  if (!is_done_ && region.first + region.before > next_) return RenderAll(document, formats);
+  const bool is_amid = next_row_ > 0 || region.first + region.before > next_;
+  if (!is_done_ && is_amid) return RenderAll(document, formats);
   document_ = &document;
   formats_ = &formats;
   QTextCursor edit(&target_);
@@ -132,6 +146,7 @@ void RichTextRenderer::Update(const richtext::RichDocument& document,
   edit.endEditBlock();
   if (!is_shown) return RenderAll(document, formats);
   shown_ = ShownBlocks();
+  fillers_ = FillersIn(document);
   next_ += region.after - region.before;
 }
 
@@ -223,49 +238,75 @@ const richtext::Paragraph& RichTextRenderer::ParagraphAt(std::size_t block) cons
 }
 
 QTextBlock RichTextRenderer::BlockOf(int paragraph) const {
-  const int phantoms = !shown_.empty() && shown_.front().is_table ? 1 : 0;
-  return target_.findBlockByNumber(paragraph + phantoms);
+  const auto before = std::ranges::upper_bound(fillers_, paragraph) - fillers_.begin();
+  return target_.findBlockByNumber(paragraph + static_cast<int>(before));
 }
 
 int RichTextRenderer::ParagraphOf(const QTextBlock& block) const {
-  const int phantoms = !shown_.empty() && shown_.front().is_table ? 1 : 0;
-  return block.blockNumber() - phantoms;
+  // A filler has as many blocks before it as paragraphs and other fillers.
+  const auto stands_before = [&](int i) {
+    return fillers_[static_cast<std::size_t>(i)] + i < block.blockNumber();
+  };
+  const auto all = std::views::iota(0, static_cast<int>(fillers_.size()));
+  const auto before = std::ranges::partition_point(all, stands_before) - all.begin();
+  return block.blockNumber() - static_cast<int>(before);
 }
 
-void RichTextRenderer::InsertTable(std::size_t first, std::size_t end, QTextCursor& cursor) {
-  std::vector<const richtext::TableRow*> rows;
-  for (std::size_t i = first; i < end; ++i) {
-    for (const auto& row : std::get<richtext::Table>(document_->blocks[i]).rows) {
-      if (!row.cells.empty()) rows.push_back(&row);
+bool RichTextRenderer::IsFiller(const QTextBlock& block) const {
+  return BlockOf(ParagraphOf(block)) != block;
+}
+
+std::size_t RichTextRenderer::RenderPart(QTextCursor& cursor) {
+  if (next_row_ == 0) {
+    tables_ = TablesAt(*document_, next_);
+    grid_ = richtext::GridOf(tables_.rows);
+  }
+  const std::size_t end = EndOfPart(tables_.rows, next_row_);
+  if (is_fresh_ && end > 0) MakeThin(cursor);
+  InsertRows(next_row_, end, cursor);
+  std::size_t work = 1;
+  for (; next_row_ < end; ++next_row_) {
+    for (const richtext::Cell& cell : tables_.rows[next_row_]->cells) {
+      work += kCellWork;
+      for (const richtext::Paragraph& paragraph : cell.paragraphs) work += WorkOf(paragraph);
     }
   }
-  if (rows.empty()) return;
-  const richtext::TableGrid grid = richtext::GridOf(rows);
+  if (end == tables_.rows.size()) {
+    next_ = std::exchange(tables_, {}).end;
+    next_row_ = 0;
+  }
+  is_fresh_ = true;
+  return work;
+}
+
+void RichTextRenderer::InsertRows(std::size_t first, std::size_t end, QTextCursor& cursor) {
+  if (first == end) return;
   QTextTableFormat format;
   format.setBorderCollapse(true);
   format.setBorder(0);
   format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
   format.setCellSpacing(0);
   format.setCellPadding(0);
-  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid.left_edge)));
+  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid_.left_edge)));
   QList<QTextLength> widths;
-  for (const int width : grid.widths) {
+  for (const int width : grid_.widths) {
     widths.append(QTextLength(QTextLength::FixedLength, formats_->Pixels(width)));
   }
   format.setColumnWidthConstraints(widths);
   QTextTable* const table =
-      cursor.insertTable(static_cast<int>(rows.size()), static_cast<int>(widths.size()), format);
-  for (std::size_t row = 0; row < rows.size(); ++row) {
+      cursor.insertTable(static_cast<int>(end - first), static_cast<int>(widths.size()), format);
+  for (std::size_t i = first; i < end; ++i) {
+    const richtext::TableRow& row = *tables_.rows[i];
+    const int number = static_cast<int>(i - first);
     int column = 0;
-    for (std::size_t i = 0; i < rows[row]->cells.size(); ++i) {
-      const int span = grid.spans[row][i];
-      const int number = static_cast<int>(row);
+    for (std::size_t n = 0; n < row.cells.size(); ++n) {
+      const int span = grid_.spans[i][n];
       if (span > 1) table->mergeCells(number, column, 1, span);
       QTextTableCell cell = table->cellAt(number, column);
       QTextCharFormat look = cell.format();  // with its spans
-      look.merge(formats_->Of(rows[row]->cells[i], rows[row]->half_gap));
+      look.merge(formats_->Of(row.cells[n], row.half_gap));
       cell.setFormat(look);
-      InsertCell(rows[row]->cells[i], *table, cell.firstCursorPosition());
+      InsertCell(row.cells[n], *table, cell.firstCursorPosition());
       column += span;
     }
   }

@@ -1,5 +1,5 @@
-// Shows a document as Qt's text. Each paragraph is a block, in the same order. Only Qt's block
-// before a table at the beginning has no paragraph.
+// Shows a document as Qt's text. Each paragraph is a block, in the same order. Only Qt's blocks
+// before a table at the beginning and between the parts of a long table have no paragraph.
 
 #pragma once
 
@@ -12,8 +12,10 @@
 #include <vector>
 
 #include "desktop/widgets/rich_text_formats.h"
+#include "desktop/widgets/table_parts.h"
 #include "richtext/change.h"
 #include "richtext/rich_document.h"
+#include "richtext/table_grid.h"
 
 namespace tarnwell::desktop {
 
@@ -22,17 +24,21 @@ class RichTextRenderer {
   explicit RichTextRenderer(QTextDocument& target) : target_(target) {}
 
   void RenderAll(const richtext::RichDocument& document, const RichTextFormats& formats);
-  // The same in parts of `count` blocks, for a long document that must not change meanwhile.
+  // The same in steps, for a long document that must not change meanwhile. `work` is about how many
+  // paragraphs of one line a step shows; it ends behind a paragraph or a part of a table.
   void Start(const richtext::RichDocument& document, const RichTextFormats& formats);
   void RenderMore(const richtext::RichDocument& document, const RichTextFormats& formats,
-                  std::size_t count);
+                  std::size_t work);
   bool is_done() const { return is_done_; }
   // Shows what changed since the last rendering. The document is the one behind all changes.
   void Update(const richtext::RichDocument& document, const RichTextFormats& formats,
               const std::vector<richtext::ChangedSpan>& spans);
 
+  // Invalid for a paragraph that isn't shown yet.
   QTextBlock BlockOf(int paragraph) const;
+  // Of a block without a paragraph the next one.
   int ParagraphOf(const QTextBlock& block) const;
+  bool IsFiller(const QTextBlock& block) const;
   // A picture that the text shows, by its name there: its file and its size in the text's pixels.
   struct ShownPicture {
     QByteArray file;
@@ -62,7 +68,9 @@ class RichTextRenderer {
   std::vector<Shown> ShownBlocks() const;
   const richtext::Paragraph& ParagraphAt(std::size_t block) const;
 
-  void InsertTable(std::size_t first, std::size_t end, QTextCursor& cursor);
+  // The next part of the tables that stand next; gives the work it was.
+  std::size_t RenderPart(QTextCursor& cursor);
+  void InsertRows(std::size_t first, std::size_t end, QTextCursor& cursor);
   void InsertCell(const richtext::Cell& cell, const QTextTable& table, QTextCursor cursor);
   // Makes the cursor's block show the paragraph. `table` is the one that it stands in, which Qt
   // itself doesn't know before an edit has ended.
@@ -72,7 +80,11 @@ class RichTextRenderer {
 
   QTextDocument& target_;
   std::vector<Shown> shown_;
-  std::size_t next_ = 0;  // block to be rendered
+  std::vector<int> fillers_;  // see FillersIn
+  std::size_t next_ = 0;      // block to be rendered
+  AdjacentTables tables_;     // that stand there
+  richtext::TableGrid grid_;  // theirs
+  std::size_t next_row_ = 0;  // of tables_
   bool is_done_ = true;
   bool is_fresh_ = true;  // the last of Qt's blocks waits for a paragraph
   QHash<QString, ShownPicture> pictures_;

@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTextTable>
 #include <QUrl>
 #include <QWheelEvent>
 #include <algorithm>
@@ -20,8 +21,10 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr std::size_t kFirstBlocks = 150;
-constexpr std::size_t kMoreBlocks = 50;  // no longer than a frame of the screen
+// Work of the renderer.
+constexpr std::size_t kFirstWork = 400;   // the first screens
+constexpr std::size_t kMoreWork = 100;    // no longer than a frame of the screen
+constexpr std::size_t kWaitedFor = 5000;  // hardly more than a second
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
@@ -76,7 +79,7 @@ RichTextView::RichTextView(forms::RichTextBox& box)
     if (!is_showing_ && removed + added > 0) TakeForeignChange();
   });
   next_part_.setInterval(0);
-  connect(&next_part_, &QTimer::timeout, this, [this] { ShowMore(kMoreBlocks); });
+  connect(&next_part_, &QTimer::timeout, this, [this] { ShowMore(kMoreWork); });
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { pictures_.Retry(); });
   connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
   connect(this, &QTextEdit::selectionChanged, this, [this] { TakeSelection(); });
@@ -105,22 +108,23 @@ void RichTextView::Show() {
 void RichTextView::ShowAll() {
   if (!is_zoomed_) zoom_ = FittingZoom();
   renderer_.Start(box_.document(), Formats());
-  renderer_.RenderMore(box_.document(), Formats(), kFirstBlocks);
+  renderer_.RenderMore(box_.document(), Formats(), kFirstWork);
   PlaceSheet();
   moveCursor(QTextCursor::Start);
   if (!renderer_.is_done()) next_part_.start();
 }
 
-void RichTextView::ShowMore(std::size_t blocks) {
+void RichTextView::ShowMore(std::size_t work) {
   const QScopedValueRollback<bool> showing(is_showing_, true);
   // A change in the box starts anew; see Show.
   const bool is_current = box_is_there_.Connected() && known_ == box_.spans_made();
-  if (is_current) renderer_.RenderMore(box_.document(), Formats(), blocks);
+  if (is_current) renderer_.RenderMore(box_.document(), Formats(), work);
   if (!is_current || renderer_.is_done()) next_part_.stop();
+  if (is_current && selection_waits_) ShowSelection();
 }
 
 void RichTextView::ShowRest() {
-  if (!renderer_.is_done()) ShowMore(box_.document().blocks.size());
+  if (!renderer_.is_done()) ShowMore(kWaitedFor);
 }
 
 void RichTextView::ShowState() {
@@ -139,10 +143,16 @@ void RichTextView::ShowState() {
 }
 
 void RichTextView::ShowSelection() {
+  const bool waited = std::exchange(selection_waits_, false);
+  const auto is_shown = [this] {
+    return renderer_.is_done() || renderer_.BlockOf(box_.selection().to.paragraph).isValid();
+  };
+  if (!waited && !is_shown()) ShowRest();
+  selection_waits_ = !is_shown();
+  if (selection_waits_) return;
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
-  if (!renderer_.BlockOf(box_.selection().to.paragraph).isValid()) ShowRest();
-  const bool is_astray = renderer_.ParagraphOf(textCursor().block()) < 0;
+  const bool is_astray = renderer_.IsFiller(textCursor().block());
   if (is_astray || RangeOf(textCursor()) != box_.selection()) {
     QTextCursor cursor(document());
     cursor.setPosition(QtPositionOf(box_.selection().from));
@@ -211,7 +221,6 @@ void RichTextView::wheelEvent(QWheelEvent* event) {
 richtext::Position RichTextView::PositionOf(int qt_position) const {
   const QTextBlock block = document()->findBlock(qt_position);
   const int paragraph = renderer_.ParagraphOf(block);
-  if (paragraph < 0) return {};
   const std::string text = box_.ParagraphText(paragraph);
   return {paragraph, ToUtf8Offset(text, qt_position - block.position())};
 }
@@ -230,11 +239,29 @@ richtext::Range RichTextView::RangeOf(const QTextCursor& cursor) const {
 void RichTextView::TakeSelection() {
   if (is_showing_ || !box_is_there_.Connected()) return;
   QTextCursor cursor = textCursor();
-  if (renderer_.ParagraphOf(cursor.block()) < 0 && !cursor.hasSelection()) {
-    cursor.movePosition(QTextCursor::NextBlock);
+  if (renderer_.IsFiller(cursor.block()) && !cursor.hasSelection()) {
+    cursor.setPosition(BehindFiller(cursor.block()));
     return setTextCursor(cursor);
   }
   box_.MoveSelection(RangeOf(cursor));
+}
+
+// The cell that the cursor means between two parts of a table: the next one, or, up or down, the
+// one in its own column.
+int RichTextView::BehindFiller(const QTextBlock& filler) const {
+  const QTextCursor from(renderer_.BlockOf(box_.selection().to.paragraph));
+  const QTextTable* const old_table = from.currentTable();
+  const bool forward = from.position() < filler.position() || !filler.previous().isValid();
+  const QTextCursor to(forward ? filler.next() : filler.previous());
+  const QTextTable* const table = to.currentTable();
+  if (table == nullptr) return to.position();
+  const int row = forward ? 0 : table->rows() - 1;
+  const int last = table->columns() - 1;
+  const int old_column = old_table == nullptr ? 0 : old_table->cellAt(from).column();
+  const bool turns = old_table == nullptr || old_column == (forward ? last : 0);
+  const int column = turns ? (forward ? 0 : last) : std::min(old_column, last);
+  const QTextTableCell cell = table->cellAt(row, column);
+  return forward ? cell.firstPosition() : cell.lastPosition();
 }
 
 void RichTextView::TakeForeignChange() {

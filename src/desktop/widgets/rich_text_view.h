@@ -40,7 +40,8 @@ class RichTextView : public QTextEdit {
   RichTextFormats Formats() const;
   // The first screens at once, the rest while nothing else happens.
   void ShowAll();
-  void ShowMore(std::size_t blocks);
+  void ShowMore(std::size_t work);
+  // All of it where that is soon done.
   void ShowRest();
   void ShowState();
   void ShowSelection();
@@ -55,6 +56,7 @@ class RichTextView : public QTextEdit {
   richtext::Range RangeOf(const QTextCursor& cursor) const;
   // A person moved the cursor.
   void TakeSelection();
+  int BehindFiller(const QTextBlock& filler) const;
   // Somebody but the renderer changed Qt's text.
   void TakeForeignChange();
 
@@ -66,6 +68,7 @@ class RichTextView : public QTextEdit {
   void Backspace();
   void TypeText(const QString& text);
   void MoveToCell(bool forward);
+  void SelectToEnd(richtext::Position from);
   void CopySelection();
   void CutSelection();
 
@@ -80,6 +83,7 @@ class RichTextView : public QTextEdit {
   QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown
   int scroll_requests_ = 0;
+  bool selection_waits_ = false;  // for its place to be shown
   double zoom_ = 1;
   bool is_zoomed_ = false;  // by a person
   bool is_painting_ = false;

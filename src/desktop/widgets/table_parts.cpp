@@ -1,0 +1,66 @@
+#include "desktop/widgets/table_parts.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+bool IsLong(const TableRows& rows) {
+  std::size_t cells = 0;
+  for (const richtext::TableRow* const row : rows) {
+    cells += row->cells.size();
+    if (cells > kMostCellsInOne) return true;
+  }
+  return false;
+}
+
+int CountParagraphs(const richtext::TableRow& row) {
+  std::size_t count = 0;
+  for (const richtext::Cell& cell : row.cells) count += cell.paragraphs.size();
+  return static_cast<int>(count);
+}
+
+}  // namespace
+
+AdjacentTables TablesAt(const richtext::RichDocument& document, std::size_t block) {
+  AdjacentTables tables;
+  for (; block < document.blocks.size(); ++block) {
+    const auto* const table = std::get_if<richtext::Table>(&document.blocks[block]);
+    if (table == nullptr) break;
+    for (const richtext::TableRow& row : table->rows) {
+      if (!row.cells.empty()) tables.rows.push_back(&row);
+    }
+  }
+  tables.end = block;
+  return tables;
+}
+
+std::size_t EndOfPart(const TableRows& rows, std::size_t first) {
+  if (!IsLong(rows)) return rows.size();
+  std::size_t cells = 0;
+  while (first < rows.size() && cells < kCellsOfPart) cells += rows[first++]->cells.size();
+  return first;
+}
+
+std::vector<int> FillersIn(const richtext::RichDocument& document) {
+  std::vector<int> fillers;
+  int paragraph = 0;
+  for (std::size_t block = 0; block < document.blocks.size();) {
+    if (std::holds_alternative<richtext::Paragraph>(document.blocks[block])) {
+      ++paragraph;
+      ++block;
+      continue;
+    }
+    const AdjacentTables tables = TablesAt(document, block);
+    std::size_t next_part = block == 0 ? 0 : EndOfPart(tables.rows, 0);
+    for (std::size_t row = 0; row < tables.rows.size(); ++row) {
+      if (row == next_part) {
+        fillers.push_back(paragraph);
+        next_part = EndOfPart(tables.rows, row);
+      }
+      paragraph += CountParagraphs(*tables.rows[row]);
+    }
+    block = tables.end;
+  }
+  return fillers;
+}
+
+}  // namespace tarnwell::desktop

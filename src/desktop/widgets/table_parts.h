@@ -1,0 +1,33 @@
+// A long table as several of Qt's, one below the other: Qt lays a table out as a whole, with each
+// letter that is typed in it.
+
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "richtext/rich_document.h"
+
+namespace tarnwell::desktop {
+
+// A table of so many cells is still one.
+inline constexpr std::size_t kMostCellsInOne = 1200;
+inline constexpr std::size_t kCellsOfPart = 200;
+
+using TableRows = std::vector<const richtext::TableRow*>;
+
+// The tables from `block` on that follow each other: all their rows that have cells.
+struct AdjacentTables {
+  TableRows rows;
+  std::size_t end = 0;  // the first block behind them
+};
+AdjacentTables TablesAt(const richtext::RichDocument& document, std::size_t block);
+
+// The number of the row behind the part that begins with the row `first`.
+std::size_t EndOfPart(const TableRows& rows, std::size_t first);
+
+// The numbers of the paragraphs before which Qt has an empty block of its own: where a part of a
+// table follows another, and where a document begins with a table.
+std::vector<int> FillersIn(const richtext::RichDocument& document);
+
+}  // namespace tarnwell::desktop
