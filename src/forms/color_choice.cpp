@@ -1,5 +1,6 @@
 #include "forms/color_choice.h"
 
+#include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "text/letters.h"
 
@@ -89,8 +90,9 @@ void ColorChoice::ApplyBackground(std::optional<Color> color) {
 void ColorChoice::ApplyText(Color color) {
   if (color == background()) return ColorConflict(context_);
   text_ = color;
-  settings::WriteTextColor(context_.folder, color);
+  const auto written = settings::WriteTextColor(context_.folder, color);
   Changed();
+  if (!written) TellNotSaved(context_, "The text color", written.fault());
 }
 
 void ColorChoice::Changed() {
@@ -98,15 +100,21 @@ void ColorChoice::Changed() {
   if (on_change) on_change();
 }
 
-void ColorChoice::Save() {
+bool ColorChoice::Save() {
+  storage::Outcome written;
   if (panel_chosen_) {
-    settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
-    context_.variables.PanelColorNew = Stored(panel_).Text();
+    written = settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
+    if (written) context_.variables.PanelColorNew = Stored(panel_).Text();
   }
-  if (background_chosen_ && background_record_) {
-    settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
+  if (written && background_chosen_ && background_record_) {
+    written = settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
+  }
+  if (!written) {
+    TellNotSaved(context_, "The chosen color", written.fault());
+    return false;
   }
   changed_ = panel_chosen_ = background_chosen_ = false;
+  return true;
 }
 
 bool ColorChoice::Leave(Buttons buttons) {
@@ -114,7 +122,7 @@ bool ColorChoice::Leave(Buttons buttons) {
   const Answer answer = ShowMessage(
       context_,
       {"Color Changes", "Save changes made to Panel and or Text Color?", Icon::kQuestion, buttons});
-  if (answer == Answer::kYes) Save();
+  if (answer == Answer::kYes) return Save() || AskToLeaveUnsaved(context_);
   return answer != Answer::kCancel;
 }
 

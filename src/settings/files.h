@@ -29,9 +29,12 @@ inline std::string ReadText(storage::ProgramFolder& folder, const RecordPlace& p
   return OpenColors(folder, place.file).GetText(place.record);
 }
 
-inline void WriteText(storage::ProgramFolder& folder, const RecordPlace& place,
-                      std::string_view text) {
-  OpenColors(folder, place.file).PutText(place.record, text);
+inline storage::Outcome WriteText(storage::ProgramFolder& folder, const RecordPlace& place,
+                                  std::string_view text) {
+  auto file = OpenColors(folder, place.file);
+  file.PutText(place.record, text);
+  file.Close();
+  return file.fault();
 }
 
 }  // namespace tarnwell::settings

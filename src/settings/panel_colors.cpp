@@ -78,9 +78,9 @@ StoredColor ReadPanelColor(storage::ProgramFolder& folder, PanelColor function) 
   return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
-void WritePanelColor(storage::ProgramFolder& folder, PanelColor function,
-                     const StoredColor& color) {
-  WriteText(folder, PlaceOf(function), color.Text());
+storage::Outcome WritePanelColor(storage::ProgramFolder& folder, PanelColor function,
+                                 const StoredColor& color) {
+  return WriteText(folder, PlaceOf(function), color.Text());
 }
 
 void WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
@@ -102,17 +102,20 @@ StoredColor ReadTextColor(storage::ProgramFolder& folder) {
                                            : StoredColor();
 }
 
-void WriteTextColor(storage::ProgramFolder& folder, std::int32_t color) {
-  OpenGColor3(folder).PutTagged(kTextColor, color);
+storage::Outcome WriteTextColor(storage::ProgramFolder& folder, std::int32_t color) {
+  auto file = OpenGColor3(folder);
+  file.PutTagged(kTextColor, color);
+  file.Close();
+  return file.fault();
 }
 
 StoredColor ReadFieldColor(storage::ProgramFolder& folder, FieldColor function) {
   return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
-void WriteFieldColor(storage::ProgramFolder& folder, FieldColor function,
-                     const StoredColor& color) {
-  WriteText(folder, PlaceOf(function), color.Text());
+storage::Outcome WriteFieldColor(storage::ProgramFolder& folder, FieldColor function,
+                                 const StoredColor& color) {
+  return WriteText(folder, PlaceOf(function), color.Text());
 }
 
 }  // namespace tarnwell::settings

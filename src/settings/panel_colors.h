@@ -28,7 +28,8 @@ enum class PanelColor {
 };
 
 StoredColor ReadPanelColor(storage::ProgramFolder& folder, PanelColor function);
-void WritePanelColor(storage::ProgramFolder& folder, PanelColor function, const StoredColor& color);
+storage::Outcome WritePanelColor(storage::ProgramFolder& folder, PanelColor function,
+                                 const StoredColor& color);
 
 // Writes the colour for all functions but the work area, and into the records that no function
 // reads any more: backup sets hold them. Calls `yield` after each file but the last.
@@ -37,7 +38,7 @@ void WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& co
 
 // The text colour of documents and entry areas.
 StoredColor ReadTextColor(storage::ProgramFolder& folder);
-void WriteTextColor(storage::ProgramFolder& folder, std::int32_t color);
+storage::Outcome WriteTextColor(storage::ProgramFolder& folder, std::int32_t color);
 
 // Backgrounds of entry areas, and one text colour.
 enum class FieldColor {
@@ -48,6 +49,7 @@ enum class FieldColor {
 };
 
 StoredColor ReadFieldColor(storage::ProgramFolder& folder, FieldColor function);
-void WriteFieldColor(storage::ProgramFolder& folder, FieldColor function, const StoredColor& color);
+storage::Outcome WriteFieldColor(storage::ProgramFolder& folder, FieldColor function,
+                                 const StoredColor& color);
 
 }  // namespace tarnwell::settings
