@@ -6,13 +6,27 @@
 #include "desktop/desktop.h"
 #include "desktop/services/single_instance.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/text.h"
+#include "forms/disk_trouble.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-void TellFolderIsUnusable(const QString& folder) {
-  QMessageBox::critical(nullptr, QStringLiteral("Tarnwell"),
-                        QStringLiteral("Tarnwell can't use its folder:\n%1").arg(folder));
+void TellWhyNotStarted(const SingleInstance& instance, const QString& folder) {
+  const QString title = QStringLiteral("Tarnwell");
+  if (instance.is_in_use()) {
+    QMessageBox::information(
+        nullptr, title,
+        QStringLiteral("Tarnwell is running already, in another window, with the folder:\n%1")
+            .arg(folder));
+    return;
+  }
+  const auto reason = instance.fault() == storage::Fault::kMissing
+                          ? QStringLiteral("it isn't there and can't be made")
+                          : FromCore(forms::ReasonOf(instance.fault()));
+  QMessageBox::critical(
+      nullptr, title,
+      QStringLiteral("Tarnwell can't use its folder:\n%1\n\nThe reason: %2.").arg(folder, reason));
 }
 
 }  // namespace
@@ -27,7 +41,7 @@ int RunIn(const Folders& folders) {
   SingleInstance instance(folders.user);
   if (!instance.first()) {
     if (instance.CallFirst()) return 0;
-    TellFolderIsUnusable(folders.user);
+    TellWhyNotStarted(instance, folders.user);
     return 1;
   }
   QApplication::setWindowIcon(QIcon(folders.supplied + QStringLiteral("/tarnwell.svg")));

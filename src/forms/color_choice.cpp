@@ -90,9 +90,9 @@ void ColorChoice::ApplyBackground(std::optional<Color> color) {
 void ColorChoice::ApplyText(Color color) {
   if (color == background()) return ColorConflict(context_);
   text_ = color;
-  const auto stored = settings::WriteTextColor(context_.folder, color);
-  if (!stored) TellNotSaved(context_, "The text color", stored.fault());
+  const auto written = settings::WriteTextColor(context_.folder, color);
   Changed();
+  if (!written) TellNotSaved(context_, "The text color", written.fault());
 }
 
 void ColorChoice::Changed() {
@@ -100,19 +100,21 @@ void ColorChoice::Changed() {
   if (on_change) on_change();
 }
 
-storage::Outcome ColorChoice::Save() {
+bool ColorChoice::Save() {
+  storage::Outcome written;
   if (panel_chosen_) {
-    const auto stored = settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
-    if (!stored) return stored;
-    context_.variables.PanelColorNew = Stored(panel_).Text();
+    written = settings::WritePanelColor(context_.folder, panel_record_, Stored(panel_));
+    if (written) context_.variables.PanelColorNew = Stored(panel_).Text();
   }
-  if (background_chosen_ && background_record_) {
-    const auto stored =
-        settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
-    if (!stored) return stored;
+  if (written && background_chosen_ && background_record_) {
+    written = settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
+  }
+  if (!written) {
+    TellNotSaved(context_, "The chosen color", written.fault());
+    return false;
   }
   changed_ = panel_chosen_ = background_chosen_ = false;
-  return {};
+  return true;
 }
 
 bool ColorChoice::Leave(Buttons buttons) {
@@ -120,11 +122,8 @@ bool ColorChoice::Leave(Buttons buttons) {
   const Answer answer = ShowMessage(
       context_,
       {"Color Changes", "Save changes made to Panel and or Text Color?", Icon::kQuestion, buttons});
-  if (answer != Answer::kYes) return answer != Answer::kCancel;
-  const auto saved = Save();
-  if (saved) return true;
-  TellNotSaved(context_, "The color", saved.fault());
-  return AskToLeaveUnsaved(context_);
+  if (answer == Answer::kYes) return Save() || AskToLeaveUnsaved(context_);
+  return answer != Answer::kCancel;
 }
 
 Color ColorChoice::StartColor(ColorTarget target) const {

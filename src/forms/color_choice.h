@@ -40,12 +40,12 @@ class ColorChoice {
   void Choose(ColorTarget target);
   // A colour was chosen since Load or Save.
   bool changed() const { return changed_; }
-  // Stores the panel colour and the background, where they were chosen. They stay chosen when that
-  // doesn't work.
-  storage::Outcome Save();
+  // Stores the panel colour and the background, where they were chosen. False when the disk
+  // refused: the user was told, and they stay unsaved.
+  bool Save();
 
   // The screen is about to be left: offers to keep what was chosen, with the buttons Yes and No and
-  // perhaps Cancel. What can't be stored is told. False when the screen is to stay.
+  // perhaps Cancel. False when the screen is to stay, be it that the disk refused.
   bool Leave(Buttons buttons);
 
   // Empty for the look's own colour.

@@ -31,9 +31,17 @@ std::string_view ReasonOf(storage::Fault fault) {
 }
 
 void TellNotSaved(Context& context, std::string_view what, storage::Fault why) {
+  TellRefused(context, what, why, "It is still on the screen.");
+}
+
+void TellRefused(Context& context, std::string_view what, storage::Fault why,
+                 std::string_view instead) {
   ShowMessage(context, {"Not Saved",
-                        std::string(what).append(" could not be saved: ").append(ReasonOf(why)) +
-                            ".\nIt is still on the screen.",
+                        std::string(what)
+                            .append(" could not be saved: ")
+                            .append(ReasonOf(why))
+                            .append(".\n")
+                            .append(instead),
                         Icon::kCritical});
 }
 

@@ -18,6 +18,10 @@ std::string_view ReasonOf(storage::Fault fault);
 // unsaved.
 void TellNotSaved(Context& context, std::string_view what, storage::Fault why);
 
+// The same of what doesn't stay there: `instead` is the sentence that says what holds.
+void TellRefused(Context& context, std::string_view what, storage::Fault why,
+                 std::string_view instead);
+
 // What stands in the place of a file that is there and can't be read: two sentences, each a line.
 // What shows it has to be locked.
 std::string UnreadableNote(std::string_view what, storage::Fault why);

@@ -3,14 +3,20 @@
 #include <memory>
 #include <string>
 
+#include "storage/fault.h"
+
 namespace tarnwell::storage {
 
 // Held by the one process that uses a folder. It stands on an open descriptor, so it ends with the
 // process however that ends.
 class FolderLock {
  public:
-  // Empty when another process holds the folder, or when the lock file can't be made there.
-  static std::unique_ptr<FolderLock> TryTake(const std::string& folder);
+  struct Attempt {
+    std::unique_ptr<FolderLock> lock;
+    bool is_held = false;        // by another process
+    Fault fault = Fault::kNone;  // why the lock file can't be made or used, if it isn't held
+  };
+  static Attempt TryTake(const std::string& folder);
 
   ~FolderLock();
   FolderLock(const FolderLock&) = delete;

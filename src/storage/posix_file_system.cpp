@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "storage/file_system.h"
+#include "storage/posix_fault.h"
 
 namespace tarnwell::storage {
 namespace {
@@ -19,40 +20,6 @@ auto Retry(Call call) {
   auto result = call();
   while (result == -1 && errno == EINTR) result = call();
   return result;
-}
-
-Fault FaultOf(int error) {
-  switch (error) {
-    case ENOENT:
-      return Fault::kMissing;
-    case EACCES:
-    case EPERM:
-    case EBADF:  // opened for reading alone
-      return Fault::kNotPermitted;
-    case EROFS:
-      return Fault::kReadOnly;
-    case ENOSPC:
-    case EDQUOT:
-      return Fault::kFull;
-    case ENODEV:
-    case ENOTDIR:
-    case ESTALE:
-    case ENOTCONN:
-      return Fault::kGone;
-    case EFBIG:
-      return Fault::kTooLarge;
-    case ELOOP:
-    case EISDIR:
-    case ENXIO:
-      return Fault::kNotPlain;
-    case EMFILE:
-    case ENFILE:
-    case EBUSY:
-    case ETXTBSY:
-      return Fault::kInUse;
-    default:
-      return Fault::kBroken;
-  }
 }
 
 int OpenDescriptor(const std::string& path, int flags) {

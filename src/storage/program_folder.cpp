@@ -135,36 +135,58 @@ std::uint64_t ProgramFolder::Length(std::string_view name) {
   return file ? file->Size().value_or(0) : 0;
 }
 
+bool ProgramFolder::Worked(bool worked) {
+  if (!worked) fault_ = files_.fault();
+  return worked;
+}
+
 bool ProgramFolder::WriteAt(File& file, std::string_view name, std::uint64_t offset,
                             std::string_view bytes) {
   const bool can_tear = RedoNote::InFirstPage(offset, bytes.size()) != bytes.size();
-  if (can_tear) redo_note_.Set(name, offset, bytes);
-  const bool is_written = file.WriteAt(offset, bytes);
-  if (!is_written) fault_ = files_.fault();
-  if (can_tear) redo_note_.Clear();
+  const bool is_written =
+      can_tear ? WriteAcrossPages(file, name, offset, bytes) : Worked(file.WriteAt(offset, bytes));
+  if (is_written) redo_note_.Overwritten(name, offset, bytes);
+  return is_written;
+}
+
+// A write that the disk breaks off is undone; where the disk refuses that too, its note stays.
+bool ProgramFolder::WriteAcrossPages(File& file, std::string_view name, std::uint64_t offset,
+                                     std::string_view bytes) {
+  std::string before(RedoNote::InFirstPage(offset, bytes.size()), '\0');
+  if (!Worked(file.ReadAt(offset, before) >= 0)) return false;
+  if (!redo_note_.Set(name, offset, bytes) &&
+      (files_.fault() == Fault::kFull || files_.fault() == Fault::kBroken)) {
+    fault_ = files_.fault();
+    redo_note_.Clear();
+    return false;
+  }
+  const bool is_written = Worked(file.WriteAt(offset, bytes));
+  if (is_written || file.WriteAt(offset, before)) {
+    redo_note_.Clear();
+  } else {
+    redo_note_.BrokeOff(name, offset, bytes);
+  }
   return is_written;
 }
 
 void ProgramFolder::Recover() {
-  FinishTornWrite();
+  redo_note_.Settle([this](const RedoNote::Write& write) { return FinishTornWrite(write); });
   SweepSiblings(files_, user_folder_);
 }
 
 // Only a write that had begun is finished: where the first page isn't the noted one, the file was
 // never touched or has been exchanged since.
-void ProgramFolder::FinishTornWrite() {
-  if (const auto write = redo_note_.Read()) {
-    const auto file = Open(write->file, OpenMode::kReadWrite);
-    const std::string_view begun =
-        std::string_view(write->bytes)
-            .substr(0, RedoNote::InFirstPage(write->offset, write->bytes.size()));
-    std::string stored(begun.size(), '\0');
-    if (file && file->ReadAt(write->offset, stored) == static_cast<std::ptrdiff_t>(begun.size()) &&
-        stored == begun) {
-      file->WriteAt(write->offset, write->bytes);
-    }
-  }
-  redo_note_.Remove();
+bool ProgramFolder::FinishTornWrite(const RedoNote::Write& write) {
+  const auto [file, fault] = TryOpen(write.file, OpenMode::kReadWrite);
+  if (!file) return fault == Fault::kMissing || fault == Fault::kNotPlain;
+  const std::string_view begun =
+      std::string_view(write.bytes)
+          .substr(0, RedoNote::InFirstPage(write.offset, write.bytes.size()));
+  std::string stored(begun.size(), '\0');
+  const std::ptrdiff_t count = file->ReadAt(write.offset, stored);
+  if (count < 0) return false;
+  stored.resize(static_cast<std::size_t>(count));
+  return stored != begun || file->WriteAt(write.offset, write.bytes);
 }
 
 std::string ProgramFolder::NewPath(std::string_view name) const {

@@ -53,8 +53,9 @@ class ProgramFolder {
   // Replaces the file whole: at any instant the name holds the old or the new content, and when it
   // returns true the new one is on the disk.
   Outcome WriteWhole(std::string_view name, std::string_view content);
-  // Writes to a file that Open gave for `name`. A process killed meanwhile leaves the old or the
-  // new bytes, the new ones perhaps only after Recover.
+  // Writes to a file that Open gave for `name`. A process killed meanwhile, or a disk that fails in
+  // the middle, leaves the old or the new bytes, perhaps only after Recover. A full or failing disk
+  // on which a write can't be guarded so gets none.
   bool WriteAt(File& file, std::string_view name, std::uint64_t offset, std::string_view bytes);
   // A missing file is no error; supplied files are never touched.
   Outcome Delete(std::string_view name);
@@ -78,7 +79,12 @@ class ProgramFolder {
   Opened TryOpen(std::string_view name, OpenMode mode);
   Opened OpenAt(const std::string& path, OpenMode mode);
   Opened OpenSupplied(std::string_view name);
-  void FinishTornWrite();
+  // Keeps the fault of a call that didn't.
+  bool Worked(bool worked);
+  bool WriteAcrossPages(File& file, std::string_view name, std::uint64_t offset,
+                        std::string_view bytes);
+  // False when the disk refused again.
+  bool FinishTornWrite(const RedoNote::Write& write);
   // The path of a file that isn't there yet.
   std::string NewPath(std::string_view name) const;
   // Why the folder couldn't be listed.

@@ -106,7 +106,10 @@ void RecordFile::Scan(int first, const std::function<void(int, std::string_view)
 
 bool RecordFile::Close() {
   const auto file = std::move(file_);
-  return file && file->Close();
+  if (!file) return false;
+  if (file->Close()) return true;
+  fault_ = folder_.files().fault();
+  return false;
 }
 
 Outcome RecordFile::Finish(bool all_put) {

@@ -1,5 +1,7 @@
 #include "workarea/areas.h"
 
+#include "text/letters.h"
+
 namespace tarnwell::workarea {
 namespace {
 
@@ -69,5 +71,14 @@ constexpr DocumentGroup kGroups[] = {
 
 std::span<const AreaButton> AreaButtons() { return kAreas; }
 std::span<const DocumentGroup> DocumentGroups() { return kGroups; }
+
+std::string TitleOf(int number) {
+  for (const DocumentGroup& group : kGroups) {
+    for (const DocumentButton& document : group.documents) {
+      if (group.base + document.index == number) return text::Trim(document.tool_tip);
+    }
+  }
+  return "Document " + std::to_string(number);
+}
 
 }  // namespace tarnwell::workarea

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "forms/main_buttons.h"
@@ -44,6 +45,9 @@ struct DocumentGroup {
 };
 
 std::span<const DocumentGroup> DocumentGroups();
+
+// The title of a numbered document; "Document" and the number for one without a button.
+std::string TitleOf(int number);
 
 // The three texts that a numbered document has, by the place of their option.
 enum DocumentText : int { kDisclaimerText, kCommentsText, kPolicyText };

@@ -1,7 +1,8 @@
 #include "workarea/document_printing.h"
 
-#include <optional>
+#include <utility>
 
+#include "forms/disk_trouble.h"
 #include "forms/help_menu.h"
 #include "forms/message.h"
 #include "print/rich_text.h"
@@ -50,7 +51,7 @@ DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& con
 }
 
 void DocumentPrinting::Open(PrintedDocument document) {
-  if (richtext::IsBlank(document.text(document.on_show))) {
+  if (richtext::IsBlank(document.text(document.on_show).document)) {
     return print::ReportNothingToPrint(context_);
   }
   document_ = std::move(document);
@@ -71,27 +72,35 @@ void DocumentPrinting::ShowChoices(bool one_document, bool its_texts) {
 void DocumentPrinting::Tick(int text) {
   forms::CheckBox& box = texts[static_cast<std::size_t>(text)];
   if (unticking_ || !print.is_open()) return;
-  if (box.checked() && richtext::IsBlank(document_.text(text))) {
+  if (!box.checked()) return print.Rebuild();
+  const PrintedText ticked = document_.text(text);
+  if (ticked.fault != storage::Fault::kNone) {
+    forms::TellUnreadable(context_, "This text", ticked.fault);
+    return Untick(text);
+  }
+  if (richtext::IsBlank(ticked.document)) {
     const EmptyText& empty = kEmptyTexts[text];
     forms::ShowMessage(
         context_,
         {empty.title, "No " + std::string(empty.kind) + " found for " + document_.title + "!",
          forms::Icon::kExclamation});
-    if (empty.is_unticked) {
-      unticking_ = true;
-      box.SetChecked(false);
-      unticking_ = false;
-    }
+    if (empty.is_unticked) Untick(text);
     return;
   }
   print.Rebuild();
+}
+
+void DocumentPrinting::Untick(int text) {
+  unticking_ = true;
+  texts[static_cast<std::size_t>(text)].SetChecked(false);
+  unticking_ = false;
 }
 
 void DocumentPrinting::Build(print::PageEngine& engine) {
   bool is_first = true;
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     if (!texts[static_cast<std::size_t>(i)].checked()) continue;
-    const richtext::RichDocument text = document_.text(i);
+    const richtext::RichDocument text = document_.text(i).document;
     if (richtext::IsBlank(text)) continue;
     if (!is_first) engine.NewPage();
     is_first = false;
@@ -101,6 +110,7 @@ void DocumentPrinting::Build(print::PageEngine& engine) {
 
 void DocumentPrinting::OpenAll(Breaks breaks) {
   ShowChoices(false, false);
+  left_out_.clear();
   print::PrintJob job;
   job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };
   job.printed_line = false;
@@ -108,10 +118,20 @@ void DocumentPrinting::OpenAll(Breaks breaks) {
   print.Open(std::move(job));
   if (printed_ > 0) return;
   print.Close();
-  print::ReportNothingToPrint(context_);
+  if (left_out_.empty()) print::ReportNothingToPrint(context_);
 }
 
+// The pages are built anew with each change of the print settings; what is left out is told again
+// only if it isn't the same.
 void DocumentPrinting::BuildAll(print::PageEngine& engine, Breaks breaks) {
+  const std::string told = std::exchange(left_out_, {});
+  Gather(engine, breaks);
+  if (left_out_.empty() || left_out_ == told) return;
+  forms::ShowMessage(context_, {"Can't Be Read", "These documents are not printed:" + left_out_,
+                                forms::Icon::kCritical});
+}
+
+void DocumentPrinting::Gather(print::PageEngine& engine, Breaks breaks) {
   const forms::Form::BusyScope busy(all_panel.form());
   print.panel.SetEnabled(false);
   all_progress.Start(kLastDocument);
@@ -120,9 +140,11 @@ void DocumentPrinting::BuildAll(print::PageEngine& engine, Breaks breaks) {
   for (int number = 0; number <= kLastDocument; ++number) {
     all_progress.SetValue(number);
     context_.loop.Yield();
-    const auto bytes = context_.folder.ReadWhole(storage::file_names::DocumentText(number));
-    if (!bytes) continue;
-    const richtext::RichDocument document = richtext::ReadRichText(*bytes);
+    const auto read = context_.folder.Read(storage::file_names::DocumentText(number));
+    if (read.is_unreadable()) {
+      left_out_ += "\n" + TitleOf(number) + ": " + std::string(forms::ReasonOf(read.fault));
+    }
+    const richtext::RichDocument document = richtext::ReadRichText(read.content);
     if (richtext::IsBlank(document)) continue;
     if (++printed_ > 1) {
       if (breaks == Breaks::kPages) {

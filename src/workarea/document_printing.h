@@ -12,16 +12,23 @@
 #include "forms/progress_bar.h"
 #include "print/print_panel.h"
 #include "richtext/rich_document.h"
+#include "storage/fault.h"
 #include "workarea/areas.h"
 
 namespace tarnwell::workarea {
+
+// A text, or why it can't be read.
+struct PrintedText {
+  richtext::RichDocument document;
+  storage::Fault fault = storage::Fault::kNone;
+};
 
 // A document with the texts that can be printed of it.
 struct PrintedDocument {
   std::string title;
   int on_show = kPolicyText;  // the text that is ticked when the panel opens
   bool has_texts = false;     // there are all three to choose from
-  std::function<richtext::RichDocument(int text)> text;  // what it is at present
+  std::function<PrintedText(int text)> text;  // what it is at present
 };
 
 class DocumentPrinting {
@@ -38,7 +45,7 @@ class DocumentPrinting {
   enum class Breaks { kNone, kPages };
 
   void Open(PrintedDocument document);
-  // Every document that has text, one behind the other.
+  // Every document that has text, one behind the other. Those that can't be read are named.
   void OpenAll(Breaks breaks);
 
  private:
@@ -46,11 +53,14 @@ class DocumentPrinting {
   void Tick(int text);
   void Build(print::PageEngine& engine);
   void BuildAll(print::PageEngine& engine, Breaks breaks);
+  void Gather(print::PageEngine& engine, Breaks breaks);
+  void Untick(int text);
 
   forms::Context& context_;
   PrintedDocument document_;
   bool unticking_ = false;
   int printed_ = 0;
+  std::string left_out_;  // a line for each document that couldn't be read
 };
 
 }  // namespace tarnwell::workarea

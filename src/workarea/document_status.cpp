@@ -18,18 +18,23 @@ constexpr std::string_view kWords[] = {" ",         "Pending", "Working",
 
 std::span<const std::string_view> StatusWords() { return kWords; }
 
-void DocumentStatus::Read(storage::ProgramFolder& folder) {
+storage::Outcome DocumentStatus::Read(storage::ProgramFolder& folder) {
   storage::RecordFile file(folder, storage::file_names::kDocumentStatus, kRecordLength);
   for (int record = 1; record <= kStatusRecords; ++record) {
     words_[static_cast<std::size_t>(record)] = file.GetText(record);
   }
+  // A file that couldn't be made is missing.
+  const bool is_unreadable =
+      file.has_failed() && folder.Exists(storage::file_names::kDocumentStatus);
+  return is_unreadable ? file.fault() : storage::Outcome();
 }
 
-bool DocumentStatus::Put(storage::ProgramFolder& folder, int record, std::string_view word) {
+storage::Outcome DocumentStatus::Put(storage::ProgramFolder& folder, int record,
+                                     std::string_view word) {
   storage::RecordFile file(folder, storage::file_names::kDocumentStatus, kRecordLength);
-  if (!file.PutText(record, word) || !file.Close()) return false;
+  if (!file.PutText(record, word) || !file.Close()) return file.fault();
   words_[static_cast<std::size_t>(record)] = word;
-  return true;
+  return {};
 }
 
 std::string_view DocumentStatus::operator[](int record) const {

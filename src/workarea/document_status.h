@@ -23,10 +23,11 @@ constexpr int StatusRecord(int document) { return document + 1; }
 // All words, as they were read last or put since.
 class DocumentStatus {
  public:
-  // A file that is missing or can't be read gives empty words.
-  void Read(storage::ProgramFolder& folder);
-  // Writes one word. False when the disk refused: the old one stays.
-  bool Put(storage::ProgramFolder& folder, int record, std::string_view word);
+  // A file that is missing gives empty words, and so does one that can't be read: the outcome
+  // tells.
+  storage::Outcome Read(storage::ProgramFolder& folder);
+  // Writes one word. When the disk refuses, the old one stays.
+  storage::Outcome Put(storage::ProgramFolder& folder, int record, std::string_view word);
 
   // Empty for a record that was never written, and for one outside 1 to 70.
   std::string_view operator[](int record) const;

@@ -15,7 +15,10 @@ DocumentView::DocumentView(forms::Container& parent, forms::Context& context)
   views.Add(actions, "SSOption3", "Disclaimer and How To Use");
   views.Add(actions, "SSOption4", "Comments/Notes");
   views.Add(actions, "SSOption5", "View Document/Policy Etc.");
-  text.on_change = [this] { unsaved_ = true; };
+  text.on_change = [this] {
+    unsaved_ = true;
+    tools.FollowEdit();
+  };
   tools.on_change = [this] { unsaved_ = true; };
   save.on_click = [this] {
     if (on_save) on_save();

@@ -1,5 +1,7 @@
 #include "workarea/documents_pane.h"
 
+#include "forms/disk_trouble.h"
+#include "forms/form.h"
 #include "forms/message.h"
 #include "richtext/rich_text_reader.h"
 #include "storage/file_names.h"
@@ -43,13 +45,12 @@ DocumentsPane::DocumentsPane(forms::Container& parent, forms::Context& context, 
 }
 
 void DocumentsPane::Enter(Area area) {
-  status_.Read(context_.folder);
+  ReadStatus();
   Paint(nullptr);
   for (const auto& row : groups) {
     row->panel.SetVisible(row->group.area == area);
     if (row->group.area == area) group_ = &row->group;
   }
-  view_.status.SetItems(StatusItems());
   view_.views.Choose(text_);
   for (forms::Control* own :
        std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
@@ -58,7 +59,18 @@ void DocumentsPane::Enter(Area area) {
   CloseDocument();
 }
 
+// Words that can't be read aren't chosen: the choice would be written among them.
+void DocumentsPane::ReadStatus() {
+  const storage::Outcome read = status_.Read(context_.folder);
+  has_status_ = static_cast<bool>(read);
+  view_.status.SetItems(read ? StatusItems() : std::vector<std::string>{"Can't be read"});
+  std::string note;
+  if (!read) note = forms::UnreadableNote("The status of the documents", read.fault());
+  view_.panel.form().SetStatus(note.substr(0, note.find('\n')));
+}
+
 void DocumentsPane::Leave() {
+  view_.panel.form().SetStatus({});
   for (const auto& row : groups) row->panel.SetVisible(false);
   CloseDocument();
 }
@@ -77,7 +89,7 @@ void DocumentsPane::Choose(const DocumentGroup& group, std::size_t place) {
   }
   title_ = text::Trim(document_->tool_tip);
   view_.heading.SetCaption(std::string(group.heading) + title_);
-  view_.status.SetEnabled(true);
+  view_.status.SetEnabled(has_status_);
   view_.status.Select(status_.PlaceOf(StatusRecord(number())));
   view_.actions.SetEnabled(true);
   ShowText();
@@ -123,8 +135,10 @@ std::string DocumentsPane::FileOf(int text) const {
 
 PrintedDocument DocumentsPane::ToPrint() {
   return {title_, text_, true, [this](int text) {
-            if (text == text_) return view_.text.document();
-            return richtext::ReadRichText(context_.folder.ReadWhole(FileOf(text)).value_or(""));
+            if (text == text_) return PrintedText{view_.text.document()};
+            const auto read = context_.folder.Read(FileOf(text));
+            return PrintedText{richtext::ReadRichText(read.content),
+                               read.is_unreadable() ? read.fault : storage::Fault::kNone};
           }};
 }
 
@@ -147,8 +161,9 @@ void DocumentsPane::PickStatus() {
   if (!document_) return;
   const int record = StatusRecord(number());
   const std::string word = view_.status.text();
-  if (!status_.Put(context_.folder, record, word)) {
+  if (const auto written = status_.Put(context_.folder, record, word); !written) {
     view_.status.Select(status_.PlaceOf(record));
+    forms::TellRefused(context_, "The status", written.fault(), "The one before stays.");
   } else if (word == kNotImplemented) {
     RemindOfReason(context_);
   }

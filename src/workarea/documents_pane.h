@@ -41,6 +41,7 @@ class DocumentsPane : public Pane {
   void Choose(const DocumentGroup& group, std::size_t place);
   void Paint(const forms::Command* chosen);
   void ShowText();
+  void ReadStatus();
   // Of one of the texts of the document in hand.
   std::string FileOf(int text) const;
   int number() const { return group_->base + document_->index; }
@@ -48,6 +49,7 @@ class DocumentsPane : public Pane {
   forms::Context& context_;
   DocumentView& view_;
   DocumentStatus status_;
+  bool has_status_ = true;  // it could be read
   const DocumentGroup* group_ = nullptr;
   const DocumentButton* document_ = nullptr;
   int text_ = kPolicyText;

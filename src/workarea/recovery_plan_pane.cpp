@@ -51,7 +51,7 @@ bool RecoveryPlanPane::HasPlan() const {
 }
 
 PrintedDocument RecoveryPlanPane::ToPrint() {
-  return {.title = kTitle, .text = [this](int) { return view_.text.document(); }};
+  return {.title = kTitle, .text = [this](int) { return PrintedText{view_.text.document()}; }};
 }
 
 bool RecoveryPlanPane::Save() {

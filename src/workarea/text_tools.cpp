@@ -1,5 +1,7 @@
 #include "workarea/text_tools.h"
 
+#include <algorithm>
+
 #include "forms/form.h"
 #include "forms/message.h"
 #include "proofing/spelling.h"
@@ -58,7 +60,7 @@ TextTools::TextTools(forms::Container& parent, forms::Context& context, forms::R
 
 void TextTools::StartSearch(std::string_view mark) {
   mark_ = mark;
-  position_ = {};
+  SearchFrom({});
   text_.form().SetStatus({});  // what it says was about the text before
   ShowAlignment();
 }
@@ -121,12 +123,46 @@ void TextTools::LookUp() {
   text_.Focus();
 }
 
+void TextTools::SearchFrom(richtext::Position position) {
+  position_ = position;
+  const std::string text = text_.ParagraphText(position.paragraph);
+  const auto offset = std::min(static_cast<std::size_t>(position.offset), text.size());
+  head_ = text.substr(0, offset);
+  rest_ = text.substr(offset);
+  paragraphs_ = text_.paragraph_count();
+  spans_known_ = text_.spans_made();
+}
+
+// What stood behind the place ends a paragraph still, so many farther as paragraphs came; unless
+// the edit was behind it. Where neither holds, the search begins again above the edit: rather a
+// mark twice than one left out.
+void TextTools::FollowEdit() {
+  if (text_.spans_made() == spans_known_) return;
+  const auto spans = text_.SpansFrom(spans_known_);
+  if (!spans || position_ == richtext::Position{}) return SearchFrom({});
+  const int first =
+      std::ranges::min(*spans, {}, &richtext::ChangedSpan::first_paragraph).first_paragraph;
+  const int paragraph = position_.paragraph;
+  const int moved = paragraph + text_.paragraph_count() - paragraphs_;
+  const std::string text = text_.ParagraphText(moved);
+  if (first > paragraph) {
+    SearchFrom(position_);
+  } else if (moved >= first && text.ends_with(rest_)) {
+    SearchFrom({moved, static_cast<int>(text.size() - rest_.size())});
+  } else if (first == paragraph && text_.ParagraphText(paragraph).starts_with(head_)) {
+    SearchFrom(position_);
+  } else {
+    SearchFrom({first, 0});
+  }
+}
+
 void TextTools::FindMark() {
+  FollowEdit();
   if (const auto found = text_.Find(mark_, position_)) {
-    position_ = found->to;
+    SearchFrom(found->to);
     text_.Select(*found);
   } else {
-    position_ = {};
+    SearchFrom({});
     forms::ShowMessage(context_, {"Search Document", "Search has reached the end of the document.",
                                   forms::Icon::kInformation});
   }

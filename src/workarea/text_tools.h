@@ -28,8 +28,10 @@ class TextTools {
   forms::Panel alignment_frame;
   forms::OptionGroup alignment;
 
-  // The search begins at the top again, for this mark.
+  // The search begins at the top again, for this mark. It does so with each text that is loaded.
   void StartSearch(std::string_view mark);
+  // The text was edited: the search goes on behind what was typed over a mark.
+  void FollowEdit();
   // What changes the text can't be used on one that is only read.
   void Enable(bool search, bool change);
 
@@ -46,8 +48,15 @@ class TextTools {
 
   forms::Context& context_;
   forms::RichTextBox& text_;
+  void SearchFrom(richtext::Position position);
+
   std::string mark_{kInsertionMark};
   richtext::Position position_;  // where the search goes on
+  // What stands before and behind it in its paragraph, and the document that it is a place of.
+  std::string head_;
+  std::string rest_;
+  int paragraphs_ = 0;
+  std::size_t spans_known_ = 0;
 };
 
 }  // namespace tarnwell::workarea

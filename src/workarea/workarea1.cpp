@@ -41,7 +41,7 @@ WorkArea1::WorkArea1(forms::Context& context)
 }
 
 void WorkArea1::BuildDocumentCommands() {
-  document.on_save = [this] { return !pane_ || pane_->Save(); };
+  document.on_save = [this] { return Save(); };
   document.on_state = [this] { EnableMenus(); };
   document.exit.on_click = [this] { ExitDocument(); };
   document.insert_template.on_click = [this] { pane_->InsertTemplate(); };
@@ -119,8 +119,12 @@ void WorkArea1::Activate() {
 void WorkArea1::Press(int index) {
   // Closing the print panel would take the pages away from a run that is still making them.
   if (busy() || index == main_buttons.selected() || !document.Settle()) return;
+  if (index == forms::kExitProgram) {
+    printing.print.Close();
+    return AskToExit();
+  }
+  if (index > forms::kEmployeeData && !LeaveColors()) return;
   printing.print.Close();
-  if (index == forms::kExitProgram) return AskToExit();
   main_buttons.PaintSelected(index <= forms::kEmployeeData ? index : -1);
   context_.variables.MainArea = static_cast<std::int16_t>(index);
   if (index <= forms::kEmployeeData) return ShowMainArea(static_cast<forms::MainArea>(index));
@@ -139,12 +143,25 @@ void WorkArea1::ShowMainArea(forms::MainArea main_area) {
 
 void WorkArea1::AskToExit() {
   context_.variables.MainArea = forms::kExitProgram;
-  if (Confirmed(forms::ExitBox())) {
-    colors.Leave(forms::Buttons::kYesNo);
+  if (Confirmed(forms::ExitBox()) && colors.Leave(forms::Buttons::kYesNo)) {
     context_.navigator.Unload(*this);
     return context_.navigator.EndProgram();
   }
   context_.variables.MainArea = static_cast<std::int16_t>(main_area_);
+}
+
+// The screen that comes may end the program. What the user doesn't want to keep goes at once.
+bool WorkArea1::LeaveColors() {
+  if (!colors.Leave(forms::Buttons::kYesNo)) return false;
+  if (colors.changed()) colors.Load();
+  return true;
+}
+
+// The colours go with the text. Where they can't be stored they stay to be, and the text is saved.
+bool WorkArea1::Save() {
+  if (pane_ && !pane_->Save()) return false;
+  if (colors.changed()) colors.Save();
+  return true;
 }
 
 bool WorkArea1::QueryUnload(forms::UnloadCause) {

@@ -40,6 +40,8 @@ class WorkArea1 : public forms::Form {
   void Press(int index);
   void ShowMainArea(forms::MainArea main_area);
   void AskToExit();
+  bool Save();
+  bool LeaveColors();
 
   void ChooseArea(Area area);
   void EnterArea(Area area);

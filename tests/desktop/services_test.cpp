@@ -132,7 +132,43 @@ TEST(HtmlHelpViewer, ShowsThePageOfAContextAndIgnoresAMissingOne) {
   EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
 }
 
+// The environment names a run-time directory of the test's own.
+class RunTime {
+ public:
+  RunTime() { qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(directory.path())); }
+  ~RunTime() { qputenv("XDG_RUNTIME_DIR", before_); }
+  const TemporaryFolder directory;
+
+ private:
+  const QByteArray before_ = qgetenv("XDG_RUNTIME_DIR");
+};
+
+TEST(SingleInstance, AFolderInUseIsToldFromOneThatCantBeUsed) {
+  const RunTime run_time;
+  const TemporaryFolder folder;
+  const QString path = QString::fromStdString(folder.path());
+  auto first = std::make_unique<SingleInstance>(path);
+  ASSERT_EQ(run_time.directory.Names().size(), 1u);
+  const std::string socket = run_time.directory.Names().front();
+
+  // Something foreign in the socket's place is left alone.
+  first.reset();
+  run_time.directory.Write(socket, "foreign");
+  first = std::make_unique<SingleInstance>(path);
+  EXPECT_TRUE(first->first());
+  EXPECT_EQ(run_time.directory.Read(socket), "foreign");
+  const SingleInstance second(path);
+  EXPECT_TRUE(second.is_in_use());
+  EXPECT_FALSE(second.CallFirst());
+
+  const SingleInstance nowhere(path + "/gone");
+  EXPECT_FALSE(nowhere.first());
+  EXPECT_FALSE(nowhere.is_in_use());
+  EXPECT_EQ(nowhere.fault(), storage::Fault::kMissing);
+}
+
 TEST(SingleInstance, ASecondStartInTheFolderCallsTheFirst) {
+  const RunTime run_time;
   const TemporaryFolder folder;
   const TemporaryFolder other_folder;
   const QString path = QString::fromStdString(folder.path());

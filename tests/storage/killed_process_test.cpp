@@ -1,8 +1,10 @@
 // What a process leaves behind that was really killed.
 
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <functional>
 #include <random>
 
 #include "storage/folder_lock.h"
@@ -77,14 +79,33 @@ TEST(KilledProcessTest, ASaverKilledAtAnyMomentLeavesOneOfItsContentsWhole) {
 
 TEST(FolderLockTest, ExcludesASecondHolderUntilTheFirstLetsGo) {
   TemporaryFolder disk;
-  auto lock = FolderLock::TryTake(disk.path());
+  auto lock = FolderLock::TryTake(disk.path()).lock;
   ASSERT_NE(lock, nullptr);
-  EXPECT_EQ(FolderLock::TryTake(disk.path()), nullptr);
-  Child rival([&] { ::_exit(FolderLock::TryTake(disk.path()) ? 1 : 2); });
+  EXPECT_TRUE(FolderLock::TryTake(disk.path()).is_held);
+  Child rival([&] { ::_exit(FolderLock::TryTake(disk.path()).lock ? 1 : 2); });
   EXPECT_EQ(rival.Wait(), 2);
   lock.reset();
-  EXPECT_NE(FolderLock::TryTake(disk.path()), nullptr);
-  EXPECT_EQ(FolderLock::TryTake(disk.path() + "/gone"), nullptr);
+  EXPECT_NE(FolderLock::TryTake(disk.path()).lock, nullptr);
+  EXPECT_EQ(FolderLock::TryTake(disk.path() + "/gone").lock, nullptr);
+}
+
+TEST(FolderLockTest, WhatIsNoFileOfOursIsRefusedAtOnceAndNotFollowed) {
+  TemporaryFolder disk;
+  const std::string lock = disk.path() + "/.tarnwell-lock";
+  const std::function<void()> others[] = {
+      [&] { ASSERT_EQ(::symlink((disk.path() + "/outside").c_str(), lock.c_str()), 0); },
+      [&] { ASSERT_EQ(::mkfifo(lock.c_str(), 0600), 0); },
+      [&] { ASSERT_EQ(::mkdir(lock.c_str(), 0700), 0); },
+  };
+  for (const auto& put : others) {
+    put();
+    const auto attempt = FolderLock::TryTake(disk.path());
+    EXPECT_EQ(attempt.lock, nullptr);
+    EXPECT_FALSE(attempt.is_held);
+    EXPECT_EQ(attempt.fault, Fault::kNotPlain);
+    EXPECT_THAT(disk.Names(), ElementsAre(".tarnwell-lock"));
+    disk.Remove(".tarnwell-lock");
+  }
 }
 
 TEST(FolderLockTest, EndsWithAKilledProcess) {
@@ -92,16 +113,16 @@ TEST(FolderLockTest, EndsWithAKilledProcess) {
   int ready[2];
   ASSERT_EQ(::pipe(ready), 0);
   Child holder([&] {
-    const auto lock = FolderLock::TryTake(disk.path());
+    const auto lock = FolderLock::TryTake(disk.path()).lock;
     (void)!::write(ready[1], lock ? "y" : "n", 1);
     for (;;) ::pause();
   });
   char signal;
   ASSERT_EQ(::read(ready[0], &signal, 1), 1);
   ASSERT_EQ(signal, 'y');
-  EXPECT_EQ(FolderLock::TryTake(disk.path()), nullptr);
+  EXPECT_EQ(FolderLock::TryTake(disk.path()).lock, nullptr);
   holder.Kill();
-  EXPECT_NE(FolderLock::TryTake(disk.path()), nullptr);
+  EXPECT_NE(FolderLock::TryTake(disk.path()).lock, nullptr);
   ::close(ready[0]);
   ::close(ready[1]);
 }

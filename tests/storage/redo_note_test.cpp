@@ -1,6 +1,13 @@
 #include "storage/redo_note.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <limits>
 
 #include "storage/record_file.h"
 #include "support/failing_file_system.h"
@@ -68,10 +75,86 @@ TEST(RedoNoteTest, AWriteThatWasMadeIsNotMadeAgain) {
   TemporaryFolder disk;
   ProgramFolder folder(RealFileSystem(), disk.path());
   ASSERT_TRUE(RecordFile(folder, "day.fil", kLength).PutStructure(kRecord, kNew));
-  EXPECT_FALSE(RedoNote(RealFileSystem(), disk.path() + "/.tarnwell-redo").Read());
+  RedoNote(RealFileSystem(), disk.path() + "/.tarnwell-redo").Settle([](const auto&) {
+    ADD_FAILURE() << "still noted";
+    return true;
+  });
   // A later write of the first page alone must hold.
   ASSERT_TRUE(RecordFile(folder, "day.fil", kLength).PutStructure(kRecord, "later"));
   EXPECT_EQ(RecordAfterRecovery(disk), "later" + kNew.substr(5));
+}
+
+// The third write after the note and the record takes the record's beginning back.
+TEST(RedoNoteTest, AWriteThatTheDiskBrokeOffIsUndoneOrStaysNotedUntilItsBytesOrNewerOnesStand) {
+  const std::string other(kStored, 'x');
+  const std::string newer = kNew.substr(0, kInFirstPage) + other.substr(kInFirstPage);
+  constexpr int kOther = 14;  // bytes 11700 to 12549
+  struct {
+    const char* then;
+    bool can_undo;
+    std::function<void(RecordFile&)> act;
+    std::string left;
+  } const cases[] = {
+      {"undone", true, [](RecordFile&) {}, kOld},
+      {"nothing", false, [](RecordFile&) {}, kNew},
+      {"another record", false, [&](RecordFile& file) { file.PutStructure(kOther, other); }, kNew},
+      {"the same record", false, [&](RecordFile& file) { file.PutStructure(kRecord, newer); },
+       newer},
+      {"its beginning", false, [&](RecordFile& file) { file.PutStructure(kRecord, "later"); },
+       "later" + kNew.substr(5)},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.then);
+    TemporaryFolder disk;
+    ProgramFolder old(RealFileSystem(), disk.path());
+    ASSERT_TRUE(RecordFile(old, "day.fil", kLength).PutStructure(kRecord, kOld));
+    constexpr auto kRoomAgain = std::numeric_limits<std::uint64_t>::max();
+    FailingFileSystem files(RealFileSystem());
+    files.AllowBytes(kNote + kInFirstPage);
+    files.FailWhen([&](int) {
+      if (c.can_undo && std::ranges::count(files.log(), "write") == 3) files.AllowBytes(kRoomAgain);
+      return false;
+    });
+    ProgramFolder folder(files, disk.path());
+    RecordFile file(folder, "day.fil", kLength);
+    EXPECT_FALSE(file.PutStructure(kRecord, kNew));
+    EXPECT_EQ(file.fault(), Fault::kFull);
+    files.AllowBytes(kRoomAgain);
+    c.act(file);
+    ProgramFolder next(RealFileSystem(), disk.path());
+    next.Recover();
+    EXPECT_EQ(disk.Names(), std::vector<std::string>{"day.fil"});
+    EXPECT_EQ(RecordFile(next, "day.fil", kLength).GetStructure(kRecord, kStored), c.left);
+  }
+}
+
+TEST(RedoNoteTest, WhatCantBeFinishedAtTheStartStaysNotedForTheNext) {
+  TemporaryFolder disk;
+  WriteOnly(disk, kNote + kInFirstPage);
+  FailingFileSystem files(RealFileSystem());
+  files.AllowBytes(0);
+  ProgramFolder(files, disk.path()).Recover();
+  EXPECT_EQ(RecordAfterRecovery(disk), kNew);
+}
+
+TEST(RedoNoteTest, WhatIsNoNoteOfOursIsRemovedUnread) {
+  for (const bool is_pipe : {true, false}) {
+    TemporaryFolder disk;
+    const std::string note = disk.path() + "/.tarnwell-redo";
+    ASSERT_EQ(is_pipe ? ::mkfifo(note.c_str(), 0600) : ::symlink("/dev/zero", note.c_str()), 0);
+    ProgramFolder(RealFileSystem(), disk.path()).Recover();
+    EXPECT_EQ(disk.Names(), std::vector<std::string>{});
+  }
+}
+
+TEST(RedoNoteTest, TheNoteIsClosedBehindEachWrite) {
+  TemporaryFolder disk;
+  ProgramFolder folder(RealFileSystem(), disk.path());
+  ASSERT_TRUE(RecordFile(folder, "day.fil", kLength).PutStructure(kRecord, kNew));
+  for (const auto& open : std::filesystem::directory_iterator("/proc/self/fd")) {
+    std::error_code gone;
+    EXPECT_NE(std::filesystem::read_symlink(open, gone), disk.path() + "/.tarnwell-redo");
+  }
 }
 
 TEST(RedoNoteTest, ARecordInsideOnePageNeedsNoNote) {

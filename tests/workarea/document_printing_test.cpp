@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "shell/startfrm.h"
 #include "support/program_rig.h"
 #include "workarea/workarea1.h"
@@ -98,6 +100,33 @@ TEST_F(DocumentPrintingTest, WithoutDocumentsThereIsNothingToPrint) {
     EXPECT_FALSE(hub().printing.print.is_open());
     EXPECT_TRUE(hub().areas.visible());
   }
+}
+
+TEST_F(DocumentPrintingTest, WhatCantBeReadIsNamedInsteadOfPrinted) {
+  for (const char* name : {"EmployPolicy5.Fl2", "EmployPolicy46.Fl2", "EmployComment0.Fl2"}) {
+    std::filesystem::create_directory(rig.temporary.path() + "/" + name);
+  }
+  const std::string reason = ": something else has the name of its file";
+  const auto expect_names = [&] {
+    rig.dialogs.Expect("Can't Be Read", "These documents are not printed:\nEmployment Agreement" +
+                                            reason + "\nDocument 46" + reason);
+  };
+  expect_names();
+  rig.ClickMenu("mOPAll");
+  EXPECT_FALSE(hub().printing.print.is_open());
+  Write(0, "First");
+  expect_names();
+  rig.ClickMenu("mOPAll");
+  hub().printing.print.Rebuild();  // told once
+  EXPECT_THAT(Printed(), ElementsAre("First"));
+  hub().printing.print.Close();
+
+  Press("SSCommand14(0)");
+  hub().document.print_options.Click();
+  rig.dialogs.Expect("Can't Be Read",
+                     "This text can't be read" + reason + ".\nNothing will be written over it.");
+  hub().printing.texts[kCommentsText].Check(true);
+  EXPECT_FALSE(hub().printing.texts[kCommentsText].checked());
 }
 
 TEST_F(DocumentPrintingTest, TheDocumentOnShowIsPrintedAsItStandsWithTheTextsTicked) {

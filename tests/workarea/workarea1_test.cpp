@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "proofing/vsspell1.h"
 #include "proofing/vsthesaurus1.h"
@@ -310,6 +312,77 @@ TEST_F(WorkArea1Test, AStatusWordIsStoredAtOnceUnderItsDocument) {
   EXPECT_EQ(hub().document.status.text(), " ");
 }
 
+TEST_F(WorkArea1Test, AStatusThatCantBeStoredOrReadIsTold) {
+  testing::FailingFileSystem files(storage::RealFileSystem());
+  testing::ProgramRig failing(files);
+  const auto open = [&]() -> DocumentView& {
+    failing.Start();
+    failing.Get<shell::Startfrm>("Startfrm").begin.Click();
+    auto& form = failing.Get<WorkArea1>("WorkArea1");
+    dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
+    return form.document;
+  };
+  DocumentView& view = open();
+  view.status.Pick(2);
+  files.MakeReadOnly();
+  failing.dialogs.Expect("Not Saved",
+                         "The status could not be saved: the disk is read-only.\n"
+                         "The one before stays.");
+  view.status.Pick(3);
+  EXPECT_EQ(view.status.text(), "Working");
+
+  files.MakeReadOnly(false);
+  const std::string path = failing.temporary.path() + "/Stat1.Fil";
+  std::filesystem::remove(path);
+  std::filesystem::create_directory(path);
+  DocumentView& locked = open();
+  EXPECT_EQ(locked.status.text(), "Can't be read");
+  EXPECT_FALSE(locked.status.enabled());
+  EXPECT_EQ(failing.navigator().top()->status(),
+            "The status of the documents can't be read: something else has the name of its file.");
+}
+
+TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
+  constexpr forms::Color kBlue = 0xC08040;
+  Open();
+  const auto choose = [&] {
+    rig.dialogs.Expect("Panel Color",
+                       "Select New Color or Use System Default Color?\n"
+                       "Yes = Color Selection Panel will appear.\n"
+                       "No = Current System Default Color will be selected.",
+                       Answer::kYes);
+    rig.dialogs.ExpectColor(kBlue);
+    rig.ClickMenu("mOC");
+    EXPECT_EQ(hub().colors.panel(), kBlue);
+  };
+  const auto stored = [&] {
+    return settings::ReadPanelColor(rig.folder, settings::PanelColor::kWorkArea).color();
+  };
+  const auto leave = [&](Answer answer) {
+    rig.dialogs.Expect("Color Changes", "Save changes made to Panel and or Text Color?", answer);
+    hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+    EXPECT_EQ(rig.top(), "ToolsandInfo1");
+  };
+  choose();
+  leave(Answer::kNo);
+  EXPECT_EQ(hub().colors.panel(), std::nullopt);
+  EXPECT_EQ(stored(), std::nullopt);
+
+  Open();
+  choose();
+  leave(Answer::kYes);
+  EXPECT_EQ(stored(), kBlue);
+
+  settings::WritePanelColor(rig.folder, settings::PanelColor::kWorkArea, {});
+  Open();
+  choose();
+  Press("SSCommand14(0)");
+  ExpectSaved();
+  hub().document.save.Click();
+  EXPECT_EQ(stored(), kBlue);
+  EXPECT_FALSE(hub().colors.changed());
+}
+
 TEST_F(WorkArea1Test, TheRecoveryPlanIsExplainedUntilThereIsOne) {
   rig.temporary.Write("DRPln1.Fl2", "");
   rig.temporary.Write("Misc60.Fl1", Rtf("About plans"));
@@ -375,6 +448,36 @@ TEST_F(WorkArea1Test, TheSearchGoesFromMarkToMarkAndBeginsAgain) {
   find();
   EXPECT_EQ(text.selection().from.paragraph, 1);
   EXPECT_EQ(Shown(), "By Ann Lee and\nthe " + mark + " of it");
+}
+
+TEST_F(WorkArea1Test, EveryMarkIsFoundWhateverIsTypedOverTheOneBefore) {
+  std::ifstream supplied(TARNWELL_SOURCE_DIR "/data/EmployPolicy5.Fl1", std::ios::binary);
+  rig.temporary.Write("EmployPolicy5.Fl1",
+                      std::string(std::istreambuf_iterator<char>(supplied), {}));
+  Open();
+  Press("SSCommand14(5)");
+  auto& view = hub().document;
+  for (const std::string typed : {"Lee", "", "One line\nand one more", "x", "<60>"}) {
+    SCOPED_TRACE(typed);
+    if (!view.text.IsBlank())
+      rig.dialogs.Expect("Insert Template", kTemplateQuestion, Answer::kYes);
+    view.insert_template.Click();
+    int found = 0;
+    for (; view.tools.find_mark.Click(), !view.text.selection().empty(); ++found) {
+      ASSERT_EQ(view.text.SelectedText(), kInsertionMark);
+      if (typed.empty()) {
+        view.text.Erase(view.text.selection());
+      } else {
+        for (const char letter : typed == "<60>" ? std::string(60, 'w') : typed) {
+          view.text.Type({&letter, 1});
+        }
+      }
+      if (found == 34) {
+        rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
+      }
+    }
+    EXPECT_EQ(found, 35);
+  }
 }
 
 TEST_F(WorkArea1Test, FontAndAlignmentChangeTheSelectionAndAreUnsaved) {
