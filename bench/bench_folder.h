@@ -13,8 +13,10 @@
 namespace tarnwell::bench {
 
 // The bare side must really have done its work, else the ratio means nothing.
-inline void Check(bool worked, const char* what) {
-  if (worked) return;
+// Takes a bool or an outcome.
+template <typename Result>
+void Check(const Result& worked, const char* what) {
+  if (static_cast<bool>(worked)) return;
   std::perror(what);
   std::exit(2);
 }

@@ -12,6 +12,12 @@
 namespace tarnwell::desktop {
 namespace {
 
+QtMessageHandler messages_of_qt = nullptr;
+
+void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (!text.contains(QStringLiteral("XDG_RUNTIME_DIR"))) messages_of_qt(type, context, text);
+}
+
 void TellWhyNotStarted(const SingleInstance& instance, const QString& folder) {
   const QString title = QStringLiteral("Tarnwell");
   if (instance.is_in_use()) {
@@ -30,6 +36,8 @@ void TellWhyNotStarted(const SingleInstance& instance, const QString& folder) {
 }
 
 }  // namespace
+
+void QuietQt() { messages_of_qt = qInstallMessageHandler(PassOn); }
 
 void Prepare(QApplication& application) {
   QApplication::setApplicationName(QStringLiteral("Tarnwell"));

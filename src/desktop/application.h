@@ -8,6 +8,10 @@
 
 namespace tarnwell::desktop {
 
+// Before the application is made: Qt then keeps to itself that the machine has no run-time
+// directory, which it would warn of at the start.
+void QuietQt();
+
 // The program's name and look. The program ends when its forms say so, not with its last window:
 // between two forms none may be open.
 void Prepare(QApplication& application);

@@ -1,5 +1,7 @@
 #include "desktop/desktop.h"
 
+#include <QAbstractEventDispatcher>
+
 #include "desktop/services/dictionary_folders.h"
 #include "desktop/views/registry.h"
 
@@ -20,6 +22,9 @@ Desktop::Desktop(const Folders& folders)
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
                 speller_, thesaurus_}) {
   window_.Follow(program_.navigator());
+  // The program has done what it was asked, and waits.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   &window_, [this] { folder_.CloseNote(); });
 }
 
 void Desktop::Start() { program_.Start(); }

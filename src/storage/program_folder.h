@@ -57,6 +57,9 @@ class ProgramFolder {
   // the middle, leaves the old or the new bytes, perhaps only after Recover. A full or failing disk
   // on which a write can't be guarded so gets none.
   bool WriteAt(File& file, std::string_view name, std::uint64_t offset, std::string_view bytes);
+  // Before the user's next gesture: no file is open then. Writes that come soon behind each other
+  // share one note, whose file stays open until this.
+  void CloseNote() { redo_note_.Close(); }
   // A missing file is no error; supplied files are never touched.
   Outcome Delete(std::string_view name);
   Outcome Copy(std::string_view source, std::string_view target);

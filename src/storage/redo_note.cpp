@@ -55,17 +55,17 @@ std::size_t RedoNote::InFirstPage(std::uint64_t offset, std::size_t size) {
 
 bool RedoNote::Set(std::string_view file, std::uint64_t offset, std::string_view bytes) {
   if (bytes.size() > kLongestText || end_ > kLongestFile) return true;
-  file_ = files_.Open(path_, OpenMode::kCreate);
+  if (!file_) file_ = files_.Open(path_, OpenMode::kCreate);
+  is_set_ = file_ != nullptr;
   return file_ && file_->WriteAt(end_, Pack(++number_, file, offset, bytes));
 }
 
 void RedoNote::Clear() {
-  if (file_) Strike(*file_, end_);
-  file_.reset();
+  if (std::exchange(is_set_, false)) Strike(*file_, end_);
 }
 
 void RedoNote::BrokeOff(std::string_view file, std::uint64_t offset, std::string_view bytes) {
-  if (!std::exchange(file_, nullptr)) return;
+  if (!std::exchange(is_set_, false)) return;
   unfinished_.push_back({end_, {std::string(file), offset, std::string(bytes)}});
   end_ += Pack(number_, file, offset, bytes).size();
 }

@@ -15,7 +15,7 @@ namespace tarnwell::storage {
 // a write page by page, and a process that is killed stops between two pages: only a write that
 // spans pages can be torn, and its first part is always the one that was written. A write that the
 // disk broke off stays noted until its bytes, or newer ones, are in the file. The note's file is
-// open only from Set to Clear or BrokeOff.
+// open from the first Set to Close, or each note would cost as much as the write.
 class RedoNote {
  public:
   struct Write {
@@ -39,6 +39,9 @@ class RedoNote {
   // These bytes are in the file now: unfinished writes that they lie over don't come back.
   void Overwritten(std::string_view file, std::uint64_t offset, std::string_view bytes);
 
+  // No more writes for now.
+  void Close() { file_.reset(); }
+
   // At the start of the program: hands over the writes that were noted and not cleared, oldest
   // first, and keeps those for which `settle` gives false. Without any the note's file goes.
   void Settle(const std::function<bool(const Write&)>& settle);
@@ -57,6 +60,7 @@ class RedoNote {
   std::uint64_t number_ = 0;  // of the last note; 0 stands in one that was cleared
   std::uint64_t end_ = 0;     // where the next one goes
   std::unique_ptr<File> file_;
+  bool is_set_ = false;
   std::vector<Unfinished> unfinished_;
 };
 

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QTextBrowser>
 
+#include "desktop/application.h"
 #include "desktop/services/folders.h"
 #include "desktop/services/html_help_viewer.h"
 #include "desktop/services/message_dialogs.h"
@@ -130,6 +131,17 @@ TEST(HtmlHelpViewer, ShowsThePageOfAContextAndIgnoresAMissingOne) {
   EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
   viewer.Show(4711);
   EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
+}
+
+TEST(QuietQt, OnlyTheMissingRunTimeDirectoryIsPassedOver) {
+  static QStringList heard;
+  const auto before = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& text) { heard << text; });
+  QuietQt();
+  qWarning("QStandardPaths: XDG_RUNTIME_DIR not set, defaulting to '/tmp/runtime-user'");
+  qWarning("something else");
+  qInstallMessageHandler(before);
+  EXPECT_EQ(heard, QStringList{QStringLiteral("something else")});
 }
 
 // The environment names a run-time directory of the test's own.

@@ -147,10 +147,11 @@ TEST(RedoNoteTest, WhatIsNoNoteOfOursIsRemovedUnread) {
   }
 }
 
-TEST(RedoNoteTest, TheNoteIsClosedBehindEachWrite) {
+TEST(RedoNoteTest, TheNoteIsClosedBeforeTheNextGesture) {
   TemporaryFolder disk;
   ProgramFolder folder(RealFileSystem(), disk.path());
   ASSERT_TRUE(RecordFile(folder, "day.fil", kLength).PutStructure(kRecord, kNew));
+  folder.CloseNote();
   for (const auto& open : std::filesystem::directory_iterator("/proc/self/fd")) {
     std::error_code gone;
     EXPECT_NE(std::filesystem::read_symlink(open, gone), disk.path() + "/.tarnwell-redo");

@@ -34,10 +34,9 @@ QString SocketOf(const QString& folder) {
   return QStringLiteral("%1/tarnwell-%2").arg(directory, QString::fromLatin1(mark.left(16)));
 }
 
-bool IsSocket(const QString& path) {
+std::filesystem::file_status StatusOf(const QString& path) {
   std::error_code ignored;
-  return std::filesystem::is_socket(
-      std::filesystem::symlink_status(QFile::encodeName(path).toStdString(), ignored));
+  return std::filesystem::symlink_status(QFile::encodeName(path).toStdString(), ignored);
 }
 
 }  // namespace
@@ -46,13 +45,15 @@ SingleInstance::SingleInstance(const QString& folder)
     : socket_(SocketOf(folder)), attempt_(storage::FolderLock::TryTake(folder.toStdString())) {
   if (!first() || socket_.isEmpty()) return;
   // Whoever left a socket of this name has ended: the lock is ours. What isn't one stays.
-  if (IsSocket(socket_)) QLocalServer::removeServer(socket_);
+  const auto status = StatusOf(socket_);
+  if (std::filesystem::exists(status) && !std::filesystem::is_socket(status)) return;
+  QLocalServer::removeServer(socket_);
   server_.setSocketOptions(QLocalServer::UserAccessOption);
   server_.listen(socket_);
 }
 
 bool SingleInstance::CallFirst() const {
-  if (!IsSocket(socket_)) return false;
+  if (!std::filesystem::is_socket(StatusOf(socket_))) return false;
   QLocalSocket socket;
   socket.connectToServer(socket_);
   return socket.waitForConnected(kAnswerTimeMs);
