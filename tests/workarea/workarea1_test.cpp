@@ -1,62 +1,16 @@
 #include "workarea/workarea1.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
-#include "proofing/vsspell1.h"
-#include "proofing/vsthesaurus1.h"
-#include "richtext/plain_text.h"
-#include "richtext/rich_text_reader.h"
-#include "shell/startfrm.h"
-#include "support/failing_file_system.h"
 #include "support/format_page.h"
-#include "support/program_rig.h"
+#include "workarea/workarea_rig.h"
 
 namespace tarnwell::workarea {
 namespace {
 
 using forms::Answer;
-using ::testing::ElementsAre;
 
-constexpr const char* kSaveTitle = "Save Changes?";
-constexpr const char* kSaveText = "Save changes/entries before next action?";
-constexpr const char* kSaved = "File Save Command";
-constexpr const char* kTemplateQuestion =
-    "The program has detected an existing Agreement/Doc.\n"
-    "If you insert template and save file the existing file will be overwritten!\n"
-    "Insert new Template?";
-constexpr const char* kPlain = R"({\rtf1\ansi\deff0{\fonttbl{\f0 Times New Roman;}}\pard )";
-
-std::string Rtf(const std::string& text) { return kPlain + text + "\\par}\r\n"; }
-
-class WorkArea1Test : public ::testing::Test {
- protected:
-  void SetUp() override { rig.temporary.Write("DRPln1.Fl2", Rtf("Our plan")); }
-  void Open() {
-    rig.Start();
-    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
-    ASSERT_EQ(rig.top(), "WorkArea1");
-  }
-  WorkArea1& hub() { return rig.Get<WorkArea1>("WorkArea1"); }
-  forms::Command& Button(std::string_view name) {
-    return dynamic_cast<forms::Command&>(*hub().Find(name));
-  }
-  void Press(std::string_view name) { Button(name).Click(); }
-  std::string Shown() { return richtext::PlainText(hub().document.text.document()); }
-  std::string Stored(const std::string& file) {
-    return richtext::PlainText(richtext::ReadRichText(rig.temporary.Read(file)));
-  }
-  void ExpectSaveQuestion(Answer answer) { rig.dialogs.Expect(kSaveTitle, kSaveText, answer); }
-  void ExpectSaved() {
-    rig.dialogs.Expect(kSaved, "Document, Form, Policy, etc. Has Been Saved/Updated!");
-  }
-
-  testing::ProgramRig rig;
-};
+using WorkArea1Test = WorkAreaTest;
 
 TEST_F(WorkArea1Test, ADocumentIsStartedFromItsTemplateSavedAndFoundAgain) {
   rig.temporary.Write("EmployPolicy5.Fl1", Rtf("This agreement"));
@@ -136,98 +90,6 @@ TEST_F(WorkArea1Test, EveryWayOutOfAnUnsavedTextAsksToSaveIt) {
     EXPECT_FALSE(hub().document.unsaved());
     ASSERT_TRUE(rig.folder.Delete("EmployPolicy0.Fl2"));
   }
-}
-
-TEST_F(WorkArea1Test, ATextThatCantBeSavedStaysOnTheScreenUntilTheUserGivesItUp) {
-  testing::FailingFileSystem files(storage::RealFileSystem());
-  testing::ProgramRig full(files);
-  full.Start();
-  full.Get<shell::Startfrm>("Startfrm").begin.Click();
-  auto& form = full.Get<WorkArea1>("WorkArea1");
-  dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
-  form.document.text.Type("Precious");
-  files.MakeReadOnly();
-  const auto expect_refusal = [&] {
-    full.dialogs.Expect("Not Saved",
-                        "The text could not be saved: the disk is read-only.\n"
-                        "It is still on the screen.");
-  };
-  const auto expect_questions = [&](Answer leave) {
-    full.dialogs.Expect(kSaveTitle, kSaveText, Answer::kYes);
-    expect_refusal();
-    full.dialogs.Expect("Not Saved", "Leave without saving?", leave);
-  };
-  expect_refusal();
-  form.document.save.Click();
-  for (int i = 0; i < 3; ++i) expect_questions(Answer::kNo);
-  form.document.exit.Click();
-  form.main_buttons[forms::kEmployeeData].Click();
-  form.document.views.Pick(kCommentsText);
-  EXPECT_EQ(richtext::PlainText(form.document.text.document()), "Precious");
-  EXPECT_TRUE(form.document.unsaved());
-  EXPECT_EQ(form.main_buttons.selected(), forms::kCompanyData);
-  EXPECT_EQ(form.document.views.chosen(), kPolicyText);
-  expect_questions(Answer::kYes);
-  form.document.exit.Click();
-  EXPECT_TRUE(form.document.text.IsBlank());
-}
-
-TEST_F(WorkArea1Test, WhatCantBeReadIsNamedLockedAndLeftAsItIs) {
-  struct {
-    const char* file;
-    const char* area;
-    const char* button;
-    int view;
-  } const cases[] = {
-      {"EmployPolicy0.Fl2", "SSCommand11(2)", "SSCommand14(0)", kPolicyText},
-      {"EmployComment0.Fl2", "SSCommand11(2)", "SSCommand14(0)", kCommentsText},
-      {"EmployAction1.Fl2", "SSCommand11(2)", "SSCommand14(0)", kDisclaimerText},
-      {"DRPln1.Fl2", "SSCommand11(8)", nullptr, kPolicyText},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.file);
-    rig.temporary.Remove(c.file);
-    std::filesystem::create_directory(rig.temporary.path() + "/" + c.file);
-    Open();
-    Press(c.area);
-    if (c.button) Press(c.button);
-    auto& view = hub().document;
-    view.views.Pick(c.view);
-    EXPECT_EQ(Shown(),
-              "This text can't be read: something else has the name of its file.\n"
-              "Nothing will be written over it.");
-    EXPECT_TRUE(view.text.locked());
-    for (const forms::Command* command :
-         {&view.save, &view.insert_template, &view.print_options, &view.tools.find_mark}) {
-      EXPECT_FALSE(command->enabled()) << command->name();
-    }
-    view.text.Type("x");
-    EXPECT_FALSE(view.unsaved());
-    view.exit.Click();
-    EXPECT_EQ(Shown(), "");
-  }
-}
-
-TEST_F(WorkArea1Test, WithoutATemplateTheTextStaysAndTheUserIsTold) {
-  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Mine"));
-  std::filesystem::create_directory(rig.temporary.path() + "/EmployPolicy1.Fl1");
-  Open();
-  Press("SSCommand14(0)");
-  hub().document.text.Type("Still ");
-  ExpectSaved();
-  hub().document.save.Click();
-  rig.dialogs.Expect("Insert Template", "No template is supplied for this document.");
-  hub().document.insert_template.Click();
-  EXPECT_EQ(Shown(), "Still Mine");
-  EXPECT_FALSE(hub().document.unsaved());
-  EXPECT_TRUE(hub().document.text.CanUndo());
-
-  Press("SSCommand14(1)");
-  rig.dialogs.Expect("Can't Be Read",
-                     "The template can't be read: something else has the name of its file.\n"
-                     "Nothing will be written over it.");
-  hub().document.insert_template.Click();
-  EXPECT_FALSE(hub().document.unsaved());
 }
 
 TEST_F(WorkArea1Test, ATextStaysUnsavedAsLongAsItIsOnShow) {
@@ -310,36 +172,6 @@ TEST_F(WorkArea1Test, AStatusWordIsStoredAtOnceUnderItsDocument) {
   EXPECT_EQ(hub().document.status.text(), "Working");
   Press("SSCommand14(6)");
   EXPECT_EQ(hub().document.status.text(), " ");
-}
-
-TEST_F(WorkArea1Test, AStatusThatCantBeStoredOrReadIsTold) {
-  testing::FailingFileSystem files(storage::RealFileSystem());
-  testing::ProgramRig failing(files);
-  const auto open = [&]() -> DocumentView& {
-    failing.Start();
-    failing.Get<shell::Startfrm>("Startfrm").begin.Click();
-    auto& form = failing.Get<WorkArea1>("WorkArea1");
-    dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
-    return form.document;
-  };
-  DocumentView& view = open();
-  view.status.Pick(2);
-  files.MakeReadOnly();
-  failing.dialogs.Expect("Not Saved",
-                         "The status could not be saved: the disk is read-only.\n"
-                         "The one before stays.");
-  view.status.Pick(3);
-  EXPECT_EQ(view.status.text(), "Working");
-
-  files.MakeReadOnly(false);
-  const std::string path = failing.temporary.path() + "/Stat1.Fil";
-  std::filesystem::remove(path);
-  std::filesystem::create_directory(path);
-  DocumentView& locked = open();
-  EXPECT_EQ(locked.status.text(), "Can't be read");
-  EXPECT_FALSE(locked.status.enabled());
-  EXPECT_EQ(failing.navigator().top()->status(),
-            "The status of the documents can't be read: something else has the name of its file.");
 }
 
 TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
@@ -428,114 +260,6 @@ TEST_F(WorkArea1Test, TheRecoveryPlanIsExplainedUntilThereIsOne) {
   EXPECT_FALSE(Button("SSCommand11(8)").selected());
   enter();
   EXPECT_EQ(Shown(), "Sample plan");
-}
-
-TEST_F(WorkArea1Test, TheSearchGoesFromMarkToMarkAndBeginsAgain) {
-  const std::string mark(45, '&');
-  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("By " + mark + " and\\par the " + mark + " of it"));
-  Open();
-  Press("SSCommand14(0)");
-  auto& text = hub().document.text;
-  const auto find = [&] { hub().document.tools.find_mark.Click(); };
-  find();
-  EXPECT_EQ(text.selection(), (richtext::Range{{0, 3}, {0, 48}}));
-  text.Type("Ann Lee");
-  find();
-  EXPECT_EQ(text.SelectedText(), mark);
-  EXPECT_EQ(text.selection().from.paragraph, 1);
-  rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
-  find();
-  find();
-  EXPECT_EQ(text.selection().from.paragraph, 1);
-  EXPECT_EQ(Shown(), "By Ann Lee and\nthe " + mark + " of it");
-}
-
-TEST_F(WorkArea1Test, EveryMarkIsFoundWhateverIsTypedOverTheOneBefore) {
-  std::ifstream supplied(TARNWELL_SOURCE_DIR "/data/EmployPolicy5.Fl1", std::ios::binary);
-  rig.temporary.Write("EmployPolicy5.Fl1",
-                      std::string(std::istreambuf_iterator<char>(supplied), {}));
-  Open();
-  Press("SSCommand14(5)");
-  auto& view = hub().document;
-  for (const std::string typed : {"Lee", "", "One line\nand one more", "x", "<60>"}) {
-    SCOPED_TRACE(typed);
-    if (!view.text.IsBlank())
-      rig.dialogs.Expect("Insert Template", kTemplateQuestion, Answer::kYes);
-    view.insert_template.Click();
-    int found = 0;
-    for (; view.tools.find_mark.Click(), !view.text.selection().empty(); ++found) {
-      ASSERT_EQ(view.text.SelectedText(), kInsertionMark);
-      if (typed.empty()) {
-        view.text.Erase(view.text.selection());
-      } else {
-        for (const char letter : typed == "<60>" ? std::string(60, 'w') : typed) {
-          view.text.Type({&letter, 1});
-        }
-      }
-      if (found == 34) {
-        rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
-      }
-    }
-    EXPECT_EQ(found, 35);
-  }
-}
-
-TEST_F(WorkArea1Test, FontAndAlignmentChangeTheSelectionAndAreUnsaved) {
-  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("One\\par Two"));
-  Open();
-  Press("SSCommand14(0)");
-  auto& view = hub().document;
-  EXPECT_EQ(view.tools.alignment.chosen(), 0);
-  view.text.MoveSelection({{1, 0}, {1, 3}});
-  view.tools.alignment.Pick(1);
-  EXPECT_TRUE(view.unsaved());
-  rig.dialogs.ExpectFont(forms::Font{.name = "Arial", .size = 14, .bold = true});
-  view.tools.font.Click();
-  const auto& paragraph = std::get<richtext::Paragraph>(view.text.document().blocks[1]);
-  EXPECT_EQ(paragraph.format.alignment, richtext::Alignment::kCenter);
-  EXPECT_EQ(paragraph.runs[0].format.font, "Arial");
-  EXPECT_EQ(paragraph.runs[0].format.half_points, 28);
-  view.text.MoveSelection({{0, 0}, {0, 0}});
-  EXPECT_EQ(view.tools.alignment.chosen(), 0);
-}
-
-TEST_F(WorkArea1Test, TheSpellingIsCorrectedWhereItStandsInItsFormats) {
-  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("We {\\b recieve} a hous\\par and {\\i Hte} end"));
-  rig.speller.misspelled = {{"recieve", {}}, {"hous", {"house"}}, {"Hte", {}}};
-  Open();
-  Press("SSCommand14(0)");
-  rig.loop.during_modal = [&] {
-    EXPECT_EQ(hub().document.text.SelectedText(), "hous");
-    rig.Get<proofing::VSSpell1>("VSSpell1").change.Click();
-  };
-  rig.dialogs.Expect("Spell Check",
-                     "Spell Check has been canceled or has reached the end of your document");
-  hub().document.tools.spelling.Click();
-  EXPECT_EQ(Shown(), "We receive a house\nand The end");
-  EXPECT_EQ(hub().status(), "3 words corrected");
-  EXPECT_TRUE(hub().document.unsaved());
-  const auto& document = hub().document.text.document();
-  EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[0]).runs[1].format.bold);
-  EXPECT_TRUE(std::get<richtext::Paragraph>(document.blocks[1]).runs[1].format.italic);
-}
-
-TEST_F(WorkArea1Test, ASynonymTakesThePlaceOfTheHighlightedWord) {
-  rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Big, bold"));
-  rig.thesaurus.meanings["Big"] = {{"(adj) large", {"large", "huge (similar term)"}}};
-  Open();
-  Press("SSCommand14(0)");
-  rig.dialogs.Expect("Thesaurus", "Please highlight word you desire to look up!");
-  hub().document.tools.thesaurus.Click();
-
-  hub().document.text.MoveSelection({{0, 0}, {0, 5}});  // with the comma and the blank
-  rig.loop.during_modal = [&] {
-    auto& dialogue = rig.Get<proofing::VSThesaurus1>("VSThesaurus1");
-    dialogue.synonyms.Pick(1);
-    dialogue.replace.Click();
-  };
-  hub().document.tools.thesaurus.Click();
-  EXPECT_EQ(Shown(), "Huge, bold");
-  EXPECT_TRUE(hub().document.unsaved());
 }
 
 TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {

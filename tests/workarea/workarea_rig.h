@@ -1,0 +1,57 @@
+// The program with the hub on the screen, and a disaster recovery plan of the user's own.
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+#include "richtext/plain_text.h"
+#include "richtext/rich_text_reader.h"
+#include "shell/startfrm.h"
+#include "support/program_rig.h"
+#include "workarea/workarea1.h"
+
+namespace tarnwell::workarea {
+
+inline constexpr const char* kSaveTitle = "Save Changes?";
+inline constexpr const char* kSaveText = "Save changes/entries before next action?";
+inline constexpr const char* kSaved = "File Save Command";
+inline constexpr const char* kTemplateQuestion =
+    "The program has detected an existing Agreement/Doc.\n"
+    "If you insert template and save file the existing file will be overwritten!\n"
+    "Insert new Template?";
+
+inline std::string Rtf(const std::string& text) {
+  return R"({\rtf1\ansi\deff0{\fonttbl{\f0 Times New Roman;}}\pard )" + text + "\\par}\r\n";
+}
+
+class WorkAreaTest : public ::testing::Test {
+ protected:
+  void SetUp() override { rig.temporary.Write("DRPln1.Fl2", Rtf("Our plan")); }
+  void Open() {
+    rig.Start();
+    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    ASSERT_EQ(rig.top(), "WorkArea1");
+  }
+  WorkArea1& hub() { return rig.Get<WorkArea1>("WorkArea1"); }
+  forms::Command& Button(std::string_view name) {
+    return dynamic_cast<forms::Command&>(*hub().Find(name));
+  }
+  void Press(std::string_view name) { Button(name).Click(); }
+  std::string Shown() { return richtext::PlainText(hub().document.text.document()); }
+  std::string Stored(const std::string& file) {
+    return richtext::PlainText(richtext::ReadRichText(rig.temporary.Read(file)));
+  }
+  void ExpectSaveQuestion(forms::Answer answer) {
+    rig.dialogs.Expect(kSaveTitle, kSaveText, answer);
+  }
+  void ExpectSaved() {
+    rig.dialogs.Expect(kSaved, "Document, Form, Policy, etc. Has Been Saved/Updated!");
+  }
+
+  testing::ProgramRig rig;
+};
+
+}  // namespace tarnwell::workarea
