@@ -130,6 +130,21 @@ TEST_F(BoundWidgets, ChoicesFollowThePersonAndTheProgram) {
   EXPECT_TRUE(form_.active.checked());
 }
 
+TEST_F(BoundWidgets, AnOpenListShowsAllOfAFewEntriesAndScrollsThroughMany) {
+  auto* country = Find<QComboBox>("Combo1");
+  for (const int count : {1, 6, 12, 33}) {
+    form_.country.SetItems(std::vector<std::string>(static_cast<std::size_t>(count), "Gygjy"));
+    country->showPopup();
+    const QAbstractItemView* list = country->view();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list->isVisible(); }));
+    const int shown = std::min(count, 12);
+    const QRect last = list->visualRect(list->model()->index(shown - 1, 0));
+    EXPECT_TRUE(list->viewport()->rect().contains(last)) << count;
+    EXPECT_EQ(list->verticalScrollBar()->isVisible(), count > shown) << count;
+    country->hidePopup();
+  }
+}
+
 TEST_F(BoundWidgets, AListChangesOnlyUnderAPersonWhoWentIntoIt) {
   form_.country.SetItems({"France", "Spain", "Italy"});
   auto* country = Find<QComboBox>("Combo1");

@@ -12,11 +12,16 @@
 namespace tarnwell::desktop {
 namespace {
 
+constexpr int kMostShown = 12;  // entries of an open list before it scrolls
+
 // Picks only what a person meant. The wheel over a closed list scrolls the screen, not the choice,
 // and keys change it only for a person who went into it, by a click or with Tab.
 class DropDown : public QComboBox {
  public:
-  DropDown() { setFocusPolicy(Qt::StrongFocus); }
+  DropDown() {
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(kMostShown);
+  }
 
   void showPopup() override {
     entered_ = true;

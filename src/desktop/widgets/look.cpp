@@ -37,7 +37,7 @@ QPushButton[primary="true"]:disabled {
 }
 QPushButton[selected="true"] { background: #F4F5FF; color: #5555FF; border-color: #F4F5FF; }
 QPushButton[selected="true"]:focus { border: 2px solid #5555FF; }
-QComboBox { color: #1C2530; }
+QComboBox { color: #1C2530; combobox-popup: 0; }
 QLineEdit, QComboBox {
   background: #FFFFFF; border: 1px solid #AEB8C2; border-radius: 4px;
   padding: 3px 6px; min-height: 1.25em; selection-background-color: #1F5FBF;
