@@ -18,7 +18,8 @@ QWidget* Weekly(planner::RecurrenceChoice& choice) {
                 Column({Row({Widget(choice.modes.option(2)), NumberBox(choice.every_weeks),
                              Widget(choice.weeks_label), Spring()}),
                         Grid({{weekday(0), weekday(1), weekday(2), weekday(3)},
-                              {weekday(4), weekday(5), weekday(6)}})}));
+                              {weekday(4), weekday(5), weekday(6)}},
+                             3)}));
 }
 
 QWidget* Yearly(planner::RecurrenceChoice& choice) {

@@ -77,7 +77,10 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
   QWidget* side = ShownWhile(
       form.picker, [&form] { return form.picker.visible(); },
       Column({Widget(form.picker), Widget(form.clock), Spring()}));
-  return Padded(Row({side, Grow(in_turn)}, kWideSpace), kWideSpace);
+  QWidget* page = Row({side, Grow(in_turn)}, kWideSpace);
+  // The 14 rows need the height.
+  page->layout()->setContentsMargins(kWideSpace, kSpace, kWideSpace, kSpace);
+  return page;
 }
 
 }  // namespace tarnwell::desktop

@@ -23,6 +23,8 @@ const QColor kTodayRing(0xC0, 0x39, 0x2B);
 constexpr int kPaneGap = 14;
 constexpr int kMargin = 6;
 constexpr int kYearsAround = 10;
+// Of the window's width; the rest is for what stands beside.
+constexpr double kLargestShare = 0.4;
 
 QLocale English() { return QLocale(QLocale::English, QLocale::UnitedStates); }
 
@@ -49,19 +51,23 @@ struct MonthCalendar::Metrics {
   int week_number_width;
   int pane_width;
   int foot_height;
+  bool folded;
 
-  int PaneLeft(int pane) const { return kMargin + pane * (pane_width + kPaneGap); }
-  QRect Head(int pane) const { return {PaneLeft(pane), kMargin, pane_width, cell_height}; }
+  int PaneHeight() const { return (kWeeksOfSheet + 2) * cell_height; }
+  int PaneLeft(int pane) const { return kMargin + (folded ? 0 : pane * (pane_width + kPaneGap)); }
+  int PaneTop(int pane) const { return kMargin + (folded ? pane * (PaneHeight() + kPaneGap) : 0); }
+  QRect Head(int pane) const { return {PaneLeft(pane), PaneTop(pane), pane_width, cell_height}; }
   // Row 0 has the weekdays' names.
   QRect Cell(int pane, int row, int column) const {
     return {PaneLeft(pane) + week_number_width + column * cell_width,
-            kMargin + (row + 1) * cell_height, cell_width, cell_height};
+            PaneTop(pane) + (row + 1) * cell_height, cell_width, cell_height};
   }
   QRect WeekNumber(int pane, int row) const {
-    return {PaneLeft(pane), kMargin + (row + 1) * cell_height, week_number_width, cell_height};
+    return {PaneLeft(pane), PaneTop(pane) + (row + 1) * cell_height, week_number_width,
+            cell_height};
   }
-  QRect Foot() const {
-    return {kMargin, kMargin + (kWeeksOfSheet + 2) * cell_height, pane_width, foot_height};
+  QRect Foot(int panes) const {
+    return {kMargin, PaneTop(panes - 1) + PaneHeight(), pane_width, foot_height};
   }
   QRect Back() const { return {kMargin, kMargin, cell_height, cell_height}; }
   QRect Forth(int panes) const {
@@ -82,13 +88,30 @@ MonthCalendar::Metrics MonthCalendar::Measure() const {
   metrics.week_number_width = look_.week_numbers ? metrics.cell_width : 0;
   metrics.pane_width = metrics.week_number_width + kDaysOfWeek * metrics.cell_width;
   metrics.foot_height = look_.mark_today && today_ ? metrics.cell_height : 0;
+  const int unfolded = look_.months * (metrics.pane_width + kPaneGap);
+  metrics.folded = unfolded > window()->width() * kLargestShare;
   return metrics;
 }
 
 QSize MonthCalendar::sizeHint() const {
   const Metrics metrics = Measure();
-  return {2 * kMargin + look_.months * metrics.pane_width + (look_.months - 1) * kPaneGap,
-          2 * kMargin + (kWeeksOfSheet + 2) * metrics.cell_height + metrics.foot_height};
+  const int last = look_.months - 1;
+  return {metrics.PaneLeft(last) + metrics.pane_width + kMargin,
+          metrics.Foot(look_.months).top() + metrics.foot_height + kMargin};
+}
+
+void MonthCalendar::showEvent(QShowEvent* event) {
+  window()->installEventFilter(this);
+  updateGeometry();
+  QWidget::showEvent(event);
+}
+
+bool MonthCalendar::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == window() && event->type() == QEvent::Resize && size() != sizeHint()) {
+    updateGeometry();
+    update();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void MonthCalendar::Show(std::optional<text::Date> date, std::optional<text::Date> today,
@@ -171,7 +194,7 @@ void MonthCalendar::mousePressEvent(QMouseEvent* event) {
     const int shown = static_cast<int>(ShownMonth(pane).year());
     return OfferYears(shown, pane, [this, shown](int year) { TurnPages(12 * (year - shown)); });
   }
-  if (metrics.foot_height > 0 && metrics.Foot().contains(point)) return Pick(*today_);
+  if (metrics.foot_height > 0 && metrics.Foot(look_.months).contains(point)) return Pick(*today_);
   if (const auto day = DayAt(point)) Pick(*day);
 }
 
@@ -241,7 +264,7 @@ void MonthCalendar::PaintHead(QPainter& painter, int pane) const {
   painter.setPen(kInk);
   painter.drawText(metrics.Head(pane), Qt::AlignCenter, MonthTitle(ShownMonth(pane)));
   if (pane == 0) painter.drawText(metrics.Back(), Qt::AlignCenter, QStringLiteral("\u2039"));
-  if (pane == look_.months - 1) {
+  if (pane == (metrics.folded ? 0 : look_.months - 1)) {
     painter.drawText(metrics.Forth(look_.months), Qt::AlignCenter, QStringLiteral("\u203A"));
   }
   painter.setFont(font());
@@ -300,7 +323,7 @@ void MonthCalendar::PaintFoot(QPainter& painter) const {
   const Metrics metrics = Measure();
   if (metrics.foot_height == 0) return;
   painter.setPen(kAccent);
-  painter.drawText(metrics.Foot(), Qt::AlignCenter,
+  painter.drawText(metrics.Foot(look_.months), Qt::AlignCenter,
                    English().toString(ToQDate(*today_), QStringLiteral("'Today:' MM/dd/yyyy")));
 }
 

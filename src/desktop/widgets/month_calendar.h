@@ -9,7 +9,8 @@
 
 namespace tarnwell::desktop {
 
-// One or two months side by side. Arrow keys pick the days around, Page Up and Page Down the same
+// One or two months side by side, or below each other where these would take more than their share
+// of the window's width. Arrow keys pick the days around, Page Up and Page Down the same
 // day of the months around (with Ctrl: years), Home and End the month's first and last day,
 // Ctrl+Home today. The arrows in the head and the wheel turn the pages without picking. A click on
 // a month's title offers the years around; so does F4, which picks the same day of the year chosen.
@@ -29,6 +30,8 @@ class MonthCalendar : public QWidget {
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

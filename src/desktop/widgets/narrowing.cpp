@@ -1,4 +1,5 @@
 #include <QEvent>
+#include <QScrollBar>
 #include <QSplitter>
 
 #include "desktop/widgets/layout.h"
@@ -32,8 +33,16 @@ class Narrowing : public QSplitter {
  private:
   void ShareWidth() {
     if (moved_) return;
-    const int wanted = widget(0)->sizeHint().width();
+    const int wanted = WidthOfSide();
     setSizes({wanted, width() - wanted - handleWidth()});
+  }
+
+  // A side that is too high brings a scroll bar, which mustn't lie on its content.
+  int WidthOfSide() const {
+    const QSize wanted = widget(0)->sizeHint();
+    const auto* scrolled = qobject_cast<QAbstractScrollArea*>(widget(0));
+    if (!scrolled || wanted.height() <= height()) return wanted.width();
+    return wanted.width() + scrolled->verticalScrollBar()->sizeHint().width();
   }
 
   bool moved_ = false;

@@ -28,6 +28,11 @@ class Scroller : public QScrollArea {
   }
 
  protected:
+  // Qt's own forgets that a content which grows asks for more room.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == content_ && event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
   // The form's own keys go past the scroll bars, unless these are there.
   void keyPressEvent(QKeyEvent* event) override {
     const bool turns = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
