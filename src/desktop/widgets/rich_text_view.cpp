@@ -25,6 +25,7 @@ namespace {
 constexpr std::size_t kFirstWork = 400;   // the first screens
 constexpr std::size_t kMoreWork = 100;    // no longer than a frame of the screen
 constexpr std::size_t kWaitedFor = 5000;  // hardly more than a second
+constexpr std::size_t kMostAtOnce = 1000;  // paragraphs of a change
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
@@ -35,6 +36,13 @@ constexpr int kSheetMargin = 480;    // twips
 constexpr int kTableEdge = 2;        // pixels by which a table's borders are wider than its cells
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
+
+// What comes sooner in steps, as a document does.
+bool IsMuch(const std::vector<richtext::ChangedSpan>& spans) {
+  std::size_t blocks = 0;
+  for (const richtext::ChangedSpan& span : spans) blocks += span.blocks_before + span.blocks_after;
+  return blocks > kMostAtOnce;
+}
 
 // Asks the view for the pictures that it shows, and nobody for anything else.
 class ViewDocument : public ClosedDocument {
@@ -96,6 +104,9 @@ void RichTextView::Show() {
   known_ = box_.spans_made();
   if (!spans || (!spans->empty() && !renderer_.is_done())) {
     ShowAll();
+  } else if (IsMuch(*spans)) {
+    ShowAll();
+    scroll_requests_ = -1;
   } else if (!spans->empty()) {
     const int place = verticalScrollBar()->value();
     renderer_.Update(box_.document(), Formats(), *spans);
