@@ -40,11 +40,11 @@ class IdleThesaurus : public forms::Thesaurus {
 };
 
 class IdleFolders : public forms::FolderBrowser {
-  std::vector<std::string> Drives() override { return {}; }
+  std::vector<forms::Place> Places() override { return {}; }
   std::string ProgramPath() override { return {}; }
   std::optional<std::vector<std::string>> Folders(const std::string&) override { return {}; }
   std::optional<std::vector<std::string>> Files(const std::string&) override { return {}; }
-  bool WriteFile(const std::string&, std::string_view) override { return false; }
+  storage::Outcome WriteFile(const std::string&, std::string_view) override { return {}; }
 };
 
 }  // namespace tarnwell::bench

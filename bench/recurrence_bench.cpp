@@ -37,7 +37,7 @@ class Dialogs : public forms::Dialogs {
     return box.buttons == forms::Buttons::kOk ? forms::Answer::kOk : forms::Answer::kYes;
   }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
-  std::optional<forms::Font> ChooseFont(const forms::Font&) override { return std::nullopt; }
+  std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
 };
 class Window : public forms::Window {
   forms::Size screen() override { return {}; }

@@ -1,6 +1,7 @@
 #include "workarea/text_tools.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/form.h"
 #include "forms/message.h"
@@ -61,7 +62,7 @@ TextTools::TextTools(forms::Container& parent, forms::Context& context, forms::R
 void TextTools::StartSearch(std::string_view mark) {
   mark_ = mark;
   SearchFrom({});
-  text_.form().SetStatus({});  // what it says was about the text before
+  if (std::exchange(has_noted_, false)) text_.form().SetStatus({});  // that was the text before
   ShowAlignment();
 }
 
@@ -106,6 +107,7 @@ void TextTools::CheckSpelling() {
       {"Spell Check", "Spell Check has been canceled or has reached the end of your document",
        forms::Icon::kInformation});
   text_.form().SetStatus(proofing::CorrectedNote(corrected));
+  has_noted_ = true;
   text_.Focus();
 }
 

@@ -56,7 +56,7 @@ class CautiousDialogs : public forms::Dialogs {
     return forms::Answer::kCancel;
   }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
-  std::optional<forms::Font> ChooseFont(const forms::Font&) override { return std::nullopt; }
+  std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
 };
 
 // Leaves each modal form as soon as it is there, or lets it stand and comes back.
