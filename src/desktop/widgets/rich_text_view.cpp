@@ -164,11 +164,16 @@ void RichTextView::ShowSelection() {
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
   const bool is_astray = renderer_.IsFiller(textCursor().block());
-  if (is_astray || RangeOf(textCursor()) != box_.selection()) {
-    QTextCursor cursor(document());
-    cursor.setPosition(QtPositionOf(box_.selection().from));
-    cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+  QTextCursor cursor(document());
+  cursor.setPosition(QtPositionOf(box_.selection().from));
+  cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+  // All parts of a table, too, where a person's cursor reaches from one into another.
+  const bool is_all = textCursor().selectionStart() <= cursor.selectionStart() &&
+                      textCursor().selectionEnd() >= cursor.selectionEnd();
+  if (is_astray || !is_all || RangeOf(textCursor()) != box_.selection()) {
+    const int place = verticalScrollBar()->value();
     setTextCursor(cursor);
+    if (!is_all && !scrolls) verticalScrollBar()->setValue(place);
   }
   if (scrolls) ensureCursorVisible();
 }
@@ -244,7 +249,14 @@ int RichTextView::QtPositionOf(richtext::Position position) const {
 
 richtext::Range RichTextView::RangeOf(const QTextCursor& cursor) const {
   const richtext::Position from = PositionOf(cursor.selectionStart());
-  return {from, cursor.hasSelection() ? PositionOf(cursor.selectionEnd()) : from};
+  const richtext::Range range{from,
+                              cursor.hasSelection() ? PositionOf(cursor.selectionEnd()) : from};
+  if (!cursor.hasSelection()) return range;
+  const QTextBlock first = document()->findBlock(cursor.selectionStart());
+  const QTextBlock last = document()->findBlock(cursor.selectionEnd());
+  const bool is_astray = renderer_.IsFiller(first) || renderer_.IsFiller(last);
+  const bool is_in_one = QTextCursor(first).currentTable() == QTextCursor(last).currentTable();
+  return is_in_one && !is_astray ? range : WithWholeTables(box_.document(), range);
 }
 
 void RichTextView::TakeSelection() {
