@@ -266,7 +266,11 @@ void RichTextView::TakeSelection() {
     cursor.setPosition(BehindFiller(cursor.block()));
     return setTextCursor(cursor);
   }
-  box_.MoveSelection(RangeOf(cursor));
+  const richtext::Range range = RangeOf(cursor);
+  if (range != box_.selection()) return box_.MoveSelection(range);
+  // The box has nothing to tell, though Qt may show less of it.
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  ShowSelection();
 }
 
 // The cell that the cursor means between two parts of a table: the next one, or, up or down, the
