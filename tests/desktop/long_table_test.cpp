@@ -102,7 +102,8 @@ TEST_F(LongTableTest, WhatIsShownAsSelectedIsWhatIsEdited) {
       {kCells - 3, kCells, true},
   };
   std::vector<int> places(kCells + 1);  // of the cells, and of the line behind them
-  for (QTextBlock block = view_.document()->begin(); block.text() != QLatin1String("end"); block = block.next()) {
+  for (QTextBlock block = view_.document()->begin(); block.text() != QLatin1String("end");
+       block = block.next()) {
     const int cell = block.text().toInt();
     if (!block.text().isEmpty()) places[static_cast<std::size_t>(cell)] = block.position();
   }
