@@ -153,14 +153,8 @@ std::optional<std::vector<richtext::ChangedSpan>> RichTextBox::SpansFrom(std::si
 Position RichTextBox::InsertPlain(Editor& editor, Position at, std::string_view utf8,
                                   const Typing& typing) {
   const std::string text = richtext::TypedText(utf8);
-  std::string_view rest = text;
-  while (true) {
-    const std::size_t end = rest.find('\n');
-    at = editor.InsertText(at, richtext::WithLineBreaks(rest.substr(0, end)), typing);
-    if (end == std::string_view::npos) return at;
-    at = editor.BreakParagraph(at);
-    rest.remove_prefix(end + 1);
-  }
+  if (text.find('\n') != std::string::npos) return editor.InsertLines(at, text, typing);
+  return editor.InsertText(at, richtext::WithLineBreaks(text), typing);
 }
 
 CharacterFormat RichTextBox::StartFormat() const {

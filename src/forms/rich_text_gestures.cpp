@@ -90,6 +90,7 @@ void RichTextBox::Paste(const richtext::RichDocument& fragment) {
   if (!CanEdit() || fragment.blocks.empty()) return;
   richtext::RichDocument part = fragment;
   richtext::Detach(part);
+  richtext::PartLong(part);
   Tell(Do(StepKind::kOther, [&](Editor& editor) {
     const Position at = editor.Erase(selection_);
     const Position end = editor.Insert(at, std::move(part));

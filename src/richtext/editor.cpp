@@ -7,6 +7,7 @@
 #include "richtext/fragment.h"
 #include "richtext/list_numbering.h"
 #include "richtext/selection.h"
+#include "richtext/typed_text.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -21,6 +22,23 @@ bool HasSameLists(const Change& change) {
         const auto* const b = std::get_if<Paragraph>(&after);
         return a != nullptr && b != nullptr && a->format.list == b->format.list;
       });
+}
+
+void LeaveList(Paragraph& paragraph) {
+  paragraph.format.list.reset();
+  paragraph.format.left_indent = 0;
+  paragraph.format.first_line_indent = 0;
+}
+
+// The paragraph that begins where a person ends `paragraph`; a section's end goes with it.
+Paragraph NextLine(Paragraph& paragraph) {
+  Paragraph next;
+  next.format = paragraph.format;
+  next.mark = paragraph.mark;
+  next.section_break = std::exchange(paragraph.section_break, {});
+  next.format.page_break_before = false;
+  if (next.format.list) next.format.list->marker = CountedOn(next.format.list->marker, 1);
+  return next;
 }
 
 }  // namespace
@@ -66,6 +84,7 @@ void Editor::ShiftItemsBehind(std::size_t number) {
   first += change.after.size();
   const std::size_t end =
       behind.in_table ? CellAt(document_, behind).paragraphs.size() : document_.blocks.size();
+  const ItemShifts shifts(change.before, change.after);
   std::vector<Block> shifted;
   std::size_t changed = 0;
   int level = kLevels;
@@ -74,7 +93,7 @@ void Editor::ShiftItemsBehind(std::size_t number) {
     ListItem& item = *paragraph.format.list;
     // Below an item of a higher level another list begins.
     level = std::min(level, item.level);
-    const int shift = item.level == level ? ShiftOf(item, change.before, change.after) : 0;
+    const int shift = item.level == level ? shifts.Of(item) : 0;
     if (shift != 0) item.marker = CountedOn(item.marker, shift);
     shifted.emplace_back(std::move(paragraph));
     if (shift != 0) changed = shifted.size();
@@ -157,34 +176,48 @@ Position Editor::InsertText(Position at, std::string_view utf8, const Typing& ty
 
 Position Editor::BreakParagraph(Position at) {
   const Place place = FindPlace(document_, at.paragraph);
-  Paragraph head = CopyAt(place);
-  if (at == Position{} && place.in_table) {
-    Paragraph before;
-    before.mark = head.mark;
-    Replace({0}, 0, {std::move(before)});
-    return {};
+  if (at != Position{} || !place.in_table) return InsertLines(at, "\n", {});
+  Paragraph before;
+  before.mark = CopyAt(place).mark;
+  Replace({0}, 0, {std::move(before)});
+  return {};
+}
+
+Position Editor::InsertLines(Position at, std::string_view utf8, const Typing& typing) {
+  while (at == Position{} && utf8.starts_with('\n') && FindPlace(document_, 0).in_table) {
+    at = BreakParagraph(at);
+    utf8.remove_prefix(1);
   }
-  if (head.format.list && ShownLength(head) == 0) {
-    EndList(at);
-    return at;
+  const Place place = FindPlace(document_, at.paragraph);
+  Paragraph line = CopyAt(place);
+  SplitRuns parts = Split(line.runs, at.offset);
+  const bool has_rest = ShownLength(line) > at.offset;
+  line.runs = std::move(parts.head);
+  std::vector<Block> lines;
+  while (true) {
+    const std::size_t end = utf8.find('\n');
+    std::string text = WithLineBreaks(utf8.substr(0, end));
+    if (!text.empty()) AppendRuns({{typing.format, std::move(text), typing.field}}, line.runs);
+    if (end == std::string_view::npos) break;
+    utf8.remove_prefix(end + 1);
+    if (line.format.list && !has_rest && ShownLength(line) == 0) {
+      LeaveList(line);
+    } else {
+      Paragraph next = NextLine(line);
+      lines.emplace_back(std::exchange(line, std::move(next)));
+    }
   }
-  Paragraph tail = head;
-  SplitRuns parts = Split(head.runs, at.offset);
-  head.runs = std::move(parts.head);
-  tail.runs = std::move(parts.tail);
-  head.section_break.clear();
-  tail.format.page_break_before = false;
-  if (tail.format.list) tail.format.list->marker = CountedOn(head.format.list->marker, 1);
-  Replace(place, CountAt(place), {std::move(head), std::move(tail)});
-  return {at.paragraph + 1, 0};
+  at = {at.paragraph + static_cast<int>(lines.size()), ShownLength(line)};
+  AppendRuns(std::move(parts.tail), line.runs);
+  lines.emplace_back(std::move(line));
+  Replace(place, CountAt(place), std::move(lines));
+  return at;
 }
 
 void Editor::EndList(Position at) {
   const Place place = FindPlace(document_, at.paragraph);
   Paragraph paragraph = CopyAt(place);
-  paragraph.format.list.reset();
-  paragraph.format.left_indent = 0;
-  paragraph.format.first_line_indent = 0;
+  LeaveList(paragraph);
   Replace(place, 1, {std::move(paragraph)});
 }
 

@@ -28,6 +28,8 @@ class Editor {
 
   // One line of text. Each of these gives the position behind what was inserted.
   Position InsertText(Position at, std::string_view utf8, const Typing& typing);
+  // Several, parted by "\n", at one go; each line end does what BreakParagraph does.
+  Position InsertLines(Position at, std::string_view utf8, const Typing& typing);
   // Begins a new paragraph, or ends the list in an item that is empty. At the very beginning of a
   // document that begins with a table, the new paragraph stands before the table.
   Position BreakParagraph(Position at);

@@ -4,11 +4,13 @@
 #include <iterator>
 #include <utility>
 
+#include "richtext/limits.h"
 #include "richtext/list_words.h"
 #include "richtext/paragraphs.h"
 #include "richtext/run_edit.h"
 #include "richtext/runs.h"
 #include "richtext/selection.h"
+#include "richtext/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -149,6 +151,23 @@ void Detach(RichDocument& fragment) {
     if (auto* const table = std::get_if<Table>(&block)) Detach(*table);
   }
   SettleFields(fragment);
+}
+
+void PartLong(RichDocument& fragment) {
+  std::vector<Block> blocks;
+  for (Block& block : fragment.blocks) {
+    auto* const paragraph = std::get_if<Paragraph>(&block);
+    while (paragraph != nullptr && ShownLength(*paragraph) > static_cast<int>(kLongestPasted)) {
+      const std::size_t end = CharacterStart(ShownText(*paragraph), kLongestPasted);
+      SplitRuns parts = Split(paragraph->runs, static_cast<int>(end));
+      paragraph->runs = std::move(parts.head);
+      blocks.emplace_back(*paragraph);
+      paragraph->runs = std::move(parts.tail);
+      paragraph->format.page_break_before = false;
+    }
+    blocks.push_back(std::move(block));
+  }
+  fragment.blocks = std::move(blocks);
 }
 
 std::vector<Block> WithoutTables(std::vector<Block> blocks) {

@@ -18,6 +18,9 @@ RichDocument Slice(const RichDocument& document, const Range& range);
 // lists, words outside the model, what isn't shown. Fonts are named where they were the default.
 void Detach(RichDocument& fragment);
 
+// Parts the paragraphs that are longer than kLongestPasted; those of tables stay.
+void PartLong(RichDocument& fragment);
+
 // A row of a table as a paragraph, tabs between its cells.
 std::vector<Block> WithoutTables(std::vector<Block> blocks);
 

@@ -13,6 +13,8 @@ inline constexpr std::size_t kMostText = 5'000'000;      // bytes of UTF-8, some
 // Of one paragraph, which is laid out at one go: bytes of its text, some 15 pages, and runs.
 inline constexpr std::size_t kLongestParagraph = 50'000;
 inline constexpr std::size_t kMostRunsOfParagraph = 5'000;
+// What is pasted parts into paragraphs no longer than this, which leaves room to go on in each.
+inline constexpr std::size_t kLongestPasted = kLongestParagraph / 2;
 // In a row of a table or a cell of it, which is laid out as a whole too.
 inline constexpr std::size_t kLongestRow = 5'000;  // paragraphs
 // Words, groups and pieces of text, most of which say nothing in a file that has more.

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 
 namespace tarnwell::richtext {
 namespace {
 
+constexpr int kLeast = std::numeric_limits<int>::min();
 constexpr int kMostNumber = 1'000'000;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -40,19 +42,16 @@ const ListItem* ItemOf(const Block& block) {
   return paragraph != nullptr && paragraph->format.list ? &*paragraph->format.list : nullptr;
 }
 
-int CountLike(const ListItem& item, const std::vector<Block>& blocks) {
-  return static_cast<int>(std::ranges::count_if(blocks, [&item](const Block& block) {
-    const ListItem* const other = ItemOf(block);
-    return other != nullptr && CountTogether(item, *other);
-  }));
-}
-
 // The marker with its counting part cut out, to compare by.
 std::string Shape(const std::string& marker) {
   const Counter counter = FindCounter(marker);
   std::string shape = marker;
   const bool is_letter = counter.size > 0 && !IsDigit(marker[counter.begin]);
   return shape.replace(counter.begin, counter.size, is_letter ? "a" : "1");
+}
+
+std::tuple<int, int, std::string> KindOf(const ListItem& item) {
+  return {item.level, item.list_number, Shape(item.marker)};
 }
 
 }  // namespace
@@ -73,28 +72,35 @@ std::string CountedOn(const std::string& marker, int by) {
   return std::string(marker).replace(counter.begin, counter.size, counted);
 }
 
-bool CountTogether(const ListItem& a, const ListItem& b) {
-  return a.numbered && b.numbered && a.level == b.level && a.list_number == b.list_number &&
-         Shape(a.marker) == Shape(b.marker);
-}
-
 void NumberAnew(std::vector<Block>& blocks) {
-  for (std::size_t i = 1; i < blocks.size(); ++i) {
-    const ListItem* const item = ItemOf(blocks[i]);
-    if (item == nullptr) continue;
-    for (std::size_t k = i; k-- > 0;) {
-      const ListItem* const before = ItemOf(blocks[k]);
-      if (before == nullptr || before->level < item->level) break;
-      if (!CountTogether(*before, *item)) continue;
-      std::get<Paragraph>(blocks[i]).format.list->marker = CountedOn(before->marker, 1);
-      break;
-    }
+  // The last marker of each kind that goes on; a higher level or other text ends those below it.
+  std::map<std::tuple<int, int, std::string>, std::string> last;
+  for (Block& block : blocks) {
+    const ListItem* const item = ItemOf(block);
+    const int ended = item == nullptr ? 0 : item->level + 1;
+    last.erase(last.lower_bound({ended, kLeast, {}}), last.end());
+    if (item == nullptr || !item->numbered) continue;
+    std::string& marker = std::get<Paragraph>(block).format.list->marker;
+    const auto [before, is_first] = last.try_emplace(KindOf(*item), marker);
+    if (!is_first) before->second = marker = CountedOn(before->second, 1);
   }
 }
 
-int ShiftOf(const ListItem& item, const std::vector<Block>& before,
-            const std::vector<Block>& after) {
-  return item.numbered ? CountLike(item, after) - CountLike(item, before) : 0;
+ItemShifts::ItemShifts(const std::vector<Block>& before, const std::vector<Block>& after) {
+  const auto count = [this](const std::vector<Block>& blocks, int by) {
+    for (const Block& block : blocks) {
+      const ListItem* const item = ItemOf(block);
+      if (item != nullptr && item->numbered) shifts_[KindOf(*item)] += by;
+    }
+  };
+  count(before, -1);
+  count(after, 1);
+}
+
+int ItemShifts::Of(const ListItem& item) const {
+  if (!item.numbered) return 0;
+  const auto shift = shifts_.find(KindOf(item));
+  return shift == shifts_.end() ? 0 : shift->second;
 }
 
 }  // namespace tarnwell::richtext

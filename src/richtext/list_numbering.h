@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "richtext/rich_document.h"
@@ -14,14 +16,18 @@ namespace tarnwell::richtext {
 // numbers, stay as they are.
 std::string CountedOn(const std::string& marker, int by);
 
-// Items of one list, on one level, that count in the same way.
-bool CountTogether(const ListItem& a, const ListItem& b);
-
 // Makes items count on from those before them in `blocks`; the first of each kind stays.
 void NumberAnew(std::vector<Block>& blocks);
 
-// How many numbers `item`, which stands behind what was replaced, has to be moved by.
-int ShiftOf(const ListItem& item, const std::vector<Block>& before,
-            const std::vector<Block>& after);
+// How many numbers an item that stands behind what was replaced has to be moved by.
+class ItemShifts {
+ public:
+  ItemShifts(const std::vector<Block>& before, const std::vector<Block>& after);
+  int Of(const ListItem& item) const;
+
+ private:
+  // Of items of one list, on one level, that count in the same way.
+  std::map<std::tuple<int, int, std::string>, int> shifts_;
+};
 
 }  // namespace tarnwell::richtext

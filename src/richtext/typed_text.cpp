@@ -1,5 +1,6 @@
 #include "richtext/typed_text.h"
 
+#include "richtext/limits.h"
 #include "richtext/utf8.h"
 
 namespace tarnwell::richtext {
@@ -17,6 +18,7 @@ bool IsControl(char32_t character) {
 
 std::string TypedText(std::string_view utf8) {
   std::string text;
+  std::size_t line = 0;  // where it begins
   while (!utf8.empty()) {
     const bool is_pair = utf8.starts_with("\r\n");
     if (is_pair) utf8.remove_prefix(1);
@@ -24,7 +26,12 @@ std::string TypedText(std::string_view utf8) {
     if (character == '\r' || character == kParagraphSeparator) character = '\n';
     const bool is_kept = character == '\n' || character == '\t' || character == '\f';
     if (is_kept || (!IsControl(character) && character != kPictureCharacter)) {
+      if (character != '\n' && text.size() - line >= kLongestPasted) {
+        text += '\n';
+        line = text.size();
+      }
       AppendUtf8(character, text);
+      if (character == '\n') line = text.size();
     }
   }
   return text;

@@ -8,6 +8,7 @@
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/rich_text_view.h"
 #include "richtext/rich_text_reader.h"
+#include "richtext/selection.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -85,6 +86,57 @@ TEST_F(LongTableTest, ShowsWhatIsTypedBehindAParagraphThatCame) {
   box_.Type("a\nb");
   box_.Select({{kCells - 1, 0}, {kCells - 1, 9}});
   EXPECT_EQ(view_.textCursor().selectedText().toStdString(), std::to_string(kCells - 2));
+}
+
+// A selection over a part's edge is shown and edited as the whole table.
+TEST_F(LongTableTest, WhatIsShownAsSelectedIsWhatIsEdited) {
+  const struct {
+    int from;
+    int to;
+    bool is_all;
+  } cases[] = {
+      {3, 8, false},
+      {kPart - 3, kPart + 3, true},
+      {kPart + 3, kPart - 3, true},
+      {kPart + 7, 3 * kPart + 3, true},
+      {kCells - 3, kCells, true},
+  };
+  std::vector<int> places(kCells + 1);  // of the cells, and of the line behind them
+  for (QTextBlock block = view_.document()->begin(); block.text() != QLatin1String("end");
+       block = block.next()) {
+    const int cell = block.text().toInt();
+    if (!block.text().isEmpty()) places[static_cast<std::size_t>(cell)] = block.position();
+  }
+  places.back() = view_.document()->lastBlock().position();
+  const auto place = [&places](int cell) { return places[static_cast<std::size_t>(cell)]; };
+  for (const auto& c : cases) {
+    QTextCursor cursor(view_.document());
+    cursor.setPosition(place(c.from));
+    cursor.setPosition(place(c.to), QTextCursor::KeepAnchor);
+    view_.setTextCursor(cursor);
+    const auto edited = richtext::SelectedBy(box_.document(), box_.selection());
+    EXPECT_EQ(edited.Holds({0, 0}) && edited.Holds({kCells - 1, 0}), c.is_all) << c.from;
+    const QTextCursor shown = view_.textCursor();
+    const bool shows_all =
+        shown.selectionStart() <= place(0) && shown.selectionEnd() >= place(kCells - 1);
+    EXPECT_EQ(shows_all, c.is_all) << c.from;
+  }
+}
+
+TEST_F(LongTableTest, ALongChangeComesInSteps) {
+  constexpr int kLines = 8000;
+  const auto shown = [this] { return view_.document()->lastBlock().text().toStdString(); };
+  const auto caret = [this] { return view_.textCursor().block().text().toStdString(); };
+  box_.SetDocument({});
+  std::string lines;
+  for (int i = 0; i < kLines; ++i) lines += "line\n";
+  box_.Type(lines + "end");
+  EXPECT_LT(view_.document()->blockCount(), kLines);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return shown() == "end"; }));
+  EXPECT_EQ(view_.document()->blockCount(), kLines + 1);
+  EXPECT_EQ(caret(), "end");
+  box_.Undo();
+  EXPECT_EQ(view_.document()->blockCount(), 1);
 }
 
 }  // namespace

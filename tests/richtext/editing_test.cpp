@@ -96,6 +96,28 @@ TEST(Breaking, AParagraphPartsAndAListGoesOn) {
   }
 }
 
+// A long paste is one change, not one for each line.
+TEST(Breaking, LinesDoWhatEachOfThemWouldAtOneGo) {
+  for (const char* before : {"", "abc", "a{}b", "1.>a|2.>c|d", "1.>|2.>c", "[a,b]|c", "$a$"}) {
+    for (const char* lines : {"x\ny", "\n", "x\n", "\nx", "x\n\ny", "\n\n\n", "x\n\n\ny\nz"}) {
+      for (const Position at : {Position{0, 0}, Position{0, 1}, Position{1, 0}}) {
+        RichDocument at_once = FromSketch(before);
+        RichDocument one_by_one = at_once;
+        Editor editor(at_once);
+        Editor steps(one_by_one);
+        const Position from = Clamped(at_once, at);
+        Position to = from;
+        for (const char* c = lines; *c != '\0'; ++c) {
+          to = *c == '\n' ? steps.BreakParagraph(to) : steps.InsertText(to, {c, 1}, {});
+        }
+        EXPECT_EQ(editor.InsertLines(from, lines, {}), to) << before << " + " << lines;
+        EXPECT_EQ(Sketch(at_once), Sketch(one_by_one)) << before << " + " << lines;
+        EXPECT_LE(editor.changes().size(), 2U + (from == Position{})) << before << " + " << lines;
+      }
+    }
+  }
+}
+
 TEST(Selecting, CellsAreTheOnesThatAGridHasBetweenTheTwo) {
   const std::string rtf =
       "{\\rtf1\\trowd\\cellx1000\\cellx2000\\cellx3000\\pard\\intbl a\\cell b\\cell c\\cell\\row"

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "richtext/fragment.h"
 #include "richtext/paragraphs.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
+#include "richtext/typed_text.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -76,6 +78,22 @@ TEST(Limits, TheBeginningIsShownUpToAWholeCharacter) {
   const RichDocument document = ReadRichText(rtf);
   EXPECT_TRUE(document.is_part);
   EXPECT_EQ(PlainText(document), "a" + Times(kLongestParagraph / 2 - 1, "é"));
+}
+
+TEST(Limits, APastedParagraphIsPartedAndLosesNothing) {
+  const std::string word = "a" + Times(kLongestParagraph, "é");
+  RichDocument fragment;
+  fragment.blocks.emplace_back().emplace<Paragraph>().runs = {{{}, word, kNoField}};
+  PartLong(fragment);
+  for (std::string text : {PlainText(fragment), TypedText(word)}) {
+    for (std::string_view rest = text; !rest.empty();) {
+      const std::size_t end = std::min(rest.find('\n'), rest.size());
+      EXPECT_LE(end, kLongestPasted + 1);
+      rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    std::erase(text, '\n');
+    EXPECT_EQ(text, word);
+  }
 }
 
 }  // namespace

@@ -30,7 +30,8 @@ class RandomEdits {
         editor.Erase(range);
         break;
       case 1:
-        editor.BreakParagraph(at);
+        editor.InsertLines(at, Below(2) == 0 ? "\n" : "é\n\nx",
+                           TypingAt(ParagraphAt(document_, at.paragraph), at.offset));
         break;
       case 2:
         editor.Insert(at, Slice(document_, SomeRange()));

@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "desktop/widgets/closed_document.h"
+#include "desktop/widgets/html_lists.h"
 #include "richtext/limits.h"
 
 namespace tarnwell::desktop {
@@ -71,8 +72,14 @@ std::optional<richtext::ListItem> ItemOf(const QTextBlock& block) {
   richtext::ListItem item;
   item.level = std::clamp(list->format().indent() - 1, 0, kMostLevel);
   item.numbered = list->format().style() <= QTextListFormat::ListDecimal;
-  item.marker = item.numbered ? list->itemText(block).toStdString() : "\u2022";
+  item.marker = item.numbered ? MarkerOf(*list, block).toStdString() : "\u2022";
   return item;
+}
+
+// Whether the block's list was begun anew right before it, where the page's list just goes on.
+bool GoesOn(const QTextBlock& block) {
+  const QTextList* const list = block.textList();
+  return list != nullptr && ItemsBefore(*list) > 0 && list->item(0) == block;
 }
 
 richtext::ParagraphFormat ParagraphOf(const QTextBlock& block) {
@@ -84,8 +91,8 @@ richtext::ParagraphFormat ParagraphOf(const QTextBlock& block) {
   if (alignment & Qt::AlignJustify) out.alignment = richtext::Alignment::kJustify;
   out.left_indent = Twips(format.leftMargin()) + format.indent() * 2 * kTwipsPerLevel;
   out.right_indent = Twips(format.rightMargin());
-  out.space_before = Twips(format.topMargin());
-  out.space_after = Twips(format.bottomMargin());
+  out.space_before = GoesOn(block) ? 0 : Twips(format.topMargin());
+  out.space_after = GoesOn(block.next()) ? 0 : Twips(format.bottomMargin());
   out.list = ItemOf(block);
   if (out.list) {
     out.left_indent = (out.list->level + 1) * 2 * kTwipsPerLevel;
@@ -206,7 +213,7 @@ void DropEmptyEnds(std::vector<richtext::Block>& blocks) {
 
 richtext::RichDocument HtmlFragment(const QString& html) {
   ClosedDocument page;
-  page.setHtml(html);
+  page.setHtml(WithShortLists(html));
   richtext::RichDocument fragment;
   AddBlocks(page.rootFrame()->begin(), fragment.blocks);
   DropEmptyEnds(fragment.blocks);

@@ -25,6 +25,7 @@ namespace {
 constexpr std::size_t kFirstWork = 400;   // the first screens
 constexpr std::size_t kMoreWork = 100;    // no longer than a frame of the screen
 constexpr std::size_t kWaitedFor = 5000;  // hardly more than a second
+constexpr std::size_t kMostAtOnce = 1000;  // paragraphs of a change
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
@@ -35,6 +36,13 @@ constexpr int kSheetMargin = 480;    // twips
 constexpr int kTableEdge = 2;        // pixels by which a table's borders are wider than its cells
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
+
+// What comes sooner in steps, as a document does.
+bool IsMuch(const std::vector<richtext::ChangedSpan>& spans) {
+  std::size_t blocks = 0;
+  for (const richtext::ChangedSpan& span : spans) blocks += span.blocks_before + span.blocks_after;
+  return blocks > kMostAtOnce;
+}
 
 // Asks the view for the pictures that it shows, and nobody for anything else.
 class ViewDocument : public ClosedDocument {
@@ -96,6 +104,9 @@ void RichTextView::Show() {
   known_ = box_.spans_made();
   if (!spans || (!spans->empty() && !renderer_.is_done())) {
     ShowAll();
+  } else if (IsMuch(*spans)) {
+    ShowAll();
+    scroll_requests_ = -1;
   } else if (!spans->empty()) {
     const int place = verticalScrollBar()->value();
     renderer_.Update(box_.document(), Formats(), *spans);
@@ -153,11 +164,16 @@ void RichTextView::ShowSelection() {
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
   const bool is_astray = renderer_.IsFiller(textCursor().block());
-  if (is_astray || RangeOf(textCursor()) != box_.selection()) {
-    QTextCursor cursor(document());
-    cursor.setPosition(QtPositionOf(box_.selection().from));
-    cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+  QTextCursor cursor(document());
+  cursor.setPosition(QtPositionOf(box_.selection().from));
+  cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+  // All parts of a table, too, where a person's cursor reaches from one into another.
+  const bool is_all = textCursor().selectionStart() <= cursor.selectionStart() &&
+                      textCursor().selectionEnd() >= cursor.selectionEnd();
+  if (is_astray || !is_all || RangeOf(textCursor()) != box_.selection()) {
+    const int place = verticalScrollBar()->value();
     setTextCursor(cursor);
+    if (!is_all && !scrolls) verticalScrollBar()->setValue(place);
   }
   if (scrolls) ensureCursorVisible();
 }
@@ -233,7 +249,14 @@ int RichTextView::QtPositionOf(richtext::Position position) const {
 
 richtext::Range RichTextView::RangeOf(const QTextCursor& cursor) const {
   const richtext::Position from = PositionOf(cursor.selectionStart());
-  return {from, cursor.hasSelection() ? PositionOf(cursor.selectionEnd()) : from};
+  const richtext::Range range{from,
+                              cursor.hasSelection() ? PositionOf(cursor.selectionEnd()) : from};
+  if (!cursor.hasSelection()) return range;
+  const QTextBlock first = document()->findBlock(cursor.selectionStart());
+  const QTextBlock last = document()->findBlock(cursor.selectionEnd());
+  const bool is_astray = renderer_.IsFiller(first) || renderer_.IsFiller(last);
+  const bool is_in_one = QTextCursor(first).currentTable() == QTextCursor(last).currentTable();
+  return is_in_one && !is_astray ? range : WithWholeTables(box_.document(), range);
 }
 
 void RichTextView::TakeSelection() {
@@ -243,7 +266,11 @@ void RichTextView::TakeSelection() {
     cursor.setPosition(BehindFiller(cursor.block()));
     return setTextCursor(cursor);
   }
-  box_.MoveSelection(RangeOf(cursor));
+  const richtext::Range range = RangeOf(cursor);
+  if (range != box_.selection()) return box_.MoveSelection(range);
+  // The box has nothing to tell, though Qt may show less of it.
+  const QScopedValueRollback<bool> showing(is_showing_, true);
+  ShowSelection();
 }
 
 // The cell that the cursor means between two parts of a table: the next one, or, up or down, the

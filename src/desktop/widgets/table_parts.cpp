@@ -1,5 +1,7 @@
 #include "desktop/widgets/table_parts.h"
 
+#include "richtext/paragraphs.h"
+
 namespace tarnwell::desktop {
 namespace {
 
@@ -61,6 +63,31 @@ std::vector<int> FillersIn(const richtext::RichDocument& document) {
     block = tables.end;
   }
   return fillers;
+}
+
+richtext::Range WithWholeTables(const richtext::RichDocument& document, richtext::Range range) {
+  const auto is_table = [&document](std::size_t block) {
+    return block < document.blocks.size() &&
+           std::holds_alternative<richtext::Table>(document.blocks[block]);
+  };
+  const auto has_parts = [&document](std::size_t block) {
+    const TableRows rows = TablesAt(document, block).rows;
+    return EndOfPart(rows, 0) < rows.size();
+  };
+  const auto first_of = [&](int paragraph) {
+    std::size_t block = richtext::FindPlace(document, paragraph).block;
+    while (is_table(block) && block > 0 && is_table(block - 1)) --block;
+    return block;
+  };
+  const std::size_t first = first_of(range.from.paragraph);
+  const std::size_t last = first_of(range.to.paragraph);
+  if (has_parts(first)) range.from = {richtext::FirstParagraphOf(document, first), 0};
+  if (has_parts(last)) {
+    const std::size_t end = TablesAt(document, last).end;
+    const int paragraph = richtext::FirstParagraphOf(document, end) - 1;
+    range.to = {paragraph, richtext::ShownLength(richtext::ParagraphAt(document, paragraph))};
+  }
+  return range;
 }
 
 }  // namespace tarnwell::desktop

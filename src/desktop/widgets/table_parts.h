@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "richtext/position.h"
 #include "richtext/rich_document.h"
 
 namespace tarnwell::desktop {
@@ -29,5 +30,9 @@ std::size_t EndOfPart(const TableRows& rows, std::size_t first);
 // The numbers of the paragraphs before which Qt has an empty block of its own: where a part of a
 // table follows another, and where a document begins with a table.
 std::vector<int> FillersIn(const richtext::RichDocument& document);
+
+// The range with the whole of each table of several parts in which it begins or ends: what Qt shows
+// of a selection that isn't within one part.
+richtext::Range WithWholeTables(const richtext::RichDocument& document, richtext::Range range);
 
 }  // namespace tarnwell::desktop
