@@ -137,6 +137,12 @@ TEST_F(LongTableTest, ALongChangeComesInSteps) {
   EXPECT_EQ(caret(), "end");
   box_.Undo();
   EXPECT_EQ(view_.document()->blockCount(), 1);
+  // Few paragraphs, but long ones.
+  constexpr int kLetters = 600'000;
+  box_.Type(std::string(kLetters, 'x'));
+  EXPECT_LT(view_.document()->characterCount(), kLetters);
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return view_.document()->characterCount() > kLetters; }, 60'000));
 }
 
 }  // namespace

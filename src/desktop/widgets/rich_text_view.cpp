@@ -25,7 +25,9 @@ namespace {
 constexpr std::size_t kFirstWork = 400;   // the first screens
 constexpr std::size_t kMoreWork = 100;    // no longer than a frame of the screen
 constexpr std::size_t kWaitedFor = 5000;  // hardly more than a second
-constexpr std::size_t kMostAtOnce = 1000;  // paragraphs of a change
+// Of a change: more comes sooner in steps, as a document does.
+constexpr std::size_t kMostAtOnce = 1000;         // paragraphs
+constexpr std::size_t kMostTextAtOnce = 100'000;  // bytes
 constexpr double kLeastZoom = 0.5;
 constexpr double kMostZoom = 3;
 constexpr double kZoomStep = 1.1;
@@ -37,11 +39,29 @@ constexpr int kTableEdge = 2;        // pixels by which a table's borders are wi
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
-// What comes sooner in steps, as a document does.
-bool IsMuch(const std::vector<richtext::ChangedSpan>& spans) {
+// Bytes of the paragraphs that the change brought, those in tables left out.
+std::size_t TextOf(const richtext::RichDocument& document, const richtext::ChangedSpan& span) {
+  if (span.where.in_table) return 0;
+  std::size_t text = 0;
+  const std::size_t end = std::min(span.where.block + span.blocks_after, document.blocks.size());
+  for (std::size_t i = span.where.block; i < end; ++i) {
+    const auto* paragraph = std::get_if<richtext::Paragraph>(&document.blocks[i]);
+    if (!paragraph) continue;
+    for (const richtext::Run& run : paragraph->runs) text += richtext::ShownText(run).size();
+  }
+  return text;
+}
+
+bool IsMuch(const richtext::RichDocument& document,
+            const std::vector<richtext::ChangedSpan>& spans) {
   std::size_t blocks = 0;
-  for (const richtext::ChangedSpan& span : spans) blocks += span.blocks_before + span.blocks_after;
-  return blocks > kMostAtOnce;
+  std::size_t text = 0;
+  for (const richtext::ChangedSpan& span : spans) {
+    blocks += span.blocks_before + span.blocks_after;
+    if (blocks > kMostAtOnce) return true;
+    text += TextOf(document, span);
+  }
+  return text > kMostTextAtOnce;
 }
 
 // Asks the view for the pictures that it shows, and nobody for anything else.
@@ -104,7 +124,7 @@ void RichTextView::Show() {
   known_ = box_.spans_made();
   if (!spans || (!spans->empty() && !renderer_.is_done())) {
     ShowAll();
-  } else if (IsMuch(*spans)) {
+  } else if (IsMuch(box_.document(), *spans)) {
     ShowAll();
     scroll_requests_ = -1;
   } else if (!spans->empty()) {
