@@ -85,7 +85,7 @@ void MainWindow::FormLoaded(forms::Form& form, bool modal) {
   };
   pages_.push_back(page);
   if (modal) {
-    new FormDialog(this, page, look.frameless, [this, &form] { navigator_->Close(form); });
+    new FormDialog(this, page, look.frameless, [this, &form] { navigator_->Close(form, forms::UnloadCause::kCloseBox); });
   } else {
     stack_->addWidget(page);
   }
@@ -155,7 +155,7 @@ void MainWindow::ShowChrome(FormPage& page) {
 
 void MainWindow::CloseTop() {
   if (navigator_ && !navigator_->ended() && navigator_->top()) {
-    navigator_->Close(*navigator_->top());
+    navigator_->Close(*navigator_->top(), forms::UnloadCause::kCloseBox);
   }
 }
 

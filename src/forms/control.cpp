@@ -1,6 +1,7 @@
 #include "forms/control.h"
 
 #include "forms/form.h"
+#include "forms/panel.h"
 
 namespace tarnwell::forms {
 
@@ -9,9 +10,15 @@ Control::Control(Container& parent, std::string_view name) : parent_(parent), na
 }
 
 void Control::SetVisible(bool visible) {
-  if (visible_ == visible) return;
-  visible_ = visible;
+  if (shown_ == visible) return;
+  shown_ = visible;
+  ShownOrHidden(visible);
   Changed();
+}
+
+void Control::Cover(Control& control, bool covered) {
+  control.covers_ += covered ? 1 : -1;
+  control.Changed();
 }
 
 void Control::SetEnabled(bool enabled) {
@@ -23,6 +30,15 @@ void Control::SetEnabled(bool enabled) {
 void Control::SetToolTip(std::string_view text) {
   tool_tip_ = text;
   Changed();
+}
+
+bool Control::Reachable() const {
+  return visible() && enabled_ && parent_.Reachable() && form().LeavesFree(*this);
+}
+
+bool Control::LiesIn(const Control& outer) const {
+  const auto* panel = dynamic_cast<const Panel*>(&parent_);
+  return panel && (panel == &outer || panel->LiesIn(outer));
 }
 
 void Control::Focus() {

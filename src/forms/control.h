@@ -45,13 +45,19 @@ class Control {
   // The fixed name, with the index for a member of an array: "Text1(0)".
   const std::string& name() const { return name_; }
   Form& form() const { return parent_.form(); }
-  const Container& parent() const { return parent_; }
+  Container& parent() const { return parent_; }
 
-  bool visible() const { return visible_; }
+  // Neither hidden nor covered by a panel that has its place.
+  bool visible() const { return shown_ && covers_ == 0; }
+  // A covered control shows up when its cover goes.
   void SetVisible(bool visible);
   bool enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
-  bool Reachable() const { return visible_ && enabled_ && parent_.Reachable(); }
+  // A person can use it: nothing hides or disables it, its form is on top, and no long run has the
+  // form for itself.
+  bool Reachable() const;
+  // It lies in that control, a panel, or in a panel that does.
+  bool LiesIn(const Control& outer) const;
 
   // Shown when the pointer rests on it; blanks at its ends are part of the fixed text.
   const std::string& tool_tip() const { return tool_tip_; }
@@ -72,6 +78,10 @@ class Control {
 
  protected:
   void Changed() { changed_.Notify(); }
+  // SetVisible has shown or hidden it, covered or not.
+  virtual void ShownOrHidden(bool /*shown*/) {}
+  // One cover more or less.
+  static void Cover(Control& control, bool covered);
   static void Run(const std::function<void()>& handler) {
     if (handler) handler();
   }
@@ -82,7 +92,8 @@ class Control {
   std::string name_;
   std::string tool_tip_;
   std::string spoken_name_;
-  bool visible_ = true;
+  bool shown_ = true;
+  int covers_ = 0;
   bool enabled_ = true;
   Notifier changed_;
 };

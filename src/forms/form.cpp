@@ -72,9 +72,11 @@ bool Form::PressEnter() { return PressFirst(AllControls(), &Command::is_default)
 
 forms::Answer Form::Message(const MessageBox& box) { return ShowMessage(context_, box); }
 
-void Form::SetBusy(bool busy) {
-  busy_ = busy;
-  menus_.SetEnabled(!busy);
+// A panel around a free control has to be free too.
+bool Form::LeavesFree(const Control& control) const {
+  return !busy() || std::ranges::any_of(runs_.back(), [&](const Control* free) {
+    return free == &control || control.LiesIn(*free) || free->LiesIn(control);
+  });
 }
 
 void Form::MoveFocus(Control* control) {

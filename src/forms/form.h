@@ -15,7 +15,8 @@
 
 namespace tarnwell::forms {
 
-enum class UnloadCause { kCloseBox, kProgram };
+// The window's close box, or a command of the form itself.
+enum class UnloadCause { kCloseBox, kCommand };
 
 class Form : public Container {
  public:
@@ -54,8 +55,9 @@ class Form : public Container {
   bool PressEscape();
   bool PressEnter();
 
-  // A long run is under way: the menus are dead and the form can't be closed.
-  bool busy() const { return busy_; }
+  // A long run is under way: the menus are dead, the form can't be closed, and a person can use
+  // only the controls that the run names.
+  bool busy() const { return !runs_.empty(); }
 
   Form& form() override { return *this; }
   bool Reachable() const override { return on_top_; }
@@ -67,11 +69,18 @@ class Form : public Container {
 
   // For the form and the panels that it owns.
 
-  // Makes the form busy for its own lifetime.
+  // Makes the form busy for its own lifetime. The controls named, and what lies in them, can be
+  // used meanwhile. A run inside a run has its own.
   class BusyScope {
    public:
-    explicit BusyScope(Form& form) : form_(form) { form_.SetBusy(true); }
-    ~BusyScope() { form_.SetBusy(false); }
+    explicit BusyScope(Form& form, std::vector<const Control*> free = {}) : form_(form) {
+      form_.runs_.push_back(std::move(free));
+      form_.menus_.SetEnabled(false);
+    }
+    ~BusyScope() {
+      form_.runs_.pop_back();
+      form_.menus_.SetEnabled(!form_.busy());
+    }
     BusyScope(const BusyScope&) = delete;
     BusyScope& operator=(const BusyScope&) = delete;
 
@@ -93,7 +102,7 @@ class Form : public Container {
   friend class Control;
   friend class Navigator;
   void MoveFocus(Control* control);
-  void SetBusy(bool busy);
+  bool LeavesFree(const Control& control) const;
 
   std::string name_;
   std::string caption_;
@@ -104,7 +113,7 @@ class Form : public Container {
   Control* focus_ = nullptr;
   int help_context_ = 0;
   bool on_top_ = false;
-  bool busy_ = false;
+  std::vector<std::vector<const Control*>> runs_;  // what each leaves free, the innermost last
   Notifier changed_;
 };
 

@@ -2,11 +2,39 @@
 
 #include <algorithm>
 
+#include "forms/clickable.h"
+#include "forms/panel.h"
+
 namespace tarnwell::forms {
+namespace {
+
+// Nothing on its own form hides or disables it.
+bool CouldBeUsed(const Control* control) {
+  for (; control; control = dynamic_cast<const Panel*>(&control->parent())) {
+    if (!control->visible() || !control->enabled()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+MenuAction ActionOf(Clickable& command) { return {[&command] { command.Click(); }, {&command}}; }
+
+MenuItem& MenuItem::AddEntry(std::string_view name, std::string_view caption, MenuAction action) {
+  MenuItem& entry = AddSubmenu(name, caption);
+  entry.is_entry_ = true;
+  entry.SetAction(std::move(action));
+  return entry;
+}
 
 MenuItem& MenuItem::AddEntry(std::string_view name, std::string_view caption, Handler on_click) {
-  MenuItem& entry = AddSubmenu(name, caption);
-  entry.on_click_ = std::move(on_click);
+  return AddEntry(name, caption, MenuAction{std::move(on_click)});
+}
+
+MenuItem& MenuItem::AddCommand(std::string_view name, std::string_view caption,
+                               Clickable& command) {
+  MenuItem& entry = AddEntry(name, caption, ActionOf(command));
+  entry.command_ = &command;
   return entry;
 }
 
@@ -17,6 +45,30 @@ MenuItem& MenuItem::AddSubmenu(std::string_view name, std::string_view caption) 
 }
 
 void MenuItem::AddSeparator() { AddSubmenu({}, {}); }
+
+void MenuItem::SetAction(MenuAction action) {
+  action_.run = std::move(action.run);
+  LiveWith(std::move(action.lives_with));
+}
+
+void MenuItem::LiveWith(std::vector<Control*> controls) {
+  action_.lives_with = std::move(controls);
+  subscriptions_.clear();
+  for (Control* control : action_.lives_with) {
+    for (; control; control = dynamic_cast<Panel*>(&control->parent())) {
+      subscriptions_.push_back(control->OnChanged([this] { changed_.Notify(); }));
+    }
+  }
+  changed_.Notify();
+}
+
+bool MenuItem::enabled() const {
+  const auto& controls = action_.lives_with;
+  return enabled_ && (!is_entry_ || action_.run) &&
+         (controls.empty() || std::ranges::any_of(controls, CouldBeUsed));
+}
+
+bool MenuItem::visible() const { return visible_ && (!command_ || command_->visible()); }
 
 void MenuItem::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
@@ -43,7 +95,7 @@ bool MenuItem::AnyReachable() const {
 }
 
 void MenuItem::Click() {
-  if (Reachable() && on_click_) on_click_();
+  if (Reachable() && action_.run) action_.run();
 }
 
 void MenuItem::Open() {

@@ -12,6 +12,19 @@
 
 namespace tarnwell::forms {
 
+class Clickable;
+class Control;
+
+// What an entry does, and the controls without which it can't. An entry without a handler is dead.
+struct MenuAction {
+  std::function<void()> run;
+  // It can be chosen while a person could use one of these; always, where there is none.
+  std::vector<Control*> lives_with = {};
+};
+
+// A command's own.
+MenuAction ActionOf(Clickable& command);
+
 // An entry, a submenu or a separator. An entry ignores Click when it, or a menu around it, is
 // hidden or disabled.
 class MenuItem {
@@ -23,19 +36,27 @@ class MenuItem {
   MenuItem& operator=(const MenuItem&) = delete;
 
   // Adds to this submenu and returns what was added. A name may be empty.
+  MenuItem& AddEntry(std::string_view name, std::string_view caption, MenuAction action);
   MenuItem& AddEntry(std::string_view name, std::string_view caption, Handler on_click);
+  // The command once more: enabled, hidden with it, and clicked as one.
+  MenuItem& AddCommand(std::string_view name, std::string_view caption, Clickable& command);
   MenuItem& AddSubmenu(std::string_view name, std::string_view caption);
   void AddSeparator();
 
   const std::string& name() const { return name_; }
   const std::string& caption() const { return caption_; }
   bool separator() const { return caption_.empty(); }
-  bool submenu() const { return !on_click_; }
+  bool submenu() const { return !is_entry_; }
   const std::vector<std::unique_ptr<MenuItem>>& items() const { return items_; }
 
-  bool enabled() const { return enabled_; }
+  // Of an entry that others work with, from now on.
+  void SetAction(MenuAction action);
+  // A submenu too can live with controls.
+  void LiveWith(std::vector<Control*> controls);
+
+  bool enabled() const;
   void SetEnabled(bool enabled);
-  bool visible() const { return visible_; }
+  bool visible() const;
   void SetVisible(bool visible);
   bool checked() const { return checked_; }
   void SetChecked(bool checked);
@@ -43,7 +64,7 @@ class MenuItem {
   bool checkable() const { return checkable_; }
   void SetCheckable() { checkable_ = true; }
 
-  bool Reachable() const { return visible_ && enabled_ && (!parent_ || parent_->Reachable()); }
+  bool Reachable() const { return visible() && enabled() && (!parent_ || parent_->Reachable()); }
   // A person can choose something below it: a menu of dead entries isn't worth popping up.
   bool AnyReachable() const;
   void Click();
@@ -61,7 +82,10 @@ class MenuItem {
  private:
   std::string name_;
   std::string caption_;
-  Handler on_click_;
+  bool is_entry_ = false;
+  MenuAction action_;
+  Clickable* command_ = nullptr;             // that the entry is, where it is one
+  std::vector<Subscription> subscriptions_;  // to what it lives with, and all around that
   MenuItem* parent_ = nullptr;
   std::vector<std::unique_ptr<MenuItem>> items_;
   bool enabled_ = true;

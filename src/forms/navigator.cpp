@@ -80,8 +80,8 @@ void Navigator::Unload(Form& form) {
   if (was_top) Raise();
 }
 
-bool Navigator::Close(Form& form) {
-  if (form.busy() || !form.QueryUnload(UnloadCause::kCloseBox)) return false;
+bool Navigator::Close(Form& form, UnloadCause cause) {
+  if (form.busy() || !form.QueryUnload(cause)) return false;
   Unload(form);
   return true;
 }

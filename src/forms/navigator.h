@@ -43,8 +43,8 @@ class Navigator {
   void ShowModal(std::string_view name, const Preparation& prepare = {});
   // Without a question: its Unload routine runs and the form below gets on top.
   void Unload(Form& form);
-  // Asks the form first, as when its window is closed. False if it stays; a busy form does.
-  bool Close(Form& form);
+  // Asks the form first, which is told the cause. False if it stays; a busy form does.
+  bool Close(Form& form, UnloadCause cause);
   // At once: no further form is asked, nothing more is saved.
   void EndProgram();
   bool ended() const { return ended_; }

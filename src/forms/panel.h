@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/color.h"
 #include "forms/control.h"
@@ -29,6 +30,10 @@ class Panel : public Control, public Container {
   int help_context() const { return help_context_; }
   void SetHelpContext(int context) { help_context_ = context; }
 
+  // While the panel is shown it has the place of these. Told before the panel is first shown.
+  void Cover(std::vector<Control*> covered) { covered_ = std::move(covered); }
+  const std::vector<Control*>& covered() const { return covered_; }
+
   // Empty for the look's own colour.
   const std::optional<Color>& background() const { return background_; }
   void SetBackground(std::optional<Color> color) {
@@ -37,9 +42,14 @@ class Panel : public Control, public Container {
   }
 
  private:
+  void ShownOrHidden(bool shown) override {
+    for (Control* control : covered_) Control::Cover(*control, shown);
+  }
+
   std::string caption_;
   int help_context_ = 0;
   std::optional<Color> background_;
+  std::vector<Control*> covered_;
 };
 
 }  // namespace tarnwell::forms

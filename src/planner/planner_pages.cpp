@@ -24,13 +24,9 @@ PlannerPages::PlannerPages(forms::Form& form, forms::Context& context)
   columns.on_pick = [this](int) { print.Rebuild(); };
   month.print.on_click = [this] { PrintMonth(); };
   print.on_close = [this] { ClosePrint(); };
-  exporting.on_close = [this] {
-    month.panel.SetVisible(true);
-    if (on_export) on_export();
-  };
 }
 
-void PlannerPages::PrintDay(text::Date date, const DayRows& rows, forms::Panel& below) {
+void PlannerPages::PrintDay(text::Date date, const DayRows& rows) {
   if (!HasRows(rows)) return print::ReportNothingToPrint(context_);
   print::PrintJob job;
   job.build = [this, date, rows](print::PageEngine& engine) {
@@ -39,7 +35,7 @@ void PlannerPages::PrintDay(text::Date date, const DayRows& rows, forms::Panel& 
   };
   job.font = settings::PrinterFont::kPlannerDay;
   print.as_of->SetVisible(false);  // only the month's head has that date
-  Open(std::move(job), below);
+  Open(std::move(job));
 }
 
 void PlannerPages::PrintMonth() {
@@ -55,29 +51,22 @@ void PlannerPages::PrintMonth() {
   job.guide_lines = settings::GuideLines::kPlannerMonth;
   job.font = settings::PrinterFont::kPlannerMonth;
   print.as_of->SetVisible(true);
-  Open(std::move(job), month.panel);
+  Open(std::move(job));
 }
 
-void PlannerPages::Open(print::PrintJob job, forms::Panel& below) {
-  below_ = &below;
-  below.SetVisible(false);
+void PlannerPages::Open(print::PrintJob job) {
   form_.menus().SetVisible(false);
   form_.SetStatus("Print");
-  if (on_print) on_print();
   print.Open(std::move(job));
 }
 
 void PlannerPages::ClosePrint() {
   form_.menus().SetVisible(true);
-  below_->SetVisible(true);
-  form_.SetStatus(below_ == &month.panel ? "View Month" : "");
-  if (on_print_close) on_print_close();
+  form_.SetStatus(month.panel.visible() ? "View Month" : "");
 }
 
 void PlannerPages::ExportMonth(std::string_view file_name) {
-  month.panel.SetVisible(false);
   exporting.Open(month.grid, file_name);
-  if (on_export) on_export();
 }
 
 void PlannerPages::CopyDay(text::Date date, const DayRows& rows) {

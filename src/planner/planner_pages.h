@@ -26,30 +26,23 @@ class PlannerPages {
   forms::OptionGroup columns{
       print.options_frame, "Option83", {"One Column Output", "Two Column Output"}};
 
-  // Puts the print panel in the place of `below` until it is closed; with nothing to print there is
-  // only a box.
-  void PrintDay(text::Date date, const DayRows& rows, forms::Panel& below);
+  // Opens the print panel; with nothing to print there is only a box.
+  void PrintDay(text::Date date, const DayRows& rows);
   void PrintMonth();
 
-  // Puts the export panel in the month panel's place until it is closed.
   void ExportMonth(std::string_view file_name);
 
   void CopyDay(text::Date date, const DayRows& rows);
   void CopyMonth();
 
-  std::function<void()> on_print;        // the print panel was opened
-  std::function<void()> on_export;       // the export panel was opened or closed
-  std::function<void()> on_print_close;  // it was closed, and what lay below is shown again
-
  private:
-  void Open(print::PrintJob job, forms::Panel& below);
+  void Open(print::PrintJob job);
   void ClosePrint();
   void PutOnClipboard(const std::string& content);
   void ReportNothingToCopy();
 
   forms::Form& form_;
   forms::Context& context_;
-  forms::Panel* below_ = nullptr;
 };
 
 }  // namespace tarnwell::planner

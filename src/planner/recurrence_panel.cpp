@@ -67,19 +67,23 @@ void RecurrencePanel::AskToRemove() {
 }
 
 void RecurrencePanel::Start(ChangeMode change_mode) {
-  const forms::Form::BusyScope busy(form_);
-  ShowRunning(true);
   if (choice.mode() == RecurrenceMode::kNone) {
     context_.window.Beep();
     form_.Message(BoxOf(NoOptionSelected(), forms::Icon::kExclamation));
-    ShowRunning(false);
     return ok.Focus();
   }
+  RunWalk(change_mode);
+  on_run();
+  on_close();
+}
+
+void RecurrencePanel::RunWalk(ChangeMode change_mode) {
   RecurrenceRequest request = choice.Request();
   request.appointment = appointment_;
   const int sort_time = settings::ReadSortTime(context_.folder);
   RecurrenceRun run{change_mode, request.appointment, static_cast<SortTimeOption>(sort_time), {}};
   FolderDayBook book(context_.folder);
+  ShowRunning(true);
   const auto stopped_at = Walk(request, run, book);
   ShowRunning(false);
   if (stopped_at) {
@@ -91,11 +95,8 @@ void RecurrencePanel::Start(ChangeMode change_mode) {
   }
   const auto report = change_mode == ChangeMode::kAdd ? RunReport(run.counts) : std::nullopt;
   if (report) form_.Message(BoxOf(*report, forms::Icon::kInformation));
-  on_run();
-  on_close();
 }
 
-// While it runs only the stop box can be reached, so nothing can start a second run.
 void RecurrencePanel::ShowRunning(bool running) {
   choice.panel.SetEnabled(!running);
   ok.SetEnabled(!running);
@@ -111,6 +112,7 @@ void RecurrencePanel::ShowRunning(bool running) {
 // The candidate behind which the user stopped the walk; none if it came to its end.
 std::optional<text::Date> RecurrencePanel::Walk(const RecurrenceRequest& request,
                                                 RecurrenceRun& run, DayBook& book) {
+  const forms::Form::BusyScope busy(form_, {&stop});
   RecurrenceWalk walk(request);
   progress.Start(walk.ProgressMaximum());
   while (const auto candidate = walk.Next()) {

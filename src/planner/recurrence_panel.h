@@ -45,6 +45,7 @@ class RecurrencePanel {
   std::function<void()> on_close;
 
  private:
+  void RunWalk(ChangeMode change_mode);
   void Start(ChangeMode change_mode);
   void AskToRemove();
   void ShowRunning(bool running);

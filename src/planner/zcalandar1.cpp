@@ -35,7 +35,8 @@ Zcalandar1::Zcalandar1(forms::Context& context)
       pages(*this, context),
       background(*this, context, settings::GridBackground::kPlanner),
       colors(context, settings::PanelColor::kPlanner),
-      todo_import(*this, context) {
+      todo_import(*this, context),
+      question_(context, [this] { return Save(); }) {
   exit.SetCancel(true);
   picker.on_pick = [this] { PickDay(); };
   timer.on_tick = [this] {
@@ -44,57 +45,70 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   };
   time_picker.on_pick = [this] { PickTime(); };
   sort_time.on_pick = [this](int index) { StoreSortTime(index); };
-  save.on_click = [this] { Save(); };
+  save.on_click = [this] {
+    if (loaded_) Save();
+  };
   clear_entries.on_click = [this] { ClearEntries(); };
-  exit.on_click = [this] { Exit(); };
+  exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
   calendar_options.on_change = [this] { picker.SetLook(LookOf(calendar_options.options())); };
-  calendar_options.on_close = [this] { UncoverRows(calendar_options.panel); };
+  calendar_options.on_close = [this] { calendar_options.panel.SetVisible(false); };
   recurrence.on_run = [this] { ShowDay(loaded_); };
   recurrence.on_close = [this] { CloseRecurrence(); };
   view_month.on_click = [this] { ViewMonth(); };
-  pages.month.close.on_click = [this] { CloseMonth(); };
+  pages.month.close.on_click = [this] {
+    pages.month.panel.SetVisible(false);
+    SetStatus({});
+  };
   print_options.on_click = [this] { PrintDay(); };
   check_spelling.on_click = [this] { CheckSpelling(); };
-  pages.on_print = [this] { picker.SetVisible(false); };
-  pages.on_print_close = [this] { ClosePrint(); };
-  pages.on_export = [this] { EnableMenus(); };
   background.on_apply = [this](const forms::GridLook& look) { pages.month.grid.SetLook(look); };
-  background.on_close = [this] { CloseBackground(); };
   colors.on_change = [this] { ShowColors(); };
+  CoverRows();
   BuildRows();
   BuildMenus();
 }
 
+// Each of these takes the rows' place. Most hide the picker too: what they show holds for the date on
+// screen.
+void Zcalandar1::CoverRows() {
+  calendar_options.panel.Cover({&day});
+  todo_import.panel.Cover({&day});
+  recurrence.panel.Cover({&day, &picker, &clock});
+  pages.month.panel.Cover({&day, &picker});
+  for (forms::Panel* panel : {&pages.print.panel, &pages.exporting.panel, &background.panel}) {
+    panel->Cover({&day, &pages.month.panel, &picker});
+  }
+}
+
 void Zcalandar1::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
-  save_entry_ = &options.AddEntry("mOS", "&Save", [this] { save.Click(); });
-  clear_entry_ = &options.AddEntry("mOClr", "Clear &Entries", [this] { clear_entries.Click(); });
-  month_entry_ = &options.AddEntry("mOV", "&View Entire Month", [this] { view_month.Click(); });
-  row_menus_.push_back(
-      &options.AddEntry("mOP", "&Print Options", [this] { print_options.Click(); }));
-  row_menus_.push_back(
-      &options.AddEntry("mOSpell", "Spelling Chec&k", [this] { check_spelling.Click(); }));
-  copy_entries_.push_back(&options.AddEntry("mOCopy", "&Copy", [this] { Copy(); }));
-  row_menus_.push_back(&options.AddEntry("mOCal", "Calendar &Display Options",
-                                         [this] { CoverRows(calendar_options.panel); }));
-  row_menus_.push_back(
-      &options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); }));
+  const auto copy = [this] { Copy(); };
+  const std::vector<forms::Control*> copied{&view_month, &pages.month.grid};  // the day or the month
+  options.AddCommand("mOS", "&Save", save);
+  options.AddCommand("mOClr", "Clear &Entries", clear_entries);
+  options.AddCommand("mOV", "&View Entire Month", view_month);
+  options.AddCommand("mOP", "&Print Options", print_options);
+  options.AddCommand("mOSpell", "Spelling Chec&k", check_spelling);
+  options.AddEntry("mOCopy", "&Copy", {copy, copied});
+  options.AddEntry("mOCal", "Calendar &Display Options",
+                   {[this] { calendar_options.panel.SetVisible(true); }, {&day}});
+  options.AddEntry("mToDo", "Import To Do List Items", {[this] { ImportToDo(); }, {&day}});
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(parts::ColorTarget::kText); });
-  background_entry_ = &options.AddEntry("mOGB", "&Grid Background", [this] { OpenBackground(); });
+  options.AddEntry("mOGB", "&Grid Background",
+                   {[this] { background.Open(); }, {&day, &pages.month.panel}});
   options.AddSeparator();
-  options.AddEntry("mOE", "E&xit", [this] { Exit(); });
+  options.AddEntry("mOE", "E&xit", [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); });
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
-  copy_entries_.push_back(&edit.AddEntry("mECopy", "&Copy", [this] { Copy(); }));
-  row_menus_.push_back(&edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
-                                      [this] { CopyDay(); }));
+  edit.AddEntry("mECopy", "&Copy", {copy, copied});
+  edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",
+                {[this] { CopyDay(); }, {&day}});
   paste_entry_ = &edit.AddEntry("mEPaste", "&Paste all entries from another day",
-                                [this] { PasteCopiedDay(); });
+                                {[this] { PasteCopiedDay(); }, {&day}});
   paste_entry_->SetEnabled(false);
   forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
-  export_entry_ = &utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
-                                      [this] { pages.ExportMonth("Daily Planner.xls"); });
-  export_entry_->SetEnabled(false);
+  utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
+                     {[this] { pages.ExportMonth("Daily Planner.xls"); }, {&pages.month.panel}});
   SetPopupMenu(options);
   parts::AddHelpMenu(*this, context_);
 }
@@ -200,7 +214,7 @@ void Zcalandar1::ShowDay(std::optional<text::Date> date) {
   auto fault = storage::Fault::kNone;
   const auto stored = date ? ReadDay(context_.folder, *date, &fault) : std::nullopt;
   loaded_ = stored ? date : std::nullopt;
-  unsaved_ = false;
+  question_.SetUnsaved(false);
   EnableRows(fault == storage::Fault::kNone);
   ShowRows(stored ? stored->rows : DayRows{});
   EnableCommands(stored.has_value(), stored && stored->saved);
@@ -229,7 +243,7 @@ void Zcalandar1::MarkRowsWithoutText() {
 }
 
 void Zcalandar1::MarkChanged() {
-  unsaved_ = true;
+  question_.SetUnsaved(true);
   EnableCommands(true, true);
   MarkRowsWithoutText();
 }
@@ -238,21 +252,6 @@ void Zcalandar1::EnableCommands(bool day_commands, bool clear_commands) {
   save.SetEnabled(day_commands);
   view_month.SetEnabled(day_commands);
   clear_entries.SetEnabled(clear_commands);
-  EnableMenus();
-}
-
-void Zcalandar1::EnableMenus() {
-  const bool rows_shown = day.visible();
-  save_entry_->SetEnabled(rows_shown && save.enabled());
-  clear_entry_->SetEnabled(rows_shown && clear_entries.enabled());
-  month_entry_->SetEnabled(rows_shown && view_month.enabled());
-  paste_entry_->SetEnabled(rows_shown && HasRows(copied_));
-  export_entry_->SetEnabled(pages.month.panel.visible());
-  background_entry_->SetEnabled(rows_shown || pages.month.panel.visible());
-  for (forms::MenuItem* menu : row_menus_) menu->SetEnabled(rows_shown);
-  for (forms::MenuItem* menu : copy_entries_) {
-    menu->SetEnabled(pages.month.panel.visible() || (rows_shown && view_month.enabled()));
-  }
 }
 
 DayRows Zcalandar1::Rows() {
@@ -288,7 +287,7 @@ void Zcalandar1::ClearEntries() {
 
 void Zcalandar1::CopyDay() {
   copied_ = Rows();
-  EnableMenus();
+  paste_entry_->SetEnabled(HasRows(copied_));
   if (HasRows(copied_)) return;
   Message({"Copy all entries for pasteing to another day", "No Entries to Copy have been found!",
            forms::Icon::kInformation});

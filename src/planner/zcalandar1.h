@@ -15,6 +15,7 @@
 #include "forms/timer.h"
 #include "parts/color_choice.h"
 #include "parts/grid_background_panel.h"
+#include "parts/save_question.h"
 #include "planner/calendar_options_panel.h"
 #include "planner/day_rows.h"
 #include "planner/planner_pages.h"
@@ -65,7 +66,6 @@ class Zcalandar1 : public forms::Form {
   bool QueryUnload(forms::UnloadCause cause) override;
 
  private:
-  enum class SaveResult { kSaved, kDeclined, kFailed };
   enum class SaveNote { kShown, kNone };  // whether a save is confirmed with a box
 
   void BuildMenus();
@@ -84,49 +84,29 @@ class Zcalandar1 : public forms::Form {
   void ShowRows(const DayRows& rows);
   void MarkChanged();
   void EnableCommands(bool day_commands, bool clear_commands);
-  void EnableMenus();
   void MarkRowsWithoutText();
   DayRows Rows();
 
-  void Save();
-  // A failure is told, and the rows stay as they were.
-  SaveResult SaveUnder(text::Date date, SaveNote note = SaveNote::kShown);
-  // Of the day on screen.
-  SaveResult OfferToSave(const char* question, SaveNote note = SaveNote::kShown);
-  // Asks when the save failed.
-  bool MayLeave(SaveResult result);
+  // Of the day on screen. A failure is told, and the rows stay as they were.
+  parts::SaveResult Save(SaveNote note = SaveNote::kShown);
   bool LeaveLoadedDay();
-  void Exit();
   void StoreSortTime(int option);
   void ShowColors();
   void ClearEntries();
   void CopyDay();
   void PasteCopiedDay();
 
-  void CoverRows(forms::Panel& panel);
-  void UncoverRows(forms::Panel& panel);
+  void CoverRows();
   void OpenRecurrence(int row);
   void CloseRecurrence();
   void ViewMonth();
-  void CloseMonth();
-  void OpenBackground();
-  void CloseBackground();
   void PrintDay();
-  void ClosePrint();
   void Copy();
   void CheckSpelling();
   void ImportToDo();
 
-  forms::MenuItem* save_entry_ = nullptr;
-  forms::MenuItem* clear_entry_ = nullptr;
   forms::MenuItem* paste_entry_ = nullptr;
-  forms::MenuItem* month_entry_ = nullptr;
-  forms::MenuItem* export_entry_ = nullptr;
-  forms::MenuItem* background_entry_ = nullptr;
-  forms::Panel* below_background_ = nullptr;    // the panel whose place the selector has
-  std::vector<forms::MenuItem*> copy_entries_;  // of the day, or of the month while it is listed
-  std::vector<forms::MenuItem*> row_menus_;     // work on the rows or cover them
-  bool unsaved_ = false;
+  parts::SaveQuestion question_;
   std::optional<text::Date> loaded_;  // the day on screen; the picker may have moved on already
   DayRows copied_;
   int row_in_hand_ = 0;

@@ -8,46 +8,29 @@
 
 namespace tarnwell::planner {
 
-// A panel takes the rows' place; what works on the rows waits until it is closed.
-void Zcalandar1::CoverRows(forms::Panel& panel) {
-  day.SetVisible(false);
-  panel.SetVisible(true);
-  EnableMenus();
-}
-
-void Zcalandar1::UncoverRows(forms::Panel& panel) {
-  panel.SetVisible(false);
-  day.SetVisible(true);
-  EnableMenus();
-}
-
 void Zcalandar1::OpenRecurrence(int row) {
   const auto i = static_cast<std::size_t>(row);
   if (!loaded_ || text::Trim(entries[i].text()).empty()) return;
-  if (unsaved_) {
+  if (question_.unsaved()) {
     // The rows stay on the screen, saved or not; the button is to be pressed again.
-    OfferToSave("Save changes/entries before next action?", SaveNote::kNone);
+    question_.Offer({.title = "Daily Planner"}, [this] { return Save(SaveNote::kNone); });
     return;
   }
   recurrence_buttons[i].SetSelected(true);
   row_of_recurrence_ = row;
-  picker.SetVisible(false);  // the date on screen holds until the panel is closed
-  clock.SetVisible(false);
-  CoverRows(recurrence.panel);
+  recurrence.panel.SetVisible(true);
   recurrence.Open(*loaded_, {times[i].text(), entries[i].text()});
 }
 
 void Zcalandar1::CloseRecurrence() {
   recurrence_buttons[static_cast<std::size_t>(row_of_recurrence_)].SetSelected(false);
-  UncoverRows(recurrence.panel);
-  picker.SetVisible(true);
-  clock.SetVisible(true);
+  recurrence.panel.SetVisible(false);
   entries[static_cast<std::size_t>(row_of_recurrence_)].Focus();
 }
 
 void Zcalandar1::ViewMonth() {
   SetStatus("View Month");
-  const bool was_unsaved = unsaved_;
+  const bool was_unsaved = question_.unsaved();
   if (!LeaveLoadedDay()) return SetStatus({});
   if (was_unsaved) ShowDay(loaded_);
   if (!loaded_) return SetStatus({});  // the day can't be read any more
@@ -55,38 +38,11 @@ void Zcalandar1::ViewMonth() {
     forms::TellUnreadable(context_, "The month", filled.fault());
     return SetStatus({});
   }
-  picker.SetVisible(false);  // the month on screen holds until the panel is closed
-  CoverRows(pages.month.panel);
-}
-
-void Zcalandar1::CloseMonth() {
-  UncoverRows(pages.month.panel);
-  picker.SetVisible(true);
-  SetStatus({});
-}
-
-// Over the rows or the month, whichever is on the screen.
-void Zcalandar1::OpenBackground() {
-  below_background_ = day.visible() ? &day : &pages.month.panel;
-  below_background_->SetVisible(false);
-  picker.SetVisible(false);
-  background.Open();
-  EnableMenus();
-}
-
-void Zcalandar1::CloseBackground() {
-  below_background_->SetVisible(true);
-  picker.SetVisible(below_background_ == &day);
-  EnableMenus();
+  pages.month.panel.SetVisible(true);
 }
 
 void Zcalandar1::PrintDay() {
-  if (loaded_) pages.PrintDay(*loaded_, Rows(), day);
-}
-
-void Zcalandar1::ClosePrint() {
-  picker.SetVisible(day.visible());
-  EnableMenus();
+  if (loaded_) pages.PrintDay(*loaded_, Rows());
 }
 
 void Zcalandar1::Copy() {
@@ -110,11 +66,7 @@ void Zcalandar1::ImportToDo() {
   if (!LeaveLoadedDay()) return;
   const text::Date on_screen = *loaded_;
   if (!todo_import.Open()) return;
-  day.SetVisible(false);
-  picker.SetEnabled(false);
   todo_import.Run(on_screen);
-  picker.SetEnabled(true);
-  day.SetVisible(true);
   picker.SetDate(on_screen);
   ShowDay(on_screen);
 }

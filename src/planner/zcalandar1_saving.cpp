@@ -15,70 +15,44 @@ constexpr const char* kTitle = "Daily Planner";
 
 }  // namespace
 
-void Zcalandar1::Save() {
-  if (loaded_) SaveUnder(*loaded_);
-}
-
 // The rows are put in order on the screen once they are on the disk: what couldn't be saved stays
 // as it was typed.
-Zcalandar1::SaveResult Zcalandar1::SaveUnder(text::Date date, SaveNote note) {
+parts::SaveResult Zcalandar1::Save(SaveNote note) {
   if (!HasRows(Rows()) &&
       !Confirmed({"Save", "There are currently No Entries to Save!\nSave anyway?",
                   forms::Icon::kQuestion, forms::Buttons::kYesNo, 2})) {
-    return SaveResult::kDeclined;
+    return parts::SaveResult::kDeclined;
   }
   const forms::Hourglass hourglass(context_.window);
   const DayRows sorted = SortDay(Rows(), static_cast<SortTimeOption>(sort_time.chosen()));
-  if (const auto written = WriteDay(context_.folder, date, sorted); !written) {
+  if (const auto written = WriteDay(context_.folder, *loaded_, sorted); !written) {
     forms::TellNotSaved(context_, date_caption.caption(), written.fault());
-    return SaveResult::kFailed;
+    return parts::SaveResult::kFailed;
   }
   ShowRows(sorted);
-  unsaved_ = false;
+  question_.SetUnsaved(false);
   EnableCommands(true, true);
   if (note == SaveNote::kShown) {
     Message({"Save File Command", "Entries Have Been Time Sorted and File Saved.",
              forms::Icon::kInformation});
   }
-  return SaveResult::kSaved;
-}
-
-Zcalandar1::SaveResult Zcalandar1::OfferToSave(const char* question, SaveNote note) {
-  return Confirmed({kTitle, question, forms::Icon::kQuestion, forms::Buttons::kYesNo})
-             ? SaveUnder(*loaded_, note)
-             : SaveResult::kDeclined;
-}
-
-bool Zcalandar1::MayLeave(SaveResult result) {
-  return result != SaveResult::kFailed || forms::AskToLeaveUnsaved(context_);
+  return parts::SaveResult::kSaved;
 }
 
 // Offers to save the day on screen before something else takes its place. False, with the picker
 // back on that day, when it is to stay: the rows are all that is left of the user's work. The rows
 // count as unsaved until they are replaced.
 bool Zcalandar1::LeaveLoadedDay() {
-  if (!unsaved_ || !loaded_) return true;
-  if (MayLeave(OfferToSave("Save changes/entries before next action?"))) return true;
+  if (question_.Settle({.title = kTitle})) return true;
   picker.SetDate(loaded_);
   return false;
 }
 
-void Zcalandar1::Exit() {
-  if (unsaved_ && loaded_) {
-    const forms::Answer answer = Message({kTitle, "Save changes/entries before exiting?",
-                                          forms::Icon::kQuestion, forms::Buttons::kYesNoCancel});
-    if (answer == forms::Answer::kCancel) return;
-    if (answer == forms::Answer::kYes && !MayLeave(SaveUnder(*loaded_))) return;
-  }
-  if (!colors.Leave(forms::Buttons::kYesNoCancel)) return;
-  context_.navigator.Unload(*this);
-}
-
-bool Zcalandar1::QueryUnload(forms::UnloadCause) {
-  if (unsaved_ && loaded_ && !MayLeave(OfferToSave("Save changes/entries before exiting?"))) {
-    return false;
-  }
-  return colors.Leave(forms::Buttons::kYesNo);
+bool Zcalandar1::QueryUnload(forms::UnloadCause cause) {
+  const auto buttons = cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel
+                                                             : forms::Buttons::kYesNo;
+  return question_.Settle({kTitle, "Save changes/entries before exiting?", buttons}) &&
+         colors.Leave(buttons);
 }
 
 void Zcalandar1::StoreSortTime(int option) {

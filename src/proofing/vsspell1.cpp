@@ -37,7 +37,7 @@ VSSpell1::VSSpell1(forms::Context& context)
     Next();
   };
   help.on_click = [this] { context_.help.Show(kSpellingHelp); };
-  cancel.on_click = [this] { context_.navigator.Close(*this); };
+  cancel.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
 }
 
 void VSSpell1::Load() {

@@ -11,19 +11,37 @@
 namespace tarnwell::workarea {
 
 DocumentView::DocumentView(forms::Container& parent, forms::Context& context)
-    : panel(parent, "SSPanel2"), tools(panel, context, text), context_(context) {
+    : panel(parent, "SSPanel2"),
+      tools(panel, context, text),
+      context_(context),
+      question_(context, [this] { return Save(); }) {
   views.Add(actions, "SSOption3", "Disclaimer and How To Use");
   views.Add(actions, "SSOption4", "Comments/Notes");
   views.Add(actions, "SSOption5", "View Document/Policy Etc.");
+  ConnectCommands();
+  SetAccess(Access::kNone);
+}
+
+void DocumentView::ConnectCommands() {
   text.on_change = [this] {
-    unsaved_ = true;
+    question_.SetUnsaved(true);
     tools.FollowEdit();
   };
-  tools.on_change = [this] { unsaved_ = true; };
-  save.on_click = [this] {
-    if (on_save) on_save();
+  tools.on_change = [this] { question_.SetUnsaved(true); };
+  views.on_pick = [this](int option) { owner_->PickView(option); };
+  status.on_pick = [this] { owner_->PickStatus(); };
+  insert_template.on_click = [this] { owner_->InsertTemplate(); };
+  print_options.on_click = [this] { on_print(owner_->ToPrint()); };
+  save.on_click = [this] { Save(); };
+  exit.on_click = [this] {
+    if (Settle()) owner_->Exit();
   };
-  SetAccess(Access::kNone);
+}
+
+parts::SaveResult DocumentView::Save() {
+  if (!owner_->Save()) return parts::SaveResult::kFailed;
+  if (on_saved) on_saved();
+  return parts::SaveResult::kSaved;
 }
 
 void DocumentView::SetAccess(Access access) {
@@ -34,7 +52,6 @@ void DocumentView::SetAccess(Access access) {
   print_options.SetEnabled(is_readable());
   exit.SetEnabled(access != Access::kNone);
   for (forms::Command* command : {&save, &insert_template}) command->SetEnabled(edit);
-  if (on_state) on_state();
 }
 
 void DocumentView::Open(std::string_view file, Access access) {
@@ -71,14 +88,14 @@ void DocumentView::InsertTemplate(std::string_view file, std::string_view kind, 
   }
   const forms::Hourglass hourglass(context_.window);
   Show(std::move(supplied.content));
-  unsaved_ = true;
+  question_.SetUnsaved(true);
 }
 
 void DocumentView::Show(std::string bytes) {
   text.SetDocument(richtext::ReadRichText(bytes));
   stored_ = {};
   if (!bytes.empty()) stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
-  unsaved_ = false;
+  question_.SetUnsaved(false);
   if (!text.document().is_part) return;
   panel.form().Message({"Document",
                         "This document is too long to be shown whole. Its beginning can be read "
@@ -99,19 +116,14 @@ bool DocumentView::Write(std::string_view file) {
     return false;
   }
   stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
-  unsaved_ = false;
+  question_.SetUnsaved(false);
   return true;
 }
 
-bool DocumentView::OfferToSave() {
-  if (!unsaved_ || !panel.form().Confirmed({"Save Changes?",
-                                            "Save changes/entries before next action?",
-                                            forms::Icon::kQuestion, forms::Buttons::kYesNo})) {
-    return true;
-  }
-  return on_save && on_save();
+void DocumentView::CopyToClipboard() {
+  context_.clipboard.SetRichText(richtext::WriteRichText(text.document()));
+  panel.form().Message({"Copy Option", "A copy has been copied to the Windows Clipboard.",
+                        forms::Icon::kInformation});
 }
-
-bool DocumentView::Settle() { return OfferToSave() || forms::AskToLeaveUnsaved(context_); }
 
 }  // namespace tarnwell::workarea

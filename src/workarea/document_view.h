@@ -10,10 +10,29 @@
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/rich_text_box.h"
+#include "parts/save_question.h"
 #include "richtext/rich_text_writer.h"
+#include "workarea/document_printing.h"
 #include "workarea/text_tools.h"
 
 namespace tarnwell::workarea {
+
+// Whose documents the view shows: a pane.
+class DocumentOwner {
+ public:
+  virtual ~DocumentOwner() = default;
+
+  // Writes what is on show. False when the disk refused.
+  virtual bool Save() = 0;
+  virtual void InsertTemplate() = 0;
+  // A choice among the texts of a document, or of its status; not every owner has them.
+  virtual void PickView(int) {}
+  virtual void PickStatus() {}
+  // "E&xit": empties the view, which is settled.
+  virtual void CloseDocument() = 0;
+  virtual void Exit() { CloseDocument(); }
+  virtual PrintedDocument ToPrint() = 0;
+};
 
 // The right part of the hub: a document in its text box, and what is done to it. The panes of the
 // areas share it and decide which file is on show.
@@ -33,6 +52,9 @@ class DocumentView {
   forms::Command print_options{panel, "SSCommand5", "&Print Options"};
   forms::Command save{panel, "SSCommand6", "&Save"};
   forms::Command exit{panel, "SSCommand7", "E&xit"};
+
+  // Its commands are the owner's from now on.
+  void LendTo(DocumentOwner* owner) { owner_ = owner; }
 
   // What can be done: nothing without a document; leaving it alone when it can't be read; reading;
   // or everything.
@@ -56,22 +78,27 @@ class DocumentView {
   bool Write(std::string_view file);
 
   // Holds as long as edited text is on show that isn't saved.
-  bool unsaved() const { return unsaved_; }
+  bool unsaved() const { return question_.unsaved(); }
   // Offers to save what is unsaved. False when that was wanted and didn't work.
-  bool OfferToSave();
+  bool OfferToSave() { return question_.Offer() != parts::SaveResult::kFailed; }
   // Likewise before the text is left. False when it has to stay.
-  bool Settle();
+  bool Settle() { return question_.Settle(); }
 
-  std::function<bool()> on_save;   // false when the disk refused
-  std::function<void()> on_state;  // something came or went that menus depend on
+  void CopyToClipboard();
+
+  std::function<void()> on_saved;
+  std::function<void(PrintedDocument)> on_print;
 
  private:
+  void ConnectCommands();
+  parts::SaveResult Save();
   void SetAccess(Access access);
   void Show(std::string bytes);
 
   forms::Context& context_;
   richtext::StoredForm stored_;  // of the document on show
-  bool unsaved_ = false;
+  parts::SaveQuestion question_;
+  DocumentOwner* owner_ = nullptr;
   Access access_ = Access::kNone;
 };
 

@@ -1,5 +1,7 @@
 #include "workarea/documents_pane.h"
 
+#include <algorithm>
+
 #include "forms/disk_trouble.h"
 #include "forms/form.h"
 #include "forms/message.h"
@@ -35,16 +37,23 @@ DocumentButtons::DocumentButtons(forms::Container& parent, const DocumentGroup& 
 }
 
 DocumentsPane::DocumentsPane(forms::Container& parent, forms::Context& context, DocumentView& view)
-    : context_(context), view_(view) {
+    : DocumentPane(view), context_(context) {
   for (const DocumentGroup& group : DocumentGroups()) {
+    std::vector<forms::Control*> others;  // one group is shown at a time
+    for (const auto& row : groups) others.push_back(&row->panel);
     groups.push_back(std::make_unique<DocumentButtons>(parent, group));
+    groups.back()->panel.Cover(std::move(others));
     for (std::size_t i = 0; i < group.documents.size(); ++i) {
       groups.back()->buttons[i]->on_click = [this, &group, i] { Choose(group, i); };
     }
   }
 }
 
-void DocumentsPane::Enter(Area area) {
+bool DocumentsPane::Has(Area area) const {
+  return std::ranges::any_of(groups, [=](const auto& row) { return row->group.area == area; });
+}
+
+void DocumentsPane::Show(Area area) {
   ReadStatus();
   Paint(nullptr);
   for (const auto& row : groups) {
@@ -69,10 +78,9 @@ void DocumentsPane::ReadStatus() {
   view_.panel.form().SetStatus(note.substr(0, note.find('\n')));
 }
 
-void DocumentsPane::Leave() {
+void DocumentsPane::Hide() {
   view_.panel.form().SetStatus({});
   for (const auto& row : groups) row->panel.SetVisible(false);
-  CloseDocument();
 }
 
 void DocumentsPane::Paint(const forms::Command* chosen) {

@@ -7,8 +7,7 @@
 #include "forms/command.h"
 #include "forms/panel.h"
 #include "workarea/document_status.h"
-#include "workarea/document_view.h"
-#include "workarea/pane.h"
+#include "workarea/document_pane.h"
 
 namespace tarnwell::workarea {
 
@@ -22,14 +21,13 @@ struct DocumentButtons {
 };
 
 // The areas with numbered documents: agreements, employee documents, policies.
-class DocumentsPane : public Pane {
+class DocumentsPane : public DocumentPane {
  public:
   DocumentsPane(forms::Container& parent, forms::Context& context, DocumentView& view);
 
   std::vector<std::unique_ptr<DocumentButtons>> groups;
 
-  void Enter(Area area) override;
-  void Leave() override;
+  bool Has(Area area) const override;
   bool Save() override;
   void InsertTemplate() override;
   void PickView(int option) override;
@@ -38,6 +36,8 @@ class DocumentsPane : public Pane {
   PrintedDocument ToPrint() override;
 
  private:
+  void Show(Area area) override;
+  void Hide() override;
   void Choose(const DocumentGroup& group, std::size_t place);
   void Paint(const forms::Command* chosen);
   void ShowText();
@@ -47,7 +47,6 @@ class DocumentsPane : public Pane {
   int number() const { return group_->base + document_->index; }
 
   forms::Context& context_;
-  DocumentView& view_;
   DocumentStatus status_;
   bool has_status_ = true;  // it could be read
   const DocumentGroup* group_ = nullptr;

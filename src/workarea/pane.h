@@ -1,28 +1,34 @@
 #pragma once
 
+#include <map>
+#include <string_view>
+
+#include "forms/menu.h"
 #include "workarea/areas.h"
-#include "workarea/document_printing.h"
 
 namespace tarnwell::workarea {
 
-// What the hub shows for an area. One pane is in hand at a time and has the document view.
+// What the hub's menu entries do, by their fixed names.
+using PaneMenu = std::map<std::string_view, forms::MenuAction>;
+
+// What the hub shows for an area. One pane is in hand at a time.
 class Pane {
  public:
   virtual ~Pane() = default;
 
+  virtual bool Has(Area area) const = 0;
   virtual void Enter(Area area) = 0;
-  // Another area is chosen: hides what is the pane's own. The view is settled.
+  // Another area is chosen: hides what is the pane's own. It is settled.
   virtual void Leave() = 0;
 
-  // The commands beside the document view. Save says false when the disk refused.
-  virtual bool Save() = 0;
-  virtual void InsertTemplate() = 0;
-  virtual void PickView(int option) = 0;
-  virtual void PickStatus() = 0;
-  // "E&xit": empties the view, which is settled.
-  virtual void CloseDocument() = 0;
+  // Something would read the files of what is on show: offers to save it. False when that was
+  // wanted and didn't work.
+  virtual bool OfferToSave() = 0;
+  // Something would take the pane's place. False when it has to stay.
+  virtual bool Settle() = 0;
 
-  virtual PrintedDocument ToPrint() = 0;
+  // Of the entries that the pane works with. The others are dead while it is in hand.
+  virtual PaneMenu Menu() = 0;
 };
 
 }  // namespace tarnwell::workarea

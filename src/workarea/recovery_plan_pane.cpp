@@ -29,7 +29,7 @@ void ShowInformation(forms::Context& context) {
 
 }  // namespace
 
-void RecoveryPlanPane::Enter(Area) {
+void RecoveryPlanPane::Show(Area) {
   for (forms::Control* of_others :
        std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
     of_others->SetVisible(false);

@@ -1,29 +1,32 @@
 #pragma once
 
-#include "workarea/document_view.h"
-#include "workarea/pane.h"
+#include <functional>
+
+#include "workarea/document_pane.h"
 
 namespace tarnwell::workarea {
 
 // The area of the company's disaster recovery plan, which is one document.
-class RecoveryPlanPane : public Pane {
+class RecoveryPlanPane : public DocumentPane {
  public:
-  RecoveryPlanPane(forms::Context& context, DocumentView& view) : context_(context), view_(view) {}
+  RecoveryPlanPane(forms::Context& context, DocumentView& view)
+      : DocumentPane(view), context_(context) {}
 
-  void Enter(Area area) override;
-  void Leave() override { CloseDocument(); }
+  bool Has(Area area) const override { return area == kRecoveryPlan; }
   bool Save() override;
   void InsertTemplate() override;
-  void PickView(int) override {}
-  void PickStatus() override {}
   void CloseDocument() override;
+  // The area is left with its document, so that its button brings it back.
+  void Exit() override { on_exit(); }
   PrintedDocument ToPrint() override;
 
+  std::function<void()> on_exit;
+
  private:
+  void Show(Area area) override;
   bool HasPlan() const;
 
   forms::Context& context_;
-  DocumentView& view_;
 };
 
 }  // namespace tarnwell::workarea

@@ -6,7 +6,6 @@
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
-#include "richtext/rich_text_writer.h"
 #include "text/date_mask.h"
 
 namespace tarnwell::workarea {
@@ -32,64 +31,49 @@ WorkArea1::WorkArea1(forms::Context& context)
       colors(context, settings::PanelColor::kWorkArea) {
   main_buttons.on_press = [this](int index) { Press(index); };
   area_buttons.on_press = [this](Area area) { ChooseArea(area); };
+  // The colours go with the text. Where they can't be stored they stay to be, and the text is saved.
+  document.on_saved = [this] {
+    if (colors.changed()) colors.Save();
+  };
+  document.on_print = [this](PrintedDocument printed) { printing.Open(std::move(printed)); };
+  recovery_plan.on_exit = [this] { LeaveArea(); };
   colors.on_change = [this] { ShowColors(); };
-  printing.print.on_close = [this] { CoverAreas(false); };
-  BuildDocumentCommands();
+  printing.print.panel.Cover({&areas});
+  printing.all_panel.Cover({&areas});
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
                      {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", print::kPrintHelp}});
 }
 
-void WorkArea1::BuildDocumentCommands() {
-  document.on_save = [this] { return Save(); };
-  document.on_state = [this] { EnableMenus(); };
-  document.exit.on_click = [this] { ExitDocument(); };
-  document.insert_template.on_click = [this] { pane_->InsertTemplate(); };
-  document.views.on_pick = [this](int option) { pane_->PickView(option); };
-  document.status.on_pick = [this] { pane_->PickStatus(); };
-  document.print_options.on_click = [this] {
-    printing.Open(pane_->ToPrint());
-    CoverAreas(printing.print.is_open());
-  };
-}
-
 void WorkArea1::BuildMenus() {
-  options_ = &menus().AddSubmenu("mO", "&Options");
-  forms::MenuItem& options = *options_;
-  const std::pair<int, const char*> entries[] = {
+  forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
+  const std::pair<int, const char*> main_entries[] = {
       {parts::kInformationAdvisor, "&Information Advisor"},
       {parts::kToolsAndProgramInformation, "&Tools and Program Information"},
       {parts::kExitProgram, "&Exit Program"},
   };
-  for (const auto& [index, caption] : entries) {
-    options.AddEntry("mOTab(" + std::to_string(index) + ")", caption,
-                     [this, index = index] { main_buttons[index].Click(); });
+  for (const auto& [index, caption] : main_entries) {
+    options.AddCommand("mOTab(" + std::to_string(index) + ")", caption, main_buttons[index]);
   }
-  const auto add = [&](const char* name, const char* caption, forms::Command& command) {
-    forms::MenuItem& entry = options.AddEntry(name, caption, [&command] { command.Click(); });
-    command_entries_.emplace_back(&entry, &command);
+  const auto add = [&](const char* name, const char* caption) {
+    pane_entries_.push_back(&options.AddEntry(name, caption, forms::MenuAction{}));
   };
   options.AddSeparator();
-  copy_entry_ = &options.AddEntry("mOClip", "&Copy to Clipboard", [this] { CopyDocument(); });
-  add("mOFont", "&Font Select", document.tools.font);
-  add("mOSpell", "&Spell Check", document.tools.spelling);
-  add("mOThes", "&Thesaurus", document.tools.thesaurus);
-  add("mOP", "&Print Options", document.print_options);
+  add("mOClip", "&Copy to Clipboard");
+  add("mOFont", "&Font Select");
+  add("mOSpell", "&Spell Check");
+  add("mOThes", "&Thesaurus");
+  add("mOP", "&Print Options");
   options.AddEntry("mOPAll", "Print &All Current Policies/Docs Only",
                    [this] { PrintAll(DocumentPrinting::Breaks::kNone); });
   options.AddEntry("mOPAllB", "Print All Current Policies/Docs Only - &With Page Breaks",
                    [this] { PrintAll(DocumentPrinting::Breaks::kPages); });
-  add("mOS", "&Save", document.save);
+  add("mOS", "&Save");
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
+  options.LiveWith({&areas});
   SetPopupMenu(options);
-  EnableMenus();
-}
-
-void WorkArea1::EnableMenus() {
-  for (const auto& [entry, command] : command_entries_) entry->SetEnabled(command->enabled());
-  if (copy_entry_) copy_entry_->SetEnabled(document.is_readable());
 }
 
 void WorkArea1::Load() {
@@ -117,8 +101,7 @@ void WorkArea1::Activate() {
 }
 
 void WorkArea1::Press(int index) {
-  // Closing the print panel would take the pages away from a run that is still making them.
-  if (busy() || index == main_buttons.selected() || !document.Settle()) return;
+  if (index == main_buttons.selected() || (pane_ && !pane_->Settle())) return;
   if (index == parts::kExitProgram) {
     printing.print.Close();
     return AskToExit();
@@ -157,24 +140,17 @@ bool WorkArea1::LeaveColors() {
   return true;
 }
 
-// The colours go with the text. Where they can't be stored they stay to be, and the text is saved.
-bool WorkArea1::Save() {
-  if (pane_ && !pane_->Save()) return false;
-  if (colors.changed()) colors.Save();
-  return true;
-}
-
 bool WorkArea1::QueryUnload(forms::UnloadCause) {
-  return document.Settle() && colors.Leave(forms::Buttons::kYesNo);
+  return (!pane_ || pane_->Settle()) && colors.Leave(forms::Buttons::kYesNo);
 }
 
 Pane* WorkArea1::PaneOf(Area area) {
-  if (area == kRecoveryPlan) return &recovery_plan;
-  return area == kNoArea ? nullptr : &documents;
+  const auto found = std::ranges::find_if(panes_, [=](Pane* pane) { return pane->Has(area); });
+  return found == panes_.end() ? nullptr : *found;
 }
 
 void WorkArea1::ChooseArea(Area area) {
-  if (area == area_ || !document.Settle()) return;
+  if (area == area_ || (pane_ && !pane_->Settle())) return;
   LeaveArea();
   EnterArea(area);
 }
@@ -185,6 +161,7 @@ void WorkArea1::EnterArea(Area area) {
   area_buttons.Paint(area);
   SetHelpContext(HelpOf(area));
   if (pane_) pane_->Enter(area);
+  LendMenu();
 }
 
 void WorkArea1::LeaveArea() {
@@ -192,28 +169,13 @@ void WorkArea1::LeaveArea() {
   EnterArea(kNoArea);
 }
 
-void WorkArea1::ExitDocument() {
-  if (!document.Settle()) return;
-  pane_->CloseDocument();
-  // The area of a single document is left with it, so that its button brings it back.
-  if (area_ == kRecoveryPlan) LeaveArea();
-}
-
-void WorkArea1::CopyDocument() {
-  context_.clipboard.SetRichText(richtext::WriteRichText(document.text.document()));
-  Message({"Copy Option", "A copy has been copied to the Windows Clipboard.",
-           forms::Icon::kInformation});
+void WorkArea1::LendMenu() {
+  PaneMenu menu = pane_ ? pane_->Menu() : PaneMenu();
+  for (forms::MenuItem* entry : pane_entries_) entry->SetAction(std::move(menu[entry->name()]));
 }
 
 void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
-  if (!document.OfferToSave()) return;
-  CoverAreas(true);
-  printing.OpenAll(breaks);
-}
-
-void WorkArea1::CoverAreas(bool covered) {
-  areas.SetVisible(!covered);
-  options_->SetEnabled(!covered);
+  if (!pane_ || pane_->OfferToSave()) printing.OpenAll(breaks);
 }
 
 void WorkArea1::ShowColors() {

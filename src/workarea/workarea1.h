@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/panel.h"
@@ -21,7 +23,7 @@ class WorkArea1 : public forms::Form {
   parts::MainButtons main_buttons{*this};
   forms::Label date{*this, "Label1"};
   forms::Label area_title{*this, "Label2", {}, forms::LabelRole::kTitle};
-  forms::Panel areas{*this, "SSPanel3"};  // all that the print panel covers
+  forms::Panel areas{*this, "SSPanel3"};
   AreaButtonColumn area_buttons{areas};
   DocumentView document;
   DocumentsPane documents;
@@ -35,33 +37,27 @@ class WorkArea1 : public forms::Form {
 
  private:
   void BuildMenus();
-  void BuildDocumentCommands();
 
   void Press(int index);
   void ShowMainArea(parts::MainArea main_area);
   void AskToExit();
-  bool Save();
   bool LeaveColors();
 
   void ChooseArea(Area area);
   void EnterArea(Area area);
   void LeaveArea();
-  void ExitDocument();
   Pane* PaneOf(Area area);
+  // Of the pane on show, or none.
+  void LendMenu();
 
-  void CopyDocument();
-  // The print panel lies over the areas, and their menu is dead.
-  void CoverAreas(bool covered);
   void PrintAll(DocumentPrinting::Breaks breaks);
-  void EnableMenus();
   void ShowColors();
 
   parts::MainArea main_area_ = parts::kCompanyData;
   Area area_ = kNoArea;
+  const std::vector<Pane*> panes_{&documents, &recovery_plan};
   Pane* pane_ = nullptr;
-  std::vector<std::pair<forms::MenuItem*, forms::Command*>> command_entries_;  // as their command
-  forms::MenuItem* options_ = nullptr;
-  forms::MenuItem* copy_entry_ = nullptr;
+  std::vector<forms::MenuItem*> pane_entries_;
 };
 
 }  // namespace tarnwell::workarea

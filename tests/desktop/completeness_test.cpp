@@ -28,35 +28,6 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::ScrollFaults;
 
-// What a form hides while it shows a panel.
-struct Replacement {
-  const char* form;
-  const char* panel;
-  std::vector<const char*> hidden;
-};
-const Replacement kReplacements[] = {
-    {"Zcalandar1", "SSPanel6", {"SSPanel1"}},
-    {"Zcalandar1", "SSPanel5", {"SSPanel1"}},
-    {"Zcalandar1", "SSPanel7", {"SSPanel1", "MonthView1"}},
-    {"Zcalandar1", "SSPanel3", {"SSPanel1", "MonthView1"}},
-    {"Zcalandar1", "SSPanel80", {"SSPanel1", "MonthView1"}},
-    {"Zcalandar1", "SSPanel90", {"SSPanel1", "MonthView1"}},
-    {"Zcalandar1", "SSPanel100", {"SSPanel1", "MonthView1"}},
-    {"WorkArea1", "SSCommand16Panel", {"SSCommand14Panel"}},
-    {"WorkArea1", "SSCommand17Panel", {"SSCommand14Panel"}},
-    {"WorkArea1", "SSPanel80", {"SSPanel3"}},
-    {"WorkArea1", "SSPanel6", {"SSPanel3"}},
-};
-
-std::vector<forms::Control*> ReplacedBy(forms::Form& form, const forms::Control& panel) {
-  std::vector<forms::Control*> replaced;
-  for (const Replacement& one : kReplacements) {
-    if (form.name() != one.form || panel.name() != one.panel) continue;
-    for (const char* name : one.hidden) replaced.push_back(form.Find(name));
-  }
-  return replaced;
-}
-
 // "&Page Setup" and "&Print" are fixed so; the letter goes from one to the other.
 const std::string kSharedMnemonic = "mnemonic p: SSCommand80(1) and SSCommand80(4)";
 
@@ -118,13 +89,10 @@ class Inspector : public forms::NavigatorObserver {
       auto* panel = dynamic_cast<forms::Panel*>(control);
       if (!panel) continue;
       const bool hidden = !panel->visible();
-      const auto replaced = ReplacedBy(form, *panel);
-      for (forms::Control* other : replaced) other->SetVisible(false);
       panel->SetVisible(true);
       if (hidden) Inspect(form);
       InspectHiddenPanels(form, *panel);
       if (hidden) panel->SetVisible(false);
-      for (forms::Control* other : replaced) other->SetVisible(true);
     }
   }
 

@@ -410,7 +410,7 @@ TEST_F(RecurrencePanelTest, OnlyTheStopBoxIsLiveWhileARunLasts) {
     choice().modes.Pick(1);
     form().picker.SelectDay(MakeDate(2026, 3, 20));
     rig.ClickMenu("mOE");
-    EXPECT_FALSE(rig.navigator().Close(form()));
+    EXPECT_FALSE(rig.CloseWindow());
     EXPECT_EQ(panel().stop.Reachable(), true);
     EXPECT_EQ(form().picker.date(), kToday);
   };

@@ -68,7 +68,7 @@ TEST_F(Zcalandar1OnABadDiskTest, AFailedSaveIsToldAndKeepsTheRowsAsTheyWereTyped
   ExpectQuestion("Save changes/entries before exiting?", Answer::kYes);
   ExpectNotSaved(day);
   ExpectLeave(Answer::kYes);
-  rig.navigator().Close(form());
+  rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
 }
 

@@ -105,7 +105,7 @@ TEST_F(Zcalandar1Test, LeavingWithChangesAsks) {
   ASSERT_EQ(rig.top(), "Zcalandar1");
   rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
   ExpectSaved();
-  rig.navigator().Close(form());
+  rig.CloseWindow();
   EXPECT_EQ(rig.dialogs.last.title, kSavedTitle);
   EXPECT_EQ(rig.top(), "Startfrm");
   EXPECT_EQ(ReadDay(rig.folder, today)->rows[0].entry, "Call");
@@ -259,7 +259,7 @@ TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {
   int tried = 0;
   rig.loop.on_yield = [&] {
     ++tried;
-    EXPECT_FALSE(rig.navigator().Close(form()));
+    EXPECT_FALSE(rig.CloseWindow());
     rig.ClickMenu("mOE");
     form().exit.Click();
     form().picker.SelectDay(tomorrow);

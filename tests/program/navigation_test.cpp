@@ -72,12 +72,12 @@ TEST_F(NavigationTest, TheMenusOfTheScreensAboveListTheFourOthers) {
 
 TEST_F(NavigationTest, ClosingAScreenAboveTheHubByItsBoxEndsTheProgram) {
   hub().main_buttons[parts::kInformationAdvisor].Click();
-  rig.navigator().Close(*rig.navigator().top());
+  rig.CloseWindow();
   EXPECT_TRUE(rig.navigator().ended());
 }
 
 TEST_F(NavigationTest, ClosingTheHubByItsBoxLeadsBackToTheStartScreen) {
-  rig.navigator().Close(hub());
+  rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
   EXPECT_FALSE(rig.navigator().ended());
 }

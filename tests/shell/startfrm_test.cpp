@@ -154,7 +154,7 @@ TEST_F(StartfrmTest, LeavingKeepsANormalSizedWindowForTheNextStart) {
 
   Start();
   rig.window.is_maximized = false;
-  rig.navigator().Close(form());
+  rig.CloseWindow();
   EXPECT_TRUE(rig.navigator().ended());
   EXPECT_EQ(GColor3().GetText(35), "Yes");
 }

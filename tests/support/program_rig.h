@@ -34,6 +34,11 @@ class ProgramRig : public FakeWorld {
     return dynamic_cast<FormClass&>(*form);
   }
 
+  // Presses the close box of the window; false when the form on top stays.
+  bool CloseWindow() {
+    return navigator().Close(*navigator().top(), forms::UnloadCause::kCloseBox);
+  }
+
   // Presses the menu entry of the form on top.
   void ClickMenu(std::string_view name) {
     forms::MenuItem* item = navigator().top()->menus().Find(name);

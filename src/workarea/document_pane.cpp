@@ -1,0 +1,26 @@
+#include "workarea/document_pane.h"
+
+namespace tarnwell::workarea {
+
+void DocumentPane::Enter(Area area) {
+  view_.LendTo(this);
+  Show(area);
+}
+
+void DocumentPane::Leave() {
+  Hide();
+  CloseDocument();
+  view_.LendTo(nullptr);
+}
+
+PaneMenu DocumentPane::Menu() {
+  const auto copy = [this] { view_.CopyToClipboard(); };
+  return {{"mOClip", {copy, {&view_.print_options}}},  // both need a text that can be read
+          {"mOFont", forms::ActionOf(view_.tools.font)},
+          {"mOSpell", forms::ActionOf(view_.tools.spelling)},
+          {"mOThes", forms::ActionOf(view_.tools.thesaurus)},
+          {"mOP", forms::ActionOf(view_.print_options)},
+          {"mOS", forms::ActionOf(view_.save)}};
+}
+
+}  // namespace tarnwell::workarea
