@@ -13,10 +13,11 @@ namespace {
 // The text of a field's instruction; addresses hold no Unicode escapes.
 std::string InstructionText(std::string_view rtf) {
   std::string text;
+  ByteDecoder decoder;
   Tokenizer tokenizer(rtf);
   for (Token token = tokenizer.Next(); token.kind != TokenKind::kEnd; token = tokenizer.Next()) {
     const bool is_character = token.kind == TokenKind::kSymbol && token.text != "*";
-    if (token.kind == TokenKind::kText || is_character) DecodeBytes(token.text, 1252, text);
+    if (token.kind == TokenKind::kText || is_character) decoder.Take(token.text, 1252, text);
   }
   return text;
 }

@@ -5,11 +5,13 @@
 #include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "richtext/rich_document.h"
 #include "richtext/rtf_tokenizer.h"
 #include "richtext/rtf_words.h"
+#include "richtext/script_words.h"
 
 namespace tarnwell::richtext {
 
@@ -21,6 +23,8 @@ struct FormatState {
   int text_code_page = 1252;
   int unicode_skip = 1;  // bytes behind a \u that stand for it in older readers
   int field = kNoField;
+  FontPlace font_place;
+  bool is_settled = true;  // character.other is in the order that SettleScripts gives it
   bool hidden = false;
   bool in_table = false;
 };
@@ -43,6 +47,13 @@ struct FormatTables {
   void SetFont(int number, FormatState& state) const;
   std::optional<Color> ColorAt(int index) const;
 };
+
+// Before `state` is the format of something.
+inline void Settle(FormatState& state) {
+  if (!std::exchange(state.is_settled, true)) {
+    SettleScripts(state.font_place, state.character.other);
+  }
+}
 
 // What stands after \plain.
 void ResetCharacter(const FormatTables& tables, FormatState& state);

@@ -5,7 +5,9 @@
 #include <limits>
 
 #include "richtext/code_pages.h"
+#include "richtext/kept_words.h"
 #include "richtext/rtf_words.h"
+#include "richtext/script_words.h"
 #include "richtext/text_escape.h"
 
 namespace tarnwell::richtext {
@@ -42,11 +44,18 @@ std::string Tab(const TabStop& tab) {
 }  // namespace
 
 WriterTables::WriterTables(const RichDocument& document)
-    : fonts_(document.fonts), colors_(document.colors), default_number_(document.default_font) {
+    : fonts_(document.fonts),
+      colors_(document.colors),
+      code_page_(document.code_page),
+      default_number_(document.default_font) {
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), [&document](const Font& candidate) {
     return candidate.number == document.default_font;
   });
   if (font != fonts_.end()) default_font_ = font->name;
+  has_east_asian_fonts_ =
+      HasDoubleBytes(code_page_) || std::ranges::any_of(fonts_, [this](const Font& own) {
+        return HasDoubleBytes(CodePageOfCharset(own.charset, code_page_));
+      });
 }
 
 int WriterTables::FontNumber(const std::string& name) {
@@ -71,11 +80,11 @@ int WriterTables::FreeNumber() const {
   return number;
 }
 
-bool WriterTables::HoldsSymbols(const std::string& font) const {
+int WriterTables::CodePageOf(const std::string& font) const {
   const std::string& name = font.empty() ? default_font_ : font;
   const auto own = std::find_if(fonts_.begin(), fonts_.end(),
                                 [&name](const Font& candidate) { return candidate.name == name; });
-  return own != fonts_.end() && own->charset == kSymbolCharset;
+  return own == fonts_.end() ? code_page_ : CodePageOfCharset(own->charset, code_page_);
 }
 
 int WriterTables::ColorNumber(const std::optional<Color>& color) {
@@ -91,12 +100,12 @@ bool WriterTables::HasOwnColor() const {
          std::find(colors_.begin(), colors_.end(), std::nullopt) != colors_.end();
 }
 
-std::string WriterTables::Rtf(int code_page) const {
+std::string WriterTables::Rtf() const {
   std::string rtf;
   if (!fonts_.empty()) rtf += "{\\fonttbl";
   for (const Font& font : fonts_) {
     rtf += "{" + Number("f", font.number) + font.other + Number("fcharset", font.charset) + ' ' +
-           EscapeName(font.name, code_page) + ";}";
+           EscapeName(font.name, CodePageOfCharset(font.charset, code_page_)) + ";}";
   }
   if (!fonts_.empty()) rtf += "}\n";
   if (!colors_.empty()) rtf += "{\\colortbl";
@@ -111,20 +120,19 @@ std::string WriterTables::Rtf(int code_page) const {
   return rtf;
 }
 
+namespace {
+
+// What stands after \plain.
 CharacterFormat DefaultCharacter(const WriterTables& tables) {
   CharacterFormat format;
   format.font = tables.default_font();
+  // Readers differ in the size of East Asian letters that no word gives.
+  if (tables.has_east_asian_fonts()) format.half_points = 0;
   return format;
 }
 
-std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
-                           WriterTables& tables) {
-  const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
-  if (from.other != to.other || (lacks_color && !tables.HasOwnColor())) {
-    CharacterFormat plain = DefaultCharacter(tables);
-    plain.other = to.other;
-    return "\\plain" + to.other + CharacterWords(plain, to, tables);
-  }
+// Those of the model, from one format to the other.
+std::string OwnWords(const CharacterFormat& from, const CharacterFormat& to, WriterTables& tables) {
   std::string out;
   const auto shown = [&tables](const std::string& font) {
     return font.empty() ? tables.default_font() : font;
@@ -146,6 +154,25 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
     out += Number("highlight", number) + Number("chcbpat", number);
   }
   return out;
+}
+
+}  // namespace
+
+std::string AllCharacterWords(const CharacterFormat& format, WriterTables& tables) {
+  const std::string words = OwnWords(DefaultCharacter(tables), format, tables);
+  const std::size_t place = FindKept("f", format.other);
+  if (place == std::string::npos) return "\\plain" + format.other + words;
+  return "\\plain" + format.other.substr(0, place) + words +
+         format.other.substr(place + kFontStandsHere.size());
+}
+
+std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
+                           WriterTables& tables) {
+  if (from == to) return {};
+  const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
+  const bool starts_anew =
+      from.other != to.other || (lacks_color && !tables.HasOwnColor()) || HoldsKept("f", to.other);
+  return starts_anew ? AllCharacterWords(to, tables) : OwnWords(from, to, tables);
 }
 
 std::string ParagraphWords(const ParagraphFormat& format) {

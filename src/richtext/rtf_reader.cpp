@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "richtext/code_pages.h"
 #include "richtext/limits.h"
 #include "richtext/runs.h"
 #include "richtext/text_escape.h"
@@ -12,6 +11,12 @@ namespace tarnwell::richtext {
 namespace {
 
 constexpr std::size_t kMostStates = 256;
+
+// The second half of a character may stand behind a backslash.
+bool MayBeBytes(const Token& token) {
+  return token.kind == TokenKind::kByte || token.kind == TokenKind::kText ||
+         token.kind == TokenKind::kSymbol;
+}
 
 }  // namespace
 
@@ -26,8 +31,9 @@ RichDocument RtfReader::Read() && {
     Take(token);
   }
   document_.is_part = left == 0 || builder_.is_full();
+  EndBytes();
   LeaveFields();
-  builder_.Finish(state());
+  builder_.Finish(settled());
   document_.code_page = tables_.code_page;
   document_.default_font = tables_.default_font;
   document_.fonts = std::move(tables_.fonts);
@@ -38,6 +44,7 @@ RichDocument RtfReader::Read() && {
 
 void RtfReader::Take(const Token& token) {
   if (skip_ > 0 && SkipFallback(token)) return;
+  if (!MayBeBytes(token)) EndBytes();
   switch (token.kind) {
     case TokenKind::kGroupStart:
       return PushGroup();
@@ -78,7 +85,14 @@ bool RtfReader::SkipFallback(const Token& token) {
 void RtfReader::TakeBytes(std::string_view bytes) {
   text_.clear();
   joiner_.Flush(text_);
-  DecodeBytes(bytes, state().text_code_page, text_);
+  decoder_.Take(bytes, state().text_code_page, text_);
+  AddText(text_);
+}
+
+// Half of a character whose other half doesn't come.
+void RtfReader::EndBytes() {
+  text_.clear();
+  decoder_.Flush(text_);
   AddText(text_);
 }
 
@@ -98,9 +112,8 @@ void RtfReader::TakeUnicode(int number) {
 void RtfReader::AddText(std::string_view utf8) {
   if (utf8.empty()) return;
   BeginBody();
-  if (!state().hidden) return builder_.AddText(utf8, state());
-  const bool in_symbol_font = state().text_code_page == kSymbolCodePage;
-  builder_.AddOpaque({EscapeText(utf8, tables_.code_page, in_symbol_font)}, state());
+  if (!state().hidden) return builder_.AddText(utf8, settled());
+  builder_.AddOpaque({EscapeText(utf8, state().text_code_page)}, settled());
 }
 
 void RtfReader::TakeSymbol(const Token& token) {
@@ -109,6 +122,10 @@ void RtfReader::TakeSymbol(const Token& token) {
     case '{':
     case '}':
       return TakeBytes(token.text);
+    default:
+      EndBytes();
+  }
+  switch (token.text.front()) {
     case '~':
       return AddText("\u00A0");
     case '-':
@@ -120,7 +137,7 @@ void RtfReader::TakeSymbol(const Token& token) {
     case '\r':
     case '\n':
       BeginBody();
-      return builder_.EndParagraph(state());
+      return builder_.EndParagraph(settled());
     case '*':
       return TakeStar(token);
     case '|':

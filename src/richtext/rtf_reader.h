@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "richtext/code_pages.h"
 #include "richtext/document_builder.h"
 #include "richtext/format_reader.h"
 #include "richtext/rich_document.h"
@@ -35,6 +36,7 @@ class RtfReader {
   void TakeSymbol(const Token& token);
   void TakeUnicode(int number);
   void AddText(std::string_view utf8);
+  void EndBytes();
   void PushGroup();
   void PopGroup();
 
@@ -66,12 +68,18 @@ class RtfReader {
   void BeginBody();
 
   FormatState& state() { return states_.back(); }
+  // The same, as the format of something.
+  const FormatState& settled() {
+    Settle(state());
+    return state();
+  }
 
   RichDocument document_;
   FormatTables tables_;
   Tokenizer tokenizer_;
   std::vector<FormatState> states_;
   DocumentBuilder builder_;
+  ByteDecoder decoder_;
   Utf16Joiner joiner_;
   std::string text_;  // decoded last; kept for its memory
   std::vector<OpenField> open_fields_;
@@ -85,6 +93,7 @@ class RtfReader {
   std::size_t defaults_begin_ = 0;
   std::size_t defaults_depth_ = 0;
   std::size_t defaults_runs_ = 0;
+  bool in_character_border_ = false;  // the border words that follow are of characters
   bool tables_broken_ = false;  // a nested table had no end: don't look for one again
 };
 

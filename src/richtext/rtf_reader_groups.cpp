@@ -113,7 +113,7 @@ void RtfReader::TakePicture(std::size_t begin, bool in_shape_group) {
     picture = ReadPicture(in_shape_group ? FirstGroup(group->body) : group->body);
   if (!picture) return KeepInPlace(group->Rtf(state().unicode_skip));
   picture->in_shape_group = in_shape_group;
-  builder_.AddPicture(std::move(*picture), state());
+  builder_.AddPicture(std::move(*picture), settled());
 }
 
 void RtfReader::TakeField(std::size_t begin) {
@@ -174,7 +174,7 @@ void RtfReader::KeepGroup(std::size_t begin) {
 
 void RtfReader::KeepInPlace(std::string rtf) {
   if (body_begun_) {
-    builder_.AddInPlace(std::move(rtf), state());
+    builder_.AddInPlace(std::move(rtf), settled());
   } else {
     document_.prologue += rtf;
   }

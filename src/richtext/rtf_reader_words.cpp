@@ -20,6 +20,7 @@ void RtfReader::TakeWord(const Token& token) {
   switch (word.word_class) {
     case WordClass::kCharacter:
     case WordClass::kKeptCharacter:
+      in_character_border_ = token.text == "chbrdr";
       return ApplyCharacterWord(word, token, source, tables_, state());
     case WordClass::kParagraph:
     case WordClass::kKeptParagraph:
@@ -27,6 +28,7 @@ void RtfReader::TakeWord(const Token& token) {
     case WordClass::kBorder:
       return TakeBorderWord(token, source);
     case WordClass::kRow:
+      in_character_border_ = false;
       return builder_.row_definition().Apply(token, source, tables_);
     case WordClass::kCharacterOf: {
       text_.clear();
@@ -55,12 +57,12 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
   }
   switch (word.word) {
     case Word::kParagraphEnd:
-      return builder_.EndParagraph(state());
+      return builder_.EndParagraph(settled());
     case Word::kSectionEnd:
       LeaveFields();
-      return builder_.EndSection(state());
+      return builder_.EndSection(settled());
     case Word::kCellEnd:
-      builder_.EndCell(state());
+      builder_.EndCell(settled());
       return LeaveFields();
     case Word::kRowStart:
       LeaveFields();
@@ -70,6 +72,7 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
     case Word::kParagraphDefaults:
       state().paragraph = ParagraphFormat{};
       state().in_table = false;
+      in_character_border_ = false;
       builder_.row_definition().LeaveBorder();
       defaults_begin_ = token.begin;
       defaults_depth_ = depth_;
@@ -122,6 +125,10 @@ void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
 }
 
 void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
+  if (in_character_border_) {
+    state().is_settled = false;
+    return KeepWord(source, state().character.other);
+  }
   if (builder_.row_definition().InBorder())
     return builder_.row_definition().Apply(token, source, tables_);
   // The same word stands once for each side.
@@ -131,6 +138,7 @@ void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
 void RtfReader::TakeParagraphWord(const KnownWord& word, const Token& token,
                                   std::string_view source) {
   builder_.row_definition().LeaveBorder();
+  in_character_border_ = false;
   if (word.word == Word::kNesting) return TakeNestedTable(token.NumberOr(1));
   ApplyParagraphWord(word, token, source, tables_, state());
 }
@@ -158,7 +166,7 @@ void RtfReader::TakeNestedTable(int level) {
     rtf.insert(0, "\\uc" + std::to_string(state().unicode_skip));
   }
   defaults_begin_ = 0;
-  builder_.AddOpaque({std::move(rtf), true}, state());
+  builder_.AddOpaque({std::move(rtf), true}, settled());
   tokenizer_.Seek(end);
 }
 

@@ -54,7 +54,7 @@ std::string RtfWriter::Write() && {
   }
   std::string rtf = "{\\rtf1" + CharsetWords(document_.code_page) + "\\deff" +
                     std::to_string(document_.default_font) + '\n';
-  rtf += tables_.Rtf(document_.code_page);
+  rtf += tables_.Rtf();
   const std::string head = PageWords(document_.page) + document_.prologue;
   rtf += head;
   if (!head.empty()) rtf += '\n';

@@ -55,14 +55,26 @@ TEST(CodePages, AByteIsTheCharacterThatItsCodePageHasThere) {
       {437, "\x80\xE1", "Çß"},
       {850, "\x80\xE1", "Çß"},
       {10000, "\x80\xD5", "Ä’"},
-      {932, "\x83J", "?J"},
+      {932, "\x93\xFA\x95\\\xB1", "日表ｱ"},
+      {936, "\xD6\xD0\x80", "中€"},
+      {949, "\xC7\xD1\x94\xEE", "한뷁"},
+      {950, "\xA4\xA4\xA5\\", "中功"},
+      {1361, "\xD0\x65", "한"},
+      {1258, "\xD0\xD2", "Đ\u0309"},
+      {874, "\xA1", "ก"},
+      {932, "\x93 \x93\x01\xFD", "? ??"},
+      {4711, "\xE9", "?"},
       {1253, "\xD2", "?"},
       {1252, "a\tb\x01\n", "a\tb"},
       {kSymbolCodePage, "a b", "\uF061 \uF062"},
   };
   for (const auto& c : cases) {
     std::string utf8;
-    DecodeBytes(c.bytes, c.code_page, utf8);
+    ByteDecoder decoder;
+    for (const char byte : std::string_view(c.bytes)) {
+      decoder.Take(std::string_view(&byte, 1), c.code_page, utf8);
+    }
+    decoder.Flush(utf8);
     EXPECT_EQ(utf8, c.utf8) << c.code_page;
   }
 }

@@ -134,5 +134,68 @@ TEST(Writing, CharactersPastTheFirstPlaneAreWrittenAsPairs) {
   EXPECT_EQ(PlainText(ReadRichText(rtf)), "a😀1");
 }
 
+// Words of a paragraph's end, or of a group in it, and what is written of them.
+TEST(Writing, WordsThatHoldForOneScriptStayBehindItsSwitch) {
+  const struct {
+    const char* read;
+    const char* written;
+  } cases[] = {
+      {"\\plain\\f1\\caps\\lang1 \\caps0 x", "\\plain\\lang1\\caps0\\f1 x"},
+      {"\\plain\\rtlch\\fcs1 \\af2\\afs30 \\ltrch\\fcs0 "
+       "\\f1\\lang7\\hich\\af3\\dbch\\af4\\loch\\f1 x",
+       "\\plain\\rtlch\\fcs1\\af2\\afs30\\ltrch\\fcs0\\lang7\\hich\\af3\\dbch\\af4\\loch\\f1 x"},
+      {"\\plain\\rtlch\\af2 \\ltrch\\hich\\af3\\loch\\f1\\lang7\\dbch\\af4 x",
+       "\\plain\\rtlch\\af2\\ltrch\\hich\\af3\\dbch\\af4\\loch\\lang7\\f1 x"},
+      {"\\plain\\rtlch\\af2 \\ltrch\\f1{\\ltrch\\rtlch\\afs30\\ab x}",
+       "\\plain\\rtlch\\af2\\ltrch\\f1{\\plain\\ltrch\\f1\\rtlch\\af2\\afs30\\ab x}"},
+      {"\\plain\\ltrch\\af1\\rtlch\\af2\\f2 x{\\b y}",
+       "\\plain\\ltrch\\af1\\rtlch\\af2\\f2 x{\\b y}"},
+      {"\\plain\\f1\\dbch\\af4 x", "\\plain\\dbch\\af4\\loch\\f1 x"},
+      {"\\plain\\chbrdr\\brdrs\\brdrw10 x{\\chbrdr\\brdrdb y}\\brdrb\\brdrth",
+       "\\brdrb\\brdrth\\plain\\chbrdr\\brdrs\\brdrw10 x{\\plain\\chbrdr\\brdrdb y}"},
+  };
+  for (const auto& c : cases) {
+    const std::string fonts =
+        "{\\fonttbl{\\f0\\fcharset0 A;}\n{\\f1\\fcharset0 B;}{\\f2\\fcharset177 C;}}";
+    const std::string rtf =
+        WriteRichText(ReadRichText("{\\rtf1" + fonts + "\\pard" + c.read + "\\par}"));
+    EXPECT_NE(rtf.find(std::string("\\pard") + c.written + "\\par"), std::string::npos) << rtf;
+    EXPECT_EQ(WriteRichText(ReadRichText(rtf)), rtf);
+  }
+}
+
+// The letters as bytes of their code page, and what every reader of today takes for them.
+TEST(Writing, EastAsianTextIsKeptThroughAChange) {
+  const struct {
+    const char* name;
+    const char* rtf;
+    const char* text;
+    const char* font;
+  } cases[] = {
+      {"Japanese",
+       "{\\rtf1\\ansi\\ansicpg932{\\fonttbl{\\f0\\fcharset128 "
+       "\\'82l\\'82r;}}\\f0\\'93\\'fa\\'95\\'5c\\'83A "
+       "\\'b1\\u8364\\'5c\\par}",
+       "日表ア ｱ€", "ＭＳ"},
+      {"Chinese",
+       "{\\rtf1\\ansi\\ansicpg936 {\\fonttbl{\\f0\\fcharset134 "
+       "\\'cb\\'ce;}}\\f0\xD6\xD0\\'ce\\'c4\\par}",
+       "中文", "宋"},
+      {"Korean",
+       "{\\rtf1\\ansi\\ansicpg1252{\\fonttbl{\\f0 A;}{\\f1\\fcharset129 B;}}caf\\'e9 "
+       "\\f1\\'c7\\'d1\\par}",
+       "café 한", "A"},
+      {"broken off", "{\\rtf1\\ansi\\ansicpg950 \\'a4{\\b\\'a4}\\'a4\\tab\\'a4\\par}", "???\t?",
+       ""},
+  };
+  for (const auto& c : cases) {
+    RichDocument document = ReadRichText(c.rtf);
+    EXPECT_EQ(PlainText(document), c.text) << c.name;
+    EXPECT_EQ(document.fonts.empty() ? "" : document.fonts[0].name, c.font) << c.name;
+    const RichDocument again = ReadRichText(WriteRichText(document));
+    EXPECT_EQ(again, document) << WriteRichText(document);
+  }
+}
+
 }  // namespace
 }  // namespace tarnwell::richtext
