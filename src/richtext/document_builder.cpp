@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/kept_words.h"
 #include "richtext/list_words.h"
 #include "richtext/runs.h"
 #include "richtext/utf8.h"
@@ -21,6 +22,13 @@ std::size_t SizeOf(const ParagraphFormat& format) {
   std::size_t size = format.other.capacity() + format.tabs.capacity() * sizeof(TabStop);
   if (format.list) size += format.list->description.capacity();
   return size;
+}
+
+// No hidden text, and in no field.
+bool IsGroup(const Run& run) {
+  const auto* const opaque = std::get_if<Opaque>(&run.content);
+  return opaque != nullptr && opaque->rtf.starts_with('{') && run.field == kNoField &&
+         !HoldsKept("v", run.format.other) && !HoldsKept("deleted", run.format.other);
 }
 
 }  // namespace
@@ -180,6 +188,11 @@ void DocumentBuilder::EndOpenRow() {
 
 void DocumentBuilder::Finish(const FormatState& state) {
   const bool in_table = state.in_table || !cell_.empty() || !row_.empty();
+  if (cell_.empty() && row_.empty() && !blocks_.empty() &&
+      std::ranges::all_of(paragraph_.runs, IsGroup)) {
+    for (const Run& run : paragraph_.runs) epilogue_ += std::get<Opaque>(run.content).rtf;
+    return;
+  }
   if (!paragraph_.runs.empty() && in_table) {
     CloseCell(state);
   } else if (!paragraph_.runs.empty()) {

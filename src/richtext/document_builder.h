@@ -38,6 +38,8 @@ class DocumentBuilder {
   bool is_full() const { return is_full_; }
   // A text without a paragraph's end, cells without a row's end.
   void Finish(const FormatState& state);
+  // The RTF of what stands behind the last paragraph and belongs to none, once it is finished.
+  std::string TakeEpilogue() { return std::move(epilogue_); }
 
   // Of the row whose cells are being read.
   RowDefinition& row_definition() { return row_definition_; }
@@ -77,6 +79,7 @@ class DocumentBuilder {
   std::vector<std::vector<Paragraph>> row_;
   RowDefinition row_definition_;
   CharacterFormat blank_;
+  std::string epilogue_;
   int last_field_ = kNoField;
 };
 

@@ -132,6 +132,7 @@ RichDocument Slice(const RichDocument& document, const Range& range) {
 void Detach(RichDocument& fragment) {
   const std::string default_font = DefaultFontName(fragment);
   fragment.prologue.clear();
+  fragment.epilogue.clear();
   ForEachParagraphOf(fragment.blocks, [&default_font](Paragraph& paragraph) {
     Detach(paragraph.format);
     Detach(paragraph.mark, default_font);

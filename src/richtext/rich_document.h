@@ -213,6 +213,7 @@ struct RichDocument {
       prologue;  // style sheet, lists, information, headers and footers of the first section
   std::vector<Field> fields;
   std::vector<Block> blocks;
+  std::string epilogue;  // groups behind the last paragraph
   // Its source held more than limits.h allows: this is its beginning, and no text to be saved.
   bool is_part = false;
   bool operator==(const RichDocument&) const = default;

@@ -34,6 +34,7 @@ RichDocument RtfReader::Read() && {
   EndBytes();
   LeaveFields();
   builder_.Finish(settled());
+  document_.epilogue = builder_.TakeEpilogue();
   document_.code_page = tables_.code_page;
   document_.default_font = tables_.default_font;
   document_.fonts = std::move(tables_.fonts);

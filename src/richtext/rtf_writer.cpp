@@ -58,7 +58,7 @@ std::string RtfWriter::Write() && {
   const std::string head = PageWords(document_.page) + document_.prologue;
   rtf += head;
   if (!head.empty()) rtf += '\n';
-  return rtf + out_ + "}\n";
+  return rtf + out_ + document_.epilogue + "}\n";
 }
 
 void RtfWriter::WriteTable(const Table& table) {

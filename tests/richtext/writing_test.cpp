@@ -197,5 +197,26 @@ TEST(Writing, EastAsianTextIsKeptThroughAChange) {
   }
 }
 
+TEST(Writing, WhatStandsBehindTheLastParagraphMakesNoneOfItsOwn) {
+  const char* const groups = "{\\*\\bkmkend a}{\\uc2{\\*\\themedata 50}}{\\*\\new{\\x}}";
+  const struct {
+    const char* body;
+    std::size_t blocks;
+  } cases[] = {
+      {"\\pard a\\par ", 1},
+      {"\\pard a\\par\\trowd\\cellx900\\pard\\intbl b\\cell\\row", 2},
+      {"\\pard a\\par{\\v hidden}", 2},
+      {"\\pard a", 1},
+  };
+  for (const auto& c : cases) {
+    const std::string rtf = std::string("{\\rtf1\\uc1 ") + c.body + groups + "}";
+    const RichDocument document = ReadRichText(rtf);
+    EXPECT_EQ(document.blocks.size(), c.blocks) << c.body;
+    const std::string written = WriteRichText(document);
+    EXPECT_NE(written.find("{\\*\\themedata 50}"), std::string::npos) << written;
+    EXPECT_EQ(ReadRichText(written), document) << written;
+  }
+}
+
 }  // namespace
 }  // namespace tarnwell::richtext
