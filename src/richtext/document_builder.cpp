@@ -66,6 +66,7 @@ void DocumentBuilder::PushRun(Run run) {
 void DocumentBuilder::AddText(std::string_view utf8, const FormatState& state) {
   const std::size_t room = std::min(text_left_, paragraph_text_left_);
   const std::size_t size = utf8.size();
+  has_text_ = true;
   if (size > room) utf8 = utf8.substr(0, CharacterStart(utf8, room));
   if (!utf8.empty()) AppendText(utf8, state);
   is_full_ = is_full_ || size > room;
@@ -87,6 +88,7 @@ void DocumentBuilder::AppendText(std::string_view utf8, const FormatState& state
 }
 
 void DocumentBuilder::AddPicture(Picture picture, const FormatState& state) {
+  has_text_ = true;
   AddRun({state.character, std::move(picture), state.field});
 }
 
@@ -117,6 +119,7 @@ std::string* DocumentBuilder::OpenSectionBreak() {
 Paragraph DocumentBuilder::TakeParagraph(const FormatState& state) {
   Paragraph paragraph = std::exchange(paragraph_, Paragraph{});
   paragraph_text_left_ = kLongestParagraph;
+  has_text_ = false;
   paragraph.format = state.paragraph;
   paragraph.mark = state.character;
   std::string marker = std::exchange(marker_, std::string());

@@ -46,6 +46,8 @@ class DocumentBuilder {
   // The format of cells that hold nothing.
   void SetBlank(CharacterFormat blank) { blank_ = std::move(blank); }
 
+  // Of the paragraph being read.
+  bool has_text() const { return has_text_; }
   std::size_t run_count() const { return paragraph_.runs.size(); }
   bool HasField(int field) const { return last_field_ >= field; }
 
@@ -73,6 +75,7 @@ class DocumentBuilder {
   std::size_t text_left_ = kMostText;
   std::size_t paragraph_text_left_ = kLongestParagraph;
   bool is_full_ = false;
+  bool has_text_ = false;
   Paragraph paragraph_;
   std::string marker_;
   std::vector<Paragraph> cell_;

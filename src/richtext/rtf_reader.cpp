@@ -33,7 +33,7 @@ RichDocument RtfReader::Read() && {
   document_.is_part = left == 0 || builder_.is_full();
   EndBytes();
   LeaveFields();
-  builder_.Finish(settled());
+  EndParagraph(&DocumentBuilder::Finish);
   document_.epilogue = builder_.TakeEpilogue();
   document_.code_page = tables_.code_page;
   document_.default_font = tables_.default_font;
@@ -138,7 +138,7 @@ void RtfReader::TakeSymbol(const Token& token) {
     case '\r':
     case '\n':
       BeginBody();
-      return builder_.EndParagraph(settled());
+      return EndParagraph(&DocumentBuilder::EndParagraph);
     case '*':
       return TakeStar(token);
     case '|':
@@ -149,6 +149,15 @@ void RtfReader::TakeSymbol(const Token& token) {
   }
 }
 
+void RtfReader::EndParagraph(void (DocumentBuilder::*end)(const FormatState&)) {
+  if (!ended_group_) return (builder_.*end)(settled());
+  FormatState own = settled();
+  own.paragraph = std::move(ended_group_->paragraph);
+  own.in_table = ended_group_->in_table;
+  ended_group_.reset();
+  (builder_.*end)(own);
+}
+
 void RtfReader::PushGroup() {
   ++depth_;
   if (depth_ < kMostStates) states_.push_back(states_.back());
@@ -156,7 +165,11 @@ void RtfReader::PushGroup() {
 
 void RtfReader::PopGroup() {
   // The last brace also ends a paragraph that has no \par: its formats hold until then.
-  if (depth_ > 1 && depth_ < kMostStates && states_.size() > 1) states_.pop_back();
+  if (depth_ > 1 && depth_ < kMostStates && states_.size() > 1) {
+    const bool changes = state().paragraph_version != states_[states_.size() - 2].paragraph_version;
+    if (changes && !ended_group_ && builder_.has_text()) ended_group_ = state();
+    states_.pop_back();
+  }
   if (!open_fields_.empty() && open_fields_.back().depth == depth_) EndField();
   if (depth_ > 0) --depth_;
   ended_ = depth_ == 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,8 @@ class RtfReader {
   void EndBytes();
   void PushGroup();
   void PopGroup();
+  void EndParagraph(void (DocumentBuilder::*end)(const FormatState&));
+  void TouchParagraph(FormatState& changed) { changed.paragraph_version = ++paragraph_versions_; }
 
   // rtf_reader_words.cpp: control words.
   void TakeWord(const Token& token);
@@ -88,6 +91,9 @@ class RtfReader {
   bool body_begun_ = false;  // before, what isn't known belongs to the prologue
   bool ended_ = false;
   std::string_view styles_;  // read when the body begins, by when fonts and colours are known
+  int paragraph_versions_ = 0;
+  // What a group that has ended said of the paragraph whose text stood in it, and whose end didn't.
+  std::optional<FormatState> ended_group_;
   // The \pard of this paragraph: a nested table begins there if it turns out to be one. 0: none, or
   // one that is done with.
   std::size_t defaults_begin_ = 0;

@@ -162,7 +162,9 @@ void RtfReader::TakeListDescription(std::size_t begin) {
   if (!group || states_.size() < 2 || depth_ >= states_.size()) return;
   std::string rtf = group->Rtf(1);  // a group around it would keep it from the paragraph
   if (rtf.size() > kLongestDescription) return;
-  std::optional<ListItem>& list = states_[states_.size() - 2].paragraph.list;
+  FormatState& described = states_[states_.size() - 2];
+  TouchParagraph(described);
+  std::optional<ListItem>& list = described.paragraph.list;
   if (!list) list.emplace();
   list->description = std::move(rtf);
 }

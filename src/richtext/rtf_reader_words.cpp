@@ -57,12 +57,12 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
   }
   switch (word.word) {
     case Word::kParagraphEnd:
-      return builder_.EndParagraph(settled());
+      return EndParagraph(&DocumentBuilder::EndParagraph);
     case Word::kSectionEnd:
       LeaveFields();
-      return builder_.EndSection(settled());
+      return EndParagraph(&DocumentBuilder::EndSection);
     case Word::kCellEnd:
-      builder_.EndCell(settled());
+      EndParagraph(&DocumentBuilder::EndCell);
       return LeaveFields();
     case Word::kRowStart:
       LeaveFields();
@@ -73,6 +73,8 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
       state().paragraph = ParagraphFormat{};
       state().in_table = false;
       in_character_border_ = false;
+      ended_group_.reset();
+      TouchParagraph(state());
       builder_.row_definition().LeaveBorder();
       defaults_begin_ = token.begin;
       defaults_depth_ = depth_;
@@ -140,6 +142,7 @@ void RtfReader::TakeParagraphWord(const KnownWord& word, const Token& token,
   builder_.row_definition().LeaveBorder();
   in_character_border_ = false;
   if (word.word == Word::kNesting) return TakeNestedTable(token.NumberOr(1));
+  TouchParagraph(state());
   ApplyParagraphWord(word, token, source, tables_, state());
 }
 

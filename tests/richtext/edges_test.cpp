@@ -109,9 +109,9 @@ TEST(Reading, OnlyTheGroupsThatAreTextAreShown) {
 }
 
 TEST(Reading, FormatsEndWithTheirGroup) {
-  const RichDocument document = ReadBody("\\pard{\\b\\qc a\\par b}c\\par");
+  const RichDocument document = ReadBody("\\pard{\\b\\qc a\\par b}c\\par d\\par");
   EXPECT_EQ(ParagraphAt(document, 0).format.alignment, Alignment::kCenter);
-  EXPECT_EQ(ParagraphAt(document, 1).format.alignment, Alignment::kLeft);
+  EXPECT_EQ(ParagraphAt(document, 2).format.alignment, Alignment::kLeft);
   EXPECT_TRUE(FormatOf(ParagraphAt(document, 1), "b").bold);
   EXPECT_FALSE(FormatOf(ParagraphAt(document, 1), "c").bold);
 }

@@ -172,5 +172,27 @@ TEST(Reading, WhatIsNoRtfIsPlainText) {
   EXPECT_EQ(PlainText(ReadRichText("\r\n {\\rtf1 x}")), "x");
 }
 
+// As other readers take it: a paragraph whose group ends first has what was said of it in there.
+TEST(Reading, AParagraphKeepsTheIndentsOfTheGroupThatItsTextStoodIn) {
+  const struct {
+    const char* body;
+    std::vector<int> indents;
+  } cases[] = {
+      {"{\\pard\\li720 one\\par two}", {720, 720}},
+      {"{\\pard\\li720 one\\par{two}}\\par three", {720, 720, 0}},
+      {"\\pard\\li720{one\\par}{\\listtext 2.\\tab}{two\\par}\\pard three\\par", {720, 720, 0}},
+      {"{\\pard\\li720 one}\\pard\\par", {0}},
+      {"{\\pard\\li720}one\\par", {0}},
+      {"\\pard\\li90{\\b one}\\par", {90}},
+  };
+  for (const auto& c : cases) {
+    std::vector<int> indents;
+    for (const Block& block : ReadRichText(std::string("{\\rtf1") + c.body + "}").blocks) {
+      indents.push_back(std::get<Paragraph>(block).format.left_indent);
+    }
+    EXPECT_EQ(indents, c.indents) << c.body;
+  }
+}
+
 }  // namespace
 }  // namespace tarnwell::richtext

@@ -68,7 +68,7 @@ TEST(Writing, ADocumentOfEveryKindIsWrittenAsTheLayoutSays) {
        "\\pard\\plain{\\field{\\*\\fldinst TOC}{\\fldrslt{\\field{\\*\\fldinst PAGEREF a}"
        "{\\fldrslt One 1}}\\par\n"
        "\\pard\\li200\\plain Two 2\\par\n"
-       "\\pard\\plain Three}}\\pard\\plain  3\\par\n"},
+       "\\pard\\li200\\plain Three}}\\pard\\li200\\plain  3\\par\n"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(WriteRichText(TestDocument(c.name)), kHead + c.body + "}\n") << c.name;
