@@ -170,8 +170,10 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
                            WriterTables& tables) {
   if (from == to) return {};
   const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
-  const bool starts_anew =
-      from.other != to.other || (lacks_color && !tables.HasOwnColor()) || HoldsKept("f", to.other);
+  // Only \plain leads to a default font that has no name.
+  const bool loses_font = to.font.empty() && from.font != to.font && tables.default_font().empty();
+  const bool starts_anew = loses_font || from.other != to.other ||
+                           (lacks_color && !tables.HasOwnColor()) || HoldsKept("f", to.other);
   return starts_anew ? AllCharacterWords(to, tables) : OwnWords(from, to, tables);
 }
 

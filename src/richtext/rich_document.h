@@ -49,6 +49,9 @@ enum class Underline : std::uint8_t {
 
 enum class Script : std::uint8_t { kBaseline, kSuperscript, kSubscript };
 
+// What shows a text that names no font.
+inline constexpr const char* kUsualFont = "Times New Roman";
+
 struct CharacterFormat {
   std::string font;      // empty: the document's default font
   int half_points = 24;  // above 0

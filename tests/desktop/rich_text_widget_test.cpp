@@ -17,6 +17,7 @@
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/rich_text_view.h"
+#include "richtext/html.h"
 #include "richtext/rich_text_files.h"
 #include "richtext/sketch.h"
 
@@ -193,6 +194,17 @@ TEST_F(RichTextWidgetTest, PastesTheRichestFormThatTheClipboardHolds) {
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text(), "ab");
   }
+}
+
+TEST_F(RichTextWidgetTest, ATableOfHtmlKeepsItsMergedCellsBothWays) {
+  auto mime = std::make_unique<QMimeData>();
+  mime->setHtml(QStringLiteral("<table border=1><tr><td colspan=2>a</td><td rowspan=2>b</td></tr>"
+                               "<tr><td>c</td><td>d</td></tr></table>"));
+  Paste(std::move(mime));
+  EXPECT_EQ(text(), "[a,b;c,d,]");
+  const std::string html = richtext::ToHtml(box_.document());
+  EXPECT_NE(html.find("<td colspan=\"2\" style"), std::string::npos) << html;
+  EXPECT_NE(html.find("<td rowspan=\"2\" style"), std::string::npos) << html;
 }
 
 TEST_F(RichTextWidgetTest, HtmlKeepsItsLook) {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "richtext/editor.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_files.h"
 #include "richtext/rich_text_writer.h"
@@ -216,6 +217,18 @@ TEST(Writing, WhatStandsBehindTheLastParagraphMakesNoneOfItsOwn) {
     EXPECT_NE(written.find("{\\*\\themedata 50}"), std::string::npos) << written;
     EXPECT_EQ(ReadRichText(written), document) << written;
   }
+}
+
+TEST(Writing, EveryFontThatIsWrittenHasAName) {
+  RichDocument typed = ReadRichText("");
+  Editor(typed).InsertText({}, "a", {});
+  EXPECT_NE(WriteRichText(typed).find("{\\fonttbl{\\f0\\froman\\fcharset0 Times New Roman;}}"),
+            std::string::npos);
+  RichDocument pasted =
+      ReadRichText("{\\rtf1{\\fonttbl{\\f1 Arial;}}\\pard\\f1 a{\\plain b}c\\par}");
+  const std::string rtf = WriteRichText(pasted);
+  EXPECT_EQ(rtf.find(" ;}"), std::string::npos) << rtf;
+  EXPECT_EQ(ReadRichText(rtf), pasted);
 }
 
 }  // namespace
