@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "print/page_engine.h"
+#include "richtext/paragraph_frame.h"
 #include "richtext/rich_document.h"
 
 namespace tarnwell::print {
@@ -20,6 +21,7 @@ struct RichStyle {
   int ascent = 0;   // above the line's base
   int descent = 0;  // below it
   std::optional<forms::Color> highlight;
+  richtext::Underline underline = richtext::Underline::kNone;
 };
 
 // The looks of one document, made once each.
@@ -30,6 +32,11 @@ class RichStyles {
   // A look's number.
   int Find(const richtext::CharacterFormat& format);
   const RichStyle& at(int style) const { return styles_[static_cast<std::size_t>(style)]; }
+  richtext::ParagraphFrame FrameOf(const richtext::Paragraph& paragraph) const {
+    return richtext::FrameOf(paragraph.format, colors_);
+  }
+  // Whether one frame stands around both.
+  bool AreJoined(const richtext::Paragraph& first, const richtext::Paragraph& second) const;
   double Width(int style, std::string_view utf8) {
     return engine_.metrics().Utf8Width(at(style).font, utf8);
   }
@@ -43,6 +50,7 @@ class RichStyles {
 
   PageEngine& engine_;
   std::string default_font_;
+  std::vector<std::optional<richtext::Color>> colors_;
   std::map<Key, int> known_;
   std::vector<RichStyle> styles_;
   richtext::CharacterFormat last_format_;

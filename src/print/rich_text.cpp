@@ -3,62 +3,131 @@
 #include <algorithm>
 #include <utility>
 
-#include "print/paragraph_lines.h"
+#include "print/rich_notes.h"
+#include "print/rich_pages.h"
 #include "print/rich_table.h"
 #include "richtext/kept_words.h"
 
 namespace tarnwell::print {
 namespace {
 
+using richtext::Section;
+
 class RichTextFlow {
  public:
-  RichTextFlow(PageEngine& engine, const richtext::RichDocument& document)
-      : engine_(engine), styles_(engine, document) {}
+  RichTextFlow(RichPrinting& printing, RichPages* pages)
+      : printing_(printing), engine_(printing.engine), notes_(printing), pages_(pages) {}
 
-  void Add(const richtext::Paragraph& paragraph) {
+  void Add(const richtext::Paragraph& paragraph, FrameJoints joints) {
     const richtext::ParagraphFormat& format = paragraph.format;
     if (format.page_break_before && has_content_ && !breaks_) AskForPage();
     const bool stays_with_next = richtext::HoldsKept("keepn", format.other);
+    PrintedText::Printed printed;
+    const bool changes = PrintedText::Changes(paragraph);
+    if (changes) printed = printing_.text.Of(paragraph);
+    const richtext::Paragraph& shown = changes ? printed.paragraph : paragraph;
     int gap = std::exchange(gap_, 0) + format.space_before;
-    ParagraphLines lines(paragraph, styles_,
-                         {engine_.ColumnWidth(), std::max(engine_.column_height(), 1)});
+    GoToAskedColumns();
+    ParagraphLines lines(shown, printing_.styles,
+                         {engine_.ColumnWidth(), std::max(engine_.column_height(), 1), joints});
+    std::size_t note = 0;
     for (RichLine line; lines.Next(line); line = {}) {
       has_content_ = true;
       const bool asks_for_page = line.end == RichLine::End::kPageBreak;
-      if (line.height > 0) Take({std::move(line), std::exchange(gap, 0)}, stays_with_next);
+      const bool is_last = line.end == RichLine::End::kParagraph;
+      Line next{std::move(line), std::exchange(gap, 0), {}};
+      if (joints.above) next.line.frame_above = next.gap;
+      for (; note < printed.notes.size(); ++note) {
+        if (!is_last && printed.note_runs[note] >= lines.next_run()) break;
+        next.notes.push_back(std::move(printed.notes[note]));
+      }
+      if (next.line.height > 0) Take(std::move(next), stays_with_next);
       if (asks_for_page) AskForPage();
     }
     if (!breaks_) gap_ = format.space_after;
-    const std::string& section = paragraph.section_break;
-    const bool begins_page = section.find("\\sbknone") == std::string::npos;
-    if (!section.empty() && begins_page && !breaks_) AskForPage();
+    if (pages_ == nullptr && !paragraph.section_break.empty()) {
+      const bool begins_page = paragraph.section_break.find("\\sbknone") == std::string::npos;
+      if (begins_page && !breaks_) AskForPage();
+    }
   }
 
   void Add(const richtext::Table& table) {
-    const std::span<const richtext::TableRow> rows(table.rows);
-    const auto heads = rows.first(HeadRows(table));
-    for (std::size_t i = 0; i < rows.size(); ++i) {
+    GoToAskedColumns();
+    for (RichTable rows(printing_, table); rows.Next();) {
       GoToAskedPage();
-      RichRow row(engine_, styles_, rows[i]);
+      std::vector<RichBox> notes = notes_.LayOut(rows.TakeNotes());
       const int gap = std::exchange(gap_, 0);
-      PlaceKept(gap + row.height());
+      const int notes_height = notes_.HeightOf(notes);
+      PlaceKept(gap + rows.height() + notes_height);
       if (!engine_.at_column_top()) engine_.Skip(gap);
       has_content_ = true;
-      row.Place(i < heads.size() ? heads.first(0) : heads);
+      rows.Place(notes_height);
+      notes_.Add(std::move(notes), true);
     }
+  }
+
+  // `height` is that of all of its text, or 0 where its columns aren't to end level.
+  void Begin(std::size_t number, int height) {
+    const Section& section = pages_->sections()[number];
+    const bool fits_here = pages_->HasSamePaper(number);
+    if (section.begin == Section::Begin::kHere && fits_here && !breaks_) {
+      PlaceKept(0);
+      engine_.MoveTo(std::max(engine_.y(), engine_.deepest()));
+      engine_.Skip(std::exchange(gap_, 0));
+      pages_->Begin(number, true);
+      SetColumns(section, height);
+    } else if (section.begin == Section::Begin::kColumn && fits_here && !breaks_) {
+      PlaceKept(0);
+      engine_.NextColumn();
+      pages_->Begin(number, true);
+    } else {
+      if (!breaks_) AskForPage();
+      asked_section_ = number;
+      asked_height_ = height;
+    }
+  }
+
+  void SetColumns(const Section& section, int height) {
+    if (section.columns == 1 && engine_.columns() == 1) return;
+    engine_.SetColumns(section.columns, section.column_gap);
+    const int level = height / section.columns + height / 20;
+    const bool fits = engine_.y() + level < engine_.bottom();
+    if (height > 0 && section.columns > 1 && fits) engine_.LimitColumns(level);
   }
 
   void End() {
     PlaceKept(0);
-    engine_.Skip(gap_);
+    engine_.Skip(std::exchange(gap_, 0));
+    AddEndnotes();
+    for (int pages = 0; notes_.has_rest() && pages < kMostPagesOfNotes; ++pages) {
+      engine_.NextColumn();
+      notes_.Add(notes_.TakeRest(), false);
+    }
+    notes_.Finish();
   }
 
  private:
+  static constexpr int kMostPagesOfNotes = 1000;
+
   struct Line {
     RichLine line;
     int gap = 0;  // above it, unless it begins a column
+    std::vector<FoundNote> notes;
     int height() const { return gap + line.height; }
   };
+
+  void AddEndnotes() {
+    for (const FoundNote& note : notes_.TakeEndnotes()) {
+      printing_.text.BeginNote(note.number);
+      for (const richtext::Block& block : printing_.parts.Read(note.rtf).blocks) {
+        if (const auto* const paragraph = std::get_if<richtext::Paragraph>(&block)) {
+          Add(*paragraph, {});
+        }
+      }
+      printing_.text.EndNote();
+    }
+    PlaceKept(0);
+  }
 
   // Begins a page once something comes to stand on it, so that no document ends with an empty one.
   void AskForPage() {
@@ -68,8 +137,27 @@ class RichTextFlow {
     gap_ = 0;
   }
 
+  // The width of what comes next depends on its section.
+  void GoToAskedColumns() {
+    if (asked_section_) GoToAskedPage();
+  }
+
   void GoToAskedPage() {
-    if (std::exchange(breaks_, false)) engine_.NewPage();
+    if (!std::exchange(breaks_, false)) return;
+    if (!asked_section_) return engine_.NewPage();
+    const std::size_t number = *std::exchange(asked_section_, std::nullopt);
+    const Section& section = pages_->sections()[number];
+    pages_->Begin(number, false);
+    const bool is_odd = pages_->NextNumber() % 2 != 0;
+    const bool skips = (section.begin == Section::Begin::kEvenPage && is_odd) ||
+                       (section.begin == Section::Begin::kOddPage && !is_odd);
+    if (skips && !section.first_number) {
+      pages_->Begin(number - 1, true);
+      engine_.NewPage();
+      pages_->Begin(number, false);
+    }
+    engine_.NewPage();
+    SetColumns(section, asked_height_);
   }
 
   void Take(Line line, bool stays_with_next) {
@@ -94,36 +182,111 @@ class RichTextFlow {
       kept_.front().gap = 0;
     }
     kept_height_ = 0;
-    for (const Line& line : std::exchange(kept_, {})) Place(line);
+    for (Line& line : std::exchange(kept_, {})) Place(line);
   }
 
-  void Place(const Line& line) {
-    if (engine_.HasRoom(line.height())) {
+  void Place(Line& line) {
+    std::vector<RichBox> notes = notes_.LayOut(std::move(line.notes));
+    const int first_note = notes.empty() ? 0 : notes_.HeightOf(notes);
+    const bool fits = engine_.HasRoom(line.height() + first_note);
+    const bool is_small = line.height() + first_note <= engine_.column_height() / 2;
+    if (fits || (engine_.HasRoom(line.height()) && !is_small)) {
       engine_.Skip(line.gap);
     } else if (!engine_.at_column_top()) {
       engine_.NextColumn();
+      line.line.frame_above = 0;
     }
-    PlaceLine(engine_, styles_, line.line, engine_.left(), engine_.y());
+    if (notes_.has_rest() && engine_.at_column_top()) {
+      std::vector<RichBox> rest = notes_.TakeRest();
+      std::ranges::move(notes, std::back_inserter(rest));
+      notes = std::move(rest);
+    }
+    PlaceLine(engine_, printing_.styles, line.line, engine_.left(), engine_.y());
     engine_.Skip(line.line.height);
+    notes_.Add(std::move(notes), false);
   }
 
+  RichPrinting& printing_;
   PageEngine& engine_;
-  RichStyles styles_;
+  RichNotes notes_;
+  RichPages* pages_;  // null: the pages are the engine's own
   std::vector<Line> kept_;
   int kept_height_ = 0;
   int gap_ = 0;          // below the last paragraph
   bool breaks_ = false;  // what comes next begins a page
+  std::optional<std::size_t> asked_section_;  // which begins with it
+  int asked_height_ = 0;
   bool has_content_ = false;
 };
+
+// Whether the columns of a section end level: another one goes on below them.
+bool EndsLevel(const std::vector<Section>& sections, std::size_t number) {
+  return sections[number].columns > 1 && number + 1 < sections.size() &&
+         sections[number + 1].begin == Section::Begin::kHere;
+}
+
+int HeightOf(RichPrinting& printing, const richtext::RichDocument& document,
+             const std::vector<Section>& sections, std::size_t number) {
+  if (!EndsLevel(sections, number)) return 0;
+  const Section& section = sections[number];
+  const int text = section.page.width - section.page.left_margin - section.page.right_margin;
+  const int width = (text - (section.columns - 1) * section.column_gap) / section.columns;
+  RichBox box(printing, std::max(width, 1), std::max(printing.engine.column_height(), 1));
+  for (std::size_t i = section.first_block; i < sections[number + 1].first_block; ++i) {
+    if (const auto* const one = std::get_if<richtext::Paragraph>(&document.blocks[i])) {
+      if (!PrintedText::Changes(*one)) box.Add(std::span(one, 1));
+    }
+  }
+  return box.HeightLeft();
+}
+
+FrameJoints JointsAt(const RichStyles& styles, const std::vector<richtext::Block>& blocks,
+                     std::size_t i) {
+  const auto paragraph = [&](std::size_t at) {
+    return at < blocks.size() ? std::get_if<richtext::Paragraph>(&blocks[at]) : nullptr;
+  };
+  const auto are_joined = [&](std::size_t first) {
+    return paragraph(first) && paragraph(first + 1) &&
+           styles.AreJoined(*paragraph(first), *paragraph(first + 1));
+  };
+  return {i > 0 && are_joined(i - 1), are_joined(i)};
+}
+
+void AddBlocks(RichPrinting& printing, const richtext::RichDocument& document, RichPages* pages) {
+  RichTextFlow flow(printing, pages);
+  std::size_t section = 0;
+  if (pages)
+    flow.SetColumns(pages->sections()[0], HeightOf(printing, document, pages->sections(), 0));
+  for (std::size_t i = 0; i < document.blocks.size(); ++i) {
+    if (pages && section + 1 < pages->sections().size() &&
+        i == pages->sections()[section + 1].first_block) {
+      ++section;
+      flow.Begin(section, HeightOf(printing, document, pages->sections(), section));
+    }
+    if (const auto* const table = std::get_if<richtext::Table>(&document.blocks[i])) {
+      flow.Add(*table);
+    } else {
+      flow.Add(std::get<richtext::Paragraph>(document.blocks[i]),
+               JointsAt(printing.styles, document.blocks, i));
+    }
+  }
+  flow.End();
+}
 
 }  // namespace
 
 void AddRichText(PageEngine& engine, const richtext::RichDocument& document) {
-  RichTextFlow flow(engine, document);
-  for (const richtext::Block& block : document.blocks) {
-    std::visit([&](const auto& one) { flow.Add(one); }, block);
-  }
-  flow.End();
+  RichPrinting printing(engine, document);
+  AddBlocks(printing, document, nullptr);
+}
+
+void AddRichPages(PageEngine& engine, const richtext::RichDocument& document,
+                  const std::optional<forms::PageSetup>& chosen) {
+  RichPrinting printing(engine, document);
+  RichPages pages(printing, document, chosen);
+  AddBlocks(printing, document, &pages);
+  pages.Finish();
+  engine.SetColumns(1, 0);
 }
 
 }  // namespace tarnwell::print

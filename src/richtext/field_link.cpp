@@ -8,9 +8,8 @@
 #include "richtext/rtf_tokenizer.h"
 
 namespace tarnwell::richtext {
-namespace {
 
-// The text of a field's instruction; addresses hold no Unicode escapes.
+// Addresses hold no Unicode escapes.
 std::string InstructionText(std::string_view rtf) {
   std::string text;
   ByteDecoder decoder;
@@ -21,6 +20,7 @@ std::string InstructionText(std::string_view rtf) {
   }
   return text;
 }
+namespace {
 
 bool IsSafe(std::string_view address) {
   const std::initializer_list<std::string_view> schemes = {"http://", "https://", "mailto:"};

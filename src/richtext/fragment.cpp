@@ -127,6 +127,7 @@ RichDocument Slice(const RichDocument& document, const Range& range) {
   slice.fonts = document.fonts;
   slice.colors = document.colors;
   slice.page = document.page;
+  slice.base_page = document.base_page;
   slice.fields = document.fields;
   slice.blocks = Cut(document, range);
   ForEachParagraphOf(slice.blocks, [](Paragraph& paragraph) {

@@ -105,6 +105,9 @@ struct ParagraphFormat {
   bool operator==(const ParagraphFormat&) const = default;
 };
 
+// In twips each way, what stands for a picture that can't be read.
+inline constexpr int kBrokenPicture = 360;
+
 // Shown at width * scale_x / 100 by height * scale_y / 100.
 struct Picture {
   enum class Kind : std::uint8_t { kPng, kJpeg };
@@ -211,7 +214,8 @@ struct RichDocument {
   int default_font = 0;  // a number of `fonts`
   std::vector<Font> fonts;
   std::vector<std::optional<Color>> colors;  // none: the view's own colour
-  Page page;
+  Page page;                                 // of the first section
+  Page base_page;                            // of sections that say nothing of theirs
   std::string
       prologue;  // style sheet, lists, information, headers and footers of the first section
   std::vector<Field> fields;

@@ -47,6 +47,7 @@ class RtfReader {
   void TakeWord(const Token& token);
   void TakeStructureWord(const KnownWord& word, const Token& token);
   void TakeDocumentWord(const KnownWord& word, const Token& token);
+  void TakePageWord(Word word, const Token& token);
   void TakeBorderWord(const Token& token, std::string_view source);
   void TakeParagraphWord(const KnownWord& word, const Token& token, std::string_view source);
   void TakeUnknownWord(const KnownWord& word, const Token& token, std::string_view source);

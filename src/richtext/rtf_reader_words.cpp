@@ -10,6 +10,23 @@ namespace {
 
 constexpr int kMostFallback = 32;
 
+int& LengthOf(Word word, Page& page) {
+  switch (word) {
+    case Word::kPaperWidth:
+      return page.width;
+    case Word::kPaperHeight:
+      return page.height;
+    case Word::kMarginLeft:
+      return page.left_margin;
+    case Word::kMarginRight:
+      return page.right_margin;
+    case Word::kMarginTop:
+      return page.top_margin;
+    default:
+      return page.bottom_margin;
+  }
+}
+
 std::string InPlace(std::string_view source) { return std::string(source) + ' '; }
 
 }  // namespace
@@ -38,6 +55,7 @@ void RtfReader::TakeWord(const Token& token) {
     case WordClass::kDestination:
       return TakeDestination(word, token.begin);
     case WordClass::kKeptInPlace:
+      if (token.text == "sectd" && !body_begun_) document_.page = document_.base_page;
       return KeepWordInPlace(source);
     case WordClass::kStructure:
       return TakeStructureWord(word, token);
@@ -92,7 +110,6 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
 
 void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
   if (body_begun_) return KeepWordInPlace(WordSource(tokenizer_, token));
-  const int length = std::clamp(token.number, 0, kLongestLength);
   switch (word.word) {
     case Word::kNamedCodePage:
       tables_.code_page = word.value;
@@ -103,27 +120,17 @@ void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
     case Word::kDefaultFont:
       tables_.default_font = token.number;
       return ResetFonts();
-    case Word::kPaperWidth:
-      document_.page.width = length;
-      return;
-    case Word::kPaperHeight:
-      document_.page.height = length;
-      return;
-    case Word::kMarginLeft:
-      document_.page.left_margin = length;
-      return;
-    case Word::kMarginRight:
-      document_.page.right_margin = length;
-      return;
-    case Word::kMarginTop:
-      document_.page.top_margin = length;
-      return;
-    case Word::kMarginBottom:
-      document_.page.bottom_margin = length;
-      return;
     default:
-      return;
+      return TakePageWord(word.word, token);
   }
+}
+
+// Those that end in "sxn" are of the first section, which is written with the prologue.
+void RtfReader::TakePageWord(Word word, const Token& token) {
+  const int length = std::clamp(token.number, 0, kLongestLength);
+  LengthOf(word, document_.page) = length;
+  if (token.text.ends_with("sxn")) return KeepWordInPlace(WordSource(tokenizer_, token));
+  LengthOf(word, document_.base_page) = length;
 }
 
 void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {

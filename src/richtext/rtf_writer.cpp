@@ -55,7 +55,7 @@ std::string RtfWriter::Write() && {
   std::string rtf = "{\\rtf1" + CharsetWords(document_.code_page) + "\\deff" +
                     std::to_string(document_.default_font) + '\n';
   rtf += tables_.Rtf();
-  const std::string head = PageWords(document_.page) + document_.prologue;
+  const std::string head = PageWords(document_.base_page) + document_.prologue;
   rtf += head;
   if (!head.empty()) rtf += '\n';
   return rtf + out_ + document_.epilogue + "}\n";

@@ -198,8 +198,9 @@ TEST_F(RichTextWidgetTest, PastesTheRichestFormThatTheClipboardHolds) {
 
 TEST_F(RichTextWidgetTest, ATableOfHtmlKeepsItsMergedCellsBothWays) {
   auto mime = std::make_unique<QMimeData>();
-  mime->setHtml(QStringLiteral("<table border=1><tr><td colspan=2>a</td><td rowspan=2>b</td></tr>"
-                               "<tr><td>c</td><td>d</td></tr></table>"));
+  mime->setHtml(
+      QStringLiteral("<table border=1><tr><td colspan=2>a</td><td rowspan=2>b</td></tr>"
+                     "<tr><td>c</td><td>d</td></tr></table>"));
   Paste(std::move(mime));
   EXPECT_EQ(text(), "[a,b;c,d,]");
   const std::string html = richtext::ToHtml(box_.document());

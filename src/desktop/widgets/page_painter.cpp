@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QImage>
 
+#include "desktop/widgets/broken_picture.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/picture_files.h"
@@ -80,7 +81,7 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture
   const QImage image = Decoded(
       QByteArray::fromRawData(picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())),
       shown.boundedTo(place.size() * kMostDotsPerTwip).toSize());
-  if (image.isNull()) return;
+  if (image.isNull()) return PaintBrokenPicture(painter, place);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   // Signs and drawings keep their edges in a PDF; photographs have none to lose.
   painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));
