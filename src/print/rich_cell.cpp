@@ -23,17 +23,31 @@ richtext::Cell LookOf(const richtext::Cell& cell) {
 
 }  // namespace
 
+// Other word processors have "clpadl" say what stands above the text and "clpadt" what stands to
+// its left.
+forms::Margins CellMargins(const richtext::TableRow& row, const richtext::Cell& cell) {
+  constexpr int kMost = 1440;
+  const auto told = [&](std::string_view own, std::string_view of_row, int usual) {
+    const auto number = NumberBehind(own, cell.other);
+    return std::clamp(number ? *number : NumberBehind(of_row, row.other).value_or(usual), 0, kMost);
+  };
+  const int gap = std::clamp(row.half_gap, 0, kMost);
+  return {told("\\clpadt", "\\trpaddl", gap), told("\\clpadl", "\\trpaddt", 0),
+          told("\\clpadr", "\\trpaddr", gap), told("\\clpadb", "\\trpaddb", 0)};
+}
+
 RichCell::RichCell(RichPrinting& printing, const richtext::Cell& cell, const CellPlace& place,
                    int most_height)
     : look_(LookOf(cell)),
       place_(place),
-      box_(printing, std::max(place.right - place.left - 2 * place.half_gap, kLeastText),
+      box_(printing,
+           std::max(place.right - place.left - place.inside.left - place.inside.right, kLeastText),
            most_height) {
   box_.Add(cell.paragraphs);
 }
 
 int RichCell::TopInRow(int row_height) const {
-  const int spare = std::max(row_height - box_.HeightLeft(), 0);
+  const int spare = std::max(row_height - HeightLeft(), 0);
   if (richtext::HoldsKept("clvertalc", look_.other)) return spare / 2;
   return richtext::HoldsKept("clvertalb", look_.other) ? spare : 0;
 }
@@ -45,7 +59,7 @@ void RichCell::PlaceFill(PageEngine& engine, int x, int top, int bottom) const {
 }
 
 void RichCell::PlaceNext(std::size_t count, int x, int y) {
-  box_.PlaceNext(count, x + place_.left + place_.half_gap, y);
+  box_.PlaceNext(count, x + place_.left + place_.inside.left, y + place_.inside.top);
 }
 
 void RichCell::PlaceBorders(PageEngine& engine, int x, int top, int bottom) const {

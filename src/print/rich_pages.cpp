@@ -21,10 +21,10 @@ void Bound(int size, int& first, int& second) {
 }  // namespace
 
 RichPages::RichPages(RichPrinting& printing, const richtext::RichDocument& document,
-                     const std::optional<forms::PageSetup>& chosen)
+                     const RichPaper& paper)
     : printing_(printing),
       engine_(printing.engine),
-      chosen_(chosen),
+      paper_(paper),
       sections_(richtext::SectionsOf(document)),
       has_facing_pages_(richtext::HasFacingPages(document)) {
   engine_.SetPaper([this] { return TakePage(); });
@@ -48,7 +48,7 @@ bool RichPages::HasSamePaper(std::size_t section) const {
 }
 
 forms::PageSetup RichPages::PaperOf(const richtext::Section& section) const {
-  if (chosen_) return *chosen_;
+  if (paper_.chosen) return *paper_.chosen;
   const int width = std::clamp(section.page.width, kLeastPaper, kMostPaper);
   const int height = std::clamp(section.page.height, kLeastPaper, kMostPaper);
   forms::PageSetup paper;
@@ -65,7 +65,7 @@ forms::PageSetup RichPages::PaperOf(const richtext::Section& section) const {
 
 // Narrow margins that a person has chosen hold for headers and footers too.
 int RichPages::Distance(int told, int margin) const {
-  return chosen_ ? std::min(told, margin) : told;
+  return paper_.chosen ? std::min(told, margin) : told;
 }
 
 forms::PageSetup RichPages::TakePage() {
@@ -81,6 +81,7 @@ forms::PageSetup RichPages::TakePage() {
     const int needed = Distance(told, margin) + HeightOf(rtf, page, paper);
     margin = std::clamp(needed, margin, std::max(paper.height() / 2 - kLeastText / 2, margin));
   };
+  if (pages_.size() == 1) margins.top = std::max(margins.top, paper_.first_top);
   grow(true, section.header_distance, margins.top);
   grow(false, section.footer_distance, margins.bottom);
   return paper;

@@ -9,14 +9,14 @@
 #include <vector>
 
 #include "print/rich_box.h"
+#include "print/rich_text.h"
 
 namespace tarnwell::print {
 
 class RichPages {
  public:
-  // `chosen` takes the place of the author's paper and margins. The document stays as long.
-  RichPages(RichPrinting& printing, const richtext::RichDocument& document,
-            const std::optional<forms::PageSetup>& chosen);
+  // The document stays as long.
+  RichPages(RichPrinting& printing, const richtext::RichDocument& document, const RichPaper& paper);
   RichPages(const RichPages&) = delete;
   RichPages& operator=(const RichPages&) = delete;
 
@@ -50,7 +50,7 @@ class RichPages {
 
   RichPrinting& printing_;
   PageEngine& engine_;
-  std::optional<forms::PageSetup> chosen_;
+  RichPaper paper_;
   std::vector<richtext::Section> sections_;
   bool has_facing_pages_;
   std::size_t section_ = 0;  // of the next page

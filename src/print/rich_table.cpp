@@ -61,7 +61,8 @@ RowBox::RowBox(RichPrinting& printing, const richtext::TableRow& row,
     }
     const int right_edge = std::max(left_edge, row.cells[last].right_edge);
     if (!spans[i].is_covered) {
-      const CellPlace place{on_column(left_edge), on_column(right_edge), row.half_gap};
+      const CellPlace place{on_column(left_edge), on_column(right_edge),
+                            CellMargins(row, row.cells[i])};
       cells_.push_back({RichCell(printing, row.cells[i], place, std::max(room.most_height, 1)),
                         static_cast<std::size_t>(spans[i].rows)});
     }
@@ -76,7 +77,7 @@ void RowBox::Join(std::size_t row, std::size_t cell, std::vector<RowBox>& rows) 
   if (end - row < 2) return;
   int height = 0;
   for (std::size_t i = row; i < end; ++i) height += rows[i].height();
-  const int missing = joined.cell.box().HeightLeft() - height;
+  const int missing = joined.cell.HeightLeft() - height;
   RowBox& last = rows[end - 1];
   if (missing > 0) last.least_height_ = last.height() + missing;
   joined.height_below = std::max(missing, 0) + height - rows[row].height();
@@ -93,14 +94,15 @@ void RowBox::Part() {
 int RowBox::height() const {
   int height = least_height_;
   for (const PlacedCell& cell : cells_) {
-    if (cell.rows == 1) height = std::max(height, cell.cell.box().HeightLeft());
+    if (cell.rows == 1) height = std::max(height, cell.cell.HeightLeft());
   }
   return height;
 }
 
 bool RowBox::HasRoomForALine(int room) const {
-  return std::ranges::any_of(
-      cells_, [&](const auto& cell) { return cell.cell.box().FittingLines(room) > 0; });
+  return std::ranges::any_of(cells_, [&](const auto& cell) {
+    return cell.cell.box().FittingLines(room - cell.cell.EdgesHeight()) > 0;
+  });
 }
 
 bool RowBox::IsDone() const {
@@ -130,9 +132,9 @@ int RowBox::PlacePart(int x, int y, int room, bool at_least_a_line) {
   int height = std::max(room, 0);
   for (const PlacedCell& cell : cells_) {
     const RichBox& box = cell.cell.box();
-    std::size_t count = box.FittingLines(room);
+    std::size_t count = box.FittingLines(room - cell.cell.EdgesHeight());
     if (count == 0 && at_least_a_line && !box.is_done()) count = 1;
-    height = std::max(height, box.HeightOf(count));
+    height = std::max(height, box.HeightOf(count) + cell.cell.EdgesHeight());
     counts.push_back(count);
   }
   PageEngine& engine = printing_->engine;

@@ -281,9 +281,9 @@ void AddRichText(PageEngine& engine, const richtext::RichDocument& document) {
 }
 
 void AddRichPages(PageEngine& engine, const richtext::RichDocument& document,
-                  const std::optional<forms::PageSetup>& chosen) {
+                  const RichPaper& paper) {
   RichPrinting printing(engine, document);
-  RichPages pages(printing, document, chosen);
+  RichPages pages(printing, document, paper);
   AddBlocks(printing, document, &pages);
   pages.Finish();
   engine.SetColumns(1, 0);

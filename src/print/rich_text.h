@@ -12,10 +12,15 @@ namespace tarnwell::print {
 // engine's where it names none. The document needn't stay.
 void AddRichText(PageEngine& engine, const richtext::RichDocument& document);
 
+struct RichPaper {
+  std::optional<forms::PageSetup> chosen;  // in place of the author's paper and margins
+  int first_top = 0;                       // twips that stay free above the first page's text
+};
+
 // The same on pages of the document's own: the paper, margins and columns of each section, its
 // headers and footers with the numbers of the pages. It begins with the page in hand if nothing
-// stands on that. `chosen` takes the place of the author's paper and margins.
+// stands on that.
 void AddRichPages(PageEngine& engine, const richtext::RichDocument& document,
-                  const std::optional<forms::PageSetup>& chosen = std::nullopt);
+                  const RichPaper& paper = {});
 
 }  // namespace tarnwell::print

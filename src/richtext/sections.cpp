@@ -38,7 +38,11 @@ class SectionReader {
     if (!is_header && !name.starts_with("footer")) return;
     name.remove_prefix(6);
     Furniture& furniture = is_header ? section_.header : section_.footer;
-    if (name.empty()) furniture.all = BodyOf(piece);
+    if (name.empty()) {
+      furniture.all = BodyOf(piece);
+      furniture.left.clear();
+      furniture.right.clear();
+    }
     if (name == "l") furniture.left = BodyOf(piece);
     if (name == "r") furniture.right = BodyOf(piece);
     if (name == "f") furniture.first = BodyOf(piece);

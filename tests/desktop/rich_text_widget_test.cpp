@@ -202,7 +202,7 @@ TEST_F(RichTextWidgetTest, ATableOfHtmlKeepsItsMergedCellsBothWays) {
       QStringLiteral("<table border=1><tr><td colspan=2>a</td><td rowspan=2>b</td></tr>"
                      "<tr><td>c</td><td>d</td></tr></table>"));
   Paste(std::move(mime));
-  EXPECT_EQ(text(), "[a,b;c,d,]");
+  EXPECT_EQ(text(), "|[a,b;c,d,]|");
   const std::string html = richtext::ToHtml(box_.document());
   EXPECT_NE(html.find("<td colspan=\"2\" style"), std::string::npos) << html;
   EXPECT_NE(html.find("<td rowspan=\"2\" style"), std::string::npos) << html;
