@@ -141,7 +141,7 @@ bool ParagraphLines::TakePicture() {
   piece.style = word_.style;
   piece.width = width;
   piece.height = height;
-  piece.picture = std::make_shared<const std::string>(word_.picture->bytes);
+  piece.picture = styles_.Shared(word_.picture->bytes);
   builder_.AddPicture(std::move(piece));
   hyphen_ = -1;
   place_ = word_.end;

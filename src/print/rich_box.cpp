@@ -8,6 +8,8 @@
 namespace tarnwell::print {
 namespace {
 
+constexpr int kMostNested = 8;
+
 const std::string* NestedTables(const richtext::Paragraph& paragraph) {
   if (paragraph.runs.empty()) return nullptr;
   const auto* const opaque = std::get_if<richtext::Opaque>(&paragraph.runs.front().content);
@@ -20,7 +22,7 @@ void RichBox::Add(std::span<const richtext::Paragraph> paragraphs) {
   for (std::size_t i = 0; i < paragraphs.size(); ++i) {
     const richtext::Paragraph& paragraph = paragraphs[i];
     if (const std::string* const tables = NestedTables(paragraph)) {
-      Add(printing_.parts.Read(richtext::Unnested(*tables)).blocks);
+      AddNested(*tables);
     }
     FrameJoints joints;
     if (i > 0) joints.above = printing_.styles.AreJoined(paragraphs[i - 1], paragraph);
@@ -41,6 +43,13 @@ void RichBox::Add(const std::vector<richtext::Block>& blocks) {
   }
 }
 
+void RichBox::AddNested(const std::string& tables) {
+  if (printing_.depth == kMostNested) return;
+  ++printing_.depth;
+  Add(printing_.parts.Read(richtext::Unnested(tables)).blocks);
+  --printing_.depth;
+}
+
 void RichBox::AddParagraph(const richtext::Paragraph& paragraph, FrameJoints joints) {
   PrintedText::Printed printed;
   const bool changes = PrintedText::Changes(paragraph);
@@ -51,7 +60,7 @@ void RichBox::AddParagraph(const richtext::Paragraph& paragraph, FrameJoints joi
   for (Item item; lines.Next(item.line); item = {}) {
     item.gap = std::exchange(gap, 0);
     if (joints.above) item.line.frame_above = item.gap;
-    items_.push_back(std::move(item));
+    items_->push_back(std::move(item));
   }
   last_gap_ = gap + paragraph.format.space_after;
   for (FoundNote& note : printed.notes) notes_.push_back(std::move(note));
@@ -64,7 +73,7 @@ void RichBox::AddTable(const richtext::Table& table) {
     item.row = std::make_shared<RowBox>(std::move(row));
     item.line.height = item.row->height();
     for (FoundNote& note : item.row->TakeNotes()) notes_.push_back(std::move(note));
-    items_.push_back(std::move(item));
+    items_->push_back(std::move(item));
   }
 }
 
@@ -72,19 +81,19 @@ int RichBox::HeightLeft() const { return HeightOf(count_left()) + last_gap_; }
 
 std::size_t RichBox::FittingLines(int room) const {
   std::size_t i = next_;
-  while (i < items_.size() && (room -= items_[i].height()) >= 0) ++i;
+  while (i < items_->size() && (room -= (*items_)[i].height()) >= 0) ++i;
   return i - next_;
 }
 
 int RichBox::HeightOf(std::size_t count) const {
   int height = 0;
-  for (std::size_t i = next_; i < next_ + count; ++i) height += items_[i].height();
+  for (std::size_t i = next_; i < next_ + count; ++i) height += (*items_)[i].height();
   return height;
 }
 
 void RichBox::PlaceNext(std::size_t count, int x, int y) {
   for (const std::size_t end = next_ + count; next_ < end; ++next_) {
-    const Item& item = items_[next_];
+    const Item& item = (*items_)[next_];
     y += item.gap;
     if (item.row) {
       item.row->Place(x, y, item.line.height);

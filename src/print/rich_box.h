@@ -29,10 +29,10 @@ class RichBox {
   std::size_t FittingLines(int room) const;
   // How high the next `count` of them are.
   int HeightOf(std::size_t count) const;
-  std::size_t count_left() const { return items_.size() - next_; }
+  std::size_t count_left() const { return items_->size() - next_; }
   // The next `count` of them stand somewhere else.
   void Drop(std::size_t count) { next_ += count; }
-  bool is_done() const { return next_ == items_.size(); }
+  bool is_done() const { return count_left() == 0; }
   // The left top corner of the next `count` lines comes to (x, y).
   void PlaceNext(std::size_t count, int x, int y);
 
@@ -48,11 +48,13 @@ class RichBox {
   };
 
   void AddParagraph(const richtext::Paragraph& paragraph, FrameJoints joints);
+  void AddNested(const std::string& tables);
   void AddTable(const richtext::Table& table);
 
   RichPrinting& printing_;
   RichRoom room_;
-  std::vector<Item> items_;
+  // A box that goes on in another column shares them.
+  std::shared_ptr<std::vector<Item>> items_ = std::make_shared<std::vector<Item>>();
   std::vector<FoundNote> notes_;
   std::size_t next_ = 0;  // item that isn't placed yet
   int last_gap_ = 0;      // below the last item

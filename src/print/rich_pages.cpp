@@ -7,6 +7,7 @@ namespace {
 
 constexpr int kLeastPaper = 1440;
 constexpr int kMostPaper = 44 * 1440;
+constexpr std::size_t kMostBlocks = 100;  // of a header or a footer
 constexpr int kLeastText = 720;  // twips each way, that margins leave
 
 // Margins that leave no text any room are made narrower.
@@ -76,26 +77,32 @@ forms::PageSetup RichPages::TakePage() {
   forms::PageSetup paper = PaperOf(section);
   forms::Margins& margins = paper.margins;
   const auto grow = [&](bool is_header, int told, int& margin) {
-    const std::string& rtf = RtfOf(page, is_header);
-    if (rtf.empty()) return;
+    const Rtf rtf = RtfOf(page, is_header);
+    if (!rtf) return;
     const int needed = Distance(told, margin) + HeightOf(rtf, page, paper);
     margin = std::clamp(needed, margin, std::max(paper.height() / 2 - kLeastText / 2, margin));
   };
   if (pages_.size() == 1) margins.top = std::max(margins.top, paper_.first_top);
   grow(true, section.header_distance, margins.top);
   grow(false, section.footer_distance, margins.bottom);
+  Bound(paper.height(), margins.top, margins.bottom);
   return paper;
 }
 
-const std::string& RichPages::RtfOf(const NumberedPage& page, bool is_header) const {
+RichPages::Rtf RichPages::RtfOf(const NumberedPage& page, bool is_header) const {
   const richtext::Section& section = sections_[page.section];
   return richtext::FurnitureOf(is_header ? section.header : section.footer, section, page.is_first,
                                page.number, has_facing_pages_);
 }
 
-RichBox RichPages::BoxOf(const std::string& rtf, const NumberedPage& page,
-                         const forms::PageSetup& paper) {
-  richtext::RichDocument part = printing_.parts.Read(rtf);
+RichBox RichPages::BoxOf(const Rtf& rtf, const NumberedPage& page, const forms::PageSetup& paper) {
+  const auto [known, is_new] = parts_.try_emplace(rtf);
+  if (is_new) {
+    known->second = printing_.parts.Read(*rtf);
+    auto& blocks = known->second.blocks;
+    blocks.resize(std::min(blocks.size(), kMostBlocks));
+  }
+  richtext::RichDocument part = known->second;
   const richtext::Section& section = sections_[page.section];
   SetPageNumbers({page.number, richtext::PageNumberText(page.number, section.numbers),
                   static_cast<int>(pages_.size())},
@@ -106,11 +113,11 @@ RichBox RichPages::BoxOf(const std::string& rtf, const NumberedPage& page,
   return box;
 }
 
-int RichPages::HeightOf(const std::string& rtf, const NumberedPage& page,
-                        const forms::PageSetup& paper) {
-  const auto known = heights_.find(rtf);
-  if (known != heights_.end()) return known->second;
-  return heights_[rtf] = BoxOf(rtf, page, paper).HeightLeft();
+int RichPages::HeightOf(const Rtf& rtf, const NumberedPage& page, const forms::PageSetup& paper) {
+  const int width = paper.width() - paper.margins.left - paper.margins.right;
+  const auto [known, is_new] = heights_.try_emplace({rtf, width});
+  if (is_new) known->second = BoxOf(rtf, page, paper).HeightLeft();
+  return known->second;
 }
 
 void RichPages::Finish() {
@@ -123,16 +130,16 @@ void RichPages::Finish() {
 void RichPages::Place(const NumberedPage& page) {
   const richtext::Section& section = sections_[page.section];
   const forms::PageSetup& paper = engine_.paper();
-  if (const std::string& rtf = RtfOf(page, true); !rtf.empty()) {
+  if (const Rtf rtf = RtfOf(page, true)) {
     RichBox box = BoxOf(rtf, page, paper);
-    box.PlaceNext(box.count_left(), paper.margins.left,
+    box.PlaceNext(box.FittingLines(paper.height() / 2), paper.margins.left,
                   Distance(section.header_distance, paper.margins.top));
   }
-  if (const std::string& rtf = RtfOf(page, false); !rtf.empty()) {
+  if (const Rtf rtf = RtfOf(page, false)) {
     RichBox box = BoxOf(rtf, page, paper);
     const int bottom = paper.height() - Distance(section.footer_distance, paper.margins.bottom);
     const int top = std::max(bottom - box.HeightLeft(), paper.height() - paper.margins.bottom);
-    box.PlaceNext(box.count_left(), paper.margins.left, top);
+    box.PlaceNext(box.FittingLines(paper.height() / 2), paper.margins.left, top);
   }
 }
 

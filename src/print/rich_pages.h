@@ -43,9 +43,10 @@ class RichPages {
   forms::PageSetup PaperOf(const richtext::Section& section) const;
   forms::PageSetup TakePage();
   int Distance(int told, int margin) const;
-  const std::string& RtfOf(const NumberedPage& page, bool is_header) const;
-  RichBox BoxOf(const std::string& rtf, const NumberedPage& page, const forms::PageSetup& paper);
-  int HeightOf(const std::string& rtf, const NumberedPage& page, const forms::PageSetup& paper);
+  using Rtf = std::shared_ptr<const std::string>;
+  Rtf RtfOf(const NumberedPage& page, bool is_header) const;
+  RichBox BoxOf(const Rtf& rtf, const NumberedPage& page, const forms::PageSetup& paper);
+  int HeightOf(const Rtf& rtf, const NumberedPage& page, const forms::PageSetup& paper);
   void Place(const NumberedPage& page);
 
   RichPrinting& printing_;
@@ -56,7 +57,8 @@ class RichPages {
   std::size_t section_ = 0;  // of the next page
   bool begins_ = true;       // the next page is the section's first
   std::vector<NumberedPage> pages_;
-  std::map<std::string, int> heights_;
+  std::map<Rtf, richtext::RichDocument> parts_;
+  std::map<std::pair<Rtf, int>, int> heights_;  // by the width too
 };
 
 }  // namespace tarnwell::print

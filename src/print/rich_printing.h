@@ -16,6 +16,7 @@ struct RichPrinting {
   RichStyles styles;
   PrintedText text;
   richtext::PartReader parts;  // headers, notes, tables inside cells
+  int depth = 0;               // of tables inside cells
 };
 
 }  // namespace tarnwell::print

@@ -40,6 +40,13 @@ std::string RichStyles::FontName(const std::string& name) const {
   return name.empty() ? default_font_ : text::FromUtf8(name);
 }
 
+std::shared_ptr<const std::string> RichStyles::Shared(const std::string& file) {
+  const auto known = pictures_.find(file);
+  if (known != pictures_.end()) return known->second;
+  auto shared = std::make_shared<const std::string>(file);
+  return pictures_.emplace(*shared, shared).first->second;
+}
+
 bool RichStyles::AreJoined(const richtext::Paragraph& first,
                            const richtext::Paragraph& second) const {
   const richtext::ParagraphFormat& a = first.format;

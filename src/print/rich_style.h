@@ -3,8 +3,10 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
@@ -37,6 +39,8 @@ class RichStyles {
   }
   // Whether one frame stands around both.
   bool AreJoined(const richtext::Paragraph& first, const richtext::Paragraph& second) const;
+  // A picture's file, which all pages share.
+  std::shared_ptr<const std::string> Shared(const std::string& file);
   double Width(int style, std::string_view utf8) {
     return engine_.metrics().Utf8Width(at(style).font, utf8);
   }
@@ -52,6 +56,7 @@ class RichStyles {
   std::string default_font_;
   std::vector<std::optional<richtext::Color>> colors_;
   std::map<Key, int> known_;
+  std::map<std::string_view, std::shared_ptr<const std::string>> pictures_;
   std::vector<RichStyle> styles_;
   richtext::CharacterFormat last_format_;
   int last_style_ = -1;

@@ -12,8 +12,9 @@ namespace {
 
 constexpr int kMostColumns = 20;
 
-std::string BodyOf(const KeptPiece& piece) {
-  return "\\uc" + std::to_string(piece.unicode_skip) + "\\pard\\plain " + std::string(piece.body);
+std::shared_ptr<const std::string> BodyOf(const KeptPiece& piece) {
+  return std::make_shared<const std::string>("\\uc" + std::to_string(piece.unicode_skip) +
+                                             "\\pard\\plain " + std::string(piece.body));
 }
 
 class SectionReader {
@@ -40,8 +41,8 @@ class SectionReader {
     Furniture& furniture = is_header ? section_.header : section_.footer;
     if (name.empty()) {
       furniture.all = BodyOf(piece);
-      furniture.left.clear();
-      furniture.right.clear();
+      furniture.left = nullptr;
+      furniture.right = nullptr;
     }
     if (name == "l") furniture.left = BodyOf(piece);
     if (name == "r") furniture.right = BodyOf(piece);
@@ -171,12 +172,13 @@ bool HasFacingPages(const RichDocument& document) {
   });
 }
 
-const std::string& FurnitureOf(const Furniture& furniture, const Section& section,
-                               bool is_first_of_section, int number, bool has_facing_pages) {
+std::shared_ptr<const std::string> FurnitureOf(const Furniture& furniture, const Section& section,
+                                               bool is_first_of_section, int number,
+                                               bool has_facing_pages) {
   if (section.has_first_page && is_first_of_section) return furniture.first;
   const bool is_left = has_facing_pages && number % 2 == 0;
-  const std::string& own = is_left ? furniture.left : furniture.right;
-  return own.empty() ? furniture.all : own;
+  const auto& own = is_left ? furniture.left : furniture.right;
+  return own ? own : furniture.all;
 }
 
 PartReader::PartReader(const RichDocument& document) {
@@ -192,7 +194,10 @@ PartReader::PartReader(const RichDocument& document) {
   head_.resize(head_.rfind('}'));
 }
 
-RichDocument PartReader::Read(const std::string& rtf) const {
+RichDocument PartReader::Read(const std::string& rtf) {
+  const std::size_t size = head_.size() + rtf.size();
+  if (size > left_) return {};
+  left_ -= size;
   return ReadRichText(head_ + rtf + "}");
 }
 

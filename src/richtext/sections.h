@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,9 +18,10 @@ enum class PageNumbers { kDecimal, kUpperRoman, kLowerRoman, kUpperLetter, kLowe
 // A number as it stands on a page; letters go on with AA behind Z.
 std::string PageNumberText(int number, PageNumbers style);
 
-// The RTF of a header or a footer by the pages that it is for; empty: there is none.
+// The RTF of a header or a footer by the pages that it is for; null: there is none. Sections share
+// what they don't change.
 struct Furniture {
-  std::string all, left, right, first;
+  std::shared_ptr<const std::string> all, left, right, first;
 };
 
 struct Section {
@@ -45,19 +47,23 @@ std::vector<Section> SectionsOf(const RichDocument& document);
 // Whether left and right pages have headers and footers of their own.
 bool HasFacingPages(const RichDocument& document);
 
-// What of `header` or `footer` is for the page; `number` is what the page is counted as.
-const std::string& FurnitureOf(const Furniture& furniture, const Section& section,
-                               bool is_first_of_section, int number, bool has_facing_pages);
+// What of `header` or `footer` is for the page, null for nothing; `number` is what the page is
+// counted as.
+std::shared_ptr<const std::string> FurnitureOf(const Furniture& furniture, const Section& section,
+                                               bool is_first_of_section, int number,
+                                               bool has_facing_pages);
 
 // Kept RTF, such as a header's or a note's text, to documents with the fonts, colours and styles of
 // the one that it stands in.
 class PartReader {
  public:
   explicit PartReader(const RichDocument& document);
-  RichDocument Read(const std::string& rtf) const;
+  // Nothing once so much was read that no sound document comes near.
+  RichDocument Read(const std::string& rtf);
 
  private:
   std::string head_;
+  std::size_t left_ = 256u << 20;  // bytes
 };
 
 }  // namespace tarnwell::richtext
