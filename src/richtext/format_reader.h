@@ -51,9 +51,9 @@ struct FormatTables {
 
 // Before `state` is the format of something.
 inline void Settle(FormatState& state) {
-  if (!std::exchange(state.is_settled, true)) {
-    SettleScripts(state.font_place, state.character.other);
-  }
+  if (std::exchange(state.is_settled, true)) return;
+  const bool has_font = !state.character.font.empty();
+  SettleScripts(has_font ? state.font_place : FontPlace{}, state.character.other);
 }
 
 // What stands after \plain.

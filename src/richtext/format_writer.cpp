@@ -25,6 +25,8 @@ std::string Switch(std::string_view word, bool on) {
   return on ? out : out += '0';
 }
 
+constexpr const char* kNoFont = "\1";  // no font's name
+
 std::string ScriptWord(Script script) {
   constexpr std::array<const char*, 3> kWords = {"\\nosupersub", "\\super", "\\sub"};
   return kWords.at(static_cast<std::size_t>(script));
@@ -159,7 +161,11 @@ std::string OwnWords(const CharacterFormat& from, const CharacterFormat& to, Wri
 }  // namespace
 
 std::string AllCharacterWords(const CharacterFormat& format, WriterTables& tables) {
-  const std::string words = OwnWords(DefaultCharacter(tables), format, tables);
+  CharacterFormat plain = DefaultCharacter(tables);
+  // Readers are told the font behind its switch, the usual one too.
+  const bool is_told = !format.font.empty() || !tables.default_font().empty();
+  if (is_told && LastScript(format.other) > 0) plain.font = kNoFont;
+  const std::string words = OwnWords(plain, format, tables);
   const std::size_t place = FindKept("f", format.other);
   if (place == std::string::npos) return "\\plain" + format.other + words;
   return "\\plain" + format.other.substr(0, place) + words +
@@ -177,24 +183,28 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
   return starts_anew ? AllCharacterWords(to, tables) : OwnWords(from, to, tables);
 }
 
-std::string ParagraphWords(const ParagraphFormat& format) {
+std::string ParagraphWords(const ParagraphFormat& format, const ParagraphFormat* style) {
   constexpr std::array<const char*, 4> kAlignments = {"\\ql", "\\qc", "\\qr", "\\qj"};
-  const bool styled = format.style != 0;
+  const bool is_styled = format.style != 0;
+  // What neither has is left to readers, which have styles of these names of their own.
+  const ParagraphFormat plain;
+  const ParagraphFormat& base = style != nullptr ? *style : plain;
+  const bool names_all = is_styled && style == nullptr;
   std::string out;
-  const auto number = [&](std::string_view word, int value) {
-    if (styled || value != 0) out += Number(word, value);
+  const auto number = [&](std::string_view word, int value, int of_style) {
+    if (names_all || value != 0 || of_style != 0) out += Number(word, value);
   };
-  if (styled) out += Number("s", format.style);
-  if (styled || format.alignment != Alignment::kLeft) {
+  if (is_styled) out += Number("s", format.style);
+  if (names_all || format.alignment != Alignment::kLeft || base.alignment != Alignment::kLeft) {
     out += kAlignments.at(static_cast<std::size_t>(format.alignment));
   }
-  number("fi", format.first_line_indent);
-  number("li", format.left_indent);
-  number("ri", format.right_indent);
-  number("sb", format.space_before);
-  number("sa", format.space_after);
-  number("sl", format.line_spacing);
-  number("slmult", format.line_spacing_is_multiple ? 1 : 0);
+  number("fi", format.first_line_indent, base.first_line_indent);
+  number("li", format.left_indent, base.left_indent);
+  number("ri", format.right_indent, base.right_indent);
+  number("sb", format.space_before, base.space_before);
+  number("sa", format.space_after, base.space_after);
+  number("sl", format.line_spacing, base.line_spacing);
+  number("slmult", format.line_spacing_is_multiple ? 1 : 0, base.line_spacing_is_multiple ? 1 : 0);
   if (format.page_break_before) out += "\\pagebb";
   for (const TabStop& tab : format.tabs) out += Tab(tab);
   return out += format.other;

@@ -46,8 +46,9 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
                            WriterTables& tables);
 
 // The words behind \pard, without those of a list. In a paragraph with a style they name every
-// property, so that a reader needn't know the style; but \pagebb only where there is one, because
-// others read \pagebb0 as a break too.
-std::string ParagraphWords(const ParagraphFormat& format);
+// property that either has, so that a reader needn't know the style; but \pagebb only where there
+// is one, because others read \pagebb0 as a break too. `style` is null if the sheet doesn't list
+// it.
+std::string ParagraphWords(const ParagraphFormat& format, const ParagraphFormat* style);
 
 }  // namespace tarnwell::richtext

@@ -42,7 +42,9 @@ void RtfWriter::WriteParagraphStart(const Paragraph& paragraph, std::string_view
   Words(head);
   if (in_table) Words("\\intbl");
   if (paragraph.format.list) WriteListItem(*paragraph.format.list);
-  Words(ParagraphWords(paragraph.format));
+  const auto style = styles_.find(paragraph.format.style);
+  Words(ParagraphWords(paragraph.format,
+                       style == styles_.end() ? nullptr : &style->second.paragraph));
   Words(AllCharacterWords(paragraph.mark, tables_));
 }
 

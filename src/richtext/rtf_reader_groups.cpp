@@ -164,6 +164,7 @@ void RtfReader::TakeListDescription(std::size_t begin) {
   if (rtf.size() > kLongestDescription) return;
   FormatState& described = states_[states_.size() - 2];
   TouchParagraph(described);
+  state().paragraph_version = described.paragraph_version;
   std::optional<ListItem>& list = described.paragraph.list;
   if (!list) list.emplace();
   list->description = std::move(rtf);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/head_tables.h"
+#include "richtext/kept_pieces.h"
 #include "richtext/rich_text_writer.h"
 
 namespace tarnwell::richtext {
@@ -37,6 +39,19 @@ std::string PageWords(const Page& page) {
 }
 
 }  // namespace
+
+RtfWriter::RtfWriter(const RichDocument& document) : document_(document), tables_(document) {
+  if (document.prologue.find("\\stylesheet") == std::string::npos) return;
+  FormatTables tables;
+  tables.fonts = document.fonts;
+  tables.colors = document.colors;
+  for (const KeptPiece& piece : KeptPieces(document.prologue)) {
+    if (piece.name != "stylesheet") continue;
+    ReadStyles(piece.body, tables);
+    break;
+  }
+  styles_ = std::move(tables.styles);
+}
 
 std::string RtfWriter::Write() && {
   std::vector<const Paragraph*> paragraphs;
