@@ -164,7 +164,7 @@ std::string AllCharacterWords(const CharacterFormat& format, WriterTables& table
   CharacterFormat plain = DefaultCharacter(tables);
   // Readers are told the font behind its switch, the usual one too.
   const bool is_told = !format.font.empty() || !tables.default_font().empty();
-  if (is_told && LastScript(format.other) > 0) plain.font = kNoFont;
+  if (is_told && HoldsScripts(format.other)) plain.font = kNoFont;
   const std::string words = OwnWords(plain, format, tables);
   const std::size_t place = FindKept("f", format.other);
   if (place == std::string::npos) return "\\plain" + format.other + words;

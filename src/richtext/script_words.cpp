@@ -64,6 +64,8 @@ bool IsOfScript(std::string_view name) {
   return std::ranges::find(names, name) != names.end();
 }
 
+bool HoldsScripts(std::string_view kept) { return PartsOf(kept).size() > 1; }
+
 std::size_t LastScript(std::string_view kept) {
   const std::vector<Part> parts = PartsOf(kept);
   return kept.size() - parts.back().words.size();

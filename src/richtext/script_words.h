@@ -13,6 +13,7 @@ bool IsScriptSwitch(std::string_view name);
 // Whether the word says something else behind each switch.
 bool IsOfScript(std::string_view name);
 
+bool HoldsScripts(std::string_view kept);
 // Where the words behind the last switch of `kept` begin; 0 if it holds no switch.
 std::size_t LastScript(std::string_view kept);
 // What follows is of that switch; the words that it has already come to the end with it.

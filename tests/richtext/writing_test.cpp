@@ -183,6 +183,8 @@ TEST(Writing, WordsThatHoldForOneScriptStayBehindItsSwitch) {
       {"\\plain\\ltrch\\af1\\rtlch\\af2\\f2 x{\\b y}",
        "\\plain\\ltrch\\af1\\rtlch\\af2\\f2 x{\\b y}"},
       {"\\plain\\f1\\dbch\\af4 x", "\\plain\\dbch\\af4\\loch\\f1 x"},
+      {"\\plain\\rtlch\\af2\\f0 x", "\\plain\\rtlch\\af2\\f0 x"},
+      {"\\plain\\f0\\rtlch\\af2 x", "\\plain\\f0\\rtlch\\af2 x"},
       {"\\plain\\chbrdr\\brdrs\\brdrw10 x{\\chbrdr\\brdrdb y}\\brdrb\\brdrth",
        "\\brdrb\\brdrth\\plain\\chbrdr\\brdrs\\brdrw10 x{\\plain\\chbrdr\\brdrdb y}"},
   };
