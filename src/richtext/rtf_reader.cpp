@@ -171,6 +171,7 @@ void RtfReader::PopGroup() {
     states_.pop_back();
   }
   if (!open_fields_.empty() && open_fields_.back().depth == depth_) EndField();
+  in_character_border_ = false;
   if (depth_ > 0) --depth_;
   ended_ = depth_ == 0;
 }

@@ -134,7 +134,7 @@ void RtfReader::TakePageWord(Word word, const Token& token) {
 }
 
 void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
-  if (in_character_border_) {
+  if (in_character_border_ && HoldsKept("chbrdr", state().character.other)) {
     state().is_settled = false;
     return KeepWord(source, state().character.other);
   }

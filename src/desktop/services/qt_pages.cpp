@@ -30,8 +30,9 @@ QString PdfNameOf(const QString& title) {
   }
   name = name.simplified();
   if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) name = QStringLiteral("Tarnwell");
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return QDir(folder).filePath(name + QStringLiteral(".pdf"));
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QDir folder = documents.exists() ? documents : QDir::home();
+  return folder.filePath(name + QStringLiteral(".pdf"));
 }
 
 // Letter is measured in inches, A4 in millimetres, whatever the system prefers.
@@ -41,7 +42,9 @@ void SetUnits(const QPageSize& paper, QPageSetupDialog& dialog) {
   const bool is_metric = paper.definitionUnits() == QPageSize::Millimeter;
   const auto unit = is_metric ? QPageLayout::Millimeter : QPageLayout::Inch;
   const int place = units->findData(QVariant::fromValue(unit));
-  if (place >= 0) units->setCurrentIndex(place);
+  if (place < 0) return;
+  units->setCurrentIndex(place);
+  emit units->activated(place);  // as a person's choice: the lengths follow
 }
 
 // On a machine without a printer a PDF file takes its place.
