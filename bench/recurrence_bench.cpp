@@ -85,8 +85,10 @@ class GapMeter : public forms::EventLoop {
 class Planner {
  public:
   explicit Planner(storage::ProgramFolder& folder)
-      : context_{folder, clock_,   dialogs_, loop_,      window_,    help_,     clipboard_,
-                 pages_, folders_, speller_, thesaurus_, variables_, navigator_} {
+      : context_{{folder, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
+                  speller_, thesaurus_},
+                 variables_,
+                 navigator_} {
     planner::DayRows rows;
     rows[0] = {"9:00 AM", "Stand-up meeting with the whole crew"};
     Check(planner::WriteDay(folder, kToday, rows), "write today");

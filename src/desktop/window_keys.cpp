@@ -8,8 +8,8 @@
 
 #include "desktop/main_window.h"
 #include "desktop/widgets/text.h"
-#include "forms/help_menu.h"
 #include "forms/mnemonics.h"
+#include "parts/help_menu.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -55,7 +55,7 @@ bool WindowKeys::TakeHelp(QWidget& widget, bool act) {
   if (act) {
     while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
     const int context = window_.TopPage()->form().help_context();
-    window_.help().Show(context != 0 ? context : forms::kProgramOverview);
+    window_.help().Show(context != 0 ? context : parts::kProgramOverview);
   }
   return true;
 }

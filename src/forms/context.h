@@ -11,8 +11,9 @@ namespace tarnwell::forms {
 
 class Navigator;
 
-// Everything that a form works with besides its own controls.
-struct Context {
+// What the world lends to a run of the program. A new service is named here, in the desktop, which
+// has the real one, and among the tests' fakes.
+struct Services {
   storage::ProgramFolder& folder;
   Clock& clock;
   Dialogs& dialogs;
@@ -24,6 +25,10 @@ struct Context {
   FolderBrowser& folders;
   Speller& speller;
   Thesaurus& thesaurus;
+};
+
+// Everything that a form works with besides its own controls.
+struct Context : Services {
   ProgramVariables& variables;
   Navigator& navigator;
 };

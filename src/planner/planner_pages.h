@@ -6,9 +6,9 @@
 #include "forms/choice.h"
 #include "forms/context.h"
 #include "forms/form.h"
+#include "parts/export_panel.h"
 #include "planner/day_rows.h"
 #include "planner/month_panel.h"
-#include "print/export_panel.h"
 #include "print/print_panel.h"
 #include "text/date.h"
 
@@ -22,7 +22,7 @@ class PlannerPages {
 
   MonthPanel month;
   print::PrintPanel print;
-  print::ExportPanel exporting;
+  parts::ExportPanel exporting;
   forms::OptionGroup columns{
       print.options_frame, "Option83", {"One Column Output", "Two Column Output"}};
 

@@ -4,8 +4,8 @@
 
 #include "forms/disk_trouble.h"
 #include "forms/form_names.h"
-#include "forms/help_menu.h"
 #include "forms/navigator.h"
+#include "parts/help_menu.h"
 #include "planner/day_copy.h"
 #include "planner/day_store.h"
 #include "settings/planner_settings.h"
@@ -79,8 +79,8 @@ void Zcalandar1::BuildMenus() {
                                          [this] { CoverRows(calendar_options.panel); }));
   row_menus_.push_back(
       &options.AddEntry("mToDo", "Import To Do List Items", [this] { ImportToDo(); }));
-  options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(forms::ColorTarget::kPanel); });
-  options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(forms::ColorTarget::kText); });
+  options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
+  options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(parts::ColorTarget::kText); });
   background_entry_ = &options.AddEntry("mOGB", "&Grid Background", [this] { OpenBackground(); });
   options.AddSeparator();
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
@@ -96,7 +96,7 @@ void Zcalandar1::BuildMenus() {
                                       [this] { pages.ExportMonth("Daily Planner.xls"); });
   export_entry_->SetEnabled(false);
   SetPopupMenu(options);
-  forms::AddHelpMenu(*this, context_);
+  parts::AddHelpMenu(*this, context_);
 }
 
 void Zcalandar1::BuildRows() {

@@ -5,16 +5,16 @@
 #include <optional>
 
 #include "forms/choice.h"
-#include "forms/color_choice.h"
 #include "forms/command.h"
 #include "forms/control_array.h"
 #include "forms/date_picker.h"
 #include "forms/form.h"
-#include "forms/grid_background_panel.h"
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/text_field.h"
 #include "forms/timer.h"
+#include "parts/color_choice.h"
+#include "parts/grid_background_panel.h"
 #include "planner/calendar_options_panel.h"
 #include "planner/day_rows.h"
 #include "planner/planner_pages.h"
@@ -54,8 +54,8 @@ class Zcalandar1 : public forms::Form {
   CalendarOptionsPanel calendar_options;
   RecurrencePanel recurrence;
   PlannerPages pages;
-  forms::GridBackgroundPanel background;
-  forms::ColorChoice colors;
+  parts::GridBackgroundPanel background;
+  parts::ColorChoice colors;
   ToDoImportPanel todo_import;
 
   // The row at which the time picker stands, 0 to 13.

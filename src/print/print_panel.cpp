@@ -2,7 +2,6 @@
 
 #include <chrono>
 
-#include "forms/help_menu.h"
 #include "forms/message.h"
 #include "print/report.h"
 #include "text/number_mask.h"
@@ -25,7 +24,7 @@ PrintPanel::PrintPanel(forms::Container& parent, forms::Context& context,
                        const PrintPanelStyle& style)
     : panel(parent, "SSPanel80"), context_(context), engine_(context.pages.metrics()) {
   panel.SetVisible(false);
-  panel.SetHelpContext(forms::kPrintHelp);
+  panel.SetHelpContext(kPrintHelp);
   progress.SetVisible(false);
   BuildControls(style);
   engine_.on_new_page = [this] { HeadPage(); };

@@ -21,6 +21,8 @@
 
 namespace tarnwell::print {
 
+inline constexpr int kPrintHelp = 1014;  // the panel's help page
+
 // What a screen's panel looks like. A control with an empty caption isn't there.
 struct PrintPanelStyle {
   std::string_view close_caption = "&Close Print Options";

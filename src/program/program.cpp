@@ -34,11 +34,7 @@ void RegisterForms(forms::Navigator& navigator) {
 
 }  // namespace
 
-Program::Program(const Services& services)
-    : context_{services.folder,  services.clock,   services.dialogs,   services.loop,
-               services.window,  services.help,    services.clipboard, services.pages,
-               services.folders, services.speller, services.thesaurus, variables_,
-               navigator_} {
+Program::Program(const forms::Services& services) : context_{services, variables_, navigator_} {
   navigator_.SetContext(context_);
   RegisterForms(navigator_);
 }

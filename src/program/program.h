@@ -4,28 +4,12 @@
 
 #include "forms/context.h"
 #include "forms/navigator.h"
-#include "storage/program_folder.h"
 
 namespace tarnwell::program {
 
-// What the world lends to a run of the program.
-struct Services {
-  storage::ProgramFolder& folder;
-  forms::Clock& clock;
-  forms::Dialogs& dialogs;
-  forms::EventLoop& loop;
-  forms::Window& window;
-  forms::HelpViewer& help;
-  forms::Clipboard& clipboard;
-  forms::Pages& pages;
-  forms::FolderBrowser& folders;
-  forms::Speller& speller;
-  forms::Thesaurus& thesaurus;
-};
-
 class Program {
  public:
-  explicit Program(const Services& services);
+  explicit Program(const forms::Services& services);
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 

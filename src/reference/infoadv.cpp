@@ -1,7 +1,7 @@
 #include "reference/infoadv.h"
 
 #include "forms/form_names.h"
-#include "forms/help_menu.h"
+#include "parts/help_menu.h"
 
 namespace tarnwell::reference {
 namespace {
@@ -12,10 +12,10 @@ constexpr int kScreenHelp = 3066;
 
 InfoAdv::InfoAdv(forms::Context& context)
     : MainScreen(
-          context, forms::form_names::kInfoAdv, "Information Advisor", forms::kInformationAdvisor,
+          context, forms::form_names::kInfoAdv, "Information Advisor", parts::kInformationAdvisor,
           {"&Company Data", "&Employee Data", "&Tools and Program Information", "&Exit Program"}) {
   SetHelpContext(kScreenHelp);
-  forms::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});
+  parts::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});
 }
 
 }  // namespace tarnwell::reference

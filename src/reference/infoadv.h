@@ -1,12 +1,12 @@
 #pragma once
 
 #include "forms/label.h"
-#include "forms/main_buttons.h"
+#include "parts/main_buttons.h"
 
 namespace tarnwell::reference {
 
 // The screen "Information Advisor".
-class InfoAdv : public forms::MainScreen {
+class InfoAdv : public parts::MainScreen {
  public:
   explicit InfoAdv(forms::Context& context);
 

@@ -2,13 +2,13 @@
 
 #include "forms/command.h"
 #include "forms/label.h"
-#include "forms/main_buttons.h"
 #include "forms/panel.h"
+#include "parts/main_buttons.h"
 
 namespace tarnwell::reference {
 
 // The screen "Tools and Program Information": the way to the planner.
-class ToolsandInfo1 : public forms::MainScreen {
+class ToolsandInfo1 : public parts::MainScreen {
  public:
   explicit ToolsandInfo1(forms::Context& context);
 

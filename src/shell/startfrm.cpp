@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "forms/color_choice.h"
 #include "forms/form_names.h"
-#include "forms/help_menu.h"
 #include "forms/navigator.h"
+#include "parts/color_choice.h"
+#include "parts/help_menu.h"
 #include "settings/display_settings.h"
 #include "shell/reminder.h"
 #include "text/date_mask.h"
@@ -81,8 +81,8 @@ void Startfrm::BuildMenus() {
   options.AddEntry("mOBegin", "&Begin Program", [this] { Begin(); });
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
   SetPopupMenu(options);
-  SetHelpContext(forms::kProgramOverview);
-  forms::AddHelpMenu(*this, context_);
+  SetHelpContext(parts::kProgramOverview);
+  parts::AddHelpMenu(*this, context_);
 }
 
 void Startfrm::RunLoadRoutine() {
@@ -242,7 +242,7 @@ void Startfrm::RepeatLoadRoutine() {
 }
 
 void Startfrm::ChooseBackground() {
-  const forms::Answer answer = forms::AskForColor(context_, "Background Color");
+  const forms::Answer answer = parts::AskForColor(context_, "Background Color");
   if (answer == forms::Answer::kCancel) return;
   storage::TaggedValue stored = std::string("Def");
   forms::Color color = forms::kNeutral;

@@ -15,7 +15,7 @@ AreaButtonColumn::AreaButtonColumn(forms::Container& parent) : panel(parent, "SS
   }
 }
 
-void AreaButtonColumn::Show(forms::MainArea main_area) {
+void AreaButtonColumn::Show(parts::MainArea main_area) {
   for (std::size_t i = 0; i < buttons.size(); ++i) {
     buttons[i]->SetVisible(AreaButtons()[i].under == main_area);
   }
@@ -27,7 +27,7 @@ void AreaButtonColumn::Paint(Area area) {
   }
 }
 
-Area AreaButtonColumn::FirstOf(forms::MainArea main_area) {
+Area AreaButtonColumn::FirstOf(parts::MainArea main_area) {
   for (const AreaButton& area : AreaButtons()) {
     if (area.under == main_area) return area.area;
   }

@@ -19,10 +19,10 @@ class AreaButtonColumn {
   std::vector<std::unique_ptr<forms::Command>> buttons;  // in the order of AreaButtons()
 
   // Shows the buttons of a main area.
-  void Show(forms::MainArea main_area);
+  void Show(parts::MainArea main_area);
   // Draws the button of the area flat in the selected colour, and raises the others.
   void Paint(Area area);
-  static Area FirstOf(forms::MainArea main_area);
+  static Area FirstOf(parts::MainArea main_area);
 
   std::function<void(Area)> on_press;
 };

@@ -7,11 +7,11 @@ namespace {
 
 constexpr AreaButton kAreas[] = {
     {kAgreements, "Company Agreements/Docs", " Company Agreements and Documents ",
-     forms::kCompanyData},
-    {kPolicies, "Company Policies", "  Comapany Policies  ", forms::kCompanyData},
+     parts::kCompanyData},
+    {kPolicies, "Company Policies", "  Comapany Policies  ", parts::kCompanyData},
     {kRecoveryPlan, "Company Disaster Recovery Plan", "  Disaster Recovery Plan  ",
-     forms::kCompanyData},
-    {kEmployeeDocuments, "Employee Documents", "Employee Documents", forms::kEmployeeData},
+     parts::kCompanyData},
+    {kEmployeeDocuments, "Employee Documents", "Employee Documents", parts::kEmployeeData},
 };
 
 constexpr DocumentButton kAgreementButtons[] = {

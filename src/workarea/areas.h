@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "forms/main_buttons.h"
+#include "parts/main_buttons.h"
 
 namespace tarnwell::workarea {
 
@@ -23,7 +23,7 @@ struct AreaButton {
   Area area;
   std::string_view caption;
   std::string_view tool_tip;
-  forms::MainArea under;  // kCompanyData or kEmployeeData
+  parts::MainArea under;  // kCompanyData or kEmployeeData
 };
 
 // In the order in which they stand under each other.

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "forms/disk_trouble.h"
-#include "forms/help_menu.h"
 #include "forms/message.h"
+#include "parts/help_menu.h"
 #include "print/report.h"
 #include "print/rich_text.h"
 #include "richtext/plain_text.h"
@@ -45,7 +45,7 @@ DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& con
       all_progress(all_panel, "ProgressBar1", "Documents loaded"),
       context_(context) {
   all_panel.SetVisible(false);
-  all_panel.SetHelpContext(forms::kPrintHelp);
+  all_panel.SetHelpContext(print::kPrintHelp);
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     texts[static_cast<std::size_t>(i)].on_change = [this, i] { Tick(i); };
   }

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "forms/form_names.h"
-#include "forms/help_menu.h"
 #include "forms/navigator.h"
+#include "parts/help_menu.h"
 #include "richtext/rich_text_writer.h"
 #include "text/date_mask.h"
 
@@ -36,8 +36,8 @@ WorkArea1::WorkArea1(forms::Context& context)
   printing.print.on_close = [this] { CoverAreas(false); };
   BuildDocumentCommands();
   BuildMenus();
-  forms::AddHelpMenu(*this, context_,
-                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", forms::kPrintHelp}});
+  parts::AddHelpMenu(*this, context_,
+                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", print::kPrintHelp}});
 }
 
 void WorkArea1::BuildDocumentCommands() {
@@ -57,9 +57,9 @@ void WorkArea1::BuildMenus() {
   options_ = &menus().AddSubmenu("mO", "&Options");
   forms::MenuItem& options = *options_;
   const std::pair<int, const char*> entries[] = {
-      {forms::kInformationAdvisor, "&Information Advisor"},
-      {forms::kToolsAndProgramInformation, "&Tools and Program Information"},
-      {forms::kExitProgram, "&Exit Program"},
+      {parts::kInformationAdvisor, "&Information Advisor"},
+      {parts::kToolsAndProgramInformation, "&Tools and Program Information"},
+      {parts::kExitProgram, "&Exit Program"},
   };
   for (const auto& [index, caption] : entries) {
     options.AddEntry("mOTab(" + std::to_string(index) + ")", caption,
@@ -81,8 +81,8 @@ void WorkArea1::BuildMenus() {
                    [this] { PrintAll(DocumentPrinting::Breaks::kPages); });
   add("mOS", "&Save", document.save);
   options.AddSeparator();
-  options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(forms::ColorTarget::kPanel); });
-  options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(forms::ColorTarget::kText); });
+  options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
+  options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
   SetPopupMenu(options);
   EnableMenus();
 }
@@ -95,8 +95,8 @@ void WorkArea1::EnableMenus() {
 void WorkArea1::Load() {
   date.SetCaption(text::FormatDate(context_.clock.Today(), "mmmm d, yyyy"));
   colors.Load();
-  main_buttons.PaintSelected(forms::kCompanyData);
-  ShowMainArea(forms::kCompanyData);
+  main_buttons.PaintSelected(parts::kCompanyData);
+  ShowMainArea(parts::kCompanyData);
 }
 
 void WorkArea1::Activate() {
@@ -104,12 +104,12 @@ void WorkArea1::Activate() {
   context_.variables.FormHeight = Twips(size.height);
   context_.variables.FormWidth = Twips(size.width);
   switch (context_.variables.MainArea) {
-    case forms::kInformationAdvisor:
+    case parts::kInformationAdvisor:
       return context_.navigator.Show(forms::form_names::kInfoAdv);
-    case forms::kToolsAndProgramInformation:
+    case parts::kToolsAndProgramInformation:
       return context_.navigator.Show(forms::form_names::kToolsandInfo1);
-    case forms::kExitProgram:
-      context_.variables.MainArea = forms::kCompanyData;
+    case parts::kExitProgram:
+      context_.variables.MainArea = parts::kCompanyData;
       break;
     default:
       Press(context_.variables.MainArea);
@@ -119,31 +119,31 @@ void WorkArea1::Activate() {
 void WorkArea1::Press(int index) {
   // Closing the print panel would take the pages away from a run that is still making them.
   if (busy() || index == main_buttons.selected() || !document.Settle()) return;
-  if (index == forms::kExitProgram) {
+  if (index == parts::kExitProgram) {
     printing.print.Close();
     return AskToExit();
   }
-  if (index > forms::kEmployeeData && !LeaveColors()) return;
+  if (index > parts::kEmployeeData && !LeaveColors()) return;
   printing.print.Close();
-  main_buttons.PaintSelected(index <= forms::kEmployeeData ? index : -1);
+  main_buttons.PaintSelected(index <= parts::kEmployeeData ? index : -1);
   context_.variables.MainArea = static_cast<std::int16_t>(index);
-  if (index <= forms::kEmployeeData) return ShowMainArea(static_cast<forms::MainArea>(index));
+  if (index <= parts::kEmployeeData) return ShowMainArea(static_cast<parts::MainArea>(index));
   LeaveArea();  // coming back begins with the first area
-  context_.navigator.Show(index == forms::kInformationAdvisor ? forms::form_names::kInfoAdv
+  context_.navigator.Show(index == parts::kInformationAdvisor ? forms::form_names::kInfoAdv
                                                               : forms::form_names::kToolsandInfo1);
 }
 
-void WorkArea1::ShowMainArea(forms::MainArea main_area) {
+void WorkArea1::ShowMainArea(parts::MainArea main_area) {
   main_area_ = main_area;
-  area_title.SetCaption(main_area == forms::kCompanyData ? "Company Data" : "Employee Data");
+  area_title.SetCaption(main_area == parts::kCompanyData ? "Company Data" : "Employee Data");
   LeaveArea();
   area_buttons.Show(main_area);
   EnterArea(AreaButtonColumn::FirstOf(main_area));
 }
 
 void WorkArea1::AskToExit() {
-  context_.variables.MainArea = forms::kExitProgram;
-  if (Confirmed(forms::ExitBox()) && colors.Leave(forms::Buttons::kYesNo)) {
+  context_.variables.MainArea = parts::kExitProgram;
+  if (Confirmed(parts::ExitBox()) && colors.Leave(forms::Buttons::kYesNo)) {
     context_.navigator.Unload(*this);
     return context_.navigator.EndProgram();
   }

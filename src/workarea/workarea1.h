@@ -1,10 +1,10 @@
 #pragma once
 
-#include "forms/color_choice.h"
 #include "forms/form.h"
 #include "forms/label.h"
-#include "forms/main_buttons.h"
 #include "forms/panel.h"
+#include "parts/color_choice.h"
+#include "parts/main_buttons.h"
 #include "workarea/area_buttons.h"
 #include "workarea/document_printing.h"
 #include "workarea/document_view.h"
@@ -18,7 +18,7 @@ class WorkArea1 : public forms::Form {
  public:
   explicit WorkArea1(forms::Context& context);
 
-  forms::MainButtons main_buttons{*this};
+  parts::MainButtons main_buttons{*this};
   forms::Label date{*this, "Label1"};
   forms::Label area_title{*this, "Label2", {}, forms::LabelRole::kTitle};
   forms::Panel areas{*this, "SSPanel3"};  // all that the print panel covers
@@ -27,7 +27,7 @@ class WorkArea1 : public forms::Form {
   DocumentsPane documents;
   RecoveryPlanPane recovery_plan;
   DocumentPrinting printing;
-  forms::ColorChoice colors;
+  parts::ColorChoice colors;
 
   void Load() override;
   void Activate() override;
@@ -38,7 +38,7 @@ class WorkArea1 : public forms::Form {
   void BuildDocumentCommands();
 
   void Press(int index);
-  void ShowMainArea(forms::MainArea main_area);
+  void ShowMainArea(parts::MainArea main_area);
   void AskToExit();
   bool Save();
   bool LeaveColors();
@@ -56,7 +56,7 @@ class WorkArea1 : public forms::Form {
   void EnableMenus();
   void ShowColors();
 
-  forms::MainArea main_area_ = forms::kCompanyData;
+  parts::MainArea main_area_ = parts::kCompanyData;
   Area area_ = kNoArea;
   Pane* pane_ = nullptr;
   std::vector<std::pair<forms::MenuItem*, forms::Command*>> command_entries_;  // as their command

@@ -19,6 +19,7 @@ const std::vector<std::set<std::string>> kFloors = {
     {"settings"},
     {"forms"},
     {"print", "proofing"},
+    {"parts"},
     {"shell", "workarea", "planner", "budget", "contacts", "employees", "images", "leave",
      "vehicles", "backup", "reference"},
     {"program"},

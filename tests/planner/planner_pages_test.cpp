@@ -131,7 +131,7 @@ TEST_F(PlannerPagesTest, TheMonthIsExportedFromItsPanel) {
   Store(9, {"9:00 AM", "Bank"});
   form().view_month.Click();
   rig.ClickMenu("mUExport");
-  print::ExportPanel& exporting = form().pages.exporting;
+  parts::ExportPanel& exporting = form().pages.exporting;
   EXPECT_FALSE(form().pages.month.panel.visible());
   for (const char* entry : {"mUExport", "mOCopy", "mOS"}) EXPECT_FALSE(Enabled(entry)) << entry;
   EXPECT_EQ(exporting.name.text(), "Daily Planner.xls");

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/main_buttons.h"
+#include "parts/main_buttons.h"
 #include "planner/zcalandar1.h"
 #include "reference/infoadv.h"
 #include "reference/toolsandinfo1.h"
@@ -30,20 +30,20 @@ class NavigationTest : public ::testing::Test {
 };
 
 TEST_F(NavigationTest, TheHubShowsTheAreaOfItsButton) {
-  EXPECT_EQ(hub().main_buttons.selected(), forms::kCompanyData);
-  hub().main_buttons[forms::kEmployeeData].Click();
+  EXPECT_EQ(hub().main_buttons.selected(), parts::kCompanyData);
+  hub().main_buttons[parts::kEmployeeData].Click();
   EXPECT_EQ(hub().area_title.caption(), "Employee Data");
-  EXPECT_EQ(hub().main_buttons.selected(), forms::kEmployeeData);
-  EXPECT_EQ(main_area(), forms::kEmployeeData);
+  EXPECT_EQ(hub().main_buttons.selected(), parts::kEmployeeData);
+  EXPECT_EQ(main_area(), parts::kEmployeeData);
 }
 
 TEST_F(NavigationTest, AScreenAboveTheHubHandsOverToAnyOther) {
-  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   ASSERT_EQ(rig.top(), "ToolsandInfo1");
-  tools().main_buttons[forms::kToolsAndProgramInformation].Click();  // its own
+  tools().main_buttons[parts::kToolsAndProgramInformation].Click();  // its own
   EXPECT_EQ(rig.top(), "ToolsandInfo1");
 
-  tools().main_buttons[forms::kInformationAdvisor].Click();
+  tools().main_buttons[parts::kInformationAdvisor].Click();
   EXPECT_EQ(rig.top(), "InfoAdv");
   EXPECT_EQ(rig.navigator().Find("ToolsandInfo1"), nullptr);
 
@@ -63,7 +63,7 @@ TEST_F(NavigationTest, TheMenusOfTheScreensAboveListTheFourOthers) {
     }
     return text;
   };
-  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   EXPECT_EQ(captions(), "&Comapny Data|&Employee Data|&Information Advisor|&Exit Program|");
   rig.ClickMenu("mOTab(2)");
   EXPECT_EQ(captions(),
@@ -71,7 +71,7 @@ TEST_F(NavigationTest, TheMenusOfTheScreensAboveListTheFourOthers) {
 }
 
 TEST_F(NavigationTest, ClosingAScreenAboveTheHubByItsBoxEndsTheProgram) {
-  hub().main_buttons[forms::kInformationAdvisor].Click();
+  hub().main_buttons[parts::kInformationAdvisor].Click();
   rig.navigator().Close(*rig.navigator().top());
   EXPECT_TRUE(rig.navigator().ended());
 }
@@ -83,28 +83,28 @@ TEST_F(NavigationTest, ClosingTheHubByItsBoxLeadsBackToTheStartScreen) {
 }
 
 TEST_F(NavigationTest, ExitAsksAndNoOrCancelReturnsToWhatWasOnShow) {
-  hub().main_buttons[forms::kEmployeeData].Click();
+  hub().main_buttons[parts::kEmployeeData].Click();
   for (Answer answer : {Answer::kNo, Answer::kCancel}) {
     rig.dialogs.Expect("Exit", "Exit Tarnwell?", answer);
-    hub().main_buttons[forms::kExitProgram].Click();
-    EXPECT_EQ(hub().main_buttons.selected(), forms::kEmployeeData);
-    EXPECT_EQ(main_area(), forms::kEmployeeData);
+    hub().main_buttons[parts::kExitProgram].Click();
+    EXPECT_EQ(hub().main_buttons.selected(), parts::kEmployeeData);
+    EXPECT_EQ(main_area(), parts::kEmployeeData);
   }
-  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kNo);
-  tools().main_buttons[forms::kExitProgram].Click();
+  tools().main_buttons[parts::kExitProgram].Click();
   EXPECT_EQ(rig.top(), "ToolsandInfo1");
   rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kYes);
-  tools().main_buttons[forms::kExitProgram].Click();
+  tools().main_buttons[parts::kExitProgram].Click();
   EXPECT_TRUE(rig.navigator().ended());
-  tools().main_buttons[forms::kExitProgram].Click();  // a double click's second: no further box
+  tools().main_buttons[parts::kExitProgram].Click();  // a double click's second: no further box
 }
 
 TEST_F(NavigationTest, ThePlannerReturnsToTheScreenThatOpenedIt) {
-  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   tools().planner.Click();
   ASSERT_EQ(rig.top(), "Zcalandar1");
-  tools().main_buttons[forms::kCompanyData].Click();  // covered by the planner
+  tools().main_buttons[parts::kCompanyData].Click();  // covered by the planner
   EXPECT_EQ(rig.top(), "Zcalandar1");
   rig.navigator().top()->PressEscape();
   EXPECT_EQ(rig.top(), "ToolsandInfo1");
@@ -112,9 +112,9 @@ TEST_F(NavigationTest, ThePlannerReturnsToTheScreenThatOpenedIt) {
 
 TEST_F(NavigationTest, EachScreenHasItsHelp) {
   EXPECT_EQ(hub().help_context(), 3010);
-  hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+  hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   EXPECT_EQ(tools().help_context(), 3014);
-  tools().main_buttons[forms::kInformationAdvisor].Click();
+  tools().main_buttons[parts::kInformationAdvisor].Click();
   EXPECT_EQ(rig.navigator().top()->help_context(), 3066);
 }
 

@@ -11,10 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/dialogs.h"
-#include "forms/folder_browser.h"
-#include "forms/pages.h"
-#include "forms/services.h"
+#include "forms/context.h"
 #include "support/fixed_metrics.h"
 #include "text/date.h"
 
@@ -244,6 +241,11 @@ struct FakeWorld {
   FakeFolders folders;
   FakeSpeller speller;
   FakeThesaurus thesaurus;
+
+  forms::Services Lend(storage::ProgramFolder& folder) {
+    return {folder,    clock, dialogs, loop,    window,   help,
+            clipboard, pages, folders, speller, thesaurus};
+  }
 };
 
 }  // namespace tarnwell::testing

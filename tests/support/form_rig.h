@@ -18,8 +18,7 @@ struct FormWorld : FakeWorld {
   storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path()};
   forms::ProgramVariables variables;
   forms::Navigator navigator;
-  forms::Context context{folder, clock,   dialogs, loop,      window,    help,     clipboard,
-                         pages,  folders, speller, thesaurus, variables, navigator};
+  forms::Context context{Lend(folder), variables, navigator};
 };
 
 class FormRig : public FormWorld {

@@ -19,8 +19,7 @@ class ProgramRig : public FakeWorld {
 
   // A new run of the program on the same folder.
   void Start() {
-    program = std::make_unique<program::Program>(program::Services{
-        folder, clock, dialogs, loop, window, help, clipboard, pages, folders, speller, thesaurus});
+    program = std::make_unique<program::Program>(Lend(folder));
     program->Start();
   }
 

@@ -61,7 +61,7 @@ TEST_F(DocumentPrintingTest, AllDocumentsArePrintedInTheOrderOfTheirNumbers) {
   rig.loop.on_yield = [&] {
     EXPECT_TRUE(hub().printing.all_panel.visible());
     EXPECT_TRUE(hub().busy());
-    hub().main_buttons[forms::kEmployeeData].Click();  // too early: nothing happens
+    hub().main_buttons[parts::kEmployeeData].Click();  // too early: nothing happens
     hub().PressEscape();
     progress.push_back(hub().printing.all_progress.value());
   };
@@ -70,7 +70,7 @@ TEST_F(DocumentPrintingTest, AllDocumentsArePrintedInTheOrderOfTheirNumbers) {
   EXPECT_EQ(progress.back(), 46);
   EXPECT_FALSE(hub().printing.all_panel.visible());
   EXPECT_FALSE(hub().busy());
-  EXPECT_EQ(hub().main_buttons.selected(), forms::kCompanyData);
+  EXPECT_EQ(hub().main_buttons.selected(), parts::kCompanyData);
   EXPECT_FALSE(hub().areas.visible());
 
   std::vector<std::string> expected;

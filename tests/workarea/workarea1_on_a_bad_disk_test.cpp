@@ -35,11 +35,11 @@ TEST_F(WorkArea1OnABadDiskTest, ATextThatCantBeSavedStaysOnTheScreenUntilTheUser
   form.document.save.Click();
   for (int i = 0; i < 3; ++i) expect_questions(Answer::kNo);
   form.document.exit.Click();
-  form.main_buttons[forms::kEmployeeData].Click();
+  form.main_buttons[parts::kEmployeeData].Click();
   form.document.views.Pick(kCommentsText);
   EXPECT_EQ(richtext::PlainText(form.document.text.document()), "Precious");
   EXPECT_TRUE(form.document.unsaved());
-  EXPECT_EQ(form.main_buttons.selected(), forms::kCompanyData);
+  EXPECT_EQ(form.main_buttons.selected(), parts::kCompanyData);
   EXPECT_EQ(form.document.views.chosen(), kPolicyText);
   expect_questions(Answer::kYes);
   form.document.exit.Click();

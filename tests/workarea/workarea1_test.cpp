@@ -65,8 +65,8 @@ TEST_F(WorkArea1Test, EveryWayOutOfAnUnsavedTextAsksToSaveIt) {
       {"another area", [&] { Press("SSCommand11(4)"); }},
       {"another text", [&] { hub().document.views.Pick(kCommentsText); }},
       {"exit", [&] { hub().document.exit.Click(); }},
-      {"a main button", [&] { hub().main_buttons[forms::kEmployeeData].Click(); }},
-      {"another screen", [&] { hub().main_buttons[forms::kToolsAndProgramInformation].Click(); }},
+      {"a main button", [&] { hub().main_buttons[parts::kEmployeeData].Click(); }},
+      {"another screen", [&] { hub().main_buttons[parts::kToolsAndProgramInformation].Click(); }},
   };
   for (const auto& [way, leave] : ways) {
     SCOPED_TRACE(way);
@@ -107,9 +107,9 @@ TEST_F(WorkArea1Test, ATextStaysUnsavedAsLongAsItIsOnShow) {
   expect_edits();
   for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
     ExpectSaveQuestion(Answer::kNo);
-    const forms::MessageBox exit_box = forms::ExitBox();
+    const forms::MessageBox exit_box = parts::ExitBox();
     rig.dialogs.Expect(exit_box.title, exit_box.text, answer);
-    hub().main_buttons[forms::kExitProgram].Click();
+    hub().main_buttons[parts::kExitProgram].Click();
     expect_edits();
   }
   ExpectSaveQuestion(Answer::kYes);
@@ -155,7 +155,7 @@ TEST_F(WorkArea1Test, AStatusWordIsStoredAtOnceUnderItsDocument) {
   Open();
   Press("SSCommand14(5)");
   hub().document.status.Pick(2);
-  hub().main_buttons[forms::kEmployeeData].Click();
+  hub().main_buttons[parts::kEmployeeData].Click();
   Press("SSCommand17(0)");
   EXPECT_EQ(hub().document.status.text(), " ");
   rig.dialogs.Expect("Safeguard Not Being Implemented",
@@ -192,7 +192,7 @@ TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
   };
   const auto leave = [&](Answer answer) {
     rig.dialogs.Expect("Color Changes", "Save changes made to Panel and or Text Color?", answer);
-    hub().main_buttons[forms::kToolsAndProgramInformation].Click();
+    hub().main_buttons[parts::kToolsAndProgramInformation].Click();
     EXPECT_EQ(rig.top(), "ToolsandInfo1");
   };
   choose();

@@ -4,7 +4,7 @@
 
 namespace tarnwell::desktop {
 
-QWidget* ExportView(print::ExportPanel& panel) {
+QWidget* ExportView(parts::ExportPanel& panel) {
   QWidget* places = Row(
       {
           Grow(Column({Widget(panel.drives_heading), Widget(panel.drives),

@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::size_t kThumbnailsInARow = 4;
 
-QWidget* Thumbnails(forms::GridBackgroundPanel& selector, PictureStore& pictures) {
+QWidget* Thumbnails(parts::GridBackgroundPanel& selector, PictureStore& pictures) {
   QWidget* rows = Column({});
   for (std::size_t first = 0; first < selector.thumbnails.size(); first += kThumbnailsInARow) {
     QWidget* row = Row({});
@@ -22,7 +22,7 @@ QWidget* Thumbnails(forms::GridBackgroundPanel& selector, PictureStore& pictures
 
 }  // namespace
 
-QWidget* GridBackgroundView(forms::GridBackgroundPanel& selector, PictureStore& pictures) {
+QWidget* GridBackgroundView(parts::GridBackgroundPanel& selector, PictureStore& pictures) {
   auto& commands = selector.commands;
   return Widget(selector.panel, Column({
                                     Grow(Row({Column({Thumbnails(selector, pictures), Spring()}),

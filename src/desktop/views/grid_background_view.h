@@ -3,11 +3,11 @@
 #include <QWidget>
 
 #include "desktop/widgets/pictures.h"
-#include "forms/grid_background_panel.h"
+#include "parts/grid_background_panel.h"
 
 namespace tarnwell::desktop {
 
 // The panel "Grid Background Selector".
-QWidget* GridBackgroundView(forms::GridBackgroundPanel& selector, PictureStore& pictures);
+QWidget* GridBackgroundView(parts::GridBackgroundPanel& selector, PictureStore& pictures);
 
 }  // namespace tarnwell::desktop

@@ -5,14 +5,14 @@
 
 namespace tarnwell::desktop {
 
-QWidget* MainScreenView(forms::MainButtons& buttons, QWidget* content) {
+QWidget* MainScreenView(parts::MainButtons& buttons, QWidget* content) {
   return Padded(Column({Row({
-                            WithIcon("company", Widget(buttons[forms::kCompanyData])),
-                            WithIcon("people", Widget(buttons[forms::kEmployeeData])),
-                            WithIcon("advisor", Widget(buttons[forms::kInformationAdvisor])),
-                            WithIcon("tools", Widget(buttons[forms::kToolsAndProgramInformation])),
+                            WithIcon("company", Widget(buttons[parts::kCompanyData])),
+                            WithIcon("people", Widget(buttons[parts::kEmployeeData])),
+                            WithIcon("advisor", Widget(buttons[parts::kInformationAdvisor])),
+                            WithIcon("tools", Widget(buttons[parts::kToolsAndProgramInformation])),
                             Spring(),
-                            WithIcon("exit", Widget(buttons[forms::kExitProgram])),
+                            WithIcon("exit", Widget(buttons[parts::kExitProgram])),
                         }),
                         Grow(content)},
                        kWideSpace),

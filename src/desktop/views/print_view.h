@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "desktop/widgets/pictures.h"
-#include "print/export_panel.h"
+#include "parts/export_panel.h"
 #include "print/print_panel.h"
 
 namespace tarnwell::desktop {
@@ -13,6 +13,6 @@ namespace tarnwell::desktop {
 QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
                    std::initializer_list<QWidget*> own_options = {});
 
-QWidget* ExportView(print::ExportPanel& panel);
+QWidget* ExportView(parts::ExportPanel& panel);
 
 }  // namespace tarnwell::desktop

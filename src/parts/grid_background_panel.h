@@ -10,27 +10,30 @@
 #include "forms/panel.h"
 #include "settings/grid_backgrounds.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 
 // The panel "Grid Background Selector": one background for all grids of a function. A click on a
 // thumbnail only shows it large; the buttons choose, and store the choice.
 class GridBackgroundPanel {
  public:
-  GridBackgroundPanel(Container& parent, Context& context, settings::GridBackground function);
+  GridBackgroundPanel(forms::Container& parent, forms::Context& context,
+                      settings::GridBackground function);
 
-  Panel panel;
-  Label note{panel, "Label90", "(Selected Background will be used by all Grids in this function.)",
-             LabelRole::kNote};
-  ControlArray<Picture, settings::kWallpapers> thumbnails{panel, "Image3", std::string_view()};
-  Picture preview{panel, "Image4", {}};
-  ControlArray<Command, 4> commands{panel, "SSCommand90", std::string_view()};
+  forms::Panel panel;
+  forms::Label note{panel, "Label90",
+                    "(Selected Background will be used by all Grids in this function.)",
+                    forms::LabelRole::kNote};
+  forms::ControlArray<forms::Picture, settings::kWallpapers> thumbnails{panel, "Image3",
+                                                                        std::string_view()};
+  forms::Picture preview{panel, "Image4", {}};
+  forms::ControlArray<forms::Command, 4> commands{panel, "SSCommand90", std::string_view()};
 
   // Shows the stored background in the grids.
   void Load();
   void Open() { panel.SetVisible(true); }
 
   // Paints the grids; called with each background that is loaded or chosen.
-  std::function<void(const GridLook&)> on_apply;
+  std::function<void(const forms::GridLook&)> on_apply;
   std::function<void()> on_close;
 
  private:
@@ -42,10 +45,10 @@ class GridBackgroundPanel {
   void Take(const settings::StoredColor& choice);
   void Apply();
 
-  Context& context_;
+  forms::Context& context_;
   settings::GridBackground function_;
   settings::StoredColor choice_;
   int marked_ = 0;  // number of the wallpaper whose thumbnail was clicked, 0 for none
 };
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

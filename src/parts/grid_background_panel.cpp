@@ -1,12 +1,12 @@
-#include "forms/grid_background_panel.h"
+#include "parts/grid_background_panel.h"
 
 #include "storage/file_names.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 
 using storage::file_names::Wallpaper;
 
-GridBackgroundPanel::GridBackgroundPanel(Container& parent, Context& context,
+GridBackgroundPanel::GridBackgroundPanel(forms::Container& parent, forms::Context& context,
                                          settings::GridBackground function)
     : panel(parent, "SSPanel90", "Grid Background Selector"),
       context_(context),
@@ -56,7 +56,7 @@ void GridBackgroundPanel::UseMarked() {
 void GridBackgroundPanel::UseDefault() { Take(settings::StoredColor::Default()); }
 
 void GridBackgroundPanel::UseColor() {
-  const auto color = context_.dialogs.ChooseColor(choice_.color().value_or(kWhite));
+  const auto color = context_.dialogs.ChooseColor(choice_.color().value_or(forms::kWhite));
   if (color) Take(settings::StoredColor::Number(*color));
 }
 
@@ -69,10 +69,10 @@ void GridBackgroundPanel::Take(const settings::StoredColor& choice) {
 
 // A wallpaper whose file is gone leaves the grids as they are.
 void GridBackgroundPanel::Apply() {
-  GridLook look{choice_.color(), {}};
+  forms::GridLook look{choice_.color(), {}};
   if (const auto number = choice_.wallpaper()) look.wallpaper = Wallpaper(*number);
   if (!look.wallpaper.empty() && !context_.folder.Exists(look.wallpaper)) return;
   if (on_apply) on_apply(look);
 }
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

@@ -1,4 +1,4 @@
-#include "print/export_panel.h"
+#include "parts/export_panel.h"
 
 #include <algorithm>
 
@@ -6,7 +6,7 @@
 #include "forms/message.h"
 #include "text/letters.h"
 
-namespace tarnwell::print {
+namespace tarnwell::parts {
 namespace {
 
 constexpr const char* kAbove = "..";
@@ -186,4 +186,4 @@ void ExportPanel::Export() {
   Show(folder_);
 }
 
-}  // namespace tarnwell::print
+}  // namespace tarnwell::parts

@@ -5,7 +5,7 @@
 
 #include "forms/form.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 
 // One help topic of a screen.
 struct HelpTopic {
@@ -14,10 +14,10 @@ struct HelpTopic {
 };
 
 inline constexpr int kProgramOverview = 1000;
-inline constexpr int kPrintHelp = 1014;
 
 // The "&Help" menu that every main screen has: the overview, the screen's own topics, the about
 // box.
-void AddHelpMenu(Form& form, Context& context, std::initializer_list<HelpTopic> topics = {});
+void AddHelpMenu(forms::Form& form, forms::Context& context,
+                 std::initializer_list<HelpTopic> topics = {});
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

@@ -10,7 +10,7 @@
 #include "forms/control_array.h"
 #include "forms/form.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 
 // The values of ProgramVariables::MainArea.
 enum MainArea : std::int16_t {
@@ -26,9 +26,9 @@ inline constexpr int kMainButtonCount = 5;
 // The buttons `SSCommand4`(0 to 4) themselves.
 class MainButtons {
  public:
-  explicit MainButtons(Container& parent);
+  explicit MainButtons(forms::Container& parent);
 
-  Command& operator[](int index) { return buttons_[static_cast<std::size_t>(index)]; }
+  forms::Command& operator[](int index) { return buttons_[static_cast<std::size_t>(index)]; }
   // Raises the four buttons that aren't "Exit Program" and draws the one of `index` flat in the
   // selected colour; -1 for none.
   void PaintSelected(int index);
@@ -37,18 +37,18 @@ class MainButtons {
   std::function<void(int index)> on_press;
 
  private:
-  ControlArray<Command, kMainButtonCount> buttons_;
+  forms::ControlArray<forms::Command, kMainButtonCount> buttons_;
 };
 
 // The box that asks before the program ends.
-MessageBox ExitBox();
+forms::MessageBox ExitBox();
 
 // A screen that lies above the hub and hands over to it: it unloads itself when another main button
 // is pressed, and the hub acts on ProgramVariables::MainArea.
-class MainScreen : public Form {
+class MainScreen : public forms::Form {
  public:
   // `entries` are the "&Options" menu's captions for the four other buttons, in index order.
-  MainScreen(Context& context, std::string_view name, std::string_view caption, MainArea own,
+  MainScreen(forms::Context& context, std::string_view name, std::string_view caption, MainArea own,
              std::initializer_list<std::string_view> entries);
 
   MainButtons main_buttons{*this};
@@ -63,4 +63,4 @@ class MainScreen : public Form {
   MainArea own_;
 };
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

@@ -1,15 +1,21 @@
-#include "forms/color_choice.h"
+#include "parts/color_choice.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/grid_background_panel.h"
+#include "parts/grid_background_panel.h"
 #include "settings/grid_backgrounds.h"
 #include "storage/record_file.h"
 #include "support/form_rig.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 namespace {
 
+using forms::Answer;
+using forms::Color;
+using forms::GridLook;
+using forms::kBlack;
+using forms::kNeutral;
+using forms::kWhite;
 using settings::PanelColor;
 using settings::StoredColor;
 
@@ -186,4 +192,4 @@ TEST_F(GridBackgroundPanelTest, AColourOrTheDefaultTakesThePicturesPlace) {
 }
 
 }  // namespace
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

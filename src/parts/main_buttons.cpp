@@ -1,11 +1,11 @@
-#include "forms/main_buttons.h"
+#include "parts/main_buttons.h"
 
 #include <array>
 
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 namespace {
 
 struct Text {
@@ -22,9 +22,9 @@ constexpr std::array<Text, kMainButtonCount> kTexts{{
 
 }  // namespace
 
-MainButtons::MainButtons(Container& parent) : buttons_(parent, "SSCommand4", "") {
+MainButtons::MainButtons(forms::Container& parent) : buttons_(parent, "SSCommand4", "") {
   for (int i = 0; i < kMainButtonCount; ++i) {
-    Command& button = (*this)[i];
+    forms::Command& button = (*this)[i];
     button.SetCaption(kTexts[static_cast<std::size_t>(i)].caption);
     button.SetToolTip(kTexts[static_cast<std::size_t>(i)].tool_tip);
     button.on_click = [this, i] {
@@ -44,14 +44,16 @@ int MainButtons::selected() {
   return -1;
 }
 
-MessageBox ExitBox() { return {"Exit", "Exit Tarnwell?", Icon::kQuestion, Buttons::kYesNoCancel}; }
+forms::MessageBox ExitBox() {
+  return {"Exit", "Exit Tarnwell?", forms::Icon::kQuestion, forms::Buttons::kYesNoCancel};
+}
 
-MainScreen::MainScreen(Context& context, std::string_view name, std::string_view caption,
+MainScreen::MainScreen(forms::Context& context, std::string_view name, std::string_view caption,
                        MainArea own, std::initializer_list<std::string_view> entries)
-    : Form(context, name, caption), own_(own) {
+    : forms::Form(context, name, caption), own_(own) {
   main_buttons.PaintSelected(own);
   main_buttons.on_press = [this](int index) { Press(index); };
-  MenuItem& options = menus().AddSubmenu("mO", "&Options");
+  forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   int index = 0;
   for (std::string_view entry : entries) {
     if (index == own) ++index;
@@ -80,4 +82,4 @@ void MainScreen::Unload() {
   if (context_.variables.MainArea == own_) context_.variables.MainArea = kCompanyData;
 }
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

@@ -1,10 +1,10 @@
-#include "print/export_panel.h"
+#include "parts/export_panel.h"
 
 #include <gmock/gmock.h>
 
 #include "support/form_rig.h"
 
-namespace tarnwell::print {
+namespace tarnwell::parts {
 namespace {
 
 using ::testing::ElementsAre;
@@ -132,4 +132,4 @@ TEST_F(ExportPanelTest, ADriveOrFolderThatIsGoneLeadsBackToTheProgramsFolder) {
 }
 
 }  // namespace
-}  // namespace tarnwell::print
+}  // namespace tarnwell::parts

@@ -9,18 +9,18 @@
 #include "forms/context.h"
 #include "settings/panel_colors.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 
 // Text and background must differ. Says that they wouldn't, and changes nothing.
-void ColorConflict(Context& context);
+void ColorConflict(forms::Context& context);
 
 // Asks whether the panel colour saved last shall be that of all functions, unless there is none or
 // the question came up for that colour before, and writes it on Yes.
-void SaveAllPanelColors(Context& context);
+void SaveAllPanelColors(forms::Context& context);
 
 // The box before a choice: `title` is the kind of colour. Yes asks for a new one, No for the
 // system's own.
-Answer AskForColor(Context& context, const char* title);
+forms::Answer AskForColor(forms::Context& context, const char* title);
 
 // What a colour is chosen for, by the fixed numbers.
 enum class ColorTarget { kPanel = 0, kBackground = 1, kText = 2 };
@@ -29,7 +29,7 @@ enum class ColorTarget { kPanel = 0, kBackground = 1, kText = 2 };
 class ColorChoice {
  public:
   // A screen without `background` keeps the background of its entry area for the run only.
-  ColorChoice(Context& context, settings::PanelColor panel,
+  ColorChoice(forms::Context& context, settings::PanelColor panel,
               std::optional<settings::FieldColor> background = std::nullopt)
       : context_(context), panel_record_(panel), background_record_(background) {}
 
@@ -46,32 +46,32 @@ class ColorChoice {
 
   // The screen is about to be left: offers to keep what was chosen, with the buttons Yes and No and
   // perhaps Cancel. False when the screen is to stay, be it that the disk refused.
-  bool Leave(Buttons buttons);
+  bool Leave(forms::Buttons buttons);
 
   // Empty for the look's own colour.
-  const std::optional<Color>& panel() const { return panel_; }
-  Color background() const { return background_.value_or(kWhite); }
-  Color text() const { return text_; }
+  const std::optional<forms::Color>& panel() const { return panel_; }
+  forms::Color background() const { return background_.value_or(forms::kWhite); }
+  forms::Color text() const { return text_; }
 
   std::function<void()> on_change;
 
  private:
   void TakeDefault(ColorTarget target);
-  void Take(ColorTarget target, Color color);
-  void ApplyBackground(std::optional<Color> color);
-  void ApplyText(Color color);
+  void Take(ColorTarget target, forms::Color color);
+  void ApplyBackground(std::optional<forms::Color> color);
+  void ApplyText(forms::Color color);
   void Changed();
-  Color StartColor(ColorTarget target) const;
+  forms::Color StartColor(ColorTarget target) const;
 
-  Context& context_;
+  forms::Context& context_;
   settings::PanelColor panel_record_;
   std::optional<settings::FieldColor> background_record_;
-  std::optional<Color> panel_;
-  std::optional<Color> background_;
-  Color text_ = kBlack;
+  std::optional<forms::Color> panel_;
+  std::optional<forms::Color> background_;
+  forms::Color text_ = forms::kBlack;
   bool changed_ = false;
   bool panel_chosen_ = false;
   bool background_chosen_ = false;
 };
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts

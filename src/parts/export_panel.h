@@ -16,7 +16,7 @@
 #include "forms/panel.h"
 #include "forms/text_field.h"
 
-namespace tarnwell::print {
+namespace tarnwell::parts {
 
 // All cells, heading and fixed columns too, as text: tabs between them, CR LF behind each row. A
 // tab or line end inside a cell becomes a blank.
@@ -78,4 +78,4 @@ class ExportPanel {
   bool no_drive_ = false;
 };
 
-}  // namespace tarnwell::print
+}  // namespace tarnwell::parts

@@ -1,33 +1,34 @@
-#include "forms/color_choice.h"
+#include "parts/color_choice.h"
 
 #include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "text/letters.h"
 
-namespace tarnwell::forms {
+namespace tarnwell::parts {
 namespace {
 
-settings::StoredColor Stored(const std::optional<Color>& color) {
+settings::StoredColor Stored(const std::optional<forms::Color>& color) {
   return color ? settings::StoredColor::Number(*color) : settings::StoredColor::Default();
 }
 
 }  // namespace
 
-void ColorConflict(Context& context) {
-  ShowMessage(context, {"Color Conflict",
-                        "Selected Color would cause a conflict with Text and Background Colors!",
-                        Icon::kCritical});
+void ColorConflict(forms::Context& context) {
+  forms::ShowMessage(
+      context,
+      {"Color Conflict", "Selected Color would cause a conflict with Text and Background Colors!",
+       forms::Icon::kCritical});
 }
 
-void SaveAllPanelColors(Context& context) {
-  ProgramVariables& variables = context.variables;
+void SaveAllPanelColors(forms::Context& context) {
+  forms::ProgramVariables& variables = context.variables;
   const std::string color = text::Trim(variables.PanelColorNew);
   if (color.empty() || color == text::Trim(variables.PanelColorLast)) return;
-  const Answer answer =
-      ShowMessage(context, {"Complete Program Panel Color Update Option",
-                            "Save Panel Color Changes for ALL of the Program Functions?",
-                            Icon::kQuestion, Buttons::kYesNoCancel, 2});
-  if (answer != Answer::kYes) return;
+  const forms::Answer answer =
+      forms::ShowMessage(context, {"Complete Program Panel Color Update Option",
+                                   "Save Panel Color Changes for ALL of the Program Functions?",
+                                   forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2});
+  if (answer != forms::Answer::kYes) return;
   settings::WritePanelColorForAll(context.folder, settings::StoredColor::FromText(color),
                                   [&context] { context.loop.Yield(); });
   variables.PanelColorLast = color;
@@ -35,12 +36,12 @@ void SaveAllPanelColors(Context& context) {
   context.loop.Yield();
 }
 
-Answer AskForColor(Context& context, const char* title) {
-  return ShowMessage(context, {title,
-                               "Select New Color or Use System Default Color?\n"
-                               "Yes = Color Selection Panel will appear.\n"
-                               "No = Current System Default Color will be selected.",
-                               Icon::kInformation, Buttons::kYesNoCancel});
+forms::Answer AskForColor(forms::Context& context, const char* title) {
+  return forms::ShowMessage(context, {title,
+                                      "Select New Color or Use System Default Color?\n"
+                                      "Yes = Color Selection Panel will appear.\n"
+                                      "No = Current System Default Color will be selected.",
+                                      forms::Icon::kInformation, forms::Buttons::kYesNoCancel});
 }
 
 void ColorChoice::Load() {
@@ -49,18 +50,18 @@ void ColorChoice::Load() {
   if (background_record_) {
     background_ = settings::ReadFieldColor(context_.folder, *background_record_).color();
   }
-  text_ = settings::ReadTextColor(context_.folder).color().value_or(kBlack);
+  text_ = settings::ReadTextColor(context_.folder).color().value_or(forms::kBlack);
   // The text colour is shared, so another screen may have taken this one's background.
-  if (text_ == background()) text_ = background() == kBlack ? kWhite : kBlack;
+  if (text_ == background()) text_ = background() == forms::kBlack ? forms::kWhite : forms::kBlack;
   changed_ = panel_chosen_ = background_chosen_ = false;
   if (on_change) on_change();
 }
 
 void ColorChoice::Choose(ColorTarget target) {
   if (target != ColorTarget::kText) {
-    const Answer answer = AskForColor(context_, "Panel Color");
-    if (answer == Answer::kCancel) return;
-    if (answer == Answer::kNo) return TakeDefault(target);
+    const forms::Answer answer = AskForColor(context_, "Panel Color");
+    if (answer == forms::Answer::kCancel) return;
+    if (answer == forms::Answer::kNo) return TakeDefault(target);
   }
   if (const auto color = context_.dialogs.ChooseColor(StartColor(target))) Take(target, *color);
 }
@@ -72,7 +73,7 @@ void ColorChoice::TakeDefault(ColorTarget target) {
   Changed();
 }
 
-void ColorChoice::Take(ColorTarget target, Color color) {
+void ColorChoice::Take(ColorTarget target, forms::Color color) {
   if (target == ColorTarget::kBackground) return ApplyBackground(color);
   if (target == ColorTarget::kText) return ApplyText(color);
   panel_ = color;
@@ -80,19 +81,19 @@ void ColorChoice::Take(ColorTarget target, Color color) {
   Changed();
 }
 
-void ColorChoice::ApplyBackground(std::optional<Color> color) {
-  if (color.value_or(kWhite) == text_) return ColorConflict(context_);
+void ColorChoice::ApplyBackground(std::optional<forms::Color> color) {
+  if (color.value_or(forms::kWhite) == text_) return ColorConflict(context_);
   background_ = color;
   background_chosen_ = true;
   Changed();
 }
 
-void ColorChoice::ApplyText(Color color) {
+void ColorChoice::ApplyText(forms::Color color) {
   if (color == background()) return ColorConflict(context_);
   text_ = color;
   const auto written = settings::WriteTextColor(context_.folder, color);
   Changed();
-  if (!written) TellNotSaved(context_, "The text color", written.fault());
+  if (!written) forms::TellNotSaved(context_, "The text color", written.fault());
 }
 
 void ColorChoice::Changed() {
@@ -110,23 +111,23 @@ bool ColorChoice::Save() {
     written = settings::WriteFieldColor(context_.folder, *background_record_, Stored(background_));
   }
   if (!written) {
-    TellNotSaved(context_, "The chosen color", written.fault());
+    forms::TellNotSaved(context_, "The chosen color", written.fault());
     return false;
   }
   changed_ = panel_chosen_ = background_chosen_ = false;
   return true;
 }
 
-bool ColorChoice::Leave(Buttons buttons) {
+bool ColorChoice::Leave(forms::Buttons buttons) {
   if (!changed_) return true;
-  const Answer answer = ShowMessage(
-      context_,
-      {"Color Changes", "Save changes made to Panel and or Text Color?", Icon::kQuestion, buttons});
-  if (answer == Answer::kYes) return Save() || AskToLeaveUnsaved(context_);
-  return answer != Answer::kCancel;
+  const forms::Answer answer = forms::ShowMessage(
+      context_, {"Color Changes", "Save changes made to Panel and or Text Color?",
+                 forms::Icon::kQuestion, buttons});
+  if (answer == forms::Answer::kYes) return Save() || forms::AskToLeaveUnsaved(context_);
+  return answer != forms::Answer::kCancel;
 }
 
-Color ColorChoice::StartColor(ColorTarget target) const {
+forms::Color ColorChoice::StartColor(ColorTarget target) const {
   switch (target) {
     case ColorTarget::kBackground:
       return background();
@@ -135,7 +136,7 @@ Color ColorChoice::StartColor(ColorTarget target) const {
     case ColorTarget::kPanel:
       break;
   }
-  return panel_.value_or(kNeutral);
+  return panel_.value_or(forms::kNeutral);
 }
 
-}  // namespace tarnwell::forms
+}  // namespace tarnwell::parts
