@@ -13,7 +13,7 @@ namespace {
 // A switch and the words behind it; without a name the words before the first switch.
 struct Part {
   std::string_view name;
-  std::string words;
+  std::string_view words;
 };
 
 std::string_view NameOf(std::string_view word) {
@@ -23,20 +23,42 @@ std::string_view NameOf(std::string_view word) {
   return word.substr(0, static_cast<std::size_t>(end - word.begin()));
 }
 
-// The names stay as long as `kept`.
+// They are parts of `kept`. There are seldom more than a handful.
 std::vector<Part> PartsOf(std::string_view kept) {
-  std::vector<Part> parts(1);
-  while (!kept.empty()) {
-    const std::string_view word = kept.substr(0, kept.find('\\', 1));
-    kept.remove_prefix(word.size());
-    const std::string_view name = NameOf(word);
+  std::vector<Part> parts;
+  parts.reserve(8);
+  parts.emplace_back();
+  std::size_t begin = 0;
+  for (std::size_t at = 0; at < kept.size();) {
+    const std::size_t next = std::min(kept.find('\\', at + 1), kept.size());
+    const std::string_view name = NameOf(kept.substr(at, next - at));
     if (IsScriptSwitch(name)) {
-      parts.push_back({name, std::string(word)});
-    } else {
-      parts.back().words += word;
+      parts.back().words = kept.substr(begin, at - begin);
+      parts.push_back({name, {}});
+      begin = at;
     }
+    at = next;
   }
+  parts.back().words = kept.substr(begin);
   return parts;
+}
+
+// Until `visit`, which gets the name of a word and where it stands, returns false.
+template <typename Visit>
+void ForEachFromTheEnd(std::string_view kept, Visit visit) {
+  for (std::size_t end = kept.size(); end > 0;) {
+    const std::size_t at = kept.rfind('\\', end - 1);
+    if (at == std::string_view::npos || !visit(NameOf(kept.substr(at, end - at)), at)) return;
+    end = at;
+  }
+}
+
+// The same name, which stays.
+std::string_view NameOfScript(std::string_view script) {
+  for (const std::string_view name : {"loch", "hich", "dbch"}) {
+    if (name == script) return name;
+  }
+  return {};
 }
 
 bool IsDirection(std::string_view name) { return name == "rtlch" || name == "ltrch"; }
@@ -53,11 +75,13 @@ std::string_view LastName(const std::vector<Part>& parts, bool of_direction) {
 }  // namespace
 
 bool IsScriptSwitch(std::string_view name) {
+  if (!name.ends_with("ch")) return false;
   const std::initializer_list<std::string_view> names = {"rtlch", "ltrch", "loch", "hich", "dbch"};
   return std::ranges::find(names, name) != names.end();
 }
 
 bool IsOfScript(std::string_view name) {
+  if (!name.starts_with('a') && name != "fcs") return false;
   const std::initializer_list<std::string_view> names = {
       "ab",     "acaps", "acf",     "adn", "aexpnd", "af",    "afs",     "ai",   "alang", "aoutl",
       "ascaps", "ashad", "astrike", "aul", "auld",   "auldb", "aulnone", "aulw", "aup",   "fcs"};
@@ -67,27 +91,37 @@ bool IsOfScript(std::string_view name) {
 bool HoldsScripts(std::string_view kept) { return PartsOf(kept).size() > 1; }
 
 std::size_t LastScript(std::string_view kept) {
-  const std::vector<Part> parts = PartsOf(kept);
-  return kept.size() - parts.back().words.size();
+  std::size_t place = 0;
+  ForEachFromTheEnd(kept, [&place](std::string_view name, std::size_t at) {
+    if (!IsScriptSwitch(name)) return true;
+    place = at;
+    return false;
+  });
+  return place;
 }
 
 void TurnToScript(std::string_view name, std::string& kept) {
   std::string rest;
   std::string turned;
-  for (const Part& part : PartsOf(kept)) (part.name == name ? turned : rest) += part.words;
-  if (turned.empty()) {
-    KeepWord("\\" + std::string(name), rest);
-  }
+  const std::vector<Part> parts = PartsOf(kept);
+  if (parts.back().name == name) return;
+  for (const Part& part : parts) (part.name == name ? turned : rest) += part.words;
+  if (turned.empty()) KeepWord("\\" + std::string(name), rest);
   kept = rest + turned;
 }
 
 FontPlace FontPlaceIn(std::string_view kept) {
-  const std::string_view script = LastName(PartsOf(kept), false);
   FontPlace place;
-  for (const std::string_view name : {"loch", "hich", "dbch"}) {
-    if (name == script) place.script = name;
-  }
-  place.is_behind_rtlch = LastName(PartsOf(kept), true) == "rtlch";
+  bool has_direction = false;
+  ForEachFromTheEnd(kept, [&](std::string_view name, std::size_t) {
+    if (!IsScriptSwitch(name)) return true;
+    if (IsDirection(name)) {
+      if (!std::exchange(has_direction, true)) place.is_behind_rtlch = name == "rtlch";
+    } else if (place.script.empty()) {
+      place.script = NameOfScript(name);
+    }
+    return !has_direction || place.script.empty();
+  });
   return place;
 }
 
