@@ -41,7 +41,11 @@ class RichTextFlow {
         if (!is_last && printed.note_runs[note] >= lines.next_run()) break;
         next.notes.push_back(std::move(printed.notes[note]));
       }
-      if (next.line.height > 0) Take(std::move(next), stays_with_next);
+      if (next.line.height > 0) {
+        Take(std::move(next), stays_with_next);
+      } else {
+        notes_.Add(notes_.LayOut(std::move(next.notes)), false);
+      }
       if (asks_for_page) AskForPage();
     }
     if (!breaks_) gap_ = format.space_after;
