@@ -68,7 +68,6 @@ void RichTextFlow::Add(const richtext::Table& table) {
   }
 }
 
-// `height` is that of all of its text, or 0 where its columns aren't to end level.
 void RichTextFlow::Begin(std::size_t number, int height) {
   const Section& section = pages_->sections()[number];
   const bool fits_here = pages_->HasSamePaper(number);
