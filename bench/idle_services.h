@@ -25,6 +25,7 @@ class IdlePages : public forms::Pages, private forms::TextMetrics {
   int Ascent(const forms::Font&) override { return 0; }
   void Print(const forms::Document&) override {}
   void CopyPage(const forms::Document&, int) override {}
+  forms::Margins Reach() override { return {}; }
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup&) override { return {}; }
 };
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -96,12 +97,14 @@ struct PlacedText {
 };
 
 struct PlacedLine {
+  enum class Pattern { kSolid, kDots, kDashes, kDashDot, kDashDotDot, kWave };
   int x1 = 0;
   int y1 = 0;
   int x2 = 0;
   int y2 = 0;
   Color color = kBlack;
   int width = 10;
+  Pattern pattern = Pattern::kSolid;
 
   friend bool operator==(const PlacedLine&, const PlacedLine&) = default;
 };
@@ -148,6 +151,12 @@ struct Document {
   PageSetup setup;
   std::vector<Font> fonts;
   std::vector<Page> pages;
+  std::vector<PageSetup> setups;  // of the first pages, where they aren't all on the same paper
+  std::string title;              // in code page 1252; empty: none
+
+  const PageSetup& SetupOf(std::size_t page) const {
+    return page < setups.size() ? setups[page] : setup;
+  }
 };
 
 }  // namespace tarnwell::forms

@@ -29,6 +29,8 @@ class Pages {
   virtual void Print(const Document& document) = 0;
   // One page, counted from 0, onto the clipboard.
   virtual void CopyPage(const Document& document, int page) = 0;
+  // What the printer leaves blank at the edges of its paper; 0.25 inch where no printer says.
+  virtual Margins Reach() = 0;
   // The page-setup dialogue; empty when it was cancelled.
   virtual std::optional<PageSetup> ChooseSetup(const PageSetup& start) = 0;
 };

@@ -110,7 +110,9 @@ void LineBuilder::KeepSeenBlanks() {
   blanks_width_ = 0;
   for (const Blanks& one : blanks) {
     const RichStyle& style = styles_.at(one.style);
-    if (!style.font.underline && !style.font.strike && !style.highlight) return;
+    const bool is_underlined = style.underline != richtext::Underline::kNone &&
+                               style.underline != richtext::Underline::kWords;
+    if (!is_underlined && !style.font.strike && !style.highlight) return;
     const double blank = one.width / static_cast<double>(one.text.size());
     const double fitting = blank > 0 ? std::max(Room() / blank, 0.0) : 0;
     const auto count = std::min(one.text.size(), static_cast<std::size_t>(fitting));

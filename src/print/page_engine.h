@@ -3,9 +3,13 @@
 
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/pages.h"
 
@@ -24,6 +28,7 @@ class PageEngine {
   // Drops the document and stays without pages.
   void Clear() { document_ = {}; }
   const forms::Document& document() const { return document_; }
+  void SetTitle(std::string title) { document_.title = std::move(title); }
   int page_count() const { return static_cast<int>(document_.pages.size()); }
 
   // Runs at the head of each page, the first one too. The font is put back behind it; the columns
@@ -36,10 +41,18 @@ class PageEngine {
   int LineHeight() { return metrics_.LineHeight(font_); }
   forms::TextMetrics& metrics() { return metrics_; }
 
-  int page_width() const { return document_.setup.width(); }
-  int page_height() const { return document_.setup.height(); }
-  int top() const { return document_.setup.margins.top; }
-  int bottom() const { return page_height() - document_.setup.margins.bottom; }
+  // Asked at the head of each page that begins from now on: its paper and margins. The page in hand
+  // gets its own anew while nothing stands on it. Without a function the setup of Start holds.
+  void SetPaper(std::function<forms::PageSetup()> paper);
+  const forms::PageSetup& paper() const { return paper_; }
+  int page_width() const { return paper_.width(); }
+  int page_height() const { return paper_.height(); }
+  int top() const { return paper_.margins.top; }
+  int bottom() const {
+    return std::min(page_height() - paper_.margins.bottom - reserved_, column_limit_);
+  }
+  // Keeps so much more free at the foot of the column in hand.
+  void Reserve(int height) { reserved_ += height; }
   // The height of a column that has a page to itself.
   int column_height() const { return bottom() - column_top_; }
   // The edges of the column in hand; a page's head has one column.
@@ -49,18 +62,28 @@ class PageEngine {
 
   // Where the next line goes.
   int y() const { return y_; }
-  void MoveTo(int y) { y_ = y; }
-  void Skip(int height) { y_ += height; }
+  void MoveTo(int y) { Skip(y - y_); }
+  void Skip(int height) {
+    y_ += height;
+    deepest_ = std::max(deepest_, y_);
+  }
+  // The lowest place that a column which began with this one has come to, on the page in hand.
+  int deepest() const { return deepest_; }
   bool HasRoom(int height) const { return y_ + height <= bottom(); }
 
   // Columns from the present position on, and from the head of later pages.
   void SetColumns(int count, int gap);
   int columns() const { return columns_; }
   // Nothing stands in the column in hand yet.
+  // Columns that begin at the present position end `height` below it, on this page.
+  void LimitColumns(int height) { column_limit_ = column_top_ + height; }
   bool at_column_top() const { return y_ <= column_top_; }
   // The next column, or the first one of a new page.
   void NextColumn();
   void NewPage();
+  // Runs `draw` with another page in hand, in one column; the position comes back behind it.
+  // Nothing in it begins another page.
+  void OnPage(int page, const std::function<void()>& draw);
 
   // Anywhere on the page in hand: x is the text's left edge, right edge or middle.
   void TextAt(int x, int y, std::string_view text, Align align = Align::kLeft);
@@ -73,10 +96,20 @@ class PageEngine {
   int PlaceOf(const forms::Font& font);
 
  private:
+  static constexpr int kNoLimit = std::numeric_limits<int>::max();
+
   int FontIndex();
+
+  void TakePaper();
 
   forms::TextMetrics& metrics_;
   forms::Document document_;
+  std::function<forms::PageSetup()> next_paper_;
+  forms::PageSetup paper_;  // of the page in hand
+  std::size_t page_ = 0;    // in hand
+  int reserved_ = 0;
+  int deepest_ = 0;
+  int column_limit_ = kNoLimit;
   forms::Font font_;
   int font_index_ = -1;
   int y_ = 0;

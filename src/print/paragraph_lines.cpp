@@ -56,6 +56,10 @@ ParagraphLines::ParagraphLines(const richtext::Paragraph& paragraph, RichStyles&
   const int least = std::min(kLeastWidth, room.width);
   left_ = std::clamp(format_.left_indent, 0, room.width - least);
   right_ = std::clamp(room.width - format_.right_indent, left_ + least, room.width);
+  const richtext::ParagraphFrame frame = styles.FrameOf(paragraph);
+  if (frame.is_empty()) return;
+  const int first = std::clamp(format_.left_indent + format_.first_line_indent, 0, left_);
+  frame_ = std::make_shared<const RichFrame>(RichFrame{frame, first, right_});
 }
 
 void ParagraphLines::StartLine() {
@@ -137,7 +141,7 @@ bool ParagraphLines::TakePicture() {
   piece.style = word_.style;
   piece.width = width;
   piece.height = height;
-  piece.picture = std::make_shared<const std::string>(word_.picture->bytes);
+  piece.picture = styles_.Shared(word_.picture->bytes);
   builder_.AddPicture(std::move(piece));
   hyphen_ = -1;
   place_ = word_.end;
@@ -170,6 +174,7 @@ RichLine::End ParagraphLines::FillLine() {
 
 bool ParagraphLines::Next(RichLine& line) {
   if (is_done_) return false;
+  const bool is_first = is_first_;
   StartLine();
   const RichLine::End end = FillLine();
   is_done_ = end == RichLine::End::kParagraph;
@@ -180,10 +185,25 @@ bool ParagraphLines::Next(RichLine& line) {
   is_behind_page_break_ = end == RichLine::End::kPageBreak;
   line = builder_.Finish(format_.alignment, end);
   SetHeight(line);
+  if (frame_) SetFrame(is_first, line);
   for (const richtext::TabStop& tab : format_.tabs) {
     if (tab.kind == richtext::TabStop::Kind::kBar) line.bars.push_back(tab.position);
   }
   return true;
+}
+
+// The frame's upper and lower side take room of their own.
+void ParagraphLines::SetFrame(bool is_first, RichLine& line) const {
+  const richtext::ParagraphFrame& sides = frame_->sides;
+  line.frame = frame_;
+  line.begins_frame = is_first && !room_.joints.above;
+  line.ends_frame = line.end == RichLine::End::kParagraph && !room_.joints.below;
+  if (line.begins_frame) {
+    const int above = sides.top.distance + sides.top.border.width;
+    line.base += above;
+    line.height += above;
+  }
+  if (line.ends_frame) line.height += sides.bottom.distance + sides.bottom.border.width;
 }
 
 void ParagraphLines::SetHeight(RichLine& line) {

@@ -7,16 +7,26 @@
 
 namespace tarnwell::print {
 
+// Whether a paragraph's frame goes on above or below it.
+struct FrameJoints {
+  bool above = false;
+  bool below = false;
+};
+
 // What a column offers, in twips.
 struct RichRoom {
   int width = 0;
   int height = 0;  // the most that a picture may take
+  FrameJoints joints = {};
 };
 
 // Needs the paragraph to stay.
 class ParagraphLines {
  public:
   ParagraphLines(const richtext::Paragraph& paragraph, RichStyles& styles, RichRoom room);
+
+  // The run that the next line begins in.
+  std::size_t next_run() const { return place_.run; }
 
   // The next line; false behind the last. There is at least one, and behind a page break only what
   // follows it.
@@ -33,6 +43,7 @@ class ParagraphLines {
   // Fills the line; returns why it ends.
   RichLine::End FillLine();
   void SetHeight(RichLine& line);
+  void SetFrame(bool is_first, RichLine& line) const;
 
   const richtext::Paragraph& paragraph_;
   const richtext::ParagraphFormat& format_;
@@ -40,6 +51,7 @@ class ParagraphLines {
   RichRoom room_;
   RichWordReader reader_;
   LineBuilder builder_;
+  std::shared_ptr<const RichFrame> frame_;  // null: there is none
   int left_ = 0;
   int right_ = 0;
   RunPlace place_;

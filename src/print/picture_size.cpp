@@ -9,7 +9,6 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 constexpr int kMostPixels = 65535;
-constexpr int kUnknownSize = 1440;  // twips, of a picture that doesn't tell
 
 std::uint32_t BigEndian(std::string_view file, std::size_t at, std::size_t bytes) {
   std::uint32_t value = 0;
@@ -58,16 +57,13 @@ PictureSize PixelsOf(std::string_view file) {
 }
 
 PictureSize SizeOnPage(const richtext::Picture& picture, int most_width, int most_height) {
-  int width = picture.width;
-  int height = picture.height;
-  if (width <= 0 || height <= 0) {
-    const PictureSize pixels = PixelsOf(picture.bytes);
-    const bool is_known = pixels.width > 0;
-    const int natural_width = is_known ? pixels.width * kTwipsPerPixel : kUnknownSize;
-    const int natural_height = is_known ? pixels.height * kTwipsPerPixel : kUnknownSize;
-    if (width <= 0) width = natural_width;
-    if (height <= 0) height = natural_height;
+  const PictureSize pixels = PixelsOf(picture.bytes);
+  if (pixels.width == 0) {
+    const int side = std::max(1, std::min({richtext::kBrokenPicture, most_width, most_height}));
+    return {side, side};
   }
+  const int width = picture.width > 0 ? picture.width : pixels.width * kTwipsPerPixel;
+  const int height = picture.height > 0 ? picture.height : pixels.height * kTwipsPerPixel;
   const double wide = std::max(Scaled(width, picture.scale_x), 1.0);
   const double high = std::max(Scaled(height, picture.scale_y), 1.0);
   const double shrink = std::min({1.0, most_width / wide, most_height / high});

@@ -15,7 +15,7 @@ struct PictureSize {
 PictureSize PixelsOf(std::string_view file);
 
 // How large the picture stands on a page, in twips: as its document says, otherwise by its pixels,
-// 96 an inch. A picture that is too large keeps its proportions.
+// 96 an inch. A picture that is too large keeps its proportions; what is no picture stands small.
 PictureSize SizeOnPage(const richtext::Picture& picture, int most_width, int most_height);
 
 }  // namespace tarnwell::print

@@ -76,11 +76,18 @@ void PrintPanel::BuildControls(const PrintPanelStyle& style) {
 void PrintPanel::Open(PrintJob job) {
   job_ = std::move(job);
   setup_.landscape = false;
-  setup_.margins = job_.margins;
+  setup_.margins = job_.margins == forms::Margins{} ? ReportMargins() : job_.margins;
   TakeStoredFont();
   ShowSettings();
   panel.SetVisible(true);
   Rebuild();
+}
+
+forms::Margins PrintPanel::ReportMargins() const {
+  const forms::Margins inside;
+  const forms::Margins reach = context_.pages.Reach();
+  return {inside.left + reach.left, inside.top + reach.top, inside.right + reach.right,
+          inside.bottom + reach.bottom};
 }
 
 void PrintPanel::Close() {
@@ -101,7 +108,7 @@ void PrintPanel::TakeStoredFont() {
 
 void PrintPanel::ShowSettings() {
   ShowFont();
-  values[kOrientation].SetCaption(setup_.landscape ? " Landscape" : " Portrait");
+  ShowOrientation();
   const int option = settings::ReadGuideLines(context_.folder, job_.guide_lines);
   guide_lines.Choose(option);
   preview.SetGuideLines(option == 1);
@@ -109,6 +116,13 @@ void PrintPanel::ShowSettings() {
   zoom.SetCaption("Enlarge");
   if (as_of) as_of->SetChecked(context_.variables.NoAsOfDate != 1);
   if (grid_lines) grid_lines->SetChecked(context_.variables.GridLinesOnPrint == 1);
+}
+
+// Of the first page.
+void PrintPanel::ShowOrientation() {
+  const bool is_own = job_.own_paper && engine_.page_count() > 0;
+  const bool lies = is_own ? engine_.document().SetupOf(0).landscape : setup_.landscape;
+  values[kOrientation].SetCaption(lies ? " Landscape" : " Portrait");
 }
 
 void PrintPanel::ShowFont() {
@@ -125,13 +139,15 @@ void PrintPanel::Rebuild() {
   preview.SetDocument(nullptr);
   started_ = context_.clock.Now();
   engine_.Start(setup_, context_.variables.PrintFont());
-  if (job_.printed_line) PrintedLine(engine_, context_.clock.Today());
+  engine_.SetTitle(job_.title.empty() ? panel.form().caption() : job_.title);
+  if (job_.printed_line) PrintedLine(engine_, context_.clock.Today(), engine_.top());
   if (job_.build) job_.build(engine_);
   if (busy_) {
     busy_.reset();
     progress.SetVisible(false);
     panel.SetEnabled(true);
   }
+  ShowOrientation();
   preview.SetDocument(&engine_.document());
 }
 
@@ -164,10 +180,10 @@ void PrintPanel::ChooseFont() {
 }
 
 void PrintPanel::ChooseSetup() {
-  const auto setup = context_.pages.ChooseSetup(setup_);
+  const forms::PageSetup shown = job_.own_paper ? engine_.document().SetupOf(0) : setup_;
+  const auto setup = context_.pages.ChooseSetup(shown);
   if (!setup) return;
-  setup_ = *setup;
-  values[kOrientation].SetCaption(setup_.landscape ? " Landscape" : " Portrait");
+  (job_.own_paper ? context_.variables.DocumentSetup.emplace() : setup_) = *setup;
   Rebuild();
 }
 

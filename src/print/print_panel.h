@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "forms/choice.h"
@@ -42,7 +43,10 @@ struct PrintJob {
   bool as_of_line = false;                     // on each page, above its head
   settings::GuideLines guide_lines = settings::GuideLines::kMainScreens;
   std::optional<settings::PrinterFont> font;  // where the screen keeps a printer font
-  forms::Margins margins;
+  forms::Margins margins;  // the usual ones lie inside what the printer can reach
+  // `build` takes paper and margins from what it prints, unless a person has chosen others.
+  bool own_paper = false;
+  std::string title;  // of a PDF; empty: the form's caption
 };
 
 class PrintPanel {
@@ -72,6 +76,12 @@ class PrintPanel {
   // Shows the panel with a preview of the job, upright.
   void Open(PrintJob job);
   bool is_open() const { return panel.visible(); }
+  // The paper that a person has chosen for documents, in this run.
+  const std::optional<forms::PageSetup>& chosen_paper() const {
+    return context_.variables.DocumentSetup;
+  }
+  // The margins of reports.
+  forms::Margins ReportMargins() const;
   // Hides it, without a question.
   void Close();
   // The job prints something else from now on: builds the preview anew. Nothing while closed.
@@ -95,6 +105,7 @@ class PrintPanel {
   void ChooseGuideLines(int option);
   void TakeChecks();
   void HeadPage();
+  void ShowOrientation();
 
   forms::Context& context_;
   PageEngine engine_;

@@ -8,7 +8,6 @@ namespace tarnwell::print {
 namespace {
 
 constexpr int kFromRightEdge = 300;  // twips
-constexpr int kHeadHeight = 250;     // twips, of the line at the head of a page
 
 }  // namespace
 
@@ -17,15 +16,15 @@ std::string CompanyTitle(const forms::ProgramVariables& variables, std::string_v
   return variables.CompanyLine + " " + std::string(title);
 }
 
-void PrintedLine(PageEngine& engine, text::Date today) {
+void PrintedLine(PageEngine& engine, text::Date today, int top) {
   const forms::Font font = engine.font();
   forms::Font black = font;
   black.color = forms::kBlack;
   engine.SetFont(black);
-  engine.TextAt(engine.page_width() - kFromRightEdge, engine.top(),
+  engine.TextAt(engine.page_width() - kFromRightEdge, top,
                 "Printed:  " + text::FormatDate(today, "mmmm d, yyyy"), Align::kRight);
   engine.SetFont(font);
-  engine.MoveTo(engine.top() + kHeadHeight);
+  engine.MoveTo(top + kHeadHeight);
 }
 
 std::string AsOf(const forms::ProgramVariables& variables, text::Date today) {

@@ -14,9 +14,11 @@ namespace tarnwell::print {
 // Behind the company's name and a blank, where there is one.
 std::string CompanyTitle(const forms::ProgramVariables& variables, std::string_view title);
 
-// "Printed:  " and the date at the right edge of the page's head, in black; the position is then
-// 250 twips below the top margin.
-void PrintedLine(PageEngine& engine, text::Date today);
+inline constexpr int kHeadHeight = 250;  // twips, of the line at the head of a page
+
+// "Printed:  " and the date at the right edge of the page, `top` twips below its upper edge, in
+// black; the position is then 250 twips below that.
+void PrintedLine(PageEngine& engine, text::Date today, int top);
 
 // "As of  " and the date, in the order of `variables`.
 std::string AsOf(const forms::ProgramVariables& variables, text::Date today);

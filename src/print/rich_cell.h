@@ -4,48 +4,46 @@
 
 #include <optional>
 #include <string_view>
-#include <vector>
 
-#include "print/rich_line.h"
+#include "print/rich_box.h"
 
 namespace tarnwell::print {
 
-struct CellLine {
-  RichLine line;
-  int gap = 0;  // above it
+// Where a cell stands, in twips from the left edge of the column, and how far its texts keep off
+// its edges.
+struct CellPlace {
+  int left = 0;
+  int right = 0;
+  forms::Margins inside;
 };
+
+// What the words of a row and its cell say of that, beside the half of the row's gap.
+forms::Margins CellMargins(const richtext::TableRow& row, const richtext::Cell& cell);
 
 class RichCell {
  public:
-  // Between two edges, which are twips from the left edge of the column; texts keep `half_gap` off
-  // both.
-  RichCell(const richtext::Cell& cell, int left, int right, int half_gap)
-      : cell_(cell), left_(left), right_(right), half_gap_(half_gap) {}
+  // Needs the cell to stay until it is constructed.
+  RichCell(RichPrinting& printing, const richtext::Cell& cell, const CellPlace& place,
+           int most_height);
 
-  void LayOut(RichStyles& styles, int most_height);
-
-  // The lines that aren't placed yet, and the space below the last one.
-  int HeightLeft() const;
-  // How many of them fit into `room`.
-  std::size_t FittingLines(int room) const;
-  // How high the next `count` of them are.
-  int HeightOf(std::size_t count) const;
-  bool is_done() const { return next_ == lines_.size(); }
+  RichBox& box() { return box_; }
+  const RichBox& box() const { return box_; }
+  // What isn't placed yet, with its edges.
+  int HeightLeft() const { return box_.HeightLeft() + EdgesHeight(); }
+  int EdgesHeight() const { return place_.inside.top + place_.inside.bottom; }
 
   // Where the first line stands in a row of that height that shows all of the cell.
   int TopInRow(int row_height) const;
-  void PlaceFill(PageEngine& engine, int top, int bottom) const;
-  void PlaceNext(PageEngine& engine, RichStyles& styles, std::size_t count, int y);
-  void PlaceBorders(PageEngine& engine, int top, int bottom) const;
+  // The table's left edge is at `x`.
+  void PlaceFill(PageEngine& engine, int x, int top, int bottom) const;
+  // Its upper edge is at `y`.
+  void PlaceNext(std::size_t count, int x, int y);
+  void PlaceBorders(PageEngine& engine, int x, int top, int bottom) const;
 
  private:
-  const richtext::Cell& cell_;
-  int left_;
-  int right_;
-  int half_gap_;
-  std::vector<CellLine> lines_;
-  std::size_t next_ = 0;  // line that isn't placed yet
-  int last_gap_ = 0;      // below the last line
+  richtext::Cell look_;  // without its texts
+  CellPlace place_;
+  RichBox box_;
 };
 
 // The number behind a control word such as "\trrh"; empty if `words` doesn't hold it.

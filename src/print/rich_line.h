@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "print/rich_style.h"
+#include "richtext/paragraph_frame.h"
 
 namespace tarnwell::print {
 
@@ -23,6 +24,13 @@ struct LinePiece {
   int height = 0;                              // of the picture
 };
 
+// The frame of a paragraph, between two edges, which are twips from the left edge of the column.
+struct RichFrame {
+  richtext::ParagraphFrame sides;
+  int left = 0;
+  int right = 0;
+};
+
 struct RichLine {
   enum class End { kWrapped, kLineBreak, kPageBreak, kParagraph };
   std::vector<LinePiece> pieces;
@@ -31,7 +39,14 @@ struct RichLine {
   int base = 0;           // of the letters, from the line's top
   std::vector<int> bars;  // from the left edge of the column
   End end = End::kParagraph;
+  std::shared_ptr<const RichFrame> frame;  // null: there is none
+  bool begins_frame = false;
+  bool ends_frame = false;
+  int frame_above = 0;  // twips above the line that its frame fills too
 };
+
+// Nothing for a border that isn't there.
+void PlaceBorder(PageEngine& engine, const richtext::Border& border, forms::PlacedLine line);
 
 // The line with its left edge and its top at (x, y) of the page in hand.
 void PlaceLine(PageEngine& engine, RichStyles& styles, const RichLine& line, int x, int y);

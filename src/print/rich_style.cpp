@@ -19,9 +19,8 @@ std::optional<forms::Color> ToPageColor(const std::optional<richtext::Color>& co
 }
 
 int FlagsOf(const richtext::CharacterFormat& format) {
-  const bool underlined = format.underline != richtext::Underline::kNone;
-  return format.bold | format.italic << 1 | format.strike << 2 | underlined << 3 |
-         static_cast<int>(format.script) << 4;
+  return format.bold | format.italic << 1 | format.strike << 2 |
+         static_cast<int>(format.script) << 3 | static_cast<int>(format.underline) << 5;
 }
 
 }  // namespace
@@ -31,7 +30,7 @@ forms::Color ToPageColor(richtext::Color color) {
 }
 
 RichStyles::RichStyles(PageEngine& engine, const richtext::RichDocument& document)
-    : engine_(engine), default_font_(engine.font().name) {
+    : engine_(engine), default_font_(engine.font().name), colors_(document.colors) {
   const auto font =
       std::ranges::find(document.fonts, document.default_font, &richtext::Font::number);
   if (font != document.fonts.end()) default_font_ = FontName(font->name);
@@ -39,6 +38,22 @@ RichStyles::RichStyles(PageEngine& engine, const richtext::RichDocument& documen
 
 std::string RichStyles::FontName(const std::string& name) const {
   return name.empty() ? default_font_ : text::FromUtf8(name);
+}
+
+std::shared_ptr<const std::string> RichStyles::Shared(const std::string& file) {
+  const auto known = pictures_.find(file);
+  if (known != pictures_.end()) return known->second;
+  auto shared = std::make_shared<const std::string>(file);
+  return pictures_.emplace(*shared, shared).first->second;
+}
+
+bool RichStyles::AreJoined(const richtext::Paragraph& first,
+                           const richtext::Paragraph& second) const {
+  const richtext::ParagraphFormat& a = first.format;
+  const richtext::ParagraphFormat& b = second.format;
+  return a.left_indent == b.left_indent && a.right_indent == b.right_indent &&
+         a.first_line_indent == b.first_line_indent && !FrameOf(first).is_empty() &&
+         FrameOf(first) == FrameOf(second);
 }
 
 int RichStyles::Find(const richtext::CharacterFormat& format) {
@@ -58,9 +73,10 @@ RichStyle RichStyles::Make(const richtext::CharacterFormat& format) {
                 .size = std::max(format.half_points, 1) / 2.0,
                 .bold = format.bold,
                 .italic = format.italic,
-                .underline = format.underline != richtext::Underline::kNone,
+                .underline = format.underline == richtext::Underline::kSingle,
                 .strike = format.strike,
                 .color = ToPageColor(format.color).value_or(forms::kBlack)};
+  style.underline = format.underline;
   style.highlight = ToPageColor(format.highlight);
   forms::TextMetrics& metrics = engine_.metrics();
   if (format.script != richtext::Script::kBaseline) {

@@ -3,12 +3,15 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <tuple>
 #include <vector>
 
 #include "print/page_engine.h"
+#include "richtext/paragraph_frame.h"
 #include "richtext/rich_document.h"
 
 namespace tarnwell::print {
@@ -20,6 +23,7 @@ struct RichStyle {
   int ascent = 0;   // above the line's base
   int descent = 0;  // below it
   std::optional<forms::Color> highlight;
+  richtext::Underline underline = richtext::Underline::kNone;
 };
 
 // The looks of one document, made once each.
@@ -30,6 +34,13 @@ class RichStyles {
   // A look's number.
   int Find(const richtext::CharacterFormat& format);
   const RichStyle& at(int style) const { return styles_[static_cast<std::size_t>(style)]; }
+  richtext::ParagraphFrame FrameOf(const richtext::Paragraph& paragraph) const {
+    return richtext::FrameOf(paragraph.format, colors_);
+  }
+  // Whether one frame stands around both.
+  bool AreJoined(const richtext::Paragraph& first, const richtext::Paragraph& second) const;
+  // A picture's file, which all pages share.
+  std::shared_ptr<const std::string> Shared(const std::string& file);
   double Width(int style, std::string_view utf8) {
     return engine_.metrics().Utf8Width(at(style).font, utf8);
   }
@@ -43,7 +54,9 @@ class RichStyles {
 
   PageEngine& engine_;
   std::string default_font_;
+  std::vector<std::optional<richtext::Color>> colors_;
   std::map<Key, int> known_;
+  std::map<std::string_view, std::shared_ptr<const std::string>> pictures_;
   std::vector<RichStyle> styles_;
   richtext::CharacterFormat last_format_;
   int last_style_ = -1;

@@ -9,6 +9,7 @@ namespace tarnwell::print {
 namespace {
 
 constexpr int kPaperEdge = 100;  // twips that a table keeps off the edge of the sheet
+constexpr std::size_t kMostTogether = 100;  // rows that cells reach over
 
 }  // namespace
 
@@ -18,105 +19,224 @@ std::size_t HeadRows(const richtext::Table& table) {
   return static_cast<std::size_t>(first_plain - table.rows.begin());
 }
 
-RichRow::RichRow(PageEngine& engine, RichStyles& styles, const richtext::TableRow& row)
-    : engine_(engine), styles_(styles), row_(row) {
-  // A height that the document calls exact would cut texts off.
-  const int told = NumberBehind("\\trrh", row.other).value_or(0);
-  least_height_ = std::min(std::abs(told), engine.column_height());
-  LayOut();
+std::vector<RowBox> RowBox::Of(RichPrinting& printing, std::span<const richtext::TableRow> rows,
+                               const RowRoom& room) {
+  std::vector<const richtext::TableRow*> all;
+  for (const richtext::TableRow& row : rows) all.push_back(&row);
+  const auto spans = richtext::CellSpansOf(all, richtext::GridOf(all));
+  std::vector<RowBox> boxes;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    boxes.push_back(RowBox(printing, rows[i], spans[i], room));
+  }
+  // From above, so that what a row must still grow for is known when its turn comes.
+  for (std::size_t row = 0; row < boxes.size(); ++row) {
+    for (std::size_t i = 0; i < boxes[row].cells_.size(); ++i) Join(row, i, boxes);
+  }
+  return boxes;
 }
 
-void RichRow::LayOut() {
-  int right = row_.left_edge;
-  for (const richtext::Cell& cell : row_.cells) right = std::max(right, cell.right_edge);
-  const double width = std::max(right - row_.left_edge, 1);
-  const double scale = std::min(1.0, engine_.ColumnWidth() / width);
-  const int farthest = engine_.ColumnWidth() - static_cast<int>(width * scale);
-  const int nearest = std::min(kPaperEdge - engine_.left(), 0);
-  const int left = std::clamp(row_.left_edge, nearest, std::max(farthest, nearest));
+RowBox::RowBox(RichPrinting& printing, const richtext::TableRow& row,
+               std::span<const richtext::CellSpan> spans, const RowRoom& room)
+    : printing_(&printing) {
+  // A height that the document calls exact would cut texts off.
+  const int told = NumberBehind("\\trrh", row.other).value_or(0);
+  least_height_ = told_height_ = std::min(std::abs(told), room.most_height);
+  int right = row.left_edge;
+  for (const richtext::Cell& cell : row.cells) right = std::max(right, cell.right_edge);
+  const double width = std::max(right - row.left_edge, 1);
+  const double scale = std::min(1.0, room.width / width);
+  const int farthest = room.width - static_cast<int>(width * scale);
+  const int left =
+      std::clamp(row.left_edge, room.nearest_left, std::max(farthest, room.nearest_left));
   const auto on_column = [&](int edge) {
-    return left + static_cast<int>((edge - row_.left_edge) * scale);
+    return left + static_cast<int>((edge - row.left_edge) * scale);
   };
-  int left_edge = row_.left_edge;
-  for (const richtext::Cell& cell : row_.cells) {
-    const int right_edge = std::max(left_edge, cell.right_edge);
-    cells_.emplace_back(cell, on_column(left_edge), on_column(right_edge), row_.half_gap);
-    cells_.back().LayOut(styles_, std::max(engine_.column_height(), 1));
+  int left_edge = row.left_edge;
+  for (std::size_t i = 0; i < row.cells.size(); ++i) {
+    // Cells that lie under the one to their left give it their room.
+    std::size_t last = i;
+    while (last + 1 < spans.size() && spans[last + 1].is_covered &&
+           richtext::HoldsKept("clmrg", row.cells[last + 1].other)) {
+      ++last;
+    }
+    const int right_edge = std::max(left_edge, row.cells[last].right_edge);
+    if (!spans[i].is_covered) {
+      const CellPlace place{on_column(left_edge), on_column(right_edge),
+                            CellMargins(row, row.cells[i])};
+      cells_.push_back({RichCell(printing, row.cells[i], place, std::max(room.most_height, 1)),
+                        static_cast<std::size_t>(spans[i].rows)});
+    }
     left_edge = right_edge;
+    i = last;
   }
 }
 
-int RichRow::height() const {
+void RowBox::Join(std::size_t row, std::size_t cell, std::vector<RowBox>& rows) {
+  PlacedCell& joined = rows[row].cells_[cell];
+  const std::size_t end = std::min(row + joined.rows, rows.size());
+  if (end - row < 2) return;
+  int height = 0;
+  for (std::size_t i = row; i < end; ++i) height += rows[i].height();
+  const int missing = joined.cell.HeightLeft() - height;
+  RowBox& last = rows[end - 1];
+  if (missing > 0) last.least_height_ = last.height() + missing;
+  joined.height_below = std::max(missing, 0) + height - rows[row].height();
+}
+
+void RowBox::Part() {
+  least_height_ = told_height_;
+  for (PlacedCell& cell : cells_) {
+    cell.rows = 1;
+    cell.height_below = 0;
+  }
+}
+
+int RowBox::height() const {
   int height = least_height_;
-  for (const RichCell& cell : cells_) height = std::max(height, cell.HeightLeft());
+  for (const PlacedCell& cell : cells_) {
+    if (cell.rows == 1) height = std::max(height, cell.cell.HeightLeft());
+  }
   return height;
 }
 
-bool RichRow::HasRoomForALine(int room) const {
-  return std::ranges::any_of(cells_, [&](auto& cell) { return cell.FittingLines(room) > 0; });
+bool RowBox::HasRoomForALine(int room) const {
+  return std::ranges::any_of(cells_, [&](const auto& cell) {
+    return cell.cell.box().FittingLines(room - cell.cell.EdgesHeight()) > 0;
+  });
 }
 
-bool RichRow::IsDone() const {
-  return std::ranges::all_of(cells_, [](auto& cell) { return cell.is_done(); });
+bool RowBox::IsDone() const {
+  return std::ranges::all_of(cells_, [](const auto& cell) { return cell.cell.box().is_done(); });
 }
 
-void RichRow::BeginColumn(std::span<const richtext::TableRow> heads) {
-  engine_.NextColumn();
-  is_fresh_ = true;
-  const int last_head = engine_.y() + engine_.column_height() / 2;
-  for (const richtext::TableRow& one : heads) {
-    RichRow head(engine_, styles_, one);
-    if (engine_.y() + head.height() > last_head) return;
-    head.PlaceWhole(head.height());
+std::vector<FoundNote> RowBox::TakeNotes() {
+  std::vector<FoundNote> notes;
+  for (PlacedCell& cell : cells_) {
+    for (FoundNote& note : cell.cell.box().TakeNotes()) notes.push_back(std::move(note));
   }
+  return notes;
 }
 
-void RichRow::Place(std::span<const richtext::TableRow> heads) {
-  is_fresh_ = engine_.at_column_top();
-  if (!engine_.HasRoom(height()) && height() <= engine_.column_height() && !is_fresh_) {
-    BeginColumn(heads);
+void RowBox::Place(int x, int y, int height) {
+  PageEngine& engine = printing_->engine;
+  const auto bottom = [&](const PlacedCell& cell) { return y + height + cell.height_below; };
+  for (const PlacedCell& cell : cells_) cell.cell.PlaceFill(engine, x, y, bottom(cell));
+  for (PlacedCell& cell : cells_) {
+    cell.cell.PlaceNext(cell.cell.box().count_left(), x, y + cell.cell.TopInRow(bottom(cell) - y));
   }
-  while (true) {
-    if (engine_.HasRoom(height())) return PlaceWhole(height());
-    const int room = engine_.bottom() - engine_.y();
-    if (!is_fresh_ && !HasRoomForALine(room)) {
-      BeginColumn(heads);
-      continue;
-    }
-    PlacePart(room);
-    if (IsDone()) return;
-    BeginColumn(heads);
-  }
+  for (const PlacedCell& cell : cells_) cell.cell.PlaceBorders(engine, x, y, bottom(cell));
 }
 
-void RichRow::PlaceWhole(int height) {
-  const int top = engine_.y();
-  for (const RichCell& cell : cells_) cell.PlaceFill(engine_, top, top + height);
-  for (RichCell& cell : cells_) {
-    cell.PlaceNext(engine_, styles_, cell.FittingLines(height), top + cell.TopInRow(height));
-  }
-  for (const RichCell& cell : cells_) cell.PlaceBorders(engine_, top, top + height);
-  engine_.MoveTo(top + height);
-}
-
-// What fits into `room`, and in a column of its own at least one line.
-void RichRow::PlacePart(int room) {
+int RowBox::PlacePart(int x, int y, int room, bool at_least_a_line) {
   std::vector<std::size_t> counts;
-  int height = engine_.HasRoom(room) ? std::max(room, 0) : 0;
-  for (const RichCell& cell : cells_) {
-    std::size_t count = cell.FittingLines(room);
-    if (count == 0 && is_fresh_ && !cell.is_done()) count = 1;
-    height = std::max(height, cell.HeightOf(count));
+  int height = std::max(room, 0);
+  for (const PlacedCell& cell : cells_) {
+    const RichBox& box = cell.cell.box();
+    std::size_t count = box.FittingLines(room - cell.cell.EdgesHeight());
+    if (count == 0 && at_least_a_line && !box.is_done()) count = 1;
+    height = std::max(height, box.HeightOf(count) + cell.cell.EdgesHeight());
     counts.push_back(count);
   }
-  const int top = engine_.y();
+  PageEngine& engine = printing_->engine;
   for (std::size_t i = 0; i < cells_.size(); ++i) {
-    cells_[i].PlaceFill(engine_, top, top + height);
-    cells_[i].PlaceNext(engine_, styles_, counts[i], top);
-    cells_[i].PlaceBorders(engine_, top, top + height);
+    cells_[i].cell.PlaceFill(engine, x, y, y + height);
+    cells_[i].cell.PlaceNext(counts[i], x, y);
+    cells_[i].cell.PlaceBorders(engine, x, y, y + height);
   }
-  engine_.MoveTo(top + height);
   least_height_ = 0;
+  return height;
+}
+
+RichTable::RichTable(RichPrinting& printing, const richtext::Table& table)
+    : printing_(printing), engine_(printing.engine), table_(table), heads_(HeadRows(table)) {}
+
+std::vector<RowBox> RichTable::LayOut(std::size_t begin, std::size_t end) {
+  const RowRoom room{engine_.ColumnWidth(), engine_.column_height(),
+                     std::min(kPaperEdge - engine_.left(), 0)};
+  return RowBox::Of(printing_, std::span(table_.rows).subspan(begin, end - begin), room);
+}
+
+bool RichTable::Next() {
+  begin_ = end_;
+  if (begin_ == table_.rows.size()) return false;
+  const auto goes_on = [](const richtext::TableRow& row) {
+    return std::ranges::any_of(row.cells, [](const richtext::Cell& cell) {
+      return richtext::HoldsKept("clvmrg", cell.other);
+    });
+  };
+  ++end_;
+  while (end_ < table_.rows.size() && end_ - begin_ < kMostTogether && goes_on(table_.rows[end_])) {
+    ++end_;
+  }
+  rows_ = LayOut(begin_, end_);
+  return true;
+}
+
+int RichTable::height() const {
+  int height = 0;
+  for (const RowBox& row : rows_) height += row.height();
+  return height;
+}
+
+std::vector<FoundNote> RichTable::TakeNotes() {
+  std::vector<FoundNote> notes;
+  for (RowBox& row : rows_) {
+    for (FoundNote& note : row.TakeNotes()) notes.push_back(std::move(note));
+  }
+  return notes;
+}
+
+void RichTable::BeginColumn() {
+  engine_.NextColumn();
+  is_fresh_ = true;
+  if (begin_ < heads_) return;
+  const int last_head = engine_.y() + engine_.column_height() / 2;
+  for (RowBox& head : LayOut(0, heads_)) {
+    const int height = head.height();
+    if (engine_.y() + height > last_head) return;
+    head.Place(engine_.left(), engine_.y(), height);
+    engine_.Skip(height);
+  }
+}
+
+void RichTable::Place(int notes_height) {
+  is_fresh_ = engine_.at_column_top();
+  const bool fits_in_one = height() + notes_height <= engine_.column_height();
+  if (!engine_.HasRoom(height() + notes_height) && fits_in_one && !is_fresh_) BeginColumn();
+  if (notes_height < engine_.column_height() / 2) engine_.Reserve(notes_height);
+  const bool fits = engine_.HasRoom(height());
+  for (RowBox& row : rows_) {
+    if (!fits) {
+      row.Part();
+      PlaceParted(row);
+      continue;
+    }
+    const int height = row.height();
+    row.Place(engine_.left(), engine_.y(), height);
+    engine_.Skip(height);
+  }
+}
+
+void RichTable::PlaceParted(RowBox& row) {
+  const bool fits_in_one = row.height() <= engine_.column_height();
+  if (!engine_.HasRoom(row.height()) && fits_in_one && !is_fresh_) BeginColumn();
+  while (true) {
+    const int room = engine_.bottom() - engine_.y();
+    if (!is_fresh_ && !engine_.HasRoom(row.height()) && !row.HasRoomForALine(room)) {
+      BeginColumn();
+      continue;
+    }
+    if (engine_.HasRoom(row.height())) {
+      const int height = row.height();
+      row.Place(engine_.left(), engine_.y(), height);
+      engine_.Skip(height);
+      is_fresh_ = false;
+      return;
+    }
+    engine_.Skip(row.PlacePart(engine_.left(), engine_.y(), room, is_fresh_));
+    if (row.IsDone()) return;
+    BeginColumn();
+  }
 }
 
 }  // namespace tarnwell::print

@@ -10,12 +10,6 @@ namespace {
 
 constexpr int kDefaultHalfPoints = 24;
 
-// \fcs is a switch that stands twice before every text, with 0 and with 1: only the very same word
-// takes its place.
-void Keep(std::string_view name, std::string_view source, std::string& other) {
-  KeepProperty(name == "fcs" ? source.substr(1) : name, source, other);
-}
-
 void SetHidden(const Token& token, std::string_view source, FormatState& state) {
   std::string& other = state.character.other;
   RemoveKept(token.text, other);
@@ -45,6 +39,7 @@ std::optional<Color> FormatTables::ColorAt(int index) const {
 void ResetCharacter(const FormatTables& tables, FormatState& state) {
   state.character = CharacterFormat{};
   state.hidden = false;
+  state.font_place = {};
   tables.SetFont(tables.default_font, state);
 }
 
@@ -76,6 +71,8 @@ void ApplyCharacterWord(const KnownWord& word, const Token& token, std::string_v
       format.script = Script::kBaseline;
       return;
     case Word::kFont:
+      state.font_place = FontPlaceIn(format.other);
+      state.is_settled = false;
       return tables.SetFont(token.NumberOr(0), state);
     case Word::kSize:
       format.half_points = std::clamp(token.NumberOr(kDefaultHalfPoints), 1, kLargestHalfPoints);
@@ -89,7 +86,9 @@ void ApplyCharacterWord(const KnownWord& word, const Token& token, std::string_v
     case Word::kHidden:
       return SetHidden(token, source, state);
     default:
-      return Keep(token.text, source, format.other);
+      state.is_settled = false;
+      if (token.text == "chbrdr") RemoveBorder(format.other);
+      return KeepProperty(token.text, source, format.other);
   }
 }
 

@@ -1,10 +1,12 @@
 #include "richtext/code_pages.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "richtext/code_page_tables.h"
 #include "richtext/utf8.h"
 #include "text/code_page_1252.h"
+#include "text/system_code_pages.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -20,26 +22,61 @@ const CodePageTable* TableOf(int code_page) {
   return table == std::end(kCodePageTables) ? nullptr : table;
 }
 
-void DecodeUpper(char byte, int code_page, std::string& utf8) {
-  if (code_page == 1252) {
-    utf8 += text::ToUtf8(std::string_view(&byte, 1));
-    return;
+// Whether the byte begins a character of two bytes.
+bool IsFirstHalf(char byte, int code_page) {
+  const auto code = static_cast<unsigned char>(byte);
+  switch (code_page) {
+    case 932:
+      return (code >= 0x81 && code <= 0x9F) || (code >= 0xE0 && code <= 0xFC);
+    case 936:
+    case 949:
+    case 950:
+      return code >= 0x81 && code <= 0xFE;
+    case 1361:
+      return code >= 0x84 && code <= 0xF9;
+    default:
+      return false;
   }
-  const CodePageTable* const table = TableOf(code_page);
-  const char16_t character =
-      table == nullptr ? u'\0' : table->upper[static_cast<unsigned char>(byte) - kFirstUpper];
-  AppendUtf8(character == 0 ? U'?' : character, utf8);
+}
+
+bool IsSecondHalf(char byte, int code_page) {
+  const auto code = static_cast<unsigned char>(byte);
+  return code >= (code_page == 1361 ? 0x31 : 0x40) && code != 0x7F && code != 0xFF;
 }
 
 }  // namespace
 
-void DecodeBytes(std::string_view bytes, int code_page, std::string& utf8) {
-  if (code_page != kSymbolCodePage && std::all_of(bytes.begin(), bytes.end(), IsPlain)) {
+void ByteDecoder::TakeUpper(char byte, int code_page, std::string& utf8) {
+  if (IsFirstHalf(byte, code_page)) {
+    first_half_ = byte;
+    return;
+  }
+  const std::string_view bytes(&byte, 1);
+  if (code_page == 1252) {
+    utf8 += text::ToUtf8(bytes);
+    return;
+  }
+  if (const CodePageTable* const table = TableOf(code_page)) {
+    const char16_t character = table->upper[static_cast<unsigned char>(byte) - kFirstUpper];
+    return AppendUtf8(character == 0 ? U'?' : character, utf8);
+  }
+  if (!text::AppendCharacter(code_page, bytes, utf8)) utf8 += '?';
+}
+
+void ByteDecoder::Take(std::string_view bytes, int code_page, std::string& utf8) {
+  const bool waits = first_half_ != 0;
+  if (!waits && code_page != kSymbolCodePage && std::ranges::all_of(bytes, IsPlain)) {
     utf8 += bytes;
     return;
   }
   for (const char byte : bytes) {
     const auto code = static_cast<unsigned char>(byte);
+    if (first_half_ != 0 && IsSecondHalf(byte, code_page)) {
+      const char pair[] = {std::exchange(first_half_, '\0'), byte};
+      if (!text::AppendCharacter(code_page, {pair, 2}, utf8)) utf8 += '?';
+      continue;
+    }
+    Flush(utf8);
     if (byte == '\t') {
       utf8 += byte;
     } else if (code < ' ') {
@@ -49,10 +86,16 @@ void DecodeBytes(std::string_view bytes, int code_page, std::string& utf8) {
     } else if (code < kFirstUpper) {
       utf8 += byte;
     } else {
-      DecodeUpper(byte, code_page, utf8);
+      TakeUpper(byte, code_page, utf8);
     }
   }
 }
+
+void ByteDecoder::Flush(std::string& utf8) {
+  if (std::exchange(first_half_, '\0') != 0) utf8 += '?';
+}
+
+bool HasDoubleBytes(int code_page) { return IsFirstHalf('\x90', code_page); }
 
 int CodePageOfCharset(int charset, int document) {
   switch (charset) {
@@ -66,6 +109,8 @@ int CodePageOfCharset(int charset, int document) {
       return 932;
     case 129:
       return 949;
+    case 130:
+      return 1361;
     case 134:
       return 936;
     case 136:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/kept_words.h"
 #include "richtext/list_words.h"
 #include "richtext/runs.h"
 #include "richtext/utf8.h"
@@ -21,6 +22,13 @@ std::size_t SizeOf(const ParagraphFormat& format) {
   std::size_t size = format.other.capacity() + format.tabs.capacity() * sizeof(TabStop);
   if (format.list) size += format.list->description.capacity();
   return size;
+}
+
+// No hidden text, and in no field.
+bool IsGroup(const Run& run) {
+  const auto* const opaque = std::get_if<Opaque>(&run.content);
+  return opaque != nullptr && opaque->rtf.starts_with('{') && run.field == kNoField &&
+         !HoldsKept("v", run.format.other) && !HoldsKept("deleted", run.format.other);
 }
 
 }  // namespace
@@ -58,6 +66,7 @@ void DocumentBuilder::PushRun(Run run) {
 void DocumentBuilder::AddText(std::string_view utf8, const FormatState& state) {
   const std::size_t room = std::min(text_left_, paragraph_text_left_);
   const std::size_t size = utf8.size();
+  has_text_ = true;
   if (size > room) utf8 = utf8.substr(0, CharacterStart(utf8, room));
   if (!utf8.empty()) AppendText(utf8, state);
   is_full_ = is_full_ || size > room;
@@ -79,6 +88,7 @@ void DocumentBuilder::AppendText(std::string_view utf8, const FormatState& state
 }
 
 void DocumentBuilder::AddPicture(Picture picture, const FormatState& state) {
+  has_text_ = true;
   AddRun({state.character, std::move(picture), state.field});
 }
 
@@ -109,6 +119,7 @@ std::string* DocumentBuilder::OpenSectionBreak() {
 Paragraph DocumentBuilder::TakeParagraph(const FormatState& state) {
   Paragraph paragraph = std::exchange(paragraph_, Paragraph{});
   paragraph_text_left_ = kLongestParagraph;
+  has_text_ = false;
   paragraph.format = state.paragraph;
   paragraph.mark = state.character;
   std::string marker = std::exchange(marker_, std::string());
@@ -180,6 +191,11 @@ void DocumentBuilder::EndOpenRow() {
 
 void DocumentBuilder::Finish(const FormatState& state) {
   const bool in_table = state.in_table || !cell_.empty() || !row_.empty();
+  if (cell_.empty() && row_.empty() && !blocks_.empty() &&
+      std::ranges::all_of(paragraph_.runs, IsGroup)) {
+    for (const Run& run : paragraph_.runs) epilogue_ += std::get<Opaque>(run.content).rtf;
+    return;
+  }
   if (!paragraph_.runs.empty() && in_table) {
     CloseCell(state);
   } else if (!paragraph_.runs.empty()) {

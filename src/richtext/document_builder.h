@@ -38,12 +38,16 @@ class DocumentBuilder {
   bool is_full() const { return is_full_; }
   // A text without a paragraph's end, cells without a row's end.
   void Finish(const FormatState& state);
+  // The RTF of what stands behind the last paragraph and belongs to none, once it is finished.
+  std::string TakeEpilogue() { return std::move(epilogue_); }
 
   // Of the row whose cells are being read.
   RowDefinition& row_definition() { return row_definition_; }
   // The format of cells that hold nothing.
   void SetBlank(CharacterFormat blank) { blank_ = std::move(blank); }
 
+  // Of the paragraph being read.
+  bool has_text() const { return has_text_; }
   std::size_t run_count() const { return paragraph_.runs.size(); }
   bool HasField(int field) const { return last_field_ >= field; }
 
@@ -71,12 +75,14 @@ class DocumentBuilder {
   std::size_t text_left_ = kMostText;
   std::size_t paragraph_text_left_ = kLongestParagraph;
   bool is_full_ = false;
+  bool has_text_ = false;
   Paragraph paragraph_;
   std::string marker_;
   std::vector<Paragraph> cell_;
   std::vector<std::vector<Paragraph>> row_;
   RowDefinition row_definition_;
   CharacterFormat blank_;
+  std::string epilogue_;
   int last_field_ = kNoField;
 };
 

@@ -8,18 +8,19 @@
 #include "richtext/rtf_tokenizer.h"
 
 namespace tarnwell::richtext {
-namespace {
 
-// The text of a field's instruction; addresses hold no Unicode escapes.
+// Addresses hold no Unicode escapes.
 std::string InstructionText(std::string_view rtf) {
   std::string text;
+  ByteDecoder decoder;
   Tokenizer tokenizer(rtf);
   for (Token token = tokenizer.Next(); token.kind != TokenKind::kEnd; token = tokenizer.Next()) {
     const bool is_character = token.kind == TokenKind::kSymbol && token.text != "*";
-    if (token.kind == TokenKind::kText || is_character) DecodeBytes(token.text, 1252, text);
+    if (token.kind == TokenKind::kText || is_character) decoder.Take(token.text, 1252, text);
   }
   return text;
 }
+namespace {
 
 bool IsSafe(std::string_view address) {
   const std::initializer_list<std::string_view> schemes = {"http://", "https://", "mailto:"};

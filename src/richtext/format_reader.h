@@ -5,11 +5,13 @@
 #include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "richtext/rich_document.h"
 #include "richtext/rtf_tokenizer.h"
 #include "richtext/rtf_words.h"
+#include "richtext/script_words.h"
 
 namespace tarnwell::richtext {
 
@@ -17,10 +19,13 @@ namespace tarnwell::richtext {
 struct FormatState {
   CharacterFormat character;
   ParagraphFormat paragraph;
+  int paragraph_version = 0;  // another one wherever a word has changed `paragraph`
   TabStop next_tab;  // what the words before a tab's position said
   int text_code_page = 1252;
   int unicode_skip = 1;  // bytes behind a \u that stand for it in older readers
   int field = kNoField;
+  FontPlace font_place;
+  bool is_settled = true;  // character.other is in the order that SettleScripts gives it
   bool hidden = false;
   bool in_table = false;
 };
@@ -43,6 +48,13 @@ struct FormatTables {
   void SetFont(int number, FormatState& state) const;
   std::optional<Color> ColorAt(int index) const;
 };
+
+// Before `state` is the format of something.
+inline void Settle(FormatState& state) {
+  if (std::exchange(state.is_settled, true)) return;
+  const bool has_font = !state.character.font.empty();
+  SettleScripts(has_font ? state.font_place : FontPlace{}, state.character.other);
+}
 
 // What stands after \plain.
 void ResetCharacter(const FormatTables& tables, FormatState& state);

@@ -5,7 +5,9 @@
 #include <limits>
 
 #include "richtext/code_pages.h"
+#include "richtext/kept_words.h"
 #include "richtext/rtf_words.h"
+#include "richtext/script_words.h"
 #include "richtext/text_escape.h"
 
 namespace tarnwell::richtext {
@@ -22,6 +24,8 @@ std::string Switch(std::string_view word, bool on) {
   out += word;
   return on ? out : out += '0';
 }
+
+constexpr const char* kNoFont = "\1";  // no font's name
 
 std::string ScriptWord(Script script) {
   constexpr std::array<const char*, 3> kWords = {"\\nosupersub", "\\super", "\\sub"};
@@ -42,11 +46,18 @@ std::string Tab(const TabStop& tab) {
 }  // namespace
 
 WriterTables::WriterTables(const RichDocument& document)
-    : fonts_(document.fonts), colors_(document.colors), default_number_(document.default_font) {
+    : fonts_(document.fonts),
+      colors_(document.colors),
+      code_page_(document.code_page),
+      default_number_(document.default_font) {
   const auto font = std::find_if(fonts_.begin(), fonts_.end(), [&document](const Font& candidate) {
     return candidate.number == document.default_font;
   });
   if (font != fonts_.end()) default_font_ = font->name;
+  has_east_asian_fonts_ =
+      HasDoubleBytes(code_page_) || std::ranges::any_of(fonts_, [this](const Font& own) {
+        return HasDoubleBytes(CodePageOfCharset(own.charset, code_page_));
+      });
 }
 
 int WriterTables::FontNumber(const std::string& name) {
@@ -71,11 +82,11 @@ int WriterTables::FreeNumber() const {
   return number;
 }
 
-bool WriterTables::HoldsSymbols(const std::string& font) const {
+int WriterTables::CodePageOf(const std::string& font) const {
   const std::string& name = font.empty() ? default_font_ : font;
   const auto own = std::find_if(fonts_.begin(), fonts_.end(),
                                 [&name](const Font& candidate) { return candidate.name == name; });
-  return own != fonts_.end() && own->charset == kSymbolCharset;
+  return own == fonts_.end() ? code_page_ : CodePageOfCharset(own->charset, code_page_);
 }
 
 int WriterTables::ColorNumber(const std::optional<Color>& color) {
@@ -91,12 +102,12 @@ bool WriterTables::HasOwnColor() const {
          std::find(colors_.begin(), colors_.end(), std::nullopt) != colors_.end();
 }
 
-std::string WriterTables::Rtf(int code_page) const {
+std::string WriterTables::Rtf() const {
   std::string rtf;
   if (!fonts_.empty()) rtf += "{\\fonttbl";
   for (const Font& font : fonts_) {
     rtf += "{" + Number("f", font.number) + font.other + Number("fcharset", font.charset) + ' ' +
-           EscapeName(font.name, code_page) + ";}";
+           EscapeName(font.name, CodePageOfCharset(font.charset, code_page_)) + ";}";
   }
   if (!fonts_.empty()) rtf += "}\n";
   if (!colors_.empty()) rtf += "{\\colortbl";
@@ -111,20 +122,19 @@ std::string WriterTables::Rtf(int code_page) const {
   return rtf;
 }
 
+namespace {
+
+// What stands after \plain.
 CharacterFormat DefaultCharacter(const WriterTables& tables) {
   CharacterFormat format;
   format.font = tables.default_font();
+  // Readers differ in the size of East Asian letters that no word gives.
+  if (tables.has_east_asian_fonts()) format.half_points = 0;
   return format;
 }
 
-std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
-                           WriterTables& tables) {
-  const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
-  if (from.other != to.other || (lacks_color && !tables.HasOwnColor())) {
-    CharacterFormat plain = DefaultCharacter(tables);
-    plain.other = to.other;
-    return "\\plain" + to.other + CharacterWords(plain, to, tables);
-  }
+// Those of the model, from one format to the other.
+std::string OwnWords(const CharacterFormat& from, const CharacterFormat& to, WriterTables& tables) {
   std::string out;
   const auto shown = [&tables](const std::string& font) {
     return font.empty() ? tables.default_font() : font;
@@ -148,24 +158,53 @@ std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& t
   return out;
 }
 
-std::string ParagraphWords(const ParagraphFormat& format) {
+}  // namespace
+
+std::string AllCharacterWords(const CharacterFormat& format, WriterTables& tables) {
+  CharacterFormat plain = DefaultCharacter(tables);
+  // Readers are told the font behind its switch, the usual one too.
+  const bool is_told = !format.font.empty() || !tables.default_font().empty();
+  if (is_told && HoldsScripts(format.other)) plain.font = kNoFont;
+  const std::string words = OwnWords(plain, format, tables);
+  const std::size_t place = FindKept("f", format.other);
+  if (place == std::string::npos) return "\\plain" + format.other + words;
+  return "\\plain" + format.other.substr(0, place) + words +
+         format.other.substr(place + kFontStandsHere.size());
+}
+
+std::string CharacterWords(const CharacterFormat& from, const CharacterFormat& to,
+                           WriterTables& tables) {
+  if (from == to) return {};
+  const bool lacks_color = (from.color && !to.color) || (from.highlight && !to.highlight);
+  // Only \plain leads to a default font that has no name.
+  const bool loses_font = to.font.empty() && from.font != to.font && tables.default_font().empty();
+  const bool starts_anew = loses_font || from.other != to.other ||
+                           (lacks_color && !tables.HasOwnColor()) || HoldsKept("f", to.other);
+  return starts_anew ? AllCharacterWords(to, tables) : OwnWords(from, to, tables);
+}
+
+std::string ParagraphWords(const ParagraphFormat& format, const ParagraphFormat* style) {
   constexpr std::array<const char*, 4> kAlignments = {"\\ql", "\\qc", "\\qr", "\\qj"};
-  const bool styled = format.style != 0;
+  const bool is_styled = format.style != 0;
+  // What neither has is left to readers, which have styles of these names of their own.
+  const ParagraphFormat plain;
+  const ParagraphFormat& base = style != nullptr ? *style : plain;
+  const bool names_all = is_styled && style == nullptr;
   std::string out;
-  const auto number = [&](std::string_view word, int value) {
-    if (styled || value != 0) out += Number(word, value);
+  const auto number = [&](std::string_view word, int value, int of_style) {
+    if (names_all || value != 0 || of_style != 0) out += Number(word, value);
   };
-  if (styled) out += Number("s", format.style);
-  if (styled || format.alignment != Alignment::kLeft) {
+  if (is_styled) out += Number("s", format.style);
+  if (names_all || format.alignment != Alignment::kLeft || base.alignment != Alignment::kLeft) {
     out += kAlignments.at(static_cast<std::size_t>(format.alignment));
   }
-  number("fi", format.first_line_indent);
-  number("li", format.left_indent);
-  number("ri", format.right_indent);
-  number("sb", format.space_before);
-  number("sa", format.space_after);
-  number("sl", format.line_spacing);
-  number("slmult", format.line_spacing_is_multiple ? 1 : 0);
+  number("fi", format.first_line_indent, base.first_line_indent);
+  number("li", format.left_indent, base.left_indent);
+  number("ri", format.right_indent, base.right_indent);
+  number("sb", format.space_before, base.space_before);
+  number("sa", format.space_after, base.space_after);
+  number("sl", format.line_spacing, base.line_spacing);
+  number("slmult", format.line_spacing_is_multiple ? 1 : 0, base.line_spacing_is_multiple ? 1 : 0);
   if (format.page_break_before) out += "\\pagebb";
   for (const TabStop& tab : format.tabs) out += Tab(tab);
   return out += format.other;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "richtext/kept_words.h"
 #include "richtext/limits.h"
 #include "richtext/list_words.h"
 #include "richtext/paragraphs.h"
@@ -96,11 +97,20 @@ void Detach(CharacterFormat& format, const std::string& default_font) {
   format.other.clear();
 }
 
+// How the cell lies in its table.
+void Detach(Cell& cell) {
+  const std::string other = std::exchange(cell.other, {});
+  for (const std::string_view word :
+       {"clmgf", "clmrg", "clvmgf", "clvmrg", "clvertalt", "clvertalc", "clvertalb"}) {
+    if (HoldsKept(word, other)) KeepWord("\\" + std::string(word), cell.other);
+  }
+}
+
 void Detach(Table& table) {
   for (TableRow& row : table.rows) {
     row.other.clear();
     for (Cell& cell : row.cells) {
-      cell.other.clear();
+      Detach(cell);
       for (Border* const border : {&cell.top, &cell.left, &cell.bottom, &cell.right}) {
         border->other.clear();
       }
@@ -117,6 +127,7 @@ RichDocument Slice(const RichDocument& document, const Range& range) {
   slice.fonts = document.fonts;
   slice.colors = document.colors;
   slice.page = document.page;
+  slice.base_page = document.base_page;
   slice.fields = document.fields;
   slice.blocks = Cut(document, range);
   ForEachParagraphOf(slice.blocks, [](Paragraph& paragraph) {
@@ -132,6 +143,7 @@ RichDocument Slice(const RichDocument& document, const Range& range) {
 void Detach(RichDocument& fragment) {
   const std::string default_font = DefaultFontName(fragment);
   fragment.prologue.clear();
+  fragment.epilogue.clear();
   ForEachParagraphOf(fragment.blocks, [&default_font](Paragraph& paragraph) {
     Detach(paragraph.format);
     Detach(paragraph.mark, default_font);

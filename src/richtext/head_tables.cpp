@@ -83,7 +83,7 @@ class FontReader {
     if (!font_) return;
     const std::size_t end = bytes.find(';');
     std::string name;
-    DecodeBytes(bytes.substr(0, end), NameCodePage(), name);
+    decoder_.Take(bytes.substr(0, end), NameCodePage(), name);
     if (font_->name.size() + name.size() <= kLongestName) font_->name += name;
     if (end != std::string_view::npos) Finish();
   }
@@ -99,6 +99,7 @@ class FontReader {
     if (!font_) return;
     Font font = std::move(*font_);
     font_.reset();
+    decoder_.Flush(font.name);
     std::erase(font.name, '\t');
     font.name.erase(0, std::min(font.name.find_first_not_of(' '), font.name.size()));
     const bool is_known = std::any_of(fonts_.begin(), fonts_.end(), [&font](const Font& other) {
@@ -112,6 +113,7 @@ class FontReader {
   int code_page_;
   std::vector<Font> fonts_;
   std::optional<Font> font_;  // the entry being read
+  ByteDecoder decoder_;
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "richtext/base64.h"
 #include "richtext/field_link.h"
 #include "richtext/html_styles.h"
+#include "richtext/merged_cells.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -63,19 +64,30 @@ class HtmlWriter {
   }
 
   void Write(const Table& table) {
+    std::vector<const TableRow*> rows;
+    for (const TableRow& row : table.rows) rows.push_back(&row);
+    const auto spans = CellSpansOf(rows, GridOf(rows));
     out_ += "<table style=\"border-collapse:collapse\">\n";
-    for (const TableRow& row : table.rows) {
+    for (std::size_t row = 0; row < rows.size(); ++row) {
       out_ += "<tr>";
-      int left_edge = row.left_edge;
-      for (const Cell& cell : row.cells) {
-        out_ += "<td style=\"" + CellStyle(cell, left_edge) + "\">";
-        for (const Paragraph& paragraph : cell.paragraphs) Write(paragraph);
-        out_ += "</td>";
+      int left_edge = rows[row]->left_edge;
+      for (std::size_t i = 0; i < spans[row].size(); ++i) {
+        const Cell& cell = rows[row]->cells[i];
+        if (!spans[row][i].is_covered) Write(cell, left_edge, spans[row][i]);
         left_edge = cell.right_edge;
       }
       out_ += "</tr>\n";
     }
     out_ += "</table>\n";
+  }
+
+  void Write(const Cell& cell, int left_edge, const CellSpan& span) {
+    out_ += "<td";
+    if (span.columns > 1) out_ += " colspan=\"" + std::to_string(span.columns) + '"';
+    if (span.rows > 1) out_ += " rowspan=\"" + std::to_string(span.rows) + '"';
+    out_ += " style=\"" + CellStyle(cell, left_edge) + "\">";
+    for (const Paragraph& paragraph : cell.paragraphs) Write(paragraph);
+    out_ += "</td>";
   }
 
   void WriteRun(const Run& run) {

@@ -1,6 +1,9 @@
 #include "richtext/kept_words.h"
 
+#include <algorithm>
 #include <cstddef>
+
+#include "richtext/script_words.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -9,8 +12,38 @@ constexpr std::size_t kMostKept = 512;
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-// Where the word stands; npos if it doesn't.
-std::size_t Find(std::string_view name, std::string_view kept) {
+}  // namespace
+
+void KeepWord(std::string_view source, std::string& kept) {
+  if (kept.size() + source.size() <= kMostKept) kept += source;
+}
+
+void KeepProperty(std::string_view name, std::string_view source, std::string& kept) {
+  if (IsScriptSwitch(name)) return TurnToScript(name, kept);
+  const std::size_t begin = IsOfScript(name) ? LastScript(kept) : 0;
+  std::string words = kept.substr(begin);
+  RemoveKept(name, words);
+  kept.replace(begin, std::string::npos, words);
+  KeepWord(source, kept);
+}
+
+void RemoveBorder(std::string& kept) {
+  for (const std::string_view beginning : {"\\brdr", "\\brsp"}) {
+    for (std::size_t at = kept.find(beginning); at != std::string::npos;
+         at = kept.find(beginning)) {
+      kept.erase(at, std::min(kept.find('\\', at + 1), kept.size()) - at);
+    }
+  }
+}
+
+void RemoveKept(std::string_view name, std::string& kept) {
+  const std::size_t place = FindKept(name, kept);
+  if (place == std::string::npos) return;
+  const std::size_t next = kept.find('\\', place + 1);
+  kept.erase(place, next == std::string::npos ? next : next - place);
+}
+
+std::size_t FindKept(std::string_view name, std::string_view kept) {
   for (std::size_t place = 0; place < kept.size(); ++place) {
     if (kept[place] != '\\' || kept.substr(place + 1, name.size()) != name) continue;
     const std::size_t behind = place + 1 + name.size();
@@ -19,26 +52,8 @@ std::size_t Find(std::string_view name, std::string_view kept) {
   return std::string_view::npos;
 }
 
-}  // namespace
-
-void KeepWord(std::string_view source, std::string& kept) {
-  if (kept.size() + source.size() <= kMostKept) kept += source;
-}
-
-void KeepProperty(std::string_view name, std::string_view source, std::string& kept) {
-  RemoveKept(name, kept);
-  KeepWord(source, kept);
-}
-
-void RemoveKept(std::string_view name, std::string& kept) {
-  const std::size_t place = Find(name, kept);
-  if (place == std::string::npos) return;
-  const std::size_t next = kept.find('\\', place + 1);
-  kept.erase(place, next == std::string::npos ? next : next - place);
-}
-
 bool HoldsKept(std::string_view name, std::string_view kept) {
-  return !kept.empty() && Find(name, kept) != std::string_view::npos;
+  return !kept.empty() && FindKept(name, kept) != std::string_view::npos;
 }
 
 }  // namespace tarnwell::richtext

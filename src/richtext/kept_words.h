@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,10 +12,15 @@ namespace tarnwell::richtext {
 // ever needs is left out.
 void KeepWord(std::string_view source, std::string& kept);
 
-// The same for a property: the word takes the place of an earlier one of its name.
+// The same for a property: the word takes the place of an earlier one of its name, which for some
+// must have stood behind the same switch; see script_words.h.
 void KeepProperty(std::string_view name, std::string_view source, std::string& kept);
 
+// The words of a character's border, behind "\chbrdr".
+void RemoveBorder(std::string& kept);
 void RemoveKept(std::string_view name, std::string& kept);
+// Where the word stands in `kept`; npos if it doesn't.
+std::size_t FindKept(std::string_view name, std::string_view kept);
 bool HoldsKept(std::string_view name, std::string_view kept);
 
 }  // namespace tarnwell::richtext

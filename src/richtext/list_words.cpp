@@ -35,10 +35,10 @@ class MarkerReader {
 
   void Take(const Token& token) {
     if (skip_ > 0 && token.kind != TokenKind::kWord) return Skip(token);
-    if (token.kind == TokenKind::kText) DecodeBytes(token.text, state_.text_code_page, utf8_);
+    if (token.kind == TokenKind::kText) TakeBytes(token.text);
     if (token.kind == TokenKind::kByte) {
       const char byte = static_cast<char>(token.number);
-      DecodeBytes(std::string_view(&byte, 1), state_.text_code_page, utf8_);
+      TakeBytes(std::string_view(&byte, 1));
     }
     if (token.kind == TokenKind::kSymbol) TakeSymbol(token.text.front());
     if (token.kind == TokenKind::kWord) TakeWord(token);
@@ -70,7 +70,7 @@ class MarkerReader {
   }
 
   void TakeSymbol(char symbol) {
-    if (symbol == '\\' || symbol == '{' || symbol == '}') utf8_ += symbol;
+    if (symbol == '\\' || symbol == '{' || symbol == '}') TakeBytes(std::string_view(&symbol, 1));
     if (symbol == '~') AppendUtf8(0xA0, utf8_);
     if (symbol == '-') AppendUtf8(0xAD, utf8_);
     if (symbol == '_') AppendUtf8(0x2011, utf8_);
@@ -79,11 +79,14 @@ class MarkerReader {
   void Skip(const Token& token) {
     const auto skip = static_cast<std::size_t>(std::exchange(skip_, 0));
     if (token.kind != TokenKind::kText) return;
-    DecodeBytes(token.text.substr(std::min(skip, token.text.size())), state_.text_code_page, utf8_);
+    TakeBytes(token.text.substr(std::min(skip, token.text.size())));
   }
+
+  void TakeBytes(std::string_view bytes) { decoder_.Take(bytes, state_.text_code_page, utf8_); }
 
   const FormatTables& tables_;
   FormatState state_;
+  ByteDecoder decoder_;
   std::string utf8_;
   Utf16Joiner joiner_;
   int skip_ = 0;

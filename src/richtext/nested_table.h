@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace tarnwell::richtext {
@@ -9,5 +10,8 @@ namespace tarnwell::richtext {
 // \pard of the next paragraph that isn't nested, the end of the cell or the end of the group.
 // Always at the same depth of groups as `begin`; `begin` itself if the source breaks off before.
 std::size_t FindNestedTableEnd(std::string_view source, std::size_t begin);
+
+// The RTF of tables that stand inside a cell as that of tables outside any.
+std::string Unnested(std::string_view rtf);
 
 }  // namespace tarnwell::richtext

@@ -96,6 +96,8 @@ bool HoldsNothing(const RichDocument& document) {
 
 RichDocument FromPlainText(std::string_view utf8) {
   RichDocument document;
+  // Other programs don't agree on the font of a text that names none.
+  if (utf8.empty()) document.fonts.push_back({0, kUsualFont, 0, "\\froman"});
   std::size_t room = kMostText;
   while (!utf8.empty() && !document.is_part) {
     const std::size_t end = std::min(utf8.find_first_of("\r\n"), utf8.size());

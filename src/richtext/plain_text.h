@@ -21,7 +21,8 @@ bool IsBlank(const RichDocument& document);
 // kept, and no table.
 bool HoldsNothing(const RichDocument& document);
 
-// A paragraph a line; CR LF, LF and CR end a line. The empty text gives no paragraph.
+// A paragraph a line; CR LF, LF and CR end a line. The empty text gives no paragraph, and the font
+// that is to be written in.
 RichDocument FromPlainText(std::string_view utf8);
 
 }  // namespace tarnwell::richtext

@@ -49,6 +49,9 @@ enum class Underline : std::uint8_t {
 
 enum class Script : std::uint8_t { kBaseline, kSuperscript, kSubscript };
 
+// What shows a text that names no font.
+inline constexpr const char* kUsualFont = "Times New Roman";
+
 struct CharacterFormat {
   std::string font;      // empty: the document's default font
   int half_points = 24;  // above 0
@@ -101,6 +104,9 @@ struct ParagraphFormat {
   std::string other;  // control words outside the model
   bool operator==(const ParagraphFormat&) const = default;
 };
+
+// In twips each way, what stands for a picture that can't be read.
+inline constexpr int kBrokenPicture = 360;
 
 // Shown at width * scale_x / 100 by height * scale_y / 100.
 struct Picture {
@@ -208,11 +214,13 @@ struct RichDocument {
   int default_font = 0;  // a number of `fonts`
   std::vector<Font> fonts;
   std::vector<std::optional<Color>> colors;  // none: the view's own colour
-  Page page;
+  Page page;                                 // of the first section
+  Page base_page;                            // of sections that say nothing of theirs
   std::string
       prologue;  // style sheet, lists, information, headers and footers of the first section
   std::vector<Field> fields;
   std::vector<Block> blocks;
+  std::string epilogue;  // groups behind the last paragraph
   // Its source held more than limits.h allows: this is its beginning, and no text to be saved.
   bool is_part = false;
   bool operator==(const RichDocument&) const = default;

@@ -19,6 +19,10 @@ Border* BorderOf(std::string_view word, Cell& cell) {
   return nullptr;
 }
 
+bool IsEmpty(const std::vector<Paragraph>& text) {
+  return text.size() == 1 && text.front().runs.empty() && !text.front().format.list;
+}
+
 int LengthOf(const Token& token) {
   return std::clamp(token.NumberOr(0), -kLongestLength, kLongestLength);
 }
@@ -78,6 +82,10 @@ void RowDefinition::ApplyToBorder(const Token& token, std::string_view source,
 TableRow RowDefinition::MakeRow(std::vector<std::vector<Paragraph>> texts,
                                 const CharacterFormat& blank) const {
   TableRow row = row_;
+  // Behind a row with a table in it some writers end the table's cells once more.
+  while (!row.cells.empty() && texts.size() > row.cells.size() && IsEmpty(texts.back())) {
+    texts.pop_back();
+  }
   while (row.cells.size() < texts.size()) {
     Cell cell;
     const int left_edge = row.cells.empty() ? row.left_edge : row.cells.back().right_edge;

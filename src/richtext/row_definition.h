@@ -31,7 +31,7 @@ class RowDefinition {
   // How many cells MakeRow makes of so many texts.
   std::size_t CellsFor(std::size_t texts) const { return std::max(texts, row_.cells.size()); }
   // The row with these texts in its cells. A text without a cell of its own gets one an inch wide,
-  // a cell without a text an empty one of the format `blank`.
+  // unless nothing stands in it; a cell without a text gets an empty one of the format `blank`.
   TableRow MakeRow(std::vector<std::vector<Paragraph>> texts, const CharacterFormat& blank) const;
 
  private:

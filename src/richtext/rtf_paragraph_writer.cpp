@@ -42,12 +42,10 @@ void RtfWriter::WriteParagraphStart(const Paragraph& paragraph, std::string_view
   Words(head);
   if (in_table) Words("\\intbl");
   if (paragraph.format.list) WriteListItem(*paragraph.format.list);
-  Words(ParagraphWords(paragraph.format));
-  Words("\\plain");
-  Words(paragraph.mark.other);
-  CharacterFormat plain = DefaultCharacter(tables_);
-  plain.other = paragraph.mark.other;
-  Words(CharacterWords(plain, paragraph.mark, tables_));
+  const auto style = styles_.find(paragraph.format.style);
+  Words(ParagraphWords(paragraph.format,
+                       style == styles_.end() ? nullptr : &style->second.paragraph));
+  Words(AllCharacterWords(paragraph.mark, tables_));
 }
 
 void RtfWriter::WriteListItem(const ListItem& item) {
@@ -90,7 +88,7 @@ void RtfWriter::WriteRun(const Run& run, const Paragraph& paragraph, bool in_tab
 }
 
 void RtfWriter::WriteText(std::string_view text, const std::string& font) {
-  Text(EscapeText(text, document_.code_page, tables_.HoldsSymbols(font)));
+  Text(EscapeText(text, tables_.CodePageOf(font)));
 }
 
 void RtfWriter::WritePicture(const Picture& picture) {

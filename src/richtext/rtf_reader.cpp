@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "richtext/code_pages.h"
 #include "richtext/limits.h"
 #include "richtext/runs.h"
 #include "richtext/text_escape.h"
@@ -12,6 +11,12 @@ namespace tarnwell::richtext {
 namespace {
 
 constexpr std::size_t kMostStates = 256;
+
+// The second half of a character may stand behind a backslash.
+bool MayBeBytes(const Token& token) {
+  return token.kind == TokenKind::kByte || token.kind == TokenKind::kText ||
+         token.kind == TokenKind::kSymbol;
+}
 
 }  // namespace
 
@@ -26,8 +31,10 @@ RichDocument RtfReader::Read() && {
     Take(token);
   }
   document_.is_part = left == 0 || builder_.is_full();
+  EndBytes();
   LeaveFields();
-  builder_.Finish(state());
+  EndParagraph(&DocumentBuilder::Finish);
+  document_.epilogue = builder_.TakeEpilogue();
   document_.code_page = tables_.code_page;
   document_.default_font = tables_.default_font;
   document_.fonts = std::move(tables_.fonts);
@@ -38,6 +45,7 @@ RichDocument RtfReader::Read() && {
 
 void RtfReader::Take(const Token& token) {
   if (skip_ > 0 && SkipFallback(token)) return;
+  if (!MayBeBytes(token)) EndBytes();
   switch (token.kind) {
     case TokenKind::kGroupStart:
       return PushGroup();
@@ -78,7 +86,14 @@ bool RtfReader::SkipFallback(const Token& token) {
 void RtfReader::TakeBytes(std::string_view bytes) {
   text_.clear();
   joiner_.Flush(text_);
-  DecodeBytes(bytes, state().text_code_page, text_);
+  decoder_.Take(bytes, state().text_code_page, text_);
+  AddText(text_);
+}
+
+// Half of a character whose other half doesn't come.
+void RtfReader::EndBytes() {
+  text_.clear();
+  decoder_.Flush(text_);
   AddText(text_);
 }
 
@@ -98,9 +113,8 @@ void RtfReader::TakeUnicode(int number) {
 void RtfReader::AddText(std::string_view utf8) {
   if (utf8.empty()) return;
   BeginBody();
-  if (!state().hidden) return builder_.AddText(utf8, state());
-  const bool in_symbol_font = state().text_code_page == kSymbolCodePage;
-  builder_.AddOpaque({EscapeText(utf8, tables_.code_page, in_symbol_font)}, state());
+  if (!state().hidden) return builder_.AddText(utf8, settled());
+  builder_.AddOpaque({EscapeText(utf8, state().text_code_page)}, settled());
 }
 
 void RtfReader::TakeSymbol(const Token& token) {
@@ -109,6 +123,10 @@ void RtfReader::TakeSymbol(const Token& token) {
     case '{':
     case '}':
       return TakeBytes(token.text);
+    default:
+      EndBytes();
+  }
+  switch (token.text.front()) {
     case '~':
       return AddText("\u00A0");
     case '-':
@@ -120,7 +138,7 @@ void RtfReader::TakeSymbol(const Token& token) {
     case '\r':
     case '\n':
       BeginBody();
-      return builder_.EndParagraph(state());
+      return EndParagraph(&DocumentBuilder::EndParagraph);
     case '*':
       return TakeStar(token);
     case '|':
@@ -131,6 +149,15 @@ void RtfReader::TakeSymbol(const Token& token) {
   }
 }
 
+void RtfReader::EndParagraph(void (DocumentBuilder::*end)(const FormatState&)) {
+  if (!ended_group_) return (builder_.*end)(settled());
+  FormatState own = settled();
+  own.paragraph = std::move(ended_group_->paragraph);
+  own.in_table = ended_group_->in_table;
+  ended_group_.reset();
+  (builder_.*end)(own);
+}
+
 void RtfReader::PushGroup() {
   ++depth_;
   if (depth_ < kMostStates) states_.push_back(states_.back());
@@ -138,8 +165,13 @@ void RtfReader::PushGroup() {
 
 void RtfReader::PopGroup() {
   // The last brace also ends a paragraph that has no \par: its formats hold until then.
-  if (depth_ > 1 && depth_ < kMostStates && states_.size() > 1) states_.pop_back();
+  if (depth_ > 1 && depth_ < kMostStates && states_.size() > 1) {
+    const bool changes = state().paragraph_version != states_[states_.size() - 2].paragraph_version;
+    if (changes && !ended_group_ && builder_.has_text()) ended_group_ = state();
+    states_.pop_back();
+  }
   if (!open_fields_.empty() && open_fields_.back().depth == depth_) EndField();
+  in_character_border_ = false;
   if (depth_ > 0) --depth_;
   ended_ = depth_ == 0;
 }

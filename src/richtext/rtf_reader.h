@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "richtext/code_pages.h"
 #include "richtext/document_builder.h"
 #include "richtext/format_reader.h"
 #include "richtext/rich_document.h"
@@ -35,13 +37,17 @@ class RtfReader {
   void TakeSymbol(const Token& token);
   void TakeUnicode(int number);
   void AddText(std::string_view utf8);
+  void EndBytes();
   void PushGroup();
   void PopGroup();
+  void EndParagraph(void (DocumentBuilder::*end)(const FormatState&));
+  void TouchParagraph(FormatState& changed) { changed.paragraph_version = ++paragraph_versions_; }
 
   // rtf_reader_words.cpp: control words.
   void TakeWord(const Token& token);
   void TakeStructureWord(const KnownWord& word, const Token& token);
   void TakeDocumentWord(const KnownWord& word, const Token& token);
+  void TakePageWord(Word word, const Token& token);
   void TakeBorderWord(const Token& token, std::string_view source);
   void TakeParagraphWord(const KnownWord& word, const Token& token, std::string_view source);
   void TakeUnknownWord(const KnownWord& word, const Token& token, std::string_view source);
@@ -66,12 +72,18 @@ class RtfReader {
   void BeginBody();
 
   FormatState& state() { return states_.back(); }
+  // The same, as the format of something.
+  const FormatState& settled() {
+    Settle(state());
+    return state();
+  }
 
   RichDocument document_;
   FormatTables tables_;
   Tokenizer tokenizer_;
   std::vector<FormatState> states_;
   DocumentBuilder builder_;
+  ByteDecoder decoder_;
   Utf16Joiner joiner_;
   std::string text_;  // decoded last; kept for its memory
   std::vector<OpenField> open_fields_;
@@ -80,11 +92,15 @@ class RtfReader {
   bool body_begun_ = false;  // before, what isn't known belongs to the prologue
   bool ended_ = false;
   std::string_view styles_;  // read when the body begins, by when fonts and colours are known
+  int paragraph_versions_ = 0;
+  // What a group that has ended said of the paragraph whose text stood in it, and whose end didn't.
+  std::optional<FormatState> ended_group_;
   // The \pard of this paragraph: a nested table begins there if it turns out to be one. 0: none, or
   // one that is done with.
   std::size_t defaults_begin_ = 0;
   std::size_t defaults_depth_ = 0;
   std::size_t defaults_runs_ = 0;
+  bool in_character_border_ = false;  // the border words that follow are of characters
   bool tables_broken_ = false;  // a nested table had no end: don't look for one again
 };
 

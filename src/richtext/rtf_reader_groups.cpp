@@ -113,7 +113,7 @@ void RtfReader::TakePicture(std::size_t begin, bool in_shape_group) {
     picture = ReadPicture(in_shape_group ? FirstGroup(group->body) : group->body);
   if (!picture) return KeepInPlace(group->Rtf(state().unicode_skip));
   picture->in_shape_group = in_shape_group;
-  builder_.AddPicture(std::move(*picture), state());
+  builder_.AddPicture(std::move(*picture), settled());
 }
 
 void RtfReader::TakeField(std::size_t begin) {
@@ -162,7 +162,10 @@ void RtfReader::TakeListDescription(std::size_t begin) {
   if (!group || states_.size() < 2 || depth_ >= states_.size()) return;
   std::string rtf = group->Rtf(1);  // a group around it would keep it from the paragraph
   if (rtf.size() > kLongestDescription) return;
-  std::optional<ListItem>& list = states_[states_.size() - 2].paragraph.list;
+  FormatState& described = states_[states_.size() - 2];
+  TouchParagraph(described);
+  state().paragraph_version = described.paragraph_version;
+  std::optional<ListItem>& list = described.paragraph.list;
   if (!list) list.emplace();
   list->description = std::move(rtf);
 }
@@ -174,7 +177,7 @@ void RtfReader::KeepGroup(std::size_t begin) {
 
 void RtfReader::KeepInPlace(std::string rtf) {
   if (body_begun_) {
-    builder_.AddInPlace(std::move(rtf), state());
+    builder_.AddInPlace(std::move(rtf), settled());
   } else {
     document_.prologue += rtf;
   }

@@ -10,6 +10,23 @@ namespace {
 
 constexpr int kMostFallback = 32;
 
+int& LengthOf(Word word, Page& page) {
+  switch (word) {
+    case Word::kPaperWidth:
+      return page.width;
+    case Word::kPaperHeight:
+      return page.height;
+    case Word::kMarginLeft:
+      return page.left_margin;
+    case Word::kMarginRight:
+      return page.right_margin;
+    case Word::kMarginTop:
+      return page.top_margin;
+    default:
+      return page.bottom_margin;
+  }
+}
+
 std::string InPlace(std::string_view source) { return std::string(source) + ' '; }
 
 }  // namespace
@@ -20,6 +37,7 @@ void RtfReader::TakeWord(const Token& token) {
   switch (word.word_class) {
     case WordClass::kCharacter:
     case WordClass::kKeptCharacter:
+      in_character_border_ = token.text == "chbrdr";
       return ApplyCharacterWord(word, token, source, tables_, state());
     case WordClass::kParagraph:
     case WordClass::kKeptParagraph:
@@ -27,6 +45,7 @@ void RtfReader::TakeWord(const Token& token) {
     case WordClass::kBorder:
       return TakeBorderWord(token, source);
     case WordClass::kRow:
+      in_character_border_ = false;
       return builder_.row_definition().Apply(token, source, tables_);
     case WordClass::kCharacterOf: {
       text_.clear();
@@ -36,6 +55,7 @@ void RtfReader::TakeWord(const Token& token) {
     case WordClass::kDestination:
       return TakeDestination(word, token.begin);
     case WordClass::kKeptInPlace:
+      if (token.text == "sectd" && !body_begun_) document_.page = document_.base_page;
       return KeepWordInPlace(source);
     case WordClass::kStructure:
       return TakeStructureWord(word, token);
@@ -55,12 +75,12 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
   }
   switch (word.word) {
     case Word::kParagraphEnd:
-      return builder_.EndParagraph(state());
+      return EndParagraph(&DocumentBuilder::EndParagraph);
     case Word::kSectionEnd:
       LeaveFields();
-      return builder_.EndSection(state());
+      return EndParagraph(&DocumentBuilder::EndSection);
     case Word::kCellEnd:
-      builder_.EndCell(state());
+      EndParagraph(&DocumentBuilder::EndCell);
       return LeaveFields();
     case Word::kRowStart:
       LeaveFields();
@@ -70,6 +90,9 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
     case Word::kParagraphDefaults:
       state().paragraph = ParagraphFormat{};
       state().in_table = false;
+      in_character_border_ = false;
+      ended_group_.reset();
+      TouchParagraph(state());
       builder_.row_definition().LeaveBorder();
       defaults_begin_ = token.begin;
       defaults_depth_ = depth_;
@@ -87,7 +110,6 @@ void RtfReader::TakeStructureWord(const KnownWord& word, const Token& token) {
 
 void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
   if (body_begun_) return KeepWordInPlace(WordSource(tokenizer_, token));
-  const int length = std::clamp(token.number, 0, kLongestLength);
   switch (word.word) {
     case Word::kNamedCodePage:
       tables_.code_page = word.value;
@@ -98,30 +120,24 @@ void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
     case Word::kDefaultFont:
       tables_.default_font = token.number;
       return ResetFonts();
-    case Word::kPaperWidth:
-      document_.page.width = length;
-      return;
-    case Word::kPaperHeight:
-      document_.page.height = length;
-      return;
-    case Word::kMarginLeft:
-      document_.page.left_margin = length;
-      return;
-    case Word::kMarginRight:
-      document_.page.right_margin = length;
-      return;
-    case Word::kMarginTop:
-      document_.page.top_margin = length;
-      return;
-    case Word::kMarginBottom:
-      document_.page.bottom_margin = length;
-      return;
     default:
-      return;
+      return TakePageWord(word.word, token);
   }
 }
 
+// Those that end in "sxn" are of the first section, which is written with the prologue.
+void RtfReader::TakePageWord(Word word, const Token& token) {
+  const int length = std::clamp(token.number, 0, kLongestLength);
+  LengthOf(word, document_.page) = length;
+  if (token.text.ends_with("sxn")) return KeepWordInPlace(WordSource(tokenizer_, token));
+  LengthOf(word, document_.base_page) = length;
+}
+
 void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
+  if (in_character_border_ && HoldsKept("chbrdr", state().character.other)) {
+    state().is_settled = false;
+    return KeepWord(source, state().character.other);
+  }
   if (builder_.row_definition().InBorder())
     return builder_.row_definition().Apply(token, source, tables_);
   // The same word stands once for each side.
@@ -131,7 +147,9 @@ void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
 void RtfReader::TakeParagraphWord(const KnownWord& word, const Token& token,
                                   std::string_view source) {
   builder_.row_definition().LeaveBorder();
+  in_character_border_ = false;
   if (word.word == Word::kNesting) return TakeNestedTable(token.NumberOr(1));
+  TouchParagraph(state());
   ApplyParagraphWord(word, token, source, tables_, state());
 }
 
@@ -158,7 +176,7 @@ void RtfReader::TakeNestedTable(int level) {
     rtf.insert(0, "\\uc" + std::to_string(state().unicode_skip));
   }
   defaults_begin_ = 0;
-  builder_.AddOpaque({std::move(rtf), true}, state());
+  builder_.AddOpaque({std::move(rtf), true}, settled());
   tokenizer_.Seek(end);
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/head_tables.h"
+#include "richtext/kept_pieces.h"
 #include "richtext/rich_text_writer.h"
 
 namespace tarnwell::richtext {
@@ -38,6 +40,19 @@ std::string PageWords(const Page& page) {
 
 }  // namespace
 
+RtfWriter::RtfWriter(const RichDocument& document) : document_(document), tables_(document) {
+  if (document.prologue.find("\\stylesheet") == std::string::npos) return;
+  FormatTables tables;
+  tables.fonts = document.fonts;
+  tables.colors = document.colors;
+  for (const KeptPiece& piece : KeptPieces(document.prologue)) {
+    if (piece.name != "stylesheet") continue;
+    ReadStyles(piece.body, tables);
+    break;
+  }
+  styles_ = std::move(tables.styles);
+}
+
 std::string RtfWriter::Write() && {
   std::vector<const Paragraph*> paragraphs;
   for (const Block& block : document_.blocks) paragraphs.push_back(std::get_if<Paragraph>(&block));
@@ -54,11 +69,11 @@ std::string RtfWriter::Write() && {
   }
   std::string rtf = "{\\rtf1" + CharsetWords(document_.code_page) + "\\deff" +
                     std::to_string(document_.default_font) + '\n';
-  rtf += tables_.Rtf(document_.code_page);
-  const std::string head = PageWords(document_.page) + document_.prologue;
+  rtf += tables_.Rtf();
+  const std::string head = PageWords(document_.base_page) + document_.prologue;
   rtf += head;
   if (!head.empty()) rtf += '\n';
-  return rtf + out_ + "}\n";
+  return rtf + out_ + document_.epilogue + "}\n";
 }
 
 void RtfWriter::WriteTable(const Table& table) {

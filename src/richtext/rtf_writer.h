@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "richtext/format_reader.h"
 #include "richtext/format_writer.h"
 #include "richtext/rich_document.h"
 
@@ -14,7 +16,7 @@ namespace tarnwell::richtext {
 
 class RtfWriter {
  public:
-  explicit RtfWriter(const RichDocument& document) : document_(document), tables_(document) {}
+  explicit RtfWriter(const RichDocument& document);
 
   std::string Write() &&;
 
@@ -48,6 +50,7 @@ class RtfWriter {
 
   const RichDocument& document_;
   WriterTables tables_;
+  std::map<int, Style> styles_;
   std::string out_;
   bool words_open_ = false;
   std::vector<int> open_fields_;

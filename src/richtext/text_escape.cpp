@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "richtext/code_pages.h"
 #include "richtext/utf8.h"
 #include "text/code_page_1252.h"
 
@@ -99,8 +100,8 @@ std::string Escape(std::string_view utf8, int code_page, Kind kind) {
 
 }  // namespace
 
-std::string EscapeText(std::string_view utf8, int code_page, bool in_symbol_font) {
-  return Escape(utf8, code_page, in_symbol_font ? Kind::kSymbols : Kind::kText);
+std::string EscapeText(std::string_view utf8, int code_page) {
+  return Escape(utf8, code_page, code_page == kSymbolCodePage ? Kind::kSymbols : Kind::kText);
 }
 
 std::string EscapeName(std::string_view utf8, int code_page) {

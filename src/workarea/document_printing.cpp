@@ -5,6 +5,7 @@
 #include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "parts/help_menu.h"
+#include "print/report.h"
 #include "print/rich_text.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
@@ -61,6 +62,9 @@ void DocumentPrinting::Open(PrintedDocument document) {
   ShowChoices(true, document_.has_texts);
   print::PrintJob job;
   job.build = [this](print::PageEngine& engine) { Build(engine); };
+  job.printed_line = false;  // Build has a place for it
+  job.own_paper = true;
+  job.title = document_.title;
   print.Open(std::move(job));
 }
 
@@ -102,9 +106,13 @@ void DocumentPrinting::Build(print::PageEngine& engine) {
     if (!texts[static_cast<std::size_t>(i)].checked()) continue;
     const richtext::RichDocument text = document_.text(i).document;
     if (richtext::IsBlank(text)) continue;
+    const int head = print.ReportMargins().top;
+    print::RichPaper paper{print.chosen_paper(), is_first ? head + print::kHeadHeight : 0};
     if (!is_first) engine.NewPage();
-    is_first = false;
-    print::AddRichText(engine, text);
+    print::AddRichPages(engine, text, paper);
+    if (std::exchange(is_first, false)) {
+      engine.OnPage(0, [&] { print::PrintedLine(engine, context_.clock.Today(), head); });
+    }
   }
 }
 

@@ -34,6 +34,11 @@ const std::set<std::pair<std::string, std::string>> kPassages = {
 // Only storage's door to the disk speaks to the operating system.
 const std::string kSystemRoom = "storage";
 
+// But for a file that converts bytes by the tables of the C library, which no disk comes into.
+const std::set<std::pair<std::string, std::string>> kSystemFiles = {
+    {"text/system_code_pages.cpp", "iconv.h"},
+};
+
 // The list of every file name that the program owns, settings included: a header and its source.
 const std::string kFileNames = "storage/file_names.";
 
@@ -57,12 +62,13 @@ std::string FaultOfOurs(const std::string& room, const std::string& header) {
 }
 
 // Likewise for <header>. Outside the desktop that is the C++ standard library: no capital, no dot.
-std::string FaultOfForeign(const std::string& room, const std::string& header) {
+std::string FaultOfForeign(const std::string& path, const std::string& header) {
+  const std::string room = RoomOf(path);
   if (room == "desktop") return "";
   if (header.starts_with('Q')) return "only the desktop may include Qt: <" + header + ">";
   const bool standard = std::ranges::all_of(
       header, [](char c) { return ('a' <= c && c <= 'z') || ('0' <= c && c <= '9') || c == '_'; });
-  if (standard || room == kSystemRoom) return "";
+  if (standard || room == kSystemRoom || kSystemFiles.contains({path, header})) return "";
   return "the core uses the standard library alone, not <" + header + ">";
 }
 
@@ -71,7 +77,7 @@ std::string FaultOf(const SourceFile& file, const std::string& line) {
   const std::string room = RoomOf(file.path);
   std::smatch match;
   if (std::regex_search(line, match, kInclude)) {
-    return match[1] == "<" ? FaultOfForeign(room, match[2]) : FaultOfOurs(room, match[2]);
+    return match[1] == "<" ? FaultOfForeign(file.path, match[2]) : FaultOfOurs(room, match[2]);
   }
   static const std::regex kSettingsFile("GColor|Gcolor");
   const std::string code = line.substr(0, line.find("//"));

@@ -138,9 +138,16 @@ TEST_F(DataWidgets, APreviewShowsItsPagesAndTurnsThem) {
   EXPECT_EQ(view->findChild<QLabel*>()->text(), "Page 3 of 3");
   QTest::keyClick(view, Qt::Key_PageDown);
   EXPECT_EQ(preview.page(), 2);
-  preview.SetZoom(forms::Zoom::kEnlarged);
   QTest::keyClick(view, Qt::Key_Home);
   EXPECT_EQ(preview.page(), 0);
+  view->resize(900, 300);
+  EXPECT_EQ(view->findChild<QLabel*>()->text(), "Pages 1 and 2 of 3");
+  EXPECT_EQ(PixelAt(300, 100), QColor(Qt::blue));
+  EXPECT_EQ(PixelAt(600, 100), QColor(Qt::red));
+  QTest::keyClick(view, Qt::Key_PageDown);
+  EXPECT_EQ(preview.page(), 2);
+  preview.SetZoom(forms::Zoom::kEnlarged);
+  EXPECT_EQ(view->findChild<QLabel*>()->text(), "Page 3 of 3");
   preview.SetDocument(nullptr);
   EXPECT_EQ(view->findChild<QLabel*>()->text(), "No pages");
 }

@@ -17,6 +17,7 @@ namespace tarnwell::desktop {
 namespace {
 
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsSupersetOf;
 
@@ -96,7 +97,7 @@ TEST(RichPages, JustifiedTextEndsAtTheMargin) {
   EXPECT_NEAR(ink.right(), (12240 - 1440) * kPixelsPerTwip, 3);
 }
 
-TEST(RichPages, APictureOfADocumentIsPaintedInItsColoursAndABrokenOneIsLeftOut) {
+TEST(RichPages, APictureOfADocumentIsPaintedInItsColoursAndABrokenOneIsCrossedOut) {
   PageMetrics metrics;
   forms::Document document = EveryLook(metrics);
   const auto is_image = [](const forms::Mark& mark) {
@@ -110,7 +111,30 @@ TEST(RichPages, APictureOfADocumentIsPaintedInItsColoursAndABrokenOneIsLeftOut) 
   const QPoint pixel = (middle_of_a_tile * 150 / 1440).toPoint();
   EXPECT_EQ(QColor(ImageOf(document, kNoPictures, 0).pixel(pixel)), QColor(31, 95, 191));
   place.bytes = std::make_shared<const std::string>(place.bytes->substr(0, 60));
-  EXPECT_EQ(QColor(ImageOf(document, kNoPictures, 0).pixel(pixel)), QColor(Qt::white));
+  const QPointF middle(place.x + place.width * 0.5, place.y + place.height * 0.5);
+  const QImage broken = ImageOf(document, kNoPictures, 0);
+  EXPECT_EQ(QColor(broken.pixel((middle * 150 / 1440).toPoint())), QColor(0x8A, 0x92, 0x9A));
+  EXPECT_EQ(QColor(broken.pixel(pixel)), QColor(0xF4, 0xF5, 0xF6));
+}
+
+TEST(RichPages, APdfHasTheTitleThePaperAndTheFootersOfEachSection) {
+  if (QStandardPaths::findExecutable("pdfinfo").isEmpty()) GTEST_SKIP() << "no pdfinfo";
+  const testing::TemporaryFolder folder;
+  const QString file = QString::fromStdString(folder.path()) + "/document.pdf";
+  PageMetrics metrics;
+  print::PageEngine engine(metrics);
+  engine.Start({}, {});
+  engine.SetTitle("Caf\xE9 rules");
+  print::AddRichPages(
+      engine, richtext::ReadRichText(
+                  "{\\rtf1\\paperw11906\\paperh16838{\\footer Page \\chpgn\\par}\\pard one\\sect"
+                  "\\sectd\\lndscpsxn\\pgwsxn15840\\pghsxn12240 two\\par}"));
+  ASSERT_TRUE(WritePdf(engine.document(), kNoPictures, file));
+  EXPECT_THAT(
+      testing::LinesOf(QStringLiteral("pdfinfo"), {"-enc", "UTF-8", "-f", "1", "-l", "2", file}),
+      IsSupersetOf({"Title: Café rules", "Page 1 size: 595 x 842 pts (A4)",
+                    "Page 2 size: 792 x 612 pts (letter)"}));
+  EXPECT_THAT(testing::LinesOfPdf(file), ElementsAre("one", "Page 1", HasSubstr("two"), "Page 2"));
 }
 
 }  // namespace

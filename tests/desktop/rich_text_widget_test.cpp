@@ -17,6 +17,7 @@
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/rich_text_view.h"
+#include "richtext/html.h"
 #include "richtext/rich_text_files.h"
 #include "richtext/sketch.h"
 
@@ -192,6 +193,44 @@ TEST_F(RichTextWidgetTest, PastesTheRichestFormThatTheClipboardHolds) {
     EXPECT_EQ(Shown(*view_->document()), ShownAnew());
     Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text(), "ab");
+  }
+}
+
+TEST_F(RichTextWidgetTest, ATableOfHtmlKeepsItsMergedCellsBothWays) {
+  auto mime = std::make_unique<QMimeData>();
+  mime->setHtml(
+      QStringLiteral("<table border=1><tr><td colspan=2>a</td><td rowspan=2>b</td></tr>"
+                     "<tr><td>c</td><td>d</td></tr></table>"));
+  Paste(std::move(mime));
+  EXPECT_EQ(text(), "|[a,b;c,d,]|");
+  const std::string html = richtext::ToHtml(box_.document());
+  EXPECT_NE(html.find("<td colspan=\"2\" style"), std::string::npos) << html;
+  EXPECT_NE(html.find("<td rowspan=\"2\" style"), std::string::npos) << html;
+}
+
+// Each thousand letters a line may break though no letter allows it; nothing of that is the text's.
+TEST_F(RichTextWidgetTest, AWordWithoutAnEndIsWrittenInLikeAnyOther) {
+  const std::string word(2500, 'x');
+  const struct {
+    int offset;
+    std::vector<int> keys;
+    std::size_t typed_at;
+    std::size_t length;
+  } cases[] = {
+      {1000, {Qt::Key_A}, 1000, 2501},
+      {2500, {Qt::Key_A}, 2500, 2501},
+      {1000, {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_A}, 999, 2499},
+      {1000, {Qt::Key_Left, Qt::Key_Delete, Qt::Key_A}, 999, 2500},
+      {999, {Qt::Key_Right, Qt::Key_Right, Qt::Key_A}, 1001, 2501},
+      {1001, {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_A}, 998, 2501},
+  };
+  for (const auto& c : cases) {
+    Show(word.c_str(), {0, c.offset});
+    EXPECT_EQ(view_->document()->toPlainText().count(QChar(0x200B)), 2);
+    for (const int key : c.keys) Key(key);
+    EXPECT_EQ(Shown(*view_->document()), ShownAnew());
+    EXPECT_EQ(text().find('a'), c.typed_at) << c.offset;
+    EXPECT_EQ(text().size(), c.length) << c.offset;
   }
 }
 

@@ -141,7 +141,7 @@ TEST_F(PageEngineTest, TheLinesThatReportsShareStandAtTheHead) {
   const text::Date today = text::MakeDate(2026, 3, 9);
   forms::ProgramVariables variables;
   Start();
-  PrintedLine(engine, today);
+  PrintedLine(engine, today, engine.top());
   EXPECT_EQ(FirstText(0), (PlacedText{4200 - 2300 - 300, 100, 0, "Printed:  March 9, 2026"}));
   EXPECT_EQ(engine.y(), 350);
 

@@ -95,6 +95,31 @@ TEST_F(PrintPanelTest, PageSetupTurnsThePageAndSetsItsMargins) {
   EXPECT_EQ(print.preview.document()->setup, (forms::PageSetup{12000, 16000, false, {}}));
 }
 
+TEST_F(PrintPanelTest, TheMarginsOfReportsLieInsideWhatThePrinterReaches) {
+  rig.pages.reach = {360, 240, 360, 240};
+  print.Open(Job());
+  EXPECT_EQ(print.preview.document()->setup.margins, (forms::Margins{460, 340, 460, 340}));
+  auto job = Job();
+  job.margins = {600, 750, 600, 650};
+  print.Open(job);
+  EXPECT_EQ(print.preview.document()->setup.margins, job.margins);
+}
+
+TEST_F(PrintPanelTest, PaperChosenForADocumentHoldsForTheRun) {
+  auto job = Job();
+  job.own_paper = true;
+  print.Open(job);
+  EXPECT_EQ(print.chosen_paper(), std::nullopt);
+  const forms::PageSetup chosen{12000, 16000, true, {500, 600, 700, 800}};
+  rig.pages.setup = chosen;
+  print.commands[1].Click();
+  EXPECT_EQ(builds, 2);
+  print.Open(job);
+  EXPECT_EQ(print.chosen_paper(), chosen);
+  print.Open(Job());  // a report
+  EXPECT_EQ(print.preview.document()->setup, forms::PageSetup{});
+}
+
 TEST_F(PrintPanelTest, ThePageOnShowIsCopiedAndAllPagesArePrinted) {
   second_page = true;
   print.Open(Job());

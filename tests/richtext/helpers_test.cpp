@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "richtext/fragment.h"
 #include "richtext/html.h"
 #include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
@@ -40,6 +41,13 @@ TEST(Html, ShowsFormatsTablesLinksAndPicturesAndNothingElse) {
        "<img alt=\"\" style=\"width:36pt;height:36pt\" src=\"data:image/png;base64,TWFu\">"},
       {"\\trowd\\clbrdrt\\brdrs\\brdrw20\\cellx1440\\pard\\intbl x\\cell\\row",
        "<tr><td style=\"vertical-align:top;width:72pt;border-top:1pt solid\"><p "},
+      {"\\trowd\\clvmgf\\cellx1000\\cellx2000\\cellx3000\\pard\\intbl a\\cell b\\cell c\\cell\\row"
+       "\\trowd\\clvmrg\\cellx1000\\clmgf\\cellx2000\\clmrg\\cellx3000 \\cell d\\cell\\cell\\row"
+       "\\trowd\\clvmrg\\cellx1000\\cellx3000 \\cell e\\cell\\row",
+       "<td rowspan=\"3\" style=\"vertical-align:top;width:50pt\">"},
+      {"\\trowd\\cellx1000\\cellx2000\\pard\\intbl a\\cell b\\cell\\row\\trowd\\clvmrg\\cellx2000 "
+       "c\\cell\\row",
+       "<tr><td colspan=\"2\" style=\"vertical-align:top;width:100pt\">"},
       {"{\\*\\bkmkstart x}{\\v gone}\\par", "0pt\"></p>\n"},
   };
   for (const auto& c : cases) {
@@ -47,6 +55,16 @@ TEST(Html, ShowsFormatsTablesLinksAndPicturesAndNothingElse) {
     EXPECT_NE(html.find(c.html), std::string::npos) << c.body << " gave\n" << html;
     EXPECT_EQ(html.find("gone"), std::string::npos);
   }
+}
+
+TEST(Fragments, MergedCellsStayMergedInAnotherDocument) {
+  RichDocument fragment = ReadRichText(
+      "{\\rtf1\\trowd\\clvmgf\\clpadl72\\cellx900\\pard\\intbl "
+      "a\\cell\\row\\trowd\\clvmrg\\cellx900\\cell\\row}");
+  Detach(fragment);
+  const auto& rows = std::get<Table>(fragment.blocks[0]).rows;
+  EXPECT_EQ(rows[0].cells[0].other, "\\clvmgf");
+  EXPECT_EQ(rows[1].cells[0].other, "\\clvmrg");
 }
 
 }  // namespace

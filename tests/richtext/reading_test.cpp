@@ -60,7 +60,7 @@ TEST(Reading, ParagraphFormatsLastUntilTheyAreReset) {
 TEST(Reading, BytesAndEscapesBecomeTheCharactersThatTheirFontsMean) {
   const RichDocument document = TestDocument("unicode-and-code-pages.rtf");
   EXPECT_EQ(PlainText(document),
-            "šč Жук αβ \uF0B7?J€ café\n"
+            "šč Жук αβ \uF0B7カ€ café\n"
             "€ 😀 αβx\uFFFDy\n"
             "—–‘’“”•\u00A0\u00AD\u2011{}\\ zz");
 }
@@ -170,6 +170,28 @@ TEST(Reading, WhatIsNoRtfIsPlainText) {
   EXPECT_EQ(PlainText(ReadRichText("\xEF\xBB\xBFÜ\rz")), "Ü\nz");
   EXPECT_TRUE(ReadRichText("").blocks.empty());
   EXPECT_EQ(PlainText(ReadRichText("\r\n {\\rtf1 x}")), "x");
+}
+
+// As other readers take it: a paragraph whose group ends first has what was said of it in there.
+TEST(Reading, AParagraphKeepsTheIndentsOfTheGroupThatItsTextStoodIn) {
+  const struct {
+    const char* body;
+    std::vector<int> indents;
+  } cases[] = {
+      {"{\\pard\\li720 one\\par two}", {720, 720}},
+      {"{\\pard\\li720 one\\par{two}}\\par three", {720, 720, 0}},
+      {"\\pard\\li720{one\\par}{\\listtext 2.\\tab}{two\\par}\\pard three\\par", {720, 720, 0}},
+      {"{\\pard\\li720 one}\\pard\\par", {0}},
+      {"{\\pard\\li720}one\\par", {0}},
+      {"\\pard\\li90{\\b one}\\par", {90}},
+  };
+  for (const auto& c : cases) {
+    std::vector<int> indents;
+    for (const Block& block : ReadRichText(std::string("{\\rtf1") + c.body + "}").blocks) {
+      indents.push_back(std::get<Paragraph>(block).format.left_indent);
+    }
+    EXPECT_EQ(indents, c.indents) << c.body;
+  }
 }
 
 }  // namespace

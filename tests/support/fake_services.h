@@ -189,6 +189,7 @@ class FakePages : public forms::Pages {
   void CopyPage(const forms::Document& document, int page) override {
     copied = document.pages.at(static_cast<std::size_t>(page));
   }
+  forms::Margins Reach() override { return reach; }
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup& start) override {
     last_setup = start;
     return setup;
@@ -197,6 +198,7 @@ class FakePages : public forms::Pages {
   FixedMetrics fixed_metrics;
   std::vector<forms::Document> printed;
   forms::Page copied;
+  forms::Margins reach{0, 0, 0, 0};
   forms::PageSetup last_setup;
   std::optional<forms::PageSetup> setup;
 };

@@ -139,13 +139,13 @@ TEST_F(DocumentPrintingTest, TheDocumentOnShowIsPrintedAsItStandsWithTheTextsTic
   hub().document.text.Type("Unsaved");
   hub().document.print_options.Click();
   EXPECT_FALSE(hub().areas.visible());
-  EXPECT_THAT(Printed(), ElementsAre("Printed:  March 9, 2026 Unsaved"));
+  EXPECT_THAT(Printed(), ElementsAre("Unsaved Printed:  March 9, 2026"));
 
   auto& texts = hub().printing.texts;
   texts[kCommentsText].Check(true);
-  EXPECT_THAT(Printed(), ElementsAre("Printed:  March 9, 2026 Remarks", "Unsaved"));
+  EXPECT_THAT(Printed(), ElementsAre("Remarks Printed:  March 9, 2026", "Unsaved"));
   texts[kPolicyText].Check(false);
-  EXPECT_THAT(Printed(), ElementsAre("Printed:  March 9, 2026 Remarks"));
+  EXPECT_THAT(Printed(), ElementsAre("Remarks Printed:  March 9, 2026"));
 }
 
 TEST_F(DocumentPrintingTest, TickingAnEmptyTextSaysSoAndOnlyTheDisclaimerStaysTicked) {

@@ -52,12 +52,17 @@ forms::PageSetup SetupOf(const QPageLayout& layout) {
 bool PaintPages(const forms::Document& document, const PictureStore& pictures,
                 QPagedPaintDevice& device, int first, int last) {
   QPainter painter;
-  if (!painter.begin(&device)) return false;
-  const double scale = std::min(static_cast<double>(device.width()) / document.setup.width(),
-                                static_cast<double>(device.height()) / document.setup.height());
   PagePainter pages(document, pictures);
   for (int page = first; page <= last; ++page) {
-    if (page > first && !device.newPage()) return false;
+    const forms::PageSetup& setup = document.SetupOf(static_cast<std::size_t>(page));
+    QPageLayout layout = LayoutOf(setup);
+    layout.setMode(device.pageLayout().mode());
+    const bool is_other = !layout.isEquivalentTo(device.pageLayout());
+    // A printer that doesn't have the paper prints on its own.
+    if (is_other) device.setPageLayout(layout);
+    if (page == first ? !painter.begin(&device) : !device.newPage()) return false;
+    const double scale = std::min(static_cast<double>(device.width()) / setup.width(),
+                                  static_cast<double>(device.height()) / setup.height());
     PaintSheet(painter, pages, page, scale);
   }
   return painter.end();
@@ -66,8 +71,9 @@ bool PaintPages(const forms::Document& document, const PictureStore& pictures,
 bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file) {
   QPdfWriter writer(file);
   writer.setCreator(QStringLiteral("Tarnwell"));
+  writer.setTitle(FromCore(document.title));
   writer.setResolution(forms::kTwipsPerInch);
-  QPageLayout layout = LayoutOf(document.setup);
+  QPageLayout layout = LayoutOf(document.SetupOf(0));
   layout.setMode(QPageLayout::FullPageMode);
   writer.setPageLayout(layout);
   return PaintPages(document, pictures, writer, 0, static_cast<int>(document.pages.size()) - 1);
@@ -76,8 +82,9 @@ bool WritePdf(const forms::Document& document, const PictureStore& pictures, con
 QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page) {
   if (page < 0 || page >= static_cast<int>(document.pages.size())) return {};
   const double scale = static_cast<double>(kClipboardDpi) / forms::kTwipsPerInch;
-  QImage image(static_cast<int>(document.setup.width() * scale),
-               static_cast<int>(document.setup.height() * scale), QImage::Format_RGB32);
+  const forms::PageSetup& setup = document.SetupOf(static_cast<std::size_t>(page));
+  QImage image(static_cast<int>(setup.width() * scale), static_cast<int>(setup.height() * scale),
+               QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
   PagePainter pages(document, pictures);

@@ -1,19 +1,51 @@
 #include "desktop/services/qt_pages.h"
 
 #include <QClipboard>
+#include <QComboBox>
+#include <QDir>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPageSetupDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QStandardPaths>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/services/modal_question.h"
 #include "desktop/services/page_output.h"
+#include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
+
+constexpr forms::Margins kUsualReach{360, 360, 360, 360};  // a quarter of an inch
+
+// Beside the user's other documents; what a file's name can't hold is left out.
+QString PdfNameOf(const QString& title) {
+  QString name;
+  for (const QChar c : title) {
+    if (!QStringLiteral("/\\:*?\"<>|").contains(c) && c.isPrint()) name += c;
+  }
+  name = name.simplified();
+  if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) name = QStringLiteral("Tarnwell");
+  const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  const QDir folder = documents.exists() ? documents : QDir::home();
+  return folder.filePath(name + QStringLiteral(".pdf"));
+}
+
+// Letter is measured in inches, A4 in millimetres, whatever the system prefers.
+void SetUnits(const QPageSize& paper, QPageSetupDialog& dialog) {
+  auto* const units = dialog.findChild<QComboBox*>(QStringLiteral("unitCombo"));
+  if (units == nullptr) return;
+  const bool is_metric = paper.definitionUnits() == QPageSize::Millimeter;
+  const auto unit = is_metric ? QPageLayout::Millimeter : QPageLayout::Inch;
+  const int place = units->findData(QVariant::fromValue(unit));
+  if (place < 0) return;
+  units->setCurrentIndex(place);
+  emit units->activated(place);  // as a person's choice: the lengths follow
+}
 
 // On a machine without a printer a PDF file takes its place.
 void Prepare(QPrinter& printer, const forms::PageSetup& setup) {
@@ -32,7 +64,10 @@ void QtPages::Print(const forms::Document& document) {
   const int pages = static_cast<int>(document.pages.size());
   if (pages == 0) return;
   QPrinter printer(QPrinter::HighResolution);
-  Prepare(printer, document.setup);
+  Prepare(printer, document.SetupOf(0));
+  const QString title = FromCore(document.title);
+  printer.setDocName(title);
+  if (printer.outputFormat() == QPrinter::PdfFormat) printer.setOutputFileName(PdfNameOf(title));
   {
     const ModalQuestion question;
     QPrintDialog dialog(&printer, question.asker());
@@ -57,11 +92,20 @@ void QtPages::CopyPage(const forms::Document& document, int page) {
   QGuiApplication::clipboard()->setMimeData(content);
 }
 
+forms::Margins QtPages::Reach() {
+  const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+  if (info.isNull()) return kUsualReach;
+  const QMarginsF edges = QPrinter(info).pageLayout().minimumMargins();
+  const auto twips = [](double points) { return static_cast<int>(std::ceil(points * 20)); };
+  return {twips(edges.left()), twips(edges.top()), twips(edges.right()), twips(edges.bottom())};
+}
+
 std::optional<forms::PageSetup> QtPages::ChooseSetup(const forms::PageSetup& start) {
   const ModalQuestion question;
   QPrinter printer(QPrinter::HighResolution);
   Prepare(printer, start);
   QPageSetupDialog dialog(&printer, question.asker());
+  SetUnits(printer.pageLayout().pageSize(), dialog);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return SetupOf(printer.pageLayout());
 }

@@ -15,6 +15,7 @@ class QtPages : public forms::Pages {
   void Print(const forms::Document& document) override;
   // As a picture and as text.
   void CopyPage(const forms::Document& document, int page) override;
+  forms::Margins Reach() override;
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup& start) override;
 
  private:

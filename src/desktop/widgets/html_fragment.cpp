@@ -177,11 +177,13 @@ richtext::Table TableFrom(const QTextTable& table) {
     for (int column = 0; column < table.columns();) {
       const QTextTableCell cell = table.cellAt(row, column);
       const int span = std::max(1, cell.column() + cell.columnSpan() - column);
+      richtext::Cell part = CellFrom(cell, has_border);
+      if (cell.rowSpan() > 1) part.other = cell.row() == row ? "\\clvmgf" : "\\clvmrg";
       // A cell that reaches down from a row above is empty here.
-      cells.cells.push_back(cell.row() == row ? CellFrom(cell, has_border) : richtext::Cell{});
-      if (cell.row() != row) cells.cells.back().paragraphs.emplace_back();
+      if (cell.row() != row) part.paragraphs.assign(1, {});
       column += span;
-      cells.cells.back().right_edge = column * width;
+      part.right_edge = column * width;
+      cells.cells.push_back(std::move(part));
     }
   }
   return out;

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QImage>
 
+#include "desktop/widgets/broken_picture.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/picture_files.h"
@@ -14,6 +15,33 @@ namespace {
 constexpr double kBoxLine = 10;  // twips
 // A PDF file counts finer than any printer prints a picture.
 constexpr double kMostDotsPerTwip = 300.0 / forms::kTwipsPerInch;
+
+constexpr int kWaveHeight = 30;  // twips; half as long as a wave
+
+Qt::PenStyle StyleOf(forms::PlacedLine::Pattern pattern) {
+  switch (pattern) {
+    case forms::PlacedLine::Pattern::kDots:
+      return Qt::DotLine;
+    case forms::PlacedLine::Pattern::kDashes:
+      return Qt::DashLine;
+    case forms::PlacedLine::Pattern::kDashDot:
+      return Qt::DashDotLine;
+    case forms::PlacedLine::Pattern::kDashDotDot:
+      return Qt::DashDotDotLine;
+    default:
+      return Qt::SolidLine;
+  }
+}
+
+// Level lines only: they stand below letters.
+void PaintWave(QPainter& painter, const forms::PlacedLine& line) {
+  QPolygon wave;
+  bool is_high = false;
+  for (int x = line.x1; x <= line.x2; x += kWaveHeight, is_high = !is_high) {
+    wave << QPoint(x, line.y1 + (is_high ? kWaveHeight : 0));
+  }
+  painter.drawPolyline(wave);
+}
 
 }  // namespace
 
@@ -53,7 +81,9 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedText& text) {
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedLine& line) {
-  painter.setPen(QPen(ToQColor(line.color), line.width));
+  QPen pen(ToQColor(line.color), line.width, StyleOf(line.pattern), Qt::FlatCap);
+  painter.setPen(pen);
+  if (line.pattern == forms::PlacedLine::Pattern::kWave) return PaintWave(painter, line);
   painter.drawLine(line.x1, line.y1, line.x2, line.y2);
 }
 
@@ -80,7 +110,7 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture
   const QImage image = Decoded(
       QByteArray::fromRawData(picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())),
       shown.boundedTo(place.size() * kMostDotsPerTwip).toSize());
-  if (image.isNull()) return;
+  if (image.isNull()) return PaintBrokenPicture(painter, place);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   // Signs and drawings keep their edges in a PDF; photographs have none to lose.
   painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));

@@ -51,8 +51,8 @@ PageView::PageView(const PictureStore& pictures)
   const auto turn = [this](int pages) {
     if (on_turn) on_turn(page_ + pages);
   };
-  connect(back_, &QToolButton::clicked, this, [turn] { turn(-1); });
-  connect(forth_, &QToolButton::clicked, this, [turn] { turn(1); });
+  connect(back_, &QToolButton::clicked, this, [this, turn] { turn(-Seen()); });
+  connect(forth_, &QToolButton::clicked, this, [this, turn] { turn(Seen()); });
 }
 
 void PageView::Show(const forms::PagePreview& preview) {
@@ -61,51 +61,85 @@ void PageView::Show(const forms::PagePreview& preview) {
   page_ = preview.page();
   zoom_ = preview.zoom();
   guide_lines_ = preview.guide_lines();
-  const int pages = preview.page_count();
-  number_->setText(pages == 0 ? QStringLiteral("No pages")
-                              : QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(pages));
-  back_->setEnabled(page_ > 0);
-  forth_->setEnabled(page_ + 1 < pages);
-  sheet_ = {};
   Arrange();
   if (is_new) verticalScrollBar()->setValue(0);
 }
 
-double PageView::Scale() const {
+double PageView::Scale(int page) const {
   const QSize room = maximumViewportSize() - QSize(2 * kDeskEdge, 2 * kDeskEdge);
-  const forms::PageSetup& setup = document_->setup;
-  const double high = static_cast<double>(room.height()) / setup.height();
-  const double wide = static_cast<double>(room.width()) / setup.width();
-  if (zoom_ == forms::Zoom::kWholePage) return std::max(std::min(wide, high), 0.001);
+  const forms::PageSetup& setup = document_->SetupOf(static_cast<std::size_t>(page));
+  if (zoom_ != forms::Zoom::kEnlarged) {
+    const double high = static_cast<double>(room.height()) / setup.height();
+    const double wide = static_cast<double>(room.width()) / setup.width();
+    return std::clamp(std::min(wide, high), 0.001, kLargest);
+  }
   // The scroll bar has its place whether it is there or not.
   const double beside_bar =
       static_cast<double>(room.width() - verticalScrollBar()->sizeHint().width()) / setup.width();
-  const double most = zoom_ == forms::Zoom::kEnlarged ? kLargest : kFullSize;
-  return std::clamp(beside_bar, 0.001, most);
+  return std::clamp(beside_bar, 0.001, kLargest);
 }
 
-QSize PageView::SheetSize() const {
-  const double scale = Scale();
-  return {static_cast<int>(document_->setup.width() * scale),
-          static_cast<int>(document_->setup.height() * scale)};
+QSize PageView::SheetSize(int page) const {
+  const double scale = Scale(page);
+  const forms::PageSetup& setup = document_->SetupOf(static_cast<std::size_t>(page));
+  return {static_cast<int>(setup.width() * scale), static_cast<int>(setup.height() * scale)};
+}
+
+int PageView::Seen() const {
+  if (!document_ || zoom_ == forms::Zoom::kEnlarged) return 1;
+  if (page_ + 1 >= static_cast<int>(document_->pages.size())) return 1;
+  const int both = SheetSize(page_).width() + SheetSize(page_ + 1).width();
+  return both + 3 * kDeskEdge <= maximumViewportSize().width() ? 2 : 1;
+}
+
+std::vector<QRect> PageView::Places() const {
+  std::vector<QRect> places;
+  const QSize room = viewport()->size();
+  int width = -kDeskEdge;
+  for (int i = 0; i < Seen(); ++i) width += SheetSize(page_ + i).width() + kDeskEdge;
+  int left = (room.width() - width) / 2;
+  for (int i = 0; i < Seen(); ++i) {
+    const QSize size = SheetSize(page_ + i);
+    const int top = size.height() + 2 * kDeskEdge <= room.height()
+                        ? (room.height() - size.height()) / 2
+                        : kDeskEdge - verticalScrollBar()->value();
+    places.emplace_back(QPoint(left, top), size);
+    left += size.width() + kDeskEdge;
+  }
+  return places;
 }
 
 void PageView::Arrange() {
+  sheets_.clear();
   const int pager_height = pager_->sizeHint().height();
   setViewportMargins(0, 0, 0, pager_height);
   const QRect inside = contentsRect();
   pager_->setGeometry(inside.left(), inside.bottom() + 1 - pager_height, inside.width(),
                       pager_height);
-  const int height = document_ ? SheetSize().height() + 2 * kDeskEdge : 0;
+  const bool has_pages = document_ && !document_->pages.empty();
+  const int height = has_pages ? SheetSize(page_).height() + 2 * kDeskEdge : 0;
   verticalScrollBar()->setRange(0, std::max(0, height - maximumViewportSize().height()));
   verticalScrollBar()->setPageStep(maximumViewportSize().height());
   verticalScrollBar()->setSingleStep(fontMetrics().height() * 2);
+  ShowNumber();
   viewport()->update();
+}
+
+void PageView::ShowNumber() {
+  const int pages = document_ ? static_cast<int>(document_->pages.size()) : 0;
+  const int seen = Seen();
+  QString text = QStringLiteral("No pages");
+  if (pages > 0) text = QStringLiteral("Page %1 of %2").arg(page_ + 1).arg(pages);
+  if (seen > 1) {
+    text = QStringLiteral("Pages %1 and %2 of %3").arg(page_ + 1).arg(page_ + 2).arg(pages);
+  }
+  number_->setText(text);
+  back_->setEnabled(page_ > 0);
+  forth_->setEnabled(page_ + seen < pages);
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {
   QAbstractScrollArea::resizeEvent(event);
-  sheet_ = {};
   Arrange();
 }
 
@@ -116,9 +150,9 @@ void PageView::keyPressEvent(QKeyEvent* event) {
   };
   switch (event->key()) {
     case Qt::Key_PageUp:
-      return turn_to(page_ - 1);
+      return turn_to(page_ - Seen());
     case Qt::Key_PageDown:
-      return turn_to(page_ + 1);
+      return turn_to(page_ + Seen() <= last ? page_ + Seen() : page_);
     case Qt::Key_Home:
       return turn_to(0);
     case Qt::Key_End:
@@ -128,21 +162,21 @@ void PageView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-QPixmap PageView::PaintSheet() const {
+QPixmap PageView::PaintSheet(int page) const {
   const double density = devicePixelRatioF();
-  QPixmap sheet(SheetSize() * density);
+  QPixmap sheet(SheetSize(page) * density);
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
-  painter.scale(Scale() * density, Scale() * density);
-  PagePainter(*document_, pictures_).Paint(painter, page_);
+  painter.scale(Scale(page) * density, Scale(page) * density);
+  PagePainter(*document_, pictures_).Paint(painter, page);
   painter.end();
   sheet.setDevicePixelRatio(density);
   return sheet;
 }
 
-void PageView::PaintGuideLines(QPainter& painter, const QRectF& sheet) const {
-  const forms::Margins& margins = document_->setup.margins;
-  const double scale = Scale();
+void PageView::PaintGuideLines(QPainter& painter, int page, const QRectF& sheet) const {
+  const forms::Margins& margins = document_->SetupOf(static_cast<std::size_t>(page)).margins;
+  const double scale = Scale(page);
   const QRectF inside = sheet.adjusted(margins.left * scale, margins.top * scale,
                                        -margins.right * scale, -margins.bottom * scale);
   painter.setPen(QPen(kGuideLine, 1, Qt::DashLine));
@@ -156,17 +190,15 @@ void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
   painter.fillRect(viewport()->rect(), kDesk);
   if (!document_ || document_->pages.empty()) return;
-  if (sheet_.isNull()) sheet_ = PaintSheet();
-  const QSize size = SheetSize();
-  const QSize room = viewport()->size();
-  const int top = size.height() + 2 * kDeskEdge <= room.height()
-                      ? (room.height() - size.height()) / 2
-                      : kDeskEdge - verticalScrollBar()->value();
-  const QRect place(QPoint((room.width() - size.width()) / 2, top), size);
-  painter.drawPixmap(place.topLeft(), sheet_);
-  painter.setPen(kSheetEdge);
-  painter.drawRect(place.adjusted(-1, -1, 0, 0));
-  if (guide_lines_) PaintGuideLines(painter, place);
+  const std::vector<QRect> places = Places();
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    const int page = page_ + static_cast<int>(i);
+    if (i == sheets_.size()) sheets_.push_back(PaintSheet(page));
+    painter.drawPixmap(places[i].topLeft(), sheets_[i]);
+    painter.setPen(kSheetEdge);
+    painter.drawRect(places[i].adjusted(-1, -1, 0, 0));
+    if (guide_lines_) PaintGuideLines(painter, page, places[i]);
+  }
 }
 
 }  // namespace tarnwell::desktop

@@ -5,14 +5,16 @@
 #include <QPixmap>
 #include <QToolButton>
 #include <functional>
+#include <vector>
 
 #include "desktop/widgets/pictures.h"
 #include "forms/page_preview.h"
 
 namespace tarnwell::desktop {
 
-// One page of a document on a desk, with the buttons that turn the pages below it. Page Up and Page
-// Down turn them too, Home and End go to the first and the last.
+// Whole pages of a document on a desk, two side by side where there is room, with the buttons that
+// turn them below. Page Up and Page Down turn them too, Home and End go to the first and the last.
+// Enlarged it is one page, as wide as the desk.
 class PageView : public QAbstractScrollArea {
  public:
   explicit PageView(const PictureStore& pictures);
@@ -30,11 +32,15 @@ class PageView : public QAbstractScrollArea {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  double Scale() const;  // pixels a twip
-  QSize SheetSize() const;
+  double Scale(int page) const;  // pixels a twip
+  QSize SheetSize(int page) const;
+  // How many pages are seen at a time.
+  int Seen() const;
+  std::vector<QRect> Places() const;
   void Arrange();
-  QPixmap PaintSheet() const;
-  void PaintGuideLines(QPainter& painter, const QRectF& sheet) const;
+  void ShowNumber();
+  QPixmap PaintSheet(int page) const;
+  void PaintGuideLines(QPainter& painter, int page, const QRectF& sheet) const;
 
   const PictureStore& pictures_;
   QWidget* pager_;
@@ -45,7 +51,7 @@ class PageView : public QAbstractScrollArea {
   int page_ = 0;
   forms::Zoom zoom_ = forms::Zoom::kNormal;
   bool guide_lines_ = false;
-  QPixmap sheet_;  // painted when it is first seen
+  std::vector<QPixmap> sheets_;  // those seen, painted when they first are
 };
 
 }  // namespace tarnwell::desktop

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "desktop/widgets/broken_picture.h"
 #include "desktop/widgets/picture_files.h"
 
 namespace tarnwell::desktop {
@@ -23,6 +24,13 @@ QSize Bounded(QSize size) {
   return size;
 }
 
+QPixmap Broken(QSize size) {
+  QPixmap picture(size.expandedTo(QSize(1, 1)));
+  QPainter painter(&picture);
+  PaintBrokenPicture(painter, picture.rect());
+  return picture;
+}
+
 }  // namespace
 
 PictureCache::PictureCache(std::function<void()> on_ready)
@@ -37,7 +45,7 @@ QPixmap PictureCache::At(const QString& name, const QByteArray& file, QSize size
   tried_.insert(name);
   size = Bounded(size);
   if (Area(PixelsOf(file)) <= kPixelsAtOnce) {
-    Keep(name, Decoded(file, size));
+    Keep(name, Decoded(file, size), size);
     return *pictures_.object(name);
   }
   is_busy_ = true;
@@ -45,9 +53,9 @@ QPixmap PictureCache::At(const QString& name, const QByteArray& file, QSize size
     QImage image = Decoded(file, size);
     QMetaObject::invokeMethod(
         &thread_,
-        [this, name, image = std::move(image)] {
+        [this, name, size, image = std::move(image)] {
           is_busy_ = false;
-          Keep(name, image);
+          Keep(name, image, size);
           on_ready_();
         },
         Qt::QueuedConnection);
@@ -55,9 +63,9 @@ QPixmap PictureCache::At(const QString& name, const QByteArray& file, QSize size
   return waiting_;
 }
 
-void PictureCache::Keep(const QString& name, const QImage& image) {
-  const int kilobytes = static_cast<int>(Area(image.size()) * kBytesPerPixel / 1024);
-  auto* const picture = new QPixmap(image.isNull() ? waiting_ : QPixmap::fromImage(image));
+void PictureCache::Keep(const QString& name, const QImage& image, QSize size) {
+  auto* const picture = new QPixmap(image.isNull() ? Broken(size) : QPixmap::fromImage(image));
+  const int kilobytes = static_cast<int>(Area(picture->size()) * kBytesPerPixel / 1024);
   pictures_.insert(name, picture, std::max(1, kilobytes));
 }
 

@@ -20,7 +20,8 @@ class PictureCache {
   // `on_ready` runs when a picture that wasn't there has come.
   explicit PictureCache(std::function<void()> on_ready);
 
-  // A grey field for a picture that is still to come or can't be read. The same name always means
+  // A grey field for a picture that is still to come, a crossed frame for one that can't be read.
+  // The same name always means
   // the same file at the same size, in pixels of the screen.
   QPixmap At(const QString& name, const QByteArray& file, QSize size);
 
@@ -31,7 +32,7 @@ class PictureCache {
   void Retry() { tried_.clear(); }
 
  private:
-  void Keep(const QString& name, const QImage& image);
+  void Keep(const QString& name, const QImage& image, QSize size);
 
   std::function<void()> on_ready_;
   QPixmap waiting_;

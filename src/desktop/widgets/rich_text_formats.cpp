@@ -9,7 +9,6 @@ namespace {
 constexpr double kTwipsPerInch = 1440;
 constexpr int kSingleSpacing = 240;
 constexpr int kMarkerGap = 120;  // twips
-constexpr const char* kUsualFont = "Times New Roman";
 
 QColor ColorOf(const richtext::Color& color) { return {color.red, color.green, color.blue}; }
 
@@ -83,7 +82,7 @@ QTextFrameFormat::BorderStyle StyleOf(const richtext::Border& border) {
 RichTextFormats::RichTextFormats(const QPaintDevice& device, double zoom, const std::string& font)
     : pixels_per_twip_(device.logicalDpiX() / kTwipsPerInch * zoom),
       zoom_(zoom),
-      font_(QString::fromStdString(font.empty() ? kUsualFont : font)) {}
+      font_(QString::fromStdString(font.empty() ? richtext::kUsualFont : font)) {}
 
 QTextCharFormat RichTextFormats::Of(const richtext::CharacterFormat& format) const {
   QTextCharFormat out;

@@ -87,8 +87,22 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
       PressTextKey(*event)) {
     return event->accept();
   }
-  if (moves) return QTextEdit::keyPressEvent(event);
-  event->ignore();
+  if (!moves) return event->ignore();
+  StepOverBreak(*event);
+  QTextEdit::keyPressEvent(event);
+}
+
+// A step back from behind a place to break at begins before it: both are the same place in the
+// text.
+void RichTextView::StepOverBreak(const QKeyEvent& event) {
+  const bool selects = Matches(event, QKeySequence::SelectPreviousChar);
+  if (!selects && !Matches(event, QKeySequence::MoveToPreviousChar)) return;
+  QTextCursor cursor = textCursor();
+  const int place = cursor.position();
+  if (cursor.atBlockStart() || PositionOf(place - 1) != PositionOf(place)) return;
+  const QSignalBlocker quiet(this);
+  cursor.setPosition(place - 1, selects ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+  setTextCursor(cursor);
 }
 
 bool RichTextView::PressCommandKey(const QKeyEvent& event) {
@@ -193,13 +207,19 @@ void RichTextView::TypeText(const QString& text) { box_.Type(text.toStdString())
 void RichTextView::Backspace() {
   QTextCursor cursor = textCursor();
   cursor.clearSelection();
+  const richtext::Position from = PositionOf(cursor.position());
   cursor.movePosition(QTextCursor::PreviousCharacter);
+  if (PositionOf(cursor.position()) == from) cursor.movePosition(QTextCursor::PreviousCharacter);
   box_.Backspace(PositionOf(cursor.position()));
 }
 
 void RichTextView::EraseTo(QTextCursor::MoveOperation operation) {
   QTextCursor cursor = textCursor();
-  if (!cursor.hasSelection()) cursor.movePosition(operation, QTextCursor::KeepAnchor);
+  if (!cursor.hasSelection()) {
+    cursor.movePosition(operation, QTextCursor::KeepAnchor);
+    // Nothing lies between both sides of a place to break at.
+    if (RangeOf(cursor).empty()) cursor.movePosition(operation, QTextCursor::KeepAnchor);
+  }
   box_.Erase(RangeOf(cursor));
 }
 

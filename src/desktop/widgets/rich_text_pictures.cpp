@@ -23,13 +23,17 @@ QTextImageFormat PictureFormat(const richtext::Picture& picture, const QByteArra
                                const RichTextFormats& formats, double widest) {
   double width = formats.Pixels(picture.width);
   double height = formats.Pixels(picture.height);
-  if (width <= 0 || height <= 0) {
-    const QSize pixels = PixelsOf(file).expandedTo(QSize(1, 1));
+  const QSize pixels = PixelsOf(file);
+  if (!pixels.isValid()) {
+    width = height = formats.Pixels(richtext::kBrokenPicture);
+  } else if (width <= 0 || height <= 0) {
     width = pixels.width() * formats.Pixels(kTwipsPerPixel);
     height = pixels.height() * formats.Pixels(kTwipsPerPixel);
   }
-  width *= std::max(1, picture.scale_x) / 100.0;
-  height *= std::max(1, picture.scale_y) / 100.0;
+  if (pixels.isValid()) {
+    width *= std::max(1, picture.scale_x) / 100.0;
+    height *= std::max(1, picture.scale_y) / 100.0;
+  }
   if (widest > 0 && width > widest) height *= widest / std::exchange(width, widest);
   QTextImageFormat format;
   format.setName(QStringLiteral("%1/%2x%3").arg(NameOf(file)).arg(qCeil(width)).arg(qCeil(height)));

@@ -32,17 +32,42 @@ QString ShownInBlock(std::string_view utf8) {
   return text;
 }
 
-int ToUtf16Offset(std::string_view utf8, int offset) {
-  int units = 0;
-  for (const char byte : utf8.substr(0, static_cast<std::size_t>(std::max(offset, 0)))) {
-    units += UnitsOf(byte);
+std::vector<int> BreaksInWords(std::string_view paragraph) {
+  std::vector<int> breaks;
+  int letters = 0;
+  for (std::size_t i = 0; i < paragraph.size(); ++i) {
+    if (UnitsOf(paragraph[i]) == 0) continue;
+    if (letters == kLongestWord) {
+      breaks.push_back(static_cast<int>(i));
+      letters = 0;
+    }
+    const bool ends_word =
+        std::string_view(" \t\n\f-").find(paragraph[i]) != std::string_view::npos;
+    letters = ends_word ? 0 : letters + 1;
   }
-  return units;
+  return breaks;
 }
 
-int ToUtf8Offset(std::string_view utf8, int utf16_offset) {
+int ToUtf16Offset(std::string_view paragraph, int offset) {
+  offset = std::max(offset, 0);
+  int units = 0;
+  for (const char byte : paragraph.substr(0, static_cast<std::size_t>(offset))) {
+    units += UnitsOf(byte);
+  }
+  const std::vector<int> breaks = BreaksInWords(paragraph);
+  const auto before = std::ranges::upper_bound(breaks, offset) - breaks.begin();
+  return units + static_cast<int>(before);
+}
+
+int ToUtf8Offset(std::string_view paragraph, int utf16_offset) {
+  const std::vector<int> breaks = BreaksInWords(paragraph);
+  auto next_break = breaks.begin();
   int bytes = 0;
-  for (const char byte : utf8) {
+  for (const char byte : paragraph) {
+    if (next_break != breaks.end() && *next_break == bytes) {
+      ++next_break;
+      --utf16_offset;
+    }
     const int units = UnitsOf(byte);
     if (units > 0 && utf16_offset <= 0) break;
     utf16_offset -= units;

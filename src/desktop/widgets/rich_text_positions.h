@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <string_view>
+#include <vector>
 
 namespace tarnwell::desktop {
 
@@ -11,8 +12,13 @@ namespace tarnwell::desktop {
 // and what would part a block is shown as the replacement character.
 QString ShownInBlock(std::string_view utf8);
 
-// Offsets into the same text.
-int ToUtf16Offset(std::string_view utf8, int offset);
-int ToUtf8Offset(std::string_view utf8, int utf16_offset);
+// A word that goes on for very long would be looked through for each of its lines: it gets a place
+// to break at, a zero-width space, behind so many letters. Their offsets in a paragraph's text.
+inline constexpr int kLongestWord = 1000;
+std::vector<int> BreaksInWords(std::string_view paragraph);
+
+// Offsets into the same text of a whole paragraph; Qt's has the places to break at too.
+int ToUtf16Offset(std::string_view paragraph, int offset);
+int ToUtf8Offset(std::string_view paragraph, int utf16_offset);
 
 }  // namespace tarnwell::desktop

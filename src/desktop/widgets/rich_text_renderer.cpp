@@ -328,17 +328,37 @@ void RichTextRenderer::Fill(const richtext::Paragraph& paragraph, const QTextTab
   cursor.removeSelectedText();
   cursor.setBlockFormat(formats_->Of(paragraph));
   SetMark(formats_->Of(paragraph.mark), table, cursor);
-  for (const richtext::Run& run : paragraph.runs) InsertRun(run, cursor);
+  const std::vector<int> breaks = BreaksInWords(richtext::ShownText(paragraph));
+  int begin = 0;
+  for (const richtext::Run& run : paragraph.runs) {
+    const int end = begin + static_cast<int>(richtext::ShownText(run).size());
+    const auto first = std::ranges::lower_bound(breaks, begin);
+    const auto last = std::ranges::lower_bound(first, breaks.end(), end);
+    InsertRun(run, {first, last}, begin, cursor);
+    begin = end;
+  }
 }
 
-void RichTextRenderer::InsertRun(const richtext::Run& run, QTextCursor& cursor) {
+void RichTextRenderer::InsertRun(const richtext::Run& run, std::span<const int> breaks, int begin,
+                                 QTextCursor& cursor) {
   if (const auto* const picture = std::get_if<richtext::Picture>(&run.content)) {
     return InsertPicture(*picture, cursor);
   }
   const auto* const text = std::get_if<std::string>(&run.content);
   if (text == nullptr) return;
   const QTextCharFormat format = formats_->Of(run.format);
-  std::string_view rest = *text;
+  std::size_t done = 0;
+  for (const int place : breaks) {
+    const auto end = static_cast<std::size_t>(place - begin);
+    InsertText(std::string_view(*text).substr(done, end - done), format, cursor);
+    cursor.insertText(QString(QChar(0x200B)), format);
+    done = end;
+  }
+  InsertText(std::string_view(*text).substr(done), format, cursor);
+}
+
+void RichTextRenderer::InsertText(std::string_view rest, const QTextCharFormat& format,
+                                  QTextCursor& cursor) {
   while (!rest.empty()) {
     const std::size_t end = std::min(rest.find('\f'), rest.size());
     cursor.insertText(ShownInBlock(rest.substr(0, end)), format);

@@ -9,6 +9,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextTable>
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include "desktop/widgets/rich_text_formats.h"
@@ -75,7 +77,10 @@ class RichTextRenderer {
   // Makes the cursor's block show the paragraph. `table` is the one that it stands in, which Qt
   // itself doesn't know before an edit has ended.
   void Fill(const richtext::Paragraph& paragraph, const QTextTable* table, QTextCursor& cursor);
-  void InsertRun(const richtext::Run& run, QTextCursor& cursor);
+  // `breaks` are those of BreaksInWords from the run's text on, against its beginning.
+  void InsertRun(const richtext::Run& run, std::span<const int> breaks, int begin,
+                 QTextCursor& cursor);
+  static void InsertText(std::string_view text, const QTextCharFormat& format, QTextCursor& cursor);
   void InsertPicture(const richtext::Picture& picture, QTextCursor& cursor);
 
   QTextDocument& target_;

@@ -60,6 +60,7 @@ class RichTextView : public QTextEdit {
   // Somebody but the renderer changed Qt's text.
   void TakeForeignChange();
 
+  void StepOverBreak(const QKeyEvent& event);
   bool PressCommandKey(const QKeyEvent& event);
   bool PressEraseKey(const QKeyEvent& event);
   bool PressTextKey(const QKeyEvent& event);
