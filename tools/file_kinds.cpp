@@ -17,7 +17,7 @@ constexpr RecordMeaning kGColor1[] = {
     {27, 40, Form::kText, "panel colour"},
     {42, 42, Form::kText, "grid background of the work area"},
     {49, 54, Form::kText, "panel colour"},
-    {55, 55, Form::kTagged, "document images' top toolbar"},
+    {55, 55, Form::kTagged, "document images' top toolbar, 0 hidden"},
     {56, 80, Form::kText, "panel colour"},
 };
 
@@ -46,7 +46,8 @@ constexpr RecordMeaning kGColor3[] = {
 
 constexpr RecordMeaning kGColor4[] = {{18, 29, Form::kTagged, "printer font or its size"}};
 constexpr RecordMeaning kHinv3[] = {{3, 3, Form::kTagged, "background of the start screen"}};
-constexpr RecordMeaning kGhinv1[] = {{10, 10, Form::kTagged, "document images' side toolbars"}};
+constexpr RecordMeaning kGhinv1[] = {
+    {10, 10, Form::kTagged, "document images' side toolbars, 0 hidden"}};
 
 constexpr RecordMeaning kCalendarOptions[] = {
     {14, 14, Form::kInteger, "months shown, less one"},
@@ -112,14 +113,14 @@ constexpr FileKind kKinds[] = {
     {"GColor3.Fil", "display settings", kRecords, "gcolor3.md", 20, kGColor3},
     {"GColor3.hb1", "backup of the display settings", kRecords, "gcolor3.md", 20, kGColor3},
     {"GColor4.Fil", "printer fonts", kRecords, "gcolor4.md", 40, kGColor4},
-    {"Gcolor17.Fil", "picture folder of contacts and employees", kValues},
-    {"GColor14.Fil", "picture folder of vehicles", kValues},
-    {"GColor44.Fil", "picture folder of document images", kValues},
-    {"GColor5.Fil", "start value of document images", kValues},
+    {"Gcolor17.Fil", "picture folder of contacts and employees", kValues, "picture-folders.md"},
+    {"GColor14.Fil", "picture folder of vehicles", kValues, "picture-folders.md"},
+    {"GColor44.Fil", "picture folder of document images", kValues, "picture-folders.md"},
+    {"GColor5.Fil", "background of document images", kValues, "gcolor5.md"},
     {"HINV3.Fil", "background of the start screen", kRecords, "hinv3.md", 10, kHinv3},
     {"HINV3.hb1", "backup of the start screen's background", kRecords, "hinv3.md", 10, kHinv3},
     {"Test1.hb1", "write test of a backup", kRecords, "hinv3.md", 10, kHinv3},
-    {"GHINV1.Fil", "toolbars of document images", kRecords, {}, 10, kGhinv1},
+    {"GHINV1.Fil", "toolbars of document images", kRecords, "ghinv1.md", 10, kGhinv1},
 
     {"Stat1.Fil", "status of documents", kRecords, "stat1.md", 20, kDocumentStatus},
     {"Stat1.hb1", "backup of the status of documents", kRecords, {}, 20, kDocumentStatus},

@@ -45,6 +45,10 @@ void TellRefused(Context& context, std::string_view what, storage::Fault why,
                         Icon::kCritical});
 }
 
+void TellHoldsForNow(Context& context, std::string_view what, storage::Fault why) {
+  TellRefused(context, what, why, "It holds for now.");
+}
+
 std::string UnreadableNote(std::string_view what, storage::Fault why) {
   return std::string(what).append(" can't be read: ").append(ReasonOf(why)) +
          ".\nNothing will be written over it.";

@@ -22,6 +22,9 @@ void TellNotSaved(Context& context, std::string_view what, storage::Fault why);
 void TellRefused(Context& context, std::string_view what, storage::Fault why,
                  std::string_view instead);
 
+// The same of a choice that holds though it wasn't stored, until it is read again.
+void TellHoldsForNow(Context& context, std::string_view what, storage::Fault why);
+
 // What stands in the place of a file that is there and can't be read: two sentences, each a line.
 // What shows it has to be locked.
 std::string UnreadableNote(std::string_view what, storage::Fault why);

@@ -29,8 +29,12 @@ void SaveAllPanelColors(forms::Context& context) {
                                    "Save Panel Color Changes for ALL of the Program Functions?",
                                    forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2});
   if (answer != forms::Answer::kYes) return;
-  settings::WritePanelColorForAll(context.folder, settings::StoredColor::FromText(color),
-                                  [&context] { context.loop.Yield(); });
+  const auto written = settings::WritePanelColorForAll(
+      context.folder, settings::StoredColor::FromText(color), [&context] { context.loop.Yield(); });
+  if (!written) {
+    return forms::TellRefused(context, "The color of all functions", written.fault(),
+                              "Some of them may have it.");
+  }
   variables.PanelColorLast = color;
   variables.PanelColorNew.clear();
   context.loop.Yield();

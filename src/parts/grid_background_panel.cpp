@@ -1,5 +1,6 @@
 #include "parts/grid_background_panel.h"
 
+#include "forms/disk_trouble.h"
 #include "storage/file_names.h"
 
 namespace tarnwell::parts {
@@ -63,8 +64,9 @@ void GridBackgroundPanel::UseColor() {
 void GridBackgroundPanel::Take(const settings::StoredColor& choice) {
   choice_ = choice;
   if (settings::HoldsForTheRun(function_)) context_.variables.GridBackgrounds[function_] = choice;
-  settings::WriteGridBackground(context_.folder, function_, choice);
+  const auto stored = settings::WriteGridBackground(context_.folder, function_, choice);
   Apply();
+  if (!stored) forms::TellHoldsForNow(context_, "The grid background", stored.fault());
 }
 
 // A wallpaper whose file is gone leaves the grids as they are.

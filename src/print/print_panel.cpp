@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "forms/disk_trouble.h"
 #include "forms/message.h"
 #include "print/report.h"
 #include "text/number_mask.h"
@@ -174,9 +175,12 @@ void PrintPanel::ChooseFont() {
   if (!chosen) return;
   const forms::Font font = forms::WithParts(start, *chosen);
   context_.variables.SetPrintFont(font);
-  if (job_.font) settings::WritePrinterFont(context_.folder, *job_.font, {font.name, font.size});
   ShowFont();
   Rebuild();
+  if (!job_.font) return;
+  const auto stored =
+      settings::WritePrinterFont(context_.folder, *job_.font, {font.name, font.size});
+  if (!stored) forms::TellHoldsForNow(context_, "The printer font", stored.fault());
 }
 
 void PrintPanel::ChooseSetup() {
@@ -203,7 +207,8 @@ void PrintPanel::ToggleZoom() {
 
 void PrintPanel::ChooseGuideLines(int option) {
   preview.SetGuideLines(option == 1);
-  settings::WriteGuideLines(context_.folder, job_.guide_lines, option);
+  const auto stored = settings::WriteGuideLines(context_.folder, job_.guide_lines, option);
+  if (!stored) forms::TellHoldsForNow(context_, "The choice of guide lines", stored.fault());
 }
 
 void PrintPanel::TakeChecks() {

@@ -29,10 +29,10 @@ StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground fu
   return StoredColor::FromText(ReadText(folder, PlaceOf(function)));
 }
 
-void WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
-                         const StoredColor& background) {
-  if (function == GridBackground::kPlanner) return;
-  WriteText(folder, PlaceOf(function), background.Text());
+storage::Outcome WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
+                                     const StoredColor& background) {
+  if (function == GridBackground::kPlanner) return {};
+  return WriteText(folder, PlaceOf(function), background.Text());
 }
 
 }  // namespace tarnwell::settings

@@ -20,7 +20,7 @@ constexpr bool HoldsForTheRun(GridBackground function) {
 
 // Nothing where a choice holds for the run, whatever is stored.
 StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground function);
-void WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
-                         const StoredColor& background);
+storage::Outcome WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
+                                     const StoredColor& background);
 
 }  // namespace tarnwell::settings

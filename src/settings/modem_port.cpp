@@ -15,8 +15,8 @@ int ReadModemPort(storage::ProgramFolder& folder) {
   return port >= kFirstPort && port <= kLastPort ? static_cast<int>(port) : kFirstPort;
 }
 
-void WriteModemPort(storage::ProgramFolder& folder, int port) {
-  WriteText(folder, kModemPort, std::to_string(port));
+storage::Outcome WriteModemPort(storage::ProgramFolder& folder, int port) {
+  return WriteText(folder, kModemPort, std::to_string(port));
 }
 
 }  // namespace tarnwell::settings

@@ -10,6 +10,6 @@ inline constexpr int kLastPort = 255;
 // The serial port of the modem. The first where no number of a port is stored: a colour once stood
 // in its record.
 int ReadModemPort(storage::ProgramFolder& folder);
-void WriteModemPort(storage::ProgramFolder& folder, int port);
+storage::Outcome WriteModemPort(storage::ProgramFolder& folder, int port);
 
 }  // namespace tarnwell::settings

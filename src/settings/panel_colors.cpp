@@ -81,15 +81,17 @@ storage::Outcome WritePanelColor(storage::ProgramFolder& folder, PanelColor func
   return WriteText(folder, PlaceOf(function), color.Text());
 }
 
-void WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
-                           const std::function<void()>& yield) {
+storage::Outcome WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
+                                       const std::function<void()>& yield) {
+  storage::Outcome outcome;
   for (const File& file : kForAll) {
-    {
-      auto records = OpenColors(folder, file.name);
-      for (int record : file.records) records.PutText(record, color.Text());
-    }
+    auto records = OpenColors(folder, file.name);
+    bool all_put = true;
+    for (int record : file.records) all_put &= records.PutText(record, color.Text());
+    if (const auto written = records.Finish(all_put); !written) outcome = written;
     if (yield && file.name != kGColor3) yield();
   }
+  return outcome;
 }
 
 StoredColor ReadTextColor(storage::ProgramFolder& folder) {

@@ -32,8 +32,9 @@ storage::Outcome WritePanelColor(storage::ProgramFolder& folder, PanelColor func
 
 // Writes the colour for all functions but the work area, and into the records that no function
 // reads any more: backup sets hold them. Calls `yield` after each file but the last.
-void WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
-                           const std::function<void()>& yield);
+// What the disk refuses doesn't keep the others from being written.
+storage::Outcome WritePanelColorForAll(storage::ProgramFolder& folder, const StoredColor& color,
+                                       const std::function<void()>& yield);
 
 // The text colour of documents and entry areas.
 StoredColor ReadTextColor(storage::ProgramFolder& folder);

@@ -20,19 +20,19 @@ std::string_view FileOf(PictureFolder screens) {
   return {};
 }
 
+// Where a toolbar is stored, and the number that says it is shown.
 struct ToolbarPlace {
   std::string_view file;
   int record_length;
   int record;
+  std::int16_t shown;
 };
 
-ToolbarPlace PlaceOf(ImageToolbar toolbar) {
-  if (toolbar == ImageToolbar::kTop) return {file_names::kGColor1, 20, 55};
-  return {file_names::kGhinv1, 10, 10};
-}
+constexpr std::int16_t kHidden = 0;
 
-storage::RecordFile Open(storage::ProgramFolder& folder, const ToolbarPlace& place) {
-  return storage::RecordFile(folder, place.file, place.record_length);
+ToolbarPlace PlaceOf(ImageToolbar toolbar) {
+  if (toolbar == ImageToolbar::kTop) return {file_names::kGColor1, 20, 55, 99};
+  return {file_names::kGhinv1, 10, 10, 88};
 }
 
 }  // namespace
@@ -41,26 +41,33 @@ std::string ReadPictureFolder(storage::ProgramFolder& folder, PictureFolder scre
   return storage::SequentialReader(folder, FileOf(screens)).Next();
 }
 
-bool WritePictureFolder(storage::ProgramFolder& folder, PictureFolder screens,
-                        const std::string& path) {
+storage::Outcome WritePictureFolder(storage::ProgramFolder& folder, PictureFolder screens,
+                                    const std::string& path) {
   storage::SequentialWriter file;
   file.WriteText(path);
-  return static_cast<bool>(file.Save(folder, FileOf(screens)));
+  return file.Save(folder, FileOf(screens));
 }
 
-std::string ReadImageStartValue(storage::ProgramFolder& folder) {
-  return storage::SequentialReader(folder, file_names::kImageStartValue).Next();
+StoredColor ReadImageBackground(storage::ProgramFolder& folder) {
+  const auto stored =
+      StoredColor::FromText(storage::SequentialReader(folder, file_names::kImageBackground).Next());
+  return stored.wallpaper() ? stored : StoredColor();
 }
 
-storage::TaggedValue ReadImageToolbar(storage::ProgramFolder& folder, ImageToolbar toolbar) {
+bool ReadImageToolbarShown(storage::ProgramFolder& folder, ImageToolbar toolbar) {
   const ToolbarPlace place = PlaceOf(toolbar);
-  return Open(folder, place).GetTagged(place.record);
+  storage::RecordFile file(folder, place.file, place.record_length);
+  const auto value = file.GetTagged(place.record);
+  return storage::IsEmpty(value) || storage::NumberOf(value) != kHidden;
 }
 
-void WriteImageToolbar(storage::ProgramFolder& folder, ImageToolbar toolbar,
-                       const storage::TaggedValue& shown) {
+storage::Outcome WriteImageToolbarShown(storage::ProgramFolder& folder, ImageToolbar toolbar,
+                                        std::optional<bool> shown) {
   const ToolbarPlace place = PlaceOf(toolbar);
-  Open(folder, place).PutTagged(place.record, shown);
+  storage::RecordFile file(folder, place.file, place.record_length);
+  storage::TaggedValue value;
+  if (shown) value = *shown ? place.shown : kHidden;
+  return file.Finish(file.PutTagged(place.record, value));
 }
 
 }  // namespace tarnwell::settings

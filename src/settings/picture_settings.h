@@ -2,10 +2,11 @@
 
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "settings/stored_color.h"
 #include "storage/program_folder.h"
-#include "storage/tagged_value.h"
 
 namespace tarnwell::settings {
 
@@ -17,16 +18,17 @@ enum class PictureFolder {
 
 // The folder from which a picture was taken last; empty for none.
 std::string ReadPictureFolder(storage::ProgramFolder& folder, PictureFolder screens);
-bool WritePictureFolder(storage::ProgramFolder& folder, PictureFolder screens,
-                        const std::string& path);
+storage::Outcome WritePictureFolder(storage::ProgramFolder& folder, PictureFolder screens,
+                                    const std::string& path);
 
-// The value that is supplied with the program for document images.
-std::string ReadImageStartValue(storage::ProgramFolder& folder);
+// What is supplied as the background of document images' window: a wallpaper, or nothing.
+StoredColor ReadImageBackground(storage::ProgramFolder& folder);
 
-// The toolbars of document images; empty when they were never switched.
+// The toolbars of document images are shown until they are hidden.
 enum class ImageToolbar { kTop, kSide };
-storage::TaggedValue ReadImageToolbar(storage::ProgramFolder& folder, ImageToolbar toolbar);
-void WriteImageToolbar(storage::ProgramFolder& folder, ImageToolbar toolbar,
-                       const storage::TaggedValue& shown);
+bool ReadImageToolbarShown(storage::ProgramFolder& folder, ImageToolbar toolbar);
+// Empty for a toolbar that was never switched.
+storage::Outcome WriteImageToolbarShown(storage::ProgramFolder& folder, ImageToolbar toolbar,
+                                        std::optional<bool> shown);
 
 }  // namespace tarnwell::settings

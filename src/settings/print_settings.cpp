@@ -6,6 +6,8 @@
 namespace tarnwell::settings {
 namespace {
 
+constexpr std::size_t kLongestName = 36;  // what a record has room for
+
 // Record numbers in GColor3.Fil.
 int RecordOf(GuideLines screens) {
   switch (screens) {
@@ -48,8 +50,9 @@ int ReadGuideLines(storage::ProgramFolder& folder, GuideLines screens) {
   return text::Trim(OpenGColor3(folder).GetText(RecordOf(screens))) == "1" ? 1 : 0;
 }
 
-void WriteGuideLines(storage::ProgramFolder& folder, GuideLines screens, int option) {
-  OpenGColor3(folder).PutText(RecordOf(screens), option == 1 ? "1" : "0");
+storage::Outcome WriteGuideLines(storage::ProgramFolder& folder, GuideLines screens, int option) {
+  return WriteText(folder, {storage::file_names::kGColor3, RecordOf(screens)},
+                   option == 1 ? "1" : "0");
 }
 
 StoredFont ReadPrinterFont(storage::ProgramFolder& folder, PrinterFont owner) {
@@ -59,11 +62,13 @@ StoredFont ReadPrinterFont(storage::ProgramFolder& folder, PrinterFont owner) {
           storage::NumberOf(file.GetTagged(record + 1))};
 }
 
-void WritePrinterFont(storage::ProgramFolder& folder, PrinterFont owner, const StoredFont& font) {
+storage::Outcome WritePrinterFont(storage::ProgramFolder& folder, PrinterFont owner,
+                                  const StoredFont& font) {
+  if (font.name.size() > kLongestName) return {};
   auto file = OpenGColor4(folder);
   const int record = RecordOf(owner);
-  if (!file.PutTagged(record, font.name)) return;
-  file.PutTagged(record + 1, static_cast<float>(font.size));
+  return file.Finish(file.PutTagged(record, font.name) &&
+                     file.PutTagged(record + 1, static_cast<float>(font.size)));
 }
 
 }  // namespace tarnwell::settings

@@ -20,7 +20,7 @@ enum class GuideLines {
 
 // 0 without, 1 with margin guides in the preview. Anything else on the disk reads as 0.
 int ReadGuideLines(storage::ProgramFolder& folder, GuideLines screens);
-void WriteGuideLines(storage::ProgramFolder& folder, GuideLines screens, int option);
+storage::Outcome WriteGuideLines(storage::ProgramFolder& folder, GuideLines screens, int option);
 
 // Who shares one printer font.
 enum class PrinterFont {
@@ -31,7 +31,7 @@ enum class PrinterFont {
   kEmployeeDisplay,
 };
 
-// A name longer than 36 characters isn't stored.
+// With a name longer than 36 characters it isn't stored, which is no trouble of the disk's.
 struct StoredFont {
   std::string name;  // empty when none is stored
   double size = 0;   // points; 0 when none is stored
@@ -40,6 +40,7 @@ struct StoredFont {
 };
 
 StoredFont ReadPrinterFont(storage::ProgramFolder& folder, PrinterFont owner);
-void WritePrinterFont(storage::ProgramFolder& folder, PrinterFont owner, const StoredFont& font);
+storage::Outcome WritePrinterFont(storage::ProgramFolder& folder, PrinterFont owner,
+                                  const StoredFont& font);
 
 }  // namespace tarnwell::settings

@@ -17,16 +17,16 @@ DistanceUnit ReadDistanceUnit(storage::ProgramFolder& folder) {
                                                             : DistanceUnit::kMiles;
 }
 
-void WriteDistanceUnit(storage::ProgramFolder& folder, DistanceUnit unit) {
-  WriteText(folder, kDistanceUnit, unit == DistanceUnit::kKilometers ? "1" : "0");
+storage::Outcome WriteDistanceUnit(storage::ProgramFolder& folder, DistanceUnit unit) {
+  return WriteText(folder, kDistanceUnit, unit == DistanceUnit::kKilometers ? "1" : "0");
 }
 
 bool ReadDateCheckerOn(storage::ProgramFolder& folder) {
   return text::Trim(ReadText(folder, kDateChecker)) != kOff;
 }
 
-void WriteDateCheckerOn(storage::ProgramFolder& folder, bool on) {
-  WriteText(folder, kDateChecker, on ? "" : kOff);
+storage::Outcome WriteDateCheckerOn(storage::ProgramFolder& folder, bool on) {
+  return WriteText(folder, kDateChecker, on ? "" : kOff);
 }
 
 }  // namespace tarnwell::settings

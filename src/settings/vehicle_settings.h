@@ -8,10 +8,10 @@ namespace tarnwell::settings {
 enum class DistanceUnit { kMiles = 0, kKilometers = 1 };
 
 DistanceUnit ReadDistanceUnit(storage::ProgramFolder& folder);
-void WriteDistanceUnit(storage::ProgramFolder& folder, DistanceUnit unit);
+storage::Outcome WriteDistanceUnit(storage::ProgramFolder& folder, DistanceUnit unit);
 
 // The date checker refuses dates in the future. It is on unless it was switched off.
 bool ReadDateCheckerOn(storage::ProgramFolder& folder);
-void WriteDateCheckerOn(storage::ProgramFolder& folder, bool on);
+storage::Outcome WriteDateCheckerOn(storage::ProgramFolder& folder, bool on);
 
 }  // namespace tarnwell::settings

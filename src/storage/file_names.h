@@ -25,7 +25,7 @@ inline constexpr std::string_view kCalendarOptions = "CalOpt.fil";
 inline constexpr std::string_view kPersonPictureFolder = "Gcolor17.Fil";
 inline constexpr std::string_view kVehiclePictureFolder = "GColor14.Fil";
 inline constexpr std::string_view kImageFolder = "GColor44.Fil";
-inline constexpr std::string_view kImageStartValue = "GColor5.Fil";  // supplied
+inline constexpr std::string_view kImageBackground = "GColor5.Fil";  // supplied
 
 // Company documents.
 inline constexpr std::string_view kDocumentStatus = "Stat1.Fil";

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "parts/grid_background_panel.h"
 #include "settings/grid_backgrounds.h"
 #include "storage/record_file.h"
@@ -189,6 +191,16 @@ TEST_F(GridBackgroundPanelTest, AColourOrTheDefaultTakesThePicturesPlace) {
   selector.commands[2].Click();
   EXPECT_EQ(look, GridLook{});
   EXPECT_EQ(Stored(), "Default");
+}
+
+TEST_F(GridBackgroundPanelTest, AColourThatTheDiskRefusesIsToldAndHolds) {
+  ASSERT_TRUE(std::filesystem::create_directory(rig.temporary.path() + "/GColor1.Fil"));
+  rig.dialogs.ExpectColor(0xCCFFCC);
+  rig.dialogs.Expect("Not Saved",
+                     "The grid background could not be saved: something else has the name of its "
+                     "file.\nIt holds for now.");
+  selector.commands[3].Click();
+  EXPECT_EQ(look.color, 0xCCFFCC);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "storage/record_file.h"
 #include "support/form_rig.h"
 
@@ -141,6 +143,23 @@ TEST_F(PrintPanelTest, GuideLinesAreStoredWhenAPersonChoosesThem) {
   print.guide_lines.Pick(0);
   EXPECT_EQ(GColor3().GetText(14), "0");
   EXPECT_EQ(builds, 1);
+}
+
+TEST_F(PrintPanelTest, AChoiceThatTheDiskRefusesIsToldAndHolds) {
+  for (const char* name : {"/GColor3.Fil", "/GColor4.Fil"}) {
+    ASSERT_TRUE(std::filesystem::create_directory(rig.temporary.path() + name));
+  }
+  print.Open(Job());
+  const std::string why =
+      " could not be saved: something else has the name of its file.\nIt holds for now.";
+  rig.dialogs.Expect("Not Saved", "The choice of guide lines" + why);
+  print.guide_lines.Pick(1);
+  EXPECT_TRUE(print.preview.guide_lines());
+  rig.dialogs.ExpectFont(forms::Font{"Arial", 12.5});
+  rig.dialogs.Expect("Not Saved", "The printer font" + why);
+  print.commands[0].Click();
+  EXPECT_EQ(rig.variables.PrintFontName, "Arial");
+  EXPECT_EQ(print.values[0].caption(), "Arial ");
 }
 
 TEST_F(PrintPanelTest, ChecksHoldForTheRunAndChangeThePreview) {

@@ -1,32 +1,20 @@
-// The settings by their names, held to the bytes of the pages of docs/formats/.
+// What the settings make of what else may stand in their records.
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-
 #include "settings/grid_backgrounds.h"
 #include "settings/modem_port.h"
-#include "settings/panel_colors.h"
 #include "settings/picture_settings.h"
-#include "settings/planner_settings.h"
 #include "settings/print_settings.h"
 #include "settings/stored_color.h"
-#include "settings/vehicle_settings.h"
 #include "storage/record_file.h"
-#include "support/format_page.h"
 #include "support/temporary_folder.h"
 
 namespace tarnwell::settings {
 namespace {
 
-using tarnwell::testing::FileOf;
-using tarnwell::testing::ReadFormatExample;
-
 class SettingsTest : public ::testing::Test {
  protected:
-  std::string Text(const char* file, int record) {
-    return storage::RecordFile(folder, file, 20).GetText(record);
-  }
   tarnwell::testing::TemporaryFolder disk;
   storage::ProgramFolder folder{storage::RealFileSystem(), disk.path()};
 };
@@ -58,73 +46,9 @@ TEST(StoredColorTest, ATextIsANumberTheDefaultAWallpaperOrNothing) {
   }
 }
 
-TEST_F(SettingsTest, ColoursBackgroundsAndFontsLieWhereTheirPagesSay) {
-  WritePanelColor(folder, PanelColor::kPlanner, StoredColor::Default());
-  WritePanelColor(folder, PanelColor::kBudget, StoredColor::Number(0xFFFFCC));
-  WriteGridBackground(folder, GridBackground::kBudget, StoredColor::Wallpaper(3));
-  WriteModemPort(folder, 3);
-  WriteDateCheckerOn(folder, false);
-  EXPECT_EQ(disk.Read("GColor1.Fil"), FileOf(ReadFormatExample("gcolor1.md")));
-  WritePanelColor(folder, PanelColor::kPicturePages, StoredColor::Default());
-  WriteFieldColor(folder, FieldColor::kPicturePages, StoredColor::Number(0xFFFFFF));
-  EXPECT_EQ(disk.Read("GColor2.Fil"), FileOf(ReadFormatExample("gcolor2.md")));
-  WritePrinterFont(folder, PrinterFont::kPlannerDay, {"Arial", 12});
-  EXPECT_EQ(disk.Read("GColor4.Fil"), FileOf(ReadFormatExample("gcolor4.md")));
-
-  EXPECT_EQ(ReadPanelColor(folder, PanelColor::kBudget), StoredColor::Number(0xFFFFCC));
-  EXPECT_EQ(ReadGridBackground(folder, GridBackground::kBudget), StoredColor::Wallpaper(3));
-  EXPECT_FALSE(ReadDateCheckerOn(folder));
-  EXPECT_EQ(ReadFieldColor(folder, FieldColor::kPicturePages), StoredColor::Number(0xFFFFFF));
-  EXPECT_EQ(ReadPrinterFont(folder, PrinterFont::kPlannerDay), (StoredFont{"Arial", 12}));
-  EXPECT_EQ(ReadPrinterFont(folder, PrinterFont::kPlannerMonth), StoredFont{});
-}
-
-TEST_F(SettingsTest, OneColourForAllReachesEveryTargetAndNothingElse) {
-  constexpr int kTargets[] = {10,   11,   12,   13,   16,   17,   18,   22,   27,   32,
-                              36,   38,   40,   49,   54,   56,   70,   80,   1005, 1009,
-                              1012, 1016, 1019, 1020, 1022, 1025, 1040, 2008, 2017, 2091,
-                              2092, 2100, 2101, 2102, 2103, 2104, 2105};
-  int yields = 0;
-  WritePanelColorForAll(folder, StoredColor::Default(), [&] { ++yields; });
-  EXPECT_EQ(yields, 2);
-  const char* files[] = {"GColor1.Fil", "GColor2.Fil", "GColor3.Fil"};
-  for (int file = 0; file < 3; ++file) {
-    for (int record = 1; record <= 110; ++record) {
-      const bool target = std::ranges::count(kTargets, 1000 * file + record) == 1;
-      EXPECT_EQ(Text(files[file], record), target ? "Default" : "") << files[file] << record;
-    }
-  }
-}
-
-TEST_F(SettingsTest, TheTextColourIsATaggedNumber) {
-  EXPECT_TRUE(ReadTextColor(folder).empty());
-  WriteTextColor(folder, 0x800000);
-  EXPECT_EQ(disk.Read("GColor3.Fil").substr(3 * 20), std::string("\x03\0\0\0\x80\0", 6));
-  EXPECT_EQ(ReadTextColor(folder), StoredColor::Number(0x800000));
-}
-
-TEST_F(SettingsTest, TheWorkAreasBackgroundIsWrittenOnly) {
-  WriteGridBackground(folder, GridBackground::kWorkArea, StoredColor::Wallpaper(9));
-  EXPECT_EQ(Text("GColor1.Fil", 42), "WP9");
-  EXPECT_TRUE(ReadGridBackground(folder, GridBackground::kWorkArea).empty());
-  const auto stored = disk.Read("GColor1.Fil");
-  WriteGridBackground(folder, GridBackground::kPlanner, StoredColor::Wallpaper(9));
-  EXPECT_EQ(disk.Read("GColor1.Fil"), stored);
-}
-
-TEST_F(SettingsTest, SettingsThatOnceSharedARecordHoldBesideEachOther) {
-  WriteModemPort(folder, 255);
-  WriteGridBackground(folder, GridBackground::kDisplayGrids, StoredColor::Wallpaper(7));
-  WriteSortTime(folder, 0);
-  WriteGuideLines(folder, GuideLines::kPlannerMonth, 1);
-  WriteSortTime(folder, 1, SortTime::kCalendarSheet);
-  EXPECT_EQ(ReadModemPort(folder), 255);
-  EXPECT_EQ(ReadGridBackground(folder, GridBackground::kDisplayGrids), StoredColor::Wallpaper(7));
-  EXPECT_EQ(ReadSortTime(folder), 0);
-  EXPECT_EQ(ReadGuideLines(folder, GuideLines::kPlannerMonth), 1);
-  EXPECT_EQ(ReadSortTime(folder, SortTime::kCalendarSheet), 1);
-  EXPECT_EQ(Text("GColor3.Fil", 25), "WP7");
-  EXPECT_EQ(Text("GColor3.Fil", 57), "1");
+TEST_F(SettingsTest, ThePlannersBackgroundHasNoRecord) {
+  EXPECT_TRUE(WriteGridBackground(folder, GridBackground::kPlanner, StoredColor::Wallpaper(9)));
+  EXPECT_EQ(disk.Read("GColor1.Fil") + disk.Read("GColor3.Fil"), "");
 }
 
 TEST_F(SettingsTest, WhatIsNoPortInTheModemsRecordIsPortOne) {
@@ -139,17 +63,30 @@ TEST_F(SettingsTest, WhatIsNoPortInTheModemsRecordIsPortOne) {
   }
 }
 
-TEST_F(SettingsTest, GuideLinesAreAZeroOrAOne) {
-  const std::pair<GuideLines, int> records[] = {
-      {GuideLines::kMainScreens, 11},   {GuideLines::kYearSheets, 12},
-      {GuideLines::kVehicles, 14},      {GuideLines::kDisplays, 16},
-      {GuideLines::kCalendarSheet, 56}, {GuideLines::kPlannerMonth, 59},
-  };
-  for (const auto& [screens, record] : records) {
-    EXPECT_EQ(ReadGuideLines(folder, screens), 0);
-    WriteGuideLines(folder, screens, 1);
-    EXPECT_EQ(Text("GColor3.Fil", record), "1");
-    EXPECT_EQ(ReadGuideLines(folder, screens), 1);
+TEST_F(SettingsTest, AToolbarIsHiddenByAZeroAndByNothingElse) {
+  const struct {
+    storage::TaggedValue stored;
+    bool shown;
+  } cases[] = {{{}, true},
+               {std::int16_t{99}, true},
+               {std::int16_t{88}, true},
+               {std::int16_t{1}, true},
+               {std::int16_t{0}, false}};
+  for (const auto& c : cases) {
+    storage::RecordFile(folder, "GColor1.Fil", 20).PutTagged(55, c.stored);
+    EXPECT_EQ(ReadImageToolbarShown(folder, ImageToolbar::kTop), c.shown);
+  }
+  WriteImageToolbarShown(folder, ImageToolbar::kSide, true);
+  EXPECT_EQ(storage::RecordFile(folder, "GHINV1.Fil", 10).GetTagged(10),
+            storage::TaggedValue(std::int16_t{88}));
+  WriteImageToolbarShown(folder, ImageToolbar::kSide, std::nullopt);
+  EXPECT_TRUE(storage::IsEmpty(storage::RecordFile(folder, "GHINV1.Fil", 10).GetTagged(10)));
+}
+
+TEST_F(SettingsTest, OnlyAWallpaperIsABackgroundOfDocumentImages) {
+  for (const char* supplied : {"", "\"16777215\"\r\n", "\"WP17\"\r\n", "\"Default\"\r\n"}) {
+    disk.Write("GColor5.Fil", supplied);
+    EXPECT_TRUE(ReadImageBackground(folder).empty()) << supplied;
   }
 }
 
@@ -162,20 +99,6 @@ TEST_F(SettingsTest, AFontsSizeIsReadFromANumberOfAnyKind) {
   }
   WritePrinterFont(folder, PrinterFont::kVehicles, {std::string(37, 'n'), 12});
   EXPECT_EQ(ReadPrinterFont(folder, PrinterFont::kVehicles), (StoredFont{"", 9}));
-}
-
-TEST_F(SettingsTest, SmallSettingsComeBack) {
-  EXPECT_EQ(ReadPictureFolder(folder, PictureFolder::kPeople), "");
-  WritePictureFolder(folder, PictureFolder::kPeople, "c:\\Pictures");
-  EXPECT_EQ(disk.Read("Gcolor17.Fil"), "\"c:\\Pictures\"\r\n");
-  EXPECT_EQ(ReadPictureFolder(folder, PictureFolder::kPeople), "c:\\Pictures");
-  EXPECT_EQ(ReadDistanceUnit(folder), DistanceUnit::kMiles);
-  WriteDistanceUnit(folder, DistanceUnit::kKilometers);
-  EXPECT_EQ(Text("GColor3.Fil", 40), "1");
-  EXPECT_EQ(ReadDistanceUnit(folder), DistanceUnit::kKilometers);
-  WriteImageToolbar(folder, ImageToolbar::kSide, std::int16_t{1});
-  EXPECT_EQ(ReadImageToolbar(folder, ImageToolbar::kSide), storage::TaggedValue(std::int16_t{1}));
-  EXPECT_TRUE(storage::IsEmpty(ReadImageToolbar(folder, ImageToolbar::kTop)));
 }
 
 }  // namespace

@@ -84,21 +84,6 @@ TEST_F(FormatPagesTest, CalendarOptions) {
   ExpectBytesOfPage("CalOpt.fil", "calopt.md");
 }
 
-TEST_F(FormatPagesTest, DisplaySettings) {
-  RecordFile file(folder_, file_names::kGColor3, 20);
-  file.PutText(25, "12632256");
-  file.PutText(35, "Yes");
-  file.PutTagged(36, 11200.0f);
-  file.PutTagged(37, std::int32_t{15100});
-  file.PutText(58, "1");
-  ExpectBytesOfPage("GColor3.Fil", "gcolor3.md");
-}
-
-TEST_F(FormatPagesTest, StartBackground) {
-  RecordFile(folder_, file_names::kHinv3, 10).PutTagged(3, std::int32_t{16711680});
-  ExpectBytesOfPage("HINV3.Fil", "hinv3.md");
-}
-
 TEST_F(FormatPagesTest, ToDoList) {
   WriteNameList(folder_, file_names::kToDoList, {"Pay rent", "Mon - Mar 9, 26", "", "", ""});
   ExpectBytesOfPage("TODOActv.FIL", "todoactv.md");

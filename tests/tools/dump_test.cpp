@@ -44,7 +44,7 @@ TEST(FileKindsTest, EveryFileOfTheProgramHasOneAndItsPageExists) {
                                       file_names::kPersonPictureFolder,
                                       file_names::kVehiclePictureFolder,
                                       file_names::kImageFolder,
-                                      file_names::kImageStartValue,
+                                      file_names::kImageBackground,
                                       file_names::kDocumentStatus,
                                       file_names::kWorksheetTitles,
                                       file_names::kJobDescriptions,
@@ -115,7 +115,7 @@ TEST(DumpTest, PrintsTheExamplesOfThePagesInWords) {
        "record 25 (grid background of the display grids): \"12632256\"\n"
        "record 35 (\"Yes\": smaller-screen display): \"Yes\"\n"
        "record 36 (window height in twips): 11200 (4-byte float)\n"
-       "record 37 (window width in twips): 15100 (4-byte integer)\n"
+       "record 37 (window width in twips): 15100 (4-byte float)\n"
        "record 58 (rows without a time, 0 first, 1 last): \"1\"\n"},
       {"HINV3.Fil", "hinv3.md",
        "HINV3.Fil: background of the start screen, 26 bytes\n"
