@@ -27,8 +27,7 @@ void Control::SetToolTip(std::string_view text) {
 
 void Control::Focus() {
   if (!Reachable() || focused()) return;
-  form().MoveFocus(this);
-  Run(on_focus);
+  if (form().MoveFocus(*this)) Run(on_focus);
 }
 
 bool Control::focused() const { return form().focus() == this; }

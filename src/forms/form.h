@@ -92,7 +92,8 @@ class Form : public Container {
  private:
   friend class Control;
   friend class Navigator;
-  void MoveFocus(Control* control);
+  // False when the control before has sent the focus elsewhere.
+  bool MoveFocus(Control& control);
   void SetBusy(bool busy);
 
   std::string name_;
@@ -105,6 +106,7 @@ class Form : public Container {
   int help_context_ = 0;
   bool on_top_ = false;
   bool busy_ = false;
+  bool leaving_ = false;  // a control's `on_leave` runs
   Notifier changed_;
 };
 
