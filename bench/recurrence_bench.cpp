@@ -36,6 +36,7 @@ class Dialogs : public forms::Dialogs {
   forms::Answer Message(const forms::MessageBox& box) override {
     return box.buttons == forms::Buttons::kOk ? forms::Answer::kOk : forms::Answer::kYes;
   }
+  std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
 };

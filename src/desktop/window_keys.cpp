@@ -69,8 +69,12 @@ bool WindowKeys::TakeMnemonic(const QKeyEvent& key, bool act) {
   auto* button = page->findChild<QAbstractButton*>(FromCore(target->name()));
   if (!button || !button->isVisible()) return false;
   if (act) {
-    if (button->focusPolicy() != Qt::NoFocus) button->setFocus(Qt::ShortcutFocusReason);
-    button->click();
+    const bool takes_focus = button->focusPolicy() != Qt::NoFocus;
+    if (takes_focus) button->setFocus(Qt::ShortcutFocusReason);
+    // The control before may not let the focus go; then the button is as little pressed as with the
+    // mouse.
+    const QWidget* focus = QApplication::focusWidget();
+    if (!takes_focus || !focus || focus == button) button->click();
   }
   return true;
 }

@@ -43,8 +43,7 @@ bool Control::LiesIn(const Control& outer) const {
 
 void Control::Focus() {
   if (!Reachable() || focused()) return;
-  form().MoveFocus(this);
-  Run(on_focus);
+  if (form().MoveFocus(*this)) Run(on_focus);
 }
 
 bool Control::focused() const { return form().focus() == this; }

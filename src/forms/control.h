@@ -66,10 +66,15 @@ class Control {
   const std::string& spoken_name() const { return spoken_name_; }
   void SetSpokenName(std::string_view text) { spoken_name_ = text; }
 
-  // Takes the focus, by a person or by the form; runs `on_focus` unless it has the focus already.
+  // Takes the focus, by a person or by the form. Unless it has the focus already, the control
+  // before it runs its `on_leave`, then this one its `on_focus`.
   void Focus();
   bool focused() const;
   std::function<void()> on_focus;
+  // The focus has gone to another control of the form. A handler may put it back, or elsewhere;
+  // then that other control counts as never entered. A command that is chosen by Enter, by Esc or
+  // in a menu leaves the focus where it is, and so does another form that comes on top.
+  std::function<void()> on_leave;
 
   // After any change of state that a view shows.
   [[nodiscard]] Subscription OnChanged(Notifier::Listener listener) {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,14 @@ struct MessageBox {
   int default_button = 1;  // 1-based
 };
 
+// A box with one line to type in.
+struct InputBox {
+  std::string title;
+  std::string prompt;            // lines parted by '\n'
+  std::string text = {};         // stands in the line at first, marked, so that typing replaces it
+  std::size_t max_length = 255;  // characters
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -30,6 +39,8 @@ class Dialogs {
   // Closing the box by other means answers Cancel where there is such a button, and OK to an OK
   // alone. A box of Yes and No stays until one of the two is pressed: either may lose something.
   virtual Answer Message(const MessageBox& box) = 0;
+  // What was in the line at OK, "" for nothing; no value when it was cancelled or closed.
+  virtual std::optional<std::string> Input(const InputBox& box) = 0;
   // Empty when it was cancelled.
   virtual std::optional<Color> ChooseColor(Color start) = 0;
   // A printer's font with its size, style and colour: the parts that a person chose, whatever the

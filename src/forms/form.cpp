@@ -79,12 +79,19 @@ bool Form::LeavesFree(const Control& control) const {
   });
 }
 
-void Form::MoveFocus(Control* control) {
+bool Form::MoveFocus(Control& control) {
   Control* before = focus_;
-  focus_ = control;
+  focus_ = &control;
   if (before) before->Changed();
-  control->Changed();
+  control.Changed();
   changed_.Notify();
+  // What a handler sends the focus on from was never entered, so there is nothing to leave.
+  if (before && before->on_leave && !leaving_) {
+    leaving_ = true;
+    before->on_leave();
+    leaving_ = false;
+  }
+  return focus_ == &control;
 }
 
 }  // namespace tarnwell::forms

@@ -101,8 +101,9 @@ class Form : public Container {
  private:
   friend class Control;
   friend class Navigator;
-  void MoveFocus(Control* control);
   bool LeavesFree(const Control& control) const;
+  // False when the control before has sent the focus elsewhere.
+  bool MoveFocus(Control& control);
 
   std::string name_;
   std::string caption_;
@@ -114,6 +115,7 @@ class Form : public Container {
   int help_context_ = 0;
   bool on_top_ = false;
   std::vector<std::vector<const Control*>> runs_;  // what each leaves free, the innermost last
+  bool leaving_ = false;                           // a control's `on_leave` runs
   Notifier changed_;
 };
 

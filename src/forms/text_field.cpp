@@ -16,6 +16,11 @@ void TextField::SetText(std::string_view text) {
   Changed();
 }
 
+void TextField::Select(std::size_t begin, std::size_t end) {
+  selection_.Ask(begin, end, text_.size());
+  Changed();
+}
+
 void TextField::SetMarked(bool marked) {
   if (marked_ == marked) return;
   marked_ = marked;

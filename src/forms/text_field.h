@@ -7,6 +7,7 @@
 
 #include "forms/color.h"
 #include "forms/control.h"
+#include "forms/text_selection.h"
 
 namespace tarnwell::forms {
 
@@ -34,6 +35,12 @@ class TextField : public Control {
   std::size_t max_length() const { return max_length_; }
   bool select_on_entry() const { return select_on_entry_; }
 
+  // Marks characters and puts the caret behind them, without taking the focus.
+  void Select(std::size_t begin, std::size_t end);
+  void SelectAll() { Select(0, text_.size()); }
+  void PlaceCaret(std::size_t at) { Select(at, at); }
+  const TextSelection& selection() const { return selection_; }
+
   // The row in hand is marked.
   bool marked() const { return marked_; }
   void SetMarked(bool marked);
@@ -59,6 +66,7 @@ class TextField : public Control {
   std::string text_;
   std::size_t max_length_;
   bool select_on_entry_;
+  TextSelection selection_;
   bool marked_ = false;
   std::optional<Color> color_;
 };

@@ -6,15 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "forms/choice.h"
 #include "forms/command.h"
 #include "forms/context.h"
-#include "forms/control_array.h"
 #include "forms/grid.h"
 #include "forms/label.h"
-#include "forms/list_box.h"
 #include "forms/panel.h"
 #include "forms/text_field.h"
+#include "parts/folder_chooser.h"
 
 namespace tarnwell::parts {
 
@@ -36,17 +34,12 @@ class ExportPanel {
   ExportPanel(forms::Container& parent, forms::Context& context, const ExportStyle& style = {});
 
   forms::Panel panel;
-  forms::ControlArray<forms::Label, 4> lines{panel, "Label100"};
-  forms::Label drives_heading{panel, "Label20", "Drives:"};
-  // The places of this machine from which folders are reached.
-  forms::ComboBox drives{panel, "Drive1", "Drives"};
-  forms::Label folders_heading{panel, "Label21", "Folders:"};
-  // The folder above is its first row, "..", where there is one. A folder is opened, not picked.
-  forms::ListBox folders{panel, "Dir1", "Folders"};
-  forms::Label path_heading{panel, "Label22", "Path:"};
-  forms::Label path{panel, "Label24"};
-  forms::Label files_heading{panel, "Label23", "File:"};
-  forms::ListBox files{panel, "File1", "File"};
+  forms::Label folder_line{panel, "Label100(0)"};
+  forms::Label name_line{panel, "Label100(1)"};
+  forms::Label replace_line{panel, "Label100(2)",
+                            "Note: If File already exists it will be replaced with this file!"};
+  forms::Label extra_line{panel, "Label100(3)"};
+  FolderChooser chooser;
   forms::TextField name;
   forms::Command save{panel, "SSCommand100(0)", "Export File to Selected Folder"};
   forms::Command close{panel, "SSCommand100(1)", "Close"};
@@ -59,13 +52,8 @@ class ExportPanel {
   std::function<void()> on_close;
 
  private:
-  void PickDrive();
-  void OpenFolder();
   void PickFile();
   void Export();
-  bool Show(const std::string& folder);
-  void SelectDrive();
-  bool FallBack();
   void ShowLines();
   void EnableSave();
   std::string TakeName();
@@ -73,9 +61,6 @@ class ExportPanel {
   forms::Context& context_;
   ExportStyle style_;
   const forms::Grid* grid_ = nullptr;
-  std::vector<forms::Place> places_;
-  std::string folder_;  // with a "/" behind
-  bool no_drive_ = false;
 };
 
 }  // namespace tarnwell::parts

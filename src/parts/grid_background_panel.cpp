@@ -20,15 +20,10 @@ GridBackgroundPanel::GridBackgroundPanel(forms::Container& parent, forms::Contex
     thumbnails[i].SetSpokenName("Background " + std::to_string(number));
     thumbnails[i].on_click = [this, i] { Mark(i); };
   }
-  commands[0].SetCaption("&Exit");
-  commands[0].SetCancel(true);
-  commands[0].on_click = [this] { Exit(); };
-  commands[1].SetCaption("Use &Above Background");
-  commands[1].on_click = [this] { UseMarked(); };
-  commands[2].SetCaption("Use &Default Background");
-  commands[2].on_click = [this] { UseDefault(); };
-  commands[3].SetCaption("&Select Color Background");
-  commands[3].on_click = [this] { UseColor(); };
+  exit.on_click = [this] { Exit(); };
+  use_marked.on_click = [this] { UseMarked(); };
+  use_default.on_click = [this] { UseDefault(); };
+  use_color.on_click = [this] { UseColor(); };
 }
 
 void GridBackgroundPanel::Load() {

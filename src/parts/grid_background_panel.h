@@ -26,7 +26,10 @@ class GridBackgroundPanel {
   forms::ControlArray<forms::Picture, settings::kWallpapers> thumbnails{panel, "Image3",
                                                                         std::string_view()};
   forms::Picture preview{panel, "Image4", {}};
-  forms::ControlArray<forms::Command, 4> commands{panel, "SSCommand90", std::string_view()};
+  forms::Command exit{panel, "SSCommand90(0)", "&Exit", {.cancel = true}};
+  forms::Command use_marked{panel, "SSCommand90(1)", "Use &Above Background"};
+  forms::Command use_default{panel, "SSCommand90(2)", "Use &Default Background"};
+  forms::Command use_color{panel, "SSCommand90(3)", "&Select Color Background"};
 
   // Shows the stored background in the grids.
   void Load();

@@ -78,8 +78,7 @@ void MainScreen::AskToExit() {
 }
 
 void MainScreen::Unload() {
-  if (main_buttons.selected() == own_) return context_.navigator.EndProgram();
-  if (context_.variables.MainArea == own_) context_.variables.MainArea = kCompanyData;
+  if (main_buttons.selected() == own_) context_.navigator.EndProgram();
 }
 
 }  // namespace tarnwell::parts

@@ -10,9 +10,6 @@
 namespace tarnwell::print {
 namespace {
 
-enum CommandIndex : std::size_t { kFont, kSetup, kClose, kCopy, kPrint };
-enum ValueIndex : std::size_t { kFontName, kFontSize, kOrientation };
-
 constexpr std::chrono::seconds kPatience{1};
 
 std::chrono::sys_seconds PointOf(const text::Moment& moment) {
@@ -23,32 +20,30 @@ std::chrono::sys_seconds PointOf(const text::Moment& moment) {
 
 PrintPanel::PrintPanel(forms::Container& parent, forms::Context& context,
                        const PrintPanelStyle& style)
-    : panel(parent, "SSPanel80"), context_(context), engine_(context.pages.metrics()) {
+    : panel(parent, "SSPanel80"),
+      close(panel, "SSCommand80(2)", style.close_caption, {.cancel = true}),
+      print(panel, "SSCommand80(4)", style.print_caption),
+      zoom(panel, style.zoom_name, "Enlarge"),
+      context_(context),
+      engine_(context.pages.metrics()) {
   panel.SetVisible(false);
   panel.SetHelpContext(kPrintHelp);
   progress.SetVisible(false);
   BuildControls(style);
   engine_.on_new_page = [this] { HeadPage(); };
-  commands[kFont].on_click = [this] { ChooseFont(); };
-  commands[kSetup].on_click = [this] { ChooseSetup(); };
-  commands[kClose].on_click = [this] { Close(); };
-  commands[kCopy].on_click = [this] { CopyPage(); };
-  commands[kPrint].on_click = [this] { context_.pages.Print(engine_.document()); };
+  font.on_click = [this] { ChooseFont(); };
+  page_setup.on_click = [this] { ChooseSetup(); };
+  close.on_click = [this] { Close(); };
+  copy_page.on_click = [this] { CopyPage(); };
+  print.on_click = [this] { context_.pages.Print(engine_.document()); };
   zoom.on_click = [this] { ToggleZoom(); };
   guide_lines.on_pick = [this](int option) { ChooseGuideLines(option); };
   line_styles.on_pick = [this](int) { Rebuild(); };
 }
 
 void PrintPanel::BuildControls(const PrintPanelStyle& style) {
-  const std::string_view captions[] = {"Printer &Font", "&Page Setup", style.close_caption,
-                                       "C&opy Current Page", style.print_caption};
-  for (std::size_t i = 0; i < commands.size(); ++i) commands[i].SetCaption(captions[i]);
-  commands[kClose].SetCancel(true);
-  headings[kFontName].SetCaption("Printer Font:");
-  headings[kFontSize].SetCaption("Font Size:");
-  headings[kOrientation].SetCaption("Orientation:");
   if (style.auto_size) {
-    auto_size.emplace(panel, "SSCommand2", "Auto Size");
+    auto_size.emplace(panel, style.auto_size_name, "Auto Size");
     auto_size->on_click = [this] {
       preview.SetZoom(forms::Zoom::kWholePage);
       zoom.SetCaption("Enlarge");
@@ -123,15 +118,15 @@ void PrintPanel::ShowSettings() {
 void PrintPanel::ShowOrientation() {
   const bool is_own = job_.own_paper && engine_.page_count() > 0;
   const bool lies = is_own ? engine_.document().SetupOf(0).landscape : setup_.landscape;
-  values[kOrientation].SetCaption(lies ? " Landscape" : " Portrait");
+  orientation.SetCaption(lies ? " Landscape" : " Portrait");
 }
 
 void PrintPanel::ShowFont() {
-  const forms::Font font = context_.variables.PrintFont();
-  const bool whole = font.size == static_cast<int>(font.size);
-  values[kFontName].SetCaption(font.name + " ");
-  values[kFontSize].SetCaption(" " + text::FormatNumber(font.size, whole ? "0" : "0.0"));
-  sample.SetFont(font);
+  const forms::Font chosen = context_.variables.PrintFont();
+  const bool whole = chosen.size == static_cast<int>(chosen.size);
+  font_name.SetCaption(chosen.name + " ");
+  font_size.SetCaption(" " + text::FormatNumber(chosen.size, whole ? "0" : "0.0"));
+  sample.SetFont(chosen);
 }
 
 void PrintPanel::Rebuild() {
@@ -173,13 +168,13 @@ void PrintPanel::ChooseFont() {
   const forms::Font start = context_.variables.PrintFont();
   const auto chosen = context_.dialogs.ChooseFont(start);
   if (!chosen) return;
-  const forms::Font font = forms::WithParts(start, *chosen);
-  context_.variables.SetPrintFont(font);
+  const forms::Font next = forms::WithParts(start, *chosen);
+  context_.variables.SetPrintFont(next);
   ShowFont();
   Rebuild();
   if (!job_.font) return;
   const auto stored =
-      settings::WritePrinterFont(context_.folder, *job_.font, {font.name, font.size});
+      settings::WritePrinterFont(context_.folder, *job_.font, {next.name, next.size});
   if (!stored) forms::TellHoldsForNow(context_, "The printer font", stored.fault());
 }
 

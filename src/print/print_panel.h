@@ -10,7 +10,6 @@
 #include "forms/choice.h"
 #include "forms/command.h"
 #include "forms/context.h"
-#include "forms/control_array.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/page_preview.h"
@@ -32,6 +31,9 @@ struct PrintPanelStyle {
   std::string_view grid_lines_caption = {};
   std::string_view range_caption = {};
   bool auto_size = true;
+  // For a screen that has controls of these names itself.
+  std::string_view zoom_name = "SSCommand1";
+  std::string_view auto_size_name = "SSCommand2";
   bool line_styles = false;  // the three choices of grid lines in reports
 };
 
@@ -56,11 +58,19 @@ class PrintPanel {
   forms::Panel panel;
   forms::PagePreview preview{panel, "VSP1", "Print preview"};
   forms::ProgressBar progress{panel, "ProgressBar80", "Preparing the pages"};
-  forms::ControlArray<forms::Command, 5> commands{panel, "SSCommand80", std::string_view()};
-  forms::Command zoom{panel, "SSCommand1", "Enlarge"};
+  forms::Command font{panel, "SSCommand80(0)", "Printer &Font"};
+  forms::Command page_setup{panel, "SSCommand80(1)", "&Page Setup"};
+  forms::Command close;
+  forms::Command copy_page{panel, "SSCommand80(3)", "C&opy Current Page"};
+  forms::Command print;
+  forms::Command zoom;
   std::optional<forms::Command> auto_size;
-  forms::ControlArray<forms::Label, 3> headings{panel, "Label80"};
-  forms::ControlArray<forms::Label, 3> values{panel, "Panel3D80"};
+  forms::Label font_name_heading{panel, "Label80(0)", "Printer Font:"};
+  forms::Label font_size_heading{panel, "Label80(1)", "Font Size:"};
+  forms::Label orientation_heading{panel, "Label80(2)", "Orientation:"};
+  forms::Label font_name{panel, "Panel3D80(0)"};
+  forms::Label font_size{panel, "Panel3D80(1)"};
+  forms::Label orientation{panel, "Panel3D80(2)"};
   forms::Label sample{panel, "Panel3D82", "AaBbYyZz"};
   forms::Panel range_frame{panel, "SSFrame80(0)", "Print Range"};
   forms::OptionGroup range;

@@ -39,22 +39,18 @@ Startfrm::Startfrm(forms::Context& context)
     : Form(context, forms::form_names::kStartfrm, "Tarnwell") {
   hidden_title.SetVisible(false);
   reminder.SetVisible(false);
-  commands[0].SetCaption("&Full Screen Display");
-  commands[1].SetCaption("&Smaller Screen Display");
-  commands[2].SetCaption("&Exit Program");
-  commands[2].SetCancel(true);
 
   emblem.SetSpokenName("Begin");
   scene.SetSpokenName("Begin");
   begin.on_click = [this] { Begin(); };
   for (forms::Label* label : {&product, &purpose, &hidden_title}) label->on_click = begin.on_click;
   for (forms::Picture* picture : {&emblem, &scene}) picture->on_click = begin.on_click;
-  commands[0].on_click = [this] {
+  full_screen.on_click = [this] {
     KeepWindowSize();
     FullScreen();
   };
-  commands[1].on_click = [this] { ReturnToSmallerScreen(); };
-  commands[2].on_click = [this] { Exit(); };
+  smaller_screen.on_click = [this] { ReturnToSmallerScreen(); };
+  exit.on_click = [this] { Exit(); };
   view_planner.on_click = [this] {
     reminder.SetVisible(false);
     context_.navigator.Show(forms::form_names::kZcalandar1);
@@ -151,8 +147,8 @@ void Startfrm::TakeBackground() {
 
 void Startfrm::ShowDisplayButtons() {
   const bool smaller = context_.variables.SmallerScreen == kSmallerScreenDisplay;
-  commands[0].SetVisible(smaller);
-  commands[1].SetVisible(!smaller);
+  full_screen.SetVisible(smaller);
+  smaller_screen.SetVisible(!smaller);
 }
 
 void Startfrm::ShowReminder() {

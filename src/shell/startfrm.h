@@ -2,7 +2,6 @@
 
 #include "forms/color.h"
 #include "forms/command.h"
-#include "forms/control_array.h"
 #include "forms/form.h"
 #include "forms/label.h"
 #include "forms/panel.h"
@@ -15,7 +14,7 @@ class Startfrm : public forms::Form {
   explicit Startfrm(forms::Context& context);
 
   forms::Panel center{*this, "SSPanel1"};
-  forms::Label neutral{center, "Label1", "Welcome to"};
+  forms::Label welcome{center, "Label1", "Welcome to"};
   forms::Label product{center, "Label2", "Tarnwell", forms::LabelRole::kTitle};
   forms::Label purpose{center, "Label3", "Everything a small company keeps, in one place"};
   forms::Label today{center, "Label4", {}, forms::LabelRole::kHeading};
@@ -23,8 +22,9 @@ class Startfrm : public forms::Form {
   forms::Picture emblem{center, "Image1", "tarnwell.svg"};
   forms::Picture scene{center, "Image2", "start-scene.svg"};
   forms::Command begin{center, "Command2", "&Click to Begin Program"};
-  // 0 full screen, 1 smaller screen, 2 exit.
-  forms::ControlArray<forms::Command, 3> commands{center, "Command1", ""};
+  forms::Command full_screen{center, "Command1(0)", "&Full Screen Display"};
+  forms::Command smaller_screen{center, "Command1(1)", "&Smaller Screen Display"};
+  forms::Command exit{center, "Command1(2)", "&Exit Program", {.cancel = true}};
 
   forms::Panel reminder{*this, "SSPanel3", "Daily Planner Reminder"};
   forms::Label reminder_text{reminder, "Label5",

@@ -55,6 +55,7 @@ class CautiousDialogs : public forms::Dialogs {
     }
     return forms::Answer::kCancel;
   }
+  std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
 };

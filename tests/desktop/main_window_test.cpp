@@ -144,6 +144,11 @@ TEST_F(MainWindowTest, AMnemonicGivesTheFocusToWhatItChooses) {
   navigator_.Show("Lower");
   int saved = 0;
   Form("Lower").save.on_click = [&] { ++saved; };
+  Form("Lower").city.Focus();
+  Form("Lower").city.on_leave = [this] { Form("Lower").city.Focus(); };
+  QTest::keyClick(window_.windowHandle(), Qt::Key_V, Qt::AltModifier);
+  EXPECT_EQ(saved, 0) << "the field before may not be left";
+  Form("Lower").city.on_leave = nullptr;
   QTest::keyClick(window_.windowHandle(), Qt::Key_V, Qt::AltModifier);
   EXPECT_EQ(saved, 1);
   EXPECT_TRUE(Form("Lower").save.focused());

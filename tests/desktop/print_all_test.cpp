@@ -33,7 +33,7 @@ TEST(PrintAll, OnePdfHoldsAllFortySevenDocumentsInOrder) {
     rig.Start();
     rig.Get<shell::Startfrm>("Startfrm").begin.Click();
     rig.ClickMenu(entry);
-    rig.Get<workarea::WorkArea1>("WorkArea1").printing.print.commands[4].Click();
+    rig.Get<workarea::WorkArea1>("WorkArea1").printing.print.print.Click();
 
     const QString file = QString::fromStdString(rig.temporary.path()) + "/all.pdf";
     ASSERT_TRUE(WritePdf(rig.pages.printed.at(0), kNoPictures, file));

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
@@ -97,6 +99,31 @@ TEST(MessageDialogs, AQuestionOfYesAndNoStaysUntilOneOfThemIsPressed) {
   });
   EXPECT_EQ(dialogs.Message({"T", "t", forms::Icon::kNone, forms::Buttons::kYesNo}),
             forms::Answer::kYes);
+}
+
+TEST(MessageDialogs, AnInputBoxGivesWhatStandsInItsLineUnlessItIsCancelled) {
+  const struct {
+    const char* what;
+    QString typed;
+    Qt::Key key;
+    std::optional<std::string> answer;
+  } cases[] = {
+      {"typed over what stood there", QStringLiteral("Zürich"), Qt::Key_Return, "Z\xFCric"},
+      {"left as it is", {}, Qt::Key_Return, "Bern"},
+      {"cancelled", QStringLiteral("Basel"), Qt::Key_Escape, std::nullopt},
+  };
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.what);
+    MessageDialogs dialogs;
+    WhenModal([&](QWidget* modal) {
+      EXPECT_EQ(modal->windowTitle(), QStringLiteral("Rename"));
+      EXPECT_EQ(modal->findChild<QLabel*>()->text(), QStringLiteral("New <name>\nof it"));
+      auto* line = modal->findChild<QLineEdit*>();
+      if (!one.typed.isEmpty()) line->insert(one.typed);
+      QTest::keyClick(line, one.key);
+    });
+    EXPECT_EQ(dialogs.Input({"Rename", "New <name>\nof it", "Bern", 5}), one.answer);
+  }
 }
 
 TEST(MessageDialogs, TheColourDialogueStartsWithTheColourAndMayBeCancelled) {

@@ -161,34 +161,34 @@ TEST_F(GridBackgroundPanelTest, AThumbnailIsOnlyShownUntilItIsUsed) {
   EXPECT_EQ(selector.preview.file(), "WP3.jpg");
   EXPECT_EQ(look, GridLook{});
   EXPECT_EQ(Stored(), "");
-  selector.commands[1].Click();
+  selector.use_marked.Click();
   EXPECT_EQ(look, (GridLook{std::nullopt, "WP3.jpg"}));
   EXPECT_EQ(Stored(), "WP3");
   look = {};
-  selector.commands[0].Click();
+  selector.exit.Click();
   EXPECT_EQ(look.wallpaper, "WP3.jpg");
   EXPECT_FALSE(selector.panel.visible());
 }
 
 TEST_F(GridBackgroundPanelTest, AMissingWallpaperLeavesTheGridsAsTheyAre) {
   selector.thumbnails[8].Click();
-  selector.commands[1].Click();
+  selector.use_marked.Click();
   EXPECT_EQ(look, GridLook{});
   EXPECT_EQ(Stored(), "");
 }
 
 TEST_F(GridBackgroundPanelTest, AColourOrTheDefaultTakesThePicturesPlace) {
   rig.dialogs.ExpectColor(std::nullopt);
-  selector.commands[3].Click();
+  selector.use_color.Click();
   EXPECT_EQ(Stored(), "");
   rig.dialogs.ExpectColor(0xCCFFCC);
-  selector.commands[3].Click();
+  selector.use_color.Click();
   EXPECT_EQ(look, (GridLook{0xCCFFCC, ""}));
   EXPECT_EQ(Stored(), "13434828");
   look = {};
   selector.Load();
   EXPECT_EQ(look.color, 0xCCFFCC);
-  selector.commands[2].Click();
+  selector.use_default.Click();
   EXPECT_EQ(look, GridLook{});
   EXPECT_EQ(Stored(), "Default");
 }
@@ -199,7 +199,7 @@ TEST_F(GridBackgroundPanelTest, AColourThatTheDiskRefusesIsToldAndHolds) {
   rig.dialogs.Expect("Not Saved",
                      "The grid background could not be saved: something else has the name of its "
                      "file.\nIt holds for now.");
-  selector.commands[3].Click();
+  selector.use_color.Click();
   EXPECT_EQ(look.color, 0xCCFFCC);
 }
 

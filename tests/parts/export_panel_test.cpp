@@ -33,16 +33,16 @@ class ExportPanelTest : public ::testing::Test {
 
 TEST_F(ExportPanelTest, OpensOnTheProgramsFolder) {
   Open();
-  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
-  EXPECT_EQ(panel.lines[0].caption(),
+  EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/");
+  EXPECT_EQ(panel.folder_line.caption(),
             "A non-formatted Spreadsheet File will be saved in the program folder:  \n\n"
             "/home/ann/Tarnwell/");
-  EXPECT_EQ(panel.lines[1].caption(), "With the following name:  Timeline.xls");
-  EXPECT_EQ(panel.lines[2].caption(),
+  EXPECT_EQ(panel.name_line.caption(), "With the following name:  Timeline.xls");
+  EXPECT_EQ(panel.replace_line.caption(),
             "Note: If File already exists it will be replaced with this file!");
-  EXPECT_EQ(panel.drives.text(), "/home/ann");
-  EXPECT_THAT(panel.folders.items(), ElementsAre("..", "Sheets"));
-  EXPECT_THAT(panel.files.items(), ElementsAre("Old.XLS"));
+  EXPECT_EQ(panel.chooser.drives.text(), "/home/ann");
+  EXPECT_THAT(panel.chooser.folders.items(), ElementsAre("..", "Sheets"));
+  EXPECT_THAT(panel.chooser.files.items(), ElementsAre("Old.XLS"));
 }
 
 TEST_F(ExportPanelTest, TheWholeGridGoesOutAsTabbedText) {
@@ -66,17 +66,17 @@ TEST_F(ExportPanelTest, AFailedWriteIsToldInPlaceOfTheConfirmation) {
 
 TEST_F(ExportPanelTest, FoldersAreWalkedAndAFileOfferedIsReplaced) {
   Open();
-  panel.files.Pick(0);
+  panel.chooser.files.Pick(0);
   EXPECT_EQ(panel.name.text(), "Old.XLS");
-  panel.folders.Open(1);
-  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/Sheets/");
+  panel.chooser.folders.Open(1);
+  EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/Sheets/");
   ExpectDone();
   panel.save.Click();
   EXPECT_EQ(rig.folders.written.count("/home/ann/Tarnwell/Sheets/Old.XLS"), 1u);
-  panel.folders.Open(0);
-  panel.folders.Open(0);
-  EXPECT_EQ(panel.path.caption(), "/home/ann/");
-  EXPECT_THAT(panel.folders.items(), ElementsAre("..", "Tarnwell"));
+  panel.chooser.folders.Open(0);
+  panel.chooser.folders.Open(0);
+  EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/");
+  EXPECT_THAT(panel.chooser.folders.items(), ElementsAre("..", "Tarnwell"));
 }
 
 TEST_F(ExportPanelTest, OnlyASpreadsheetsNameInThisFolderIsTaken) {
@@ -107,25 +107,25 @@ TEST_F(ExportPanelTest, AnExtensionIsSuppliedWhereTheScreenSaysSo) {
 TEST_F(ExportPanelTest, ADriveOrFolderThatIsGoneLeadsBackToTheProgramsFolder) {
   rig.folders.readable["/"] = {{"home"}, {}};
   Open();
-  panel.drives.Pick(2);
-  EXPECT_EQ(panel.path.caption(), "/");
+  panel.chooser.drives.Pick(2);
+  EXPECT_EQ(panel.chooser.path.caption(), "/");
   rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");
-  panel.drives.Pick(1);
+  panel.chooser.drives.Pick(1);
   EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kCritical);
-  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
-  EXPECT_EQ(panel.drives.text(), "/home/ann");
+  EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/");
+  EXPECT_EQ(panel.chooser.drives.text(), "/home/ann");
   EXPECT_TRUE(panel.save.enabled());
 
   rig.folders.readable.erase("/home/ann/Tarnwell/Sheets/");
   rig.dialogs.Expect("Device Status", "Device Unavailable!  ");
-  panel.folders.Open(1);
+  panel.chooser.folders.Open(1);
   EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kExclamation);
-  EXPECT_EQ(panel.path.caption(), "/home/ann/Tarnwell/");
+  EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/");
 
   rig.folders.readable.clear();
   rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");
   rig.dialogs.Expect("Device Status", "Device Unavailable!  ");
-  panel.drives.Pick(1);
+  panel.chooser.drives.Pick(1);
   EXPECT_FALSE(panel.save.enabled());
   panel.name.Type("x.xls");
   EXPECT_FALSE(panel.save.enabled());

@@ -103,7 +103,7 @@ TEST_F(PlannerPagesTest, TheDayOnScreenIsPrintedWithItsOptions) {
   print().grid_lines->Check(true);
   EXPECT_EQ(print().grid_lines->name(), "Check83");
   EXPECT_GT(marks(), without_lines);
-  print().commands[2].Click();
+  print().close.Click();
   EXPECT_TRUE(form().menus().visible() && form().day.visible() && form().picker.visible());
   EXPECT_EQ(form().status(), "");
 }
@@ -117,10 +117,10 @@ TEST_F(PlannerPagesTest, TheMonthIsPrintedFromItsPanel) {
               ElementsAre("As of  March 09, 2026 (Page - 1)", "Monthly Calendar For March, 2026",
                           "Day", "Time", "Appointment/Activity", " 9th", "9:00 AM", "Bank"));
   rig.dialogs.ExpectFont(forms::Font{"Arial", 11});
-  print().commands[0].Click();
+  print().font.Click();
   EXPECT_EQ(storage::TextOf(storage::RecordFile(rig.folder, "GColor4.Fil", 40).GetTagged(24)),
             "Arial");
-  print().commands[2].Click();
+  print().close.Click();
   EXPECT_TRUE(form().pages.month.panel.visible());
   EXPECT_FALSE(form().picker.visible());
   EXPECT_EQ(form().status(), "View Month");
@@ -201,15 +201,15 @@ TEST_F(PlannerPagesTest, TheMonthsBackgroundIsPaintedAtOnceAndHoldsForTheRun) {
   EXPECT_FALSE(form().pages.month.panel.visible());
   EXPECT_FALSE(Enabled("mOGB"));
   form().background.thumbnails[2].Click();
-  form().background.commands[1].Click();
+  form().background.use_marked.Click();
   EXPECT_EQ(look().wallpaper, "WP3.jpg");
-  form().background.commands[0].Click();
+  form().background.exit.Click();
   EXPECT_TRUE(form().pages.month.panel.visible());
   EXPECT_FALSE(form().picker.visible());
   form().pages.month.close.Click();
   rig.ClickMenu("mOGB");
   EXPECT_FALSE(form().day.visible());
-  form().background.commands[0].Click();
+  form().background.exit.Click();
   EXPECT_TRUE(form().day.visible());
   EXPECT_TRUE(form().picker.visible());
 

@@ -291,7 +291,7 @@ TEST_F(Zcalandar1Test, RowsOnShowStayUnsavedUntilTheyAreSavedOrReplaced) {
   rig.ClickMenu("mToDo");
   EXPECT_EQ(form().entries[0].text(), "Precious");
   form().print_options.Click();
-  form().pages.print.commands[2].Click();
+  form().pages.print.close.Click();
   rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", Answer::kCancel);
   form().exit.Click();
   EXPECT_EQ(form().entries[0].text(), "Precious");

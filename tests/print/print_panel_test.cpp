@@ -51,14 +51,14 @@ TEST_F(PrintPanelTest, OpensUprightWithAPreviewAndStoresNothing) {
   EXPECT_EQ(rig.temporary.Read("GColor3.Fil"), before);
   EXPECT_TRUE(print.preview.guide_lines());
   EXPECT_EQ(print.guide_lines.chosen(), 1);
-  EXPECT_EQ(print.values[0].caption(), "Times New Roman ");
-  EXPECT_EQ(print.values[1].caption(), " 10");
-  EXPECT_EQ(print.values[2].caption(), " Portrait");
+  EXPECT_EQ(print.font_name.caption(), "Times New Roman ");
+  EXPECT_EQ(print.font_size.caption(), " 10");
+  EXPECT_EQ(print.orientation.caption(), " Portrait");
   EXPECT_TRUE(print.as_of->checked());
   EXPECT_FALSE(print.grid_lines->checked());
   EXPECT_THAT(Shown(), ElementsAre("Printed:  March 9, 2026", "content"));
   EXPECT_EQ(rig.window.hourglasses, 0);
-  print.commands[2].Click();
+  print.close.Click();
   EXPECT_FALSE(print.panel.visible());
   EXPECT_EQ(print.preview.document(), nullptr);
 }
@@ -66,15 +66,15 @@ TEST_F(PrintPanelTest, OpensUprightWithAPreviewAndStoresNothing) {
 TEST_F(PrintPanelTest, AChosenFontIsShownPrintedAndKept) {
   print.Open(Job());
   rig.dialogs.ExpectFont(std::nullopt);
-  print.commands[0].Click();
+  print.font.Click();
   EXPECT_EQ(builds, 1);
   const forms::Font font{"Arial", 12.5, true};
   rig.dialogs.ExpectFont(font);
-  print.commands[0].Click();
+  print.font.Click();
   EXPECT_EQ(rig.dialogs.last_start_font, forms::Font{});
   EXPECT_EQ(builds, 2);
-  EXPECT_EQ(print.values[0].caption(), "Arial ");
-  EXPECT_EQ(print.values[1].caption(), " 12.5");
+  EXPECT_EQ(print.font_name.caption(), "Arial ");
+  EXPECT_EQ(print.font_size.caption(), " 12.5");
   EXPECT_EQ(print.sample.font(), font);
   EXPECT_EQ(print.preview.document()->fonts.back(), font);
 
@@ -86,12 +86,12 @@ TEST_F(PrintPanelTest, AChosenFontIsShownPrintedAndKept) {
 
 TEST_F(PrintPanelTest, PageSetupTurnsThePageAndSetsItsMargins) {
   print.Open(Job());
-  print.commands[1].Click();  // cancelled
+  print.page_setup.Click();  // cancelled
   EXPECT_EQ(builds, 1);
   rig.pages.setup = forms::PageSetup{12000, 16000, true, {500, 600, 700, 800}};
-  print.commands[1].Click();
+  print.page_setup.Click();
   EXPECT_EQ(rig.pages.last_setup, forms::PageSetup{});
-  EXPECT_EQ(print.values[2].caption(), " Landscape");
+  EXPECT_EQ(print.orientation.caption(), " Landscape");
   EXPECT_EQ(print.preview.document()->setup.width(), 16000);
   print.Open(Job());
   EXPECT_EQ(print.preview.document()->setup, (forms::PageSetup{12000, 16000, false, {}}));
@@ -114,7 +114,7 @@ TEST_F(PrintPanelTest, PaperChosenForADocumentHoldsForTheRun) {
   EXPECT_EQ(print.chosen_paper(), std::nullopt);
   const forms::PageSetup chosen{12000, 16000, true, {500, 600, 700, 800}};
   rig.pages.setup = chosen;
-  print.commands[1].Click();
+  print.page_setup.Click();
   EXPECT_EQ(builds, 2);
   print.Open(job);
   EXPECT_EQ(print.chosen_paper(), chosen);
@@ -128,9 +128,9 @@ TEST_F(PrintPanelTest, ThePageOnShowIsCopiedAndAllPagesArePrinted) {
   print.preview.TurnTo(7);
   EXPECT_EQ(print.preview.page(), 1);
   rig.dialogs.Expect("Copy Option", "Current Page has been copied to the Windows Clipboard.");
-  print.commands[3].Click();
+  print.copy_page.Click();
   EXPECT_THAT(TextsOf(rig.pages.copied), ElementsAre("more"));
-  print.commands[4].Click();
+  print.print.Click();
   ASSERT_EQ(rig.pages.printed.size(), 1u);
   EXPECT_EQ(rig.pages.printed[0].pages.size(), 2u);
 }
@@ -157,9 +157,9 @@ TEST_F(PrintPanelTest, AChoiceThatTheDiskRefusesIsToldAndHolds) {
   EXPECT_TRUE(print.preview.guide_lines());
   rig.dialogs.ExpectFont(forms::Font{"Arial", 12.5});
   rig.dialogs.Expect("Not Saved", "The printer font" + why);
-  print.commands[0].Click();
+  print.font.Click();
   EXPECT_EQ(rig.variables.PrintFontName, "Arial");
-  EXPECT_EQ(print.values[0].caption(), "Arial ");
+  EXPECT_EQ(print.font_name.caption(), "Arial ");
 }
 
 TEST_F(PrintPanelTest, ChecksHoldForTheRunAndChangeThePreview) {
@@ -203,7 +203,7 @@ TEST_F(PrintPanelTest, OnlyALongJobShowsHowFarItIs) {
     ++steps_seen;
     EXPECT_TRUE(print.progress.visible());
     EXPECT_TRUE(rig.form.busy());
-    print.commands[2].Click();
+    print.close.Click();
     EXPECT_TRUE(print.is_open());
   };
   print.Open(job);
@@ -214,7 +214,7 @@ TEST_F(PrintPanelTest, OnlyALongJobShowsHowFarItIs) {
   EXPECT_EQ(print.progress.value(), 4);
   EXPECT_FALSE(print.progress.visible());
   EXPECT_FALSE(rig.form.busy());
-  EXPECT_TRUE(print.commands[2].Reachable());
+  EXPECT_TRUE(print.close.Reachable());
 }
 
 }  // namespace

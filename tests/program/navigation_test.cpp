@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+
+#include "forms/form_names.h"
 #include "parts/main_buttons.h"
 #include "planner/zcalandar1.h"
 #include "reference/infoadv.h"
@@ -116,6 +120,18 @@ TEST_F(NavigationTest, EachScreenHasItsHelp) {
   EXPECT_EQ(tools().help_context(), 3014);
   tools().main_buttons[parts::kInformationAdvisor].Click();
   EXPECT_EQ(rig.navigator().top()->help_context(), 3066);
+}
+
+TEST_F(NavigationTest, NoScreenHasTwoControlsOfOneName) {
+  for (const std::string& name : rig.navigator().Names()) {
+    if (name == forms::form_names::kSplash1) continue;  // it goes by itself
+    rig.navigator().Show(name);
+    std::set<std::string> names;
+    for (const forms::Control* control : rig.Get<forms::Form>(name).AllControls()) {
+      EXPECT_TRUE(names.insert(control->name()).second) << name << ": " << control->name();
+    }
+    EXPECT_FALSE(names.empty()) << name;
+  }
 }
 
 }  // namespace

@@ -36,8 +36,8 @@ TEST_F(StartfrmTest, AFirstRunIsMaximisedAndBlueWithTodaysDateAndWithoutAReminde
   EXPECT_EQ(form().background(), 0xFF0000);
   EXPECT_EQ(form().today.caption(), "March 9, 2026");
   EXPECT_FALSE(form().reminder.visible());
-  EXPECT_TRUE(form().commands[1].visible());
-  EXPECT_FALSE(form().commands[0].visible());
+  EXPECT_TRUE(form().smaller_screen.visible());
+  EXPECT_FALSE(form().full_screen.visible());
   EXPECT_EQ(form().focus(), &form().begin);
   EXPECT_EQ(rig.window.hourglasses, 0);
   EXPECT_EQ(rig.program->variables().SplashShown, 99);
@@ -94,7 +94,7 @@ TEST_F(StartfrmTest, DisplayEntriesStoreTheChoiceAndTheSize) {
   EXPECT_EQ(GColor3().GetTagged(36), storage::TaggedValue(12345.0f));
   EXPECT_EQ(GColor3().GetTagged(37), storage::TaggedValue(16005.0f));
   EXPECT_FALSE(rig.window.is_maximized);
-  EXPECT_TRUE(form().commands[0].visible());
+  EXPECT_TRUE(form().full_screen.visible());
 
   rig.ClickMenu("mOPF");
   EXPECT_EQ(GColor3().GetText(35), "No");
@@ -138,10 +138,10 @@ TEST_F(StartfrmTest, AnEnlargedScreenIsUsedAsFarAsItGoes) {
 TEST_F(StartfrmTest, TheButtonsLeadToTheOtherDisplay) {
   settings::WriteWindowSize(rig.folder, 12000, 15500);
   Start();
-  form().commands[1].Click();
+  form().smaller_screen.Click();
   EXPECT_EQ(rig.window.normal_size, (forms::Size{15500, 12000}));
   EXPECT_EQ(GColor3().GetText(35), "Yes");
-  form().commands[0].Click();
+  form().full_screen.Click();
   EXPECT_TRUE(rig.window.is_maximized);
   EXPECT_EQ(GColor3().GetText(35), "No");
 }

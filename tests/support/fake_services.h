@@ -9,9 +9,11 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/context.h"
+#include "forms/text_field.h"
 #include "support/fixed_metrics.h"
 #include "text/date.h"
 
@@ -37,6 +39,7 @@ class ScriptedDialogs : public forms::Dialogs {
 
   ~ScriptedDialogs() override {
     for (const Expected& box : expected_) ADD_FAILURE() << "never shown: " << box.title;
+    for (const ExpectedInput& box : inputs_) ADD_FAILURE() << "never asked: " << box.title;
   }
 
   void Expect(std::string title, std::string text, forms::Answer answer = forms::Answer::kOk) {
@@ -80,12 +83,38 @@ class ScriptedDialogs : public forms::Dialogs {
     return chosen;
   }
 
+  // `answer` is what a person types, as far as the box takes it; none cancels the box.
+  void ExpectInput(std::string title, std::string prompt, std::optional<std::string> answer) {
+    inputs_.push_back({std::move(title), std::move(prompt), std::move(answer)});
+  }
+  std::optional<std::string> Input(const forms::InputBox& box) override {
+    last_input = box;
+    if (inputs_.empty()) {
+      ADD_FAILURE() << "unexpected input box: " << box.title << " / " << box.prompt;
+      return std::nullopt;
+    }
+    const ExpectedInput next = inputs_.front();
+    inputs_.pop_front();
+    EXPECT_EQ(box.title, next.title);
+    EXPECT_EQ(box.prompt, next.prompt);
+    if (!next.answer) return std::nullopt;
+    return forms::TypedText(*next.answer, box.max_length);
+  }
+
   forms::MessageBox last;
+  forms::InputBox last_input;
   forms::Color last_start_color = 0;
   forms::FontParts last_start_font;
 
  private:
+  struct ExpectedInput {
+    std::string title;
+    std::string prompt;
+    std::optional<std::string> answer;
+  };
+
   std::deque<Expected> expected_;
+  std::deque<ExpectedInput> inputs_;
   std::deque<std::optional<forms::Color>> colors_;
   std::deque<std::optional<forms::FontParts>> fonts_;
 };

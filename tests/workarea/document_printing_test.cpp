@@ -28,7 +28,7 @@ class DocumentPrintingTest : public ::testing::Test {
 
   // Of each page, its texts in their order, blanks left out.
   std::vector<std::string> Printed() {
-    hub().printing.print.commands[4].Click();
+    hub().printing.print.print.Click();
     std::vector<std::string> pages;
     for (const forms::Page& page : rig.pages.printed.back().pages) {
       std::string all;
@@ -82,7 +82,7 @@ TEST_F(DocumentPrintingTest, AllDocumentsArePrintedInTheOrderOfTheirNumbers) {
   EXPECT_EQ(Printed(), expected);
   EXPECT_EQ(TopOfFirstText(), 750);
 
-  hub().printing.print.commands[2].Click();
+  hub().printing.print.close.Click();
   EXPECT_TRUE(hub().areas.visible());
 }
 

@@ -103,7 +103,7 @@ TEST_F(WorkArea1Test, ATextStaysUnsavedAsLongAsItIsOnShow) {
   };
   ExpectSaveQuestion(Answer::kNo);
   rig.ClickMenu("mOPAll");
-  hub().printing.print.commands[2].Click();
+  hub().printing.print.close.Click();
   expect_edits();
   for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
     ExpectSaveQuestion(Answer::kNo);

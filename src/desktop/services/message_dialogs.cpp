@@ -2,15 +2,21 @@
 
 #include <QCloseEvent>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
 #include <vector>
 
 #include "desktop/services/font_dialog.h"
 #include "desktop/services/modal_question.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
+#include "forms/text_field.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -59,6 +65,39 @@ class Box : public QMessageBox {
   bool stays_;
 };
 
+// A prompt, and below it one line to type in.
+class LineBox : public QDialog {
+ public:
+  LineBox(QWidget* asker, const forms::InputBox& box) : QDialog(asker) {
+    if (asker) setWindowModality(Qt::WindowModal);
+    setWindowTitle(FromCore(box.title));
+    auto* prompt = new QLabel(FromCore(box.prompt));
+    prompt->setTextFormat(Qt::PlainText);
+    prompt->setBuddy(line_);
+    // What stands there at first may be longer than what can be typed.
+    line_->setMaxLength(static_cast<int>(std::max(box.max_length, box.text.size())));
+    line_->setText(FromCore(box.text));
+    line_->selectAll();
+    line_->setAccessibleName(prompt->text());
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* column = new QVBoxLayout(this);
+    for (QWidget* part : {static_cast<QWidget*>(prompt), static_cast<QWidget*>(line_),
+                          static_cast<QWidget*>(buttons)}) {
+      column->addWidget(part);
+    }
+    line_->setFocus();
+  }
+
+  std::string text() const {
+    return forms::TypedText(ToCore(line_->text()), static_cast<std::size_t>(line_->maxLength()));
+  }
+
+ private:
+  QLineEdit* line_ = new QLineEdit;
+};
+
 // In the order that a default button's number counts; the last one answers Esc and the close box
 // where the box may be closed by them.
 std::vector<QMessageBox::StandardButton> ButtonsOf(forms::Buttons buttons) {
@@ -103,6 +142,13 @@ forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
     window.setEscapeButton(made);
   }
   return AnswerOf(window.exec());
+}
+
+std::optional<std::string> MessageDialogs::Input(const forms::InputBox& box) {
+  const ModalQuestion question;
+  LineBox window(question.asker(), box);
+  if (window.exec() != QDialog::Accepted) return std::nullopt;
+  return window.text();
 }
 
 std::optional<forms::Color> MessageDialogs::ChooseColor(forms::Color start) {

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "forms/dialogs.h"
 
 namespace tarnwell::desktop {
@@ -7,6 +10,7 @@ namespace tarnwell::desktop {
 class MessageDialogs : public forms::Dialogs {
  public:
   forms::Answer Message(const forms::MessageBox& box) override;
+  std::optional<std::string> Input(const forms::InputBox& box) override;
   std::optional<forms::Color> ChooseColor(forms::Color start) override;
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts& start) override;
 };

@@ -1,3 +1,4 @@
+#include "desktop/views/folder_chooser_view.h"
 #include "desktop/views/print_view.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
@@ -5,21 +6,12 @@
 namespace tarnwell::desktop {
 
 QWidget* ExportView(parts::ExportPanel& panel) {
-  QWidget* places = Row(
-      {
-          Grow(Column({Widget(panel.drives_heading), Widget(panel.drives),
-                       Widget(panel.folders_heading), Grow(Widget(panel.folders))})),
-          Grow(
-              Column({Widget(panel.files_heading), Widget(panel.name), Grow(Widget(panel.files))})),
-      },
-      kWideSpace);
   return Widget(panel.panel,
                 Column({
-                    Column({Wrapped(Widget(panel.lines[0])), Wrapped(Widget(panel.lines[1])),
-                            Wrapped(Widget(panel.lines[3])), Wrapped(Widget(panel.lines[2]))},
+                    Column({Wrapped(Widget(panel.folder_line)), Wrapped(Widget(panel.name_line)),
+                            Wrapped(Widget(panel.extra_line)), Wrapped(Widget(panel.replace_line))},
                            kTightSpace),
-                    Row({Widget(panel.path_heading), Grow(Wrapped(Widget(panel.path)))}),
-                    Grow(places),
+                    Grow(FolderChooserView(panel.chooser, Widget(panel.name))),
                     Row({Spring(), Primary(Widget(panel.save)), Widget(panel.close)}),
                 }));
 }

@@ -23,15 +23,15 @@ QWidget* Thumbnails(parts::GridBackgroundPanel& selector, PictureStore& pictures
 }  // namespace
 
 QWidget* GridBackgroundView(parts::GridBackgroundPanel& selector, PictureStore& pictures) {
-  auto& commands = selector.commands;
-  return Widget(selector.panel, Column({
-                                    Grow(Row({Column({Thumbnails(selector, pictures), Spring()}),
-                                              Grow(Widget(selector.preview, pictures))},
-                                             kWideSpace)),
-                                    Widget(selector.note),
-                                    Row({Primary(Widget(commands[1])), Widget(commands[2]),
-                                         Widget(commands[3]), Spring(), Widget(commands[0])}),
-                                }));
+  return Widget(selector.panel,
+                Column({
+                    Grow(Row({Column({Thumbnails(selector, pictures), Spring()}),
+                              Grow(Widget(selector.preview, pictures))},
+                             kWideSpace)),
+                    Widget(selector.note),
+                    Row({Primary(Widget(selector.use_marked)), Widget(selector.use_default),
+                         Widget(selector.use_color), Spring(), Widget(selector.exit)}),
+                }));
 }
 
 }  // namespace tarnwell::desktop

@@ -11,9 +11,9 @@ void AppendAll(QWidget* column, forms::OptionGroup& group) {
 }
 
 QWidget* Settings(print::PrintPanel& panel) {
-  return Grid({{Widget(panel.headings[0]), Widget(panel.values[0])},
-               {Widget(panel.headings[1]), Widget(panel.values[1])},
-               {Widget(panel.headings[2]), Widget(panel.values[2])}},
+  return Grid({{Widget(panel.font_name_heading), Widget(panel.font_name)},
+               {Widget(panel.font_size_heading), Widget(panel.font_size)},
+               {Widget(panel.orientation_heading), Widget(panel.orientation)}},
               1);
 }
 
@@ -34,9 +34,9 @@ QWidget* Options(print::PrintPanel& panel, std::initializer_list<QWidget*> own_o
       Widget(panel.options_frame, options),
       Widget(panel.display_frame, display),
       Spring(),
-      Widget(panel.commands[0]),
-      Widget(panel.commands[1]),
-      Widget(panel.commands[3]),
+      Widget(panel.font),
+      Widget(panel.page_setup),
+      Widget(panel.copy_page),
   });
 }
 
@@ -48,8 +48,8 @@ QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
   if (panel.auto_size) Append(commands, Widget(*panel.auto_size));
   Append(commands, Grow(Widget(panel.progress)));
   Append(commands, Spring());
-  Append(commands, Primary(Widget(panel.commands[4])));
-  Append(commands, Widget(panel.commands[2]));
+  Append(commands, Primary(Widget(panel.print)));
+  Append(commands, Widget(panel.close));
   // All that stands beside the preview makes room for an enlarged one.
   QWidget* beside = ShownWhile(
       panel.preview, [&panel] { return panel.preview.zoom() != forms::Zoom::kEnlarged; },

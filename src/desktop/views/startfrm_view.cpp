@@ -9,15 +9,15 @@ namespace {
 QWidget* Center(shell::Startfrm& form, PictureStore& pictures) {
   QWidget* words = Column({
       AtStart(Widget(form.emblem, pictures)),
-      Widget(form.neutral),
+      Widget(form.welcome),
       Widget(form.product),
       Widget(form.purpose),
       Widget(form.hidden_title),
       Spring(),
       Widget(form.today),
       Primary(Widget(form.begin)),
-      Row({Widget(form.commands[0]), Widget(form.commands[1]), Spring(),
-           WithIcon("exit", Widget(form.commands[2]))}),
+      Row({Widget(form.full_screen), Widget(form.smaller_screen), Spring(),
+           WithIcon("exit", Widget(form.exit))}),
   });
   return Widget(form.center,
                 Card(Row({Widget(form.scene, pictures), words}, kPageSpace + kWideSpace)));

@@ -1,6 +1,8 @@
 #include "desktop/widgets/binding.h"
 
-#include <QEvent>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <utility>
 
 #include "desktop/widgets/text.h"
 
@@ -43,10 +45,27 @@ void Binding::DropLostFocus() {
 }
 
 bool Binding::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget_ && event->type() == QEvent::FocusIn && subscription_.Connected()) {
-    control_.Focus();
+  if (watched != widget_ || !subscription_.Connected()) return false;
+  switch (event->type()) {
+    case QEvent::FocusIn:
+      return TakeFocus(static_cast<QFocusEvent*>(event)->reason());
+    case QEvent::MouseButtonPress:
+      return std::exchange(drops_press_, false);
+    default:
+      return false;
   }
-  return QObject::eventFilter(watched, event);
+}
+
+bool Binding::TakeFocus(Qt::FocusReason reason) {
+  const bool has_focus = widget_->hasFocus();
+  const auto pressed = QGuiApplication::mouseButtons();
+  drops_press_ = false;
+  control_.Focus();
+  const bool has_lost_it = has_focus && !widget_->hasFocus();
+  // Where a box came meanwhile, the button went up over the box, and nobody would lift it in here.
+  const bool was_let_go = pressed != QGuiApplication::mouseButtons();
+  drops_press_ = reason == Qt::MouseFocusReason && (has_lost_it || was_let_go);
+  return has_lost_it;
 }
 
 void NameForScreenReader(QWidget* widget, const forms::Control& control, std::string_view caption) {

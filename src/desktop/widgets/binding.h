@@ -39,6 +39,8 @@ class Binding : public QObject {
  private:
   void Show();
   void DropLostFocus();
+  // True when what the control before did on being left has taken the focus away again.
+  bool TakeFocus(Qt::FocusReason reason);
 
   static inline int showing_ = 0;  // there is one thread
 
@@ -47,6 +49,7 @@ class Binding : public QObject {
   std::function<void()> show_;
   forms::Subscription subscription_;
   bool had_focus_ = false;
+  bool drops_press_ = false;  // the press that gave the focus isn't the widget's any more
 };
 
 // The accessible name: `caption` without its mnemonic, or where there is none the spoken name.

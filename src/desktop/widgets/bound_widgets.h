@@ -16,7 +16,9 @@
 #include "forms/panel.h"
 #include "forms/progress_bar.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_box.h"
 #include "forms/text_field.h"
+#include "forms/typed_combo.h"
 
 namespace tarnwell::desktop {
 
@@ -24,11 +26,13 @@ class PictureStore;
 
 QWidget* Widget(forms::Command& command);
 QWidget* Widget(forms::TextField& field);
+QWidget* Widget(forms::TextBox& box);
 QWidget* Widget(forms::Label& label);
 QWidget* Widget(forms::Picture& picture, PictureStore& pictures);
 QWidget* Widget(forms::Option& option);
 QWidget* Widget(forms::CheckBox& box);
 QWidget* Widget(forms::ComboBox& combo);
+QWidget* Widget(forms::TypedCombo& combo);
 QWidget* Widget(forms::ListBox& box);
 QWidget* Widget(forms::Grid& grid, PictureStore& pictures);
 QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures);

@@ -7,12 +7,11 @@
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/drop_down.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
-
-constexpr int kMostShown = 12;  // entries of an open list before it scrolls
 
 // Picks only what a person meant. The wheel over a closed list scrolls the screen, not the choice,
 // and keys change it only for a person who went into it, by a click or with Tab.
@@ -62,17 +61,18 @@ class DropDown : public QComboBox {
   bool entered_ = false;
 };
 
-void ShowItems(QComboBox* box, const forms::ComboBox& combo) {
-  QStringList items;
-  for (const std::string& item : combo.items()) items << FromCore(item);
+}  // namespace
+
+bool ShowItems(QComboBox* box, const std::vector<std::string>& items) {
+  QStringList wanted;
+  for (const std::string& item : items) wanted << FromCore(item);
   QStringList shown;
   for (int i = 0; i < box->count(); ++i) shown << box->itemText(i);
-  if (items == shown) return;
+  if (wanted == shown) return false;
   box->clear();
-  box->addItems(items);
+  box->addItems(wanted);
+  return true;
 }
-
-}  // namespace
 
 // The group of the controls decides what is chosen, wherever its options lie; Qt's own exclusive
 // groups, which go by parent widget, stay off.
@@ -104,7 +104,7 @@ QWidget* Widget(forms::ComboBox& combo) {
   box->setMaxVisibleItems(16);
   box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   auto* binding = new Binding(box, combo, [box, &combo] {
-    ShowItems(box, combo);
+    ShowItems(box, combo.items());
     box->setCurrentIndex(combo.selected());
   });
   QObject::connect(box, &QComboBox::activated, binding,

@@ -47,6 +47,16 @@ QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; 
 QLineEdit[marked="true"] { background: #FFF6A0; }
 QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
 QComboBox:disabled { color: #5F6974; }
+QComboBox QLineEdit, QComboBox QLineEdit:focus, QComboBox QLineEdit:disabled {
+  background: transparent; border: none; padding: 0; min-height: 0;
+}
+QPlainTextEdit {
+  background: #FFFFFF; color: #1C2530; border: 1px solid #AEB8C2; border-radius: 4px;
+  selection-background-color: #1F5FBF; selection-color: #FFFFFF;
+}
+QPlainTextEdit:focus { border-color: #1F5FBF; }
+QPlainTextEdit[marked="true"] { background: #FFF6A0; }
+QPlainTextEdit:disabled, QPlainTextEdit:read-only { background: #F1F2F4; }
 QTableView, QListView {
   border: 1px solid #AEB8C2; gridline-color: #DDE1E6; selection-background-color: #1F5FBF;
   selection-color: #FFFFFF;

@@ -1,69 +1,13 @@
 #include <QApplication>
-#include <QFocusEvent>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QMouseEvent>
-#include <algorithm>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/line_edit.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
-
-class LineEdit : public QLineEdit {
- public:
-  explicit LineEdit(const forms::TextField& field)
-      : select_on_entry_(field.select_on_entry()),
-        takes_arrows_(static_cast<bool>(field.on_arrow)) {}
-
-  std::function<void()> on_click;
-  std::function<void(int)> on_arrow;
-  // Enter had a meaning here, so the default button doesn't get it.
-  bool took_enter = false;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    if (takes_arrows_ && event->key() == Qt::Key_Up) return on_arrow(-1);
-    if (takes_arrows_ && event->key() == Qt::Key_Down) return on_arrow(1);
-    took_enter = false;
-    QLineEdit::keyPressEvent(event);
-    if (took_enter) event->accept();
-  }
-  void focusInEvent(QFocusEvent* event) override {
-    QLineEdit::focusInEvent(event);
-    if (!select_on_entry_) return;
-    selectAll();
-    entered_by_mouse_ = event->reason() == Qt::MouseFocusReason;
-  }
-  // On the release, so that a box which the click brings doesn't leave the button down in here.
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    QLineEdit::mouseReleaseEvent(event);
-    // The press has put the cursor down and the selection away.
-    if (entered_by_mouse_ && !hasSelectedText()) selectAll();
-    entered_by_mouse_ = false;
-    if (event->button() == Qt::LeftButton && on_click) on_click();
-  }
-
- private:
-  bool select_on_entry_;
-  bool takes_arrows_;
-  bool entered_by_mouse_ = false;
-};
-
-// Shows the control's text and leaves the cursor behind the same characters as before.
-void ShowText(QLineEdit* edit, const forms::TextField& field) {
-  const QString text = FromCore(field.text());
-  if (edit->text() == text) return;
-  const auto before_cursor = ToCore(edit->text().left(edit->cursorPosition())).size();
-  // What the program sets may be longer than what can be typed.
-  edit->setMaxLength(static_cast<int>(std::max(field.max_length(), field.text().size())));
-  edit->setText(text);
-  edit->setCursorPosition(static_cast<int>(std::min(before_cursor, field.text().size())));
-  if (!edit->hasFocus()) edit->setCursorPosition(0);
-}
 
 void ShowColor(QLineEdit* edit, const forms::TextField& field) {
   const QPalette usual = QApplication::palette(edit);
@@ -78,10 +22,12 @@ void ShowColor(QLineEdit* edit, const forms::TextField& field) {
 }  // namespace
 
 QWidget* Widget(forms::TextField& field) {
-  auto* edit = new LineEdit(field);
+  auto* edit = new LineEdit;
+  edit->selects_on_entry = field.select_on_entry();
   edit->setMaxLength(static_cast<int>(field.max_length()));
   auto* binding = new Binding(edit, field, [edit, &field] {
-    ShowText(edit, field);
+    edit->ShowText(field.text(), field.max_length());
+    edit->ShowSelection(field.selection());
     ShowColor(edit, field);
     SetMark(edit, "marked", field.marked());
   });
@@ -91,7 +37,9 @@ QWidget* Widget(forms::TextField& field) {
     edit->took_enter = static_cast<bool>(field.on_enter);
     field.PressEnter();
   }));
-  edit->on_arrow = binding->Forward([&field](int step) { field.PressArrow(step); });
+  if (field.on_arrow) {
+    edit->on_arrow = binding->Forward([&field](int step) { field.PressArrow(step); });
+  }
   edit->on_click = binding->Forward([&field] { field.Click(); });
   return edit;
 }
