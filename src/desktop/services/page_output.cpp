@@ -1,5 +1,6 @@
 #include "desktop/services/page_output.h"
 
+#include <QFile>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -49,18 +50,26 @@ forms::PageSetup SetupOf(const QPageLayout& layout) {
   return setup;
 }
 
-bool PaintPages(const forms::Document& document, const PictureStore& pictures,
-                QPagedPaintDevice& device, int first, int last) {
+forms::PrintResult PaintPages(const forms::Document& document, const PictureStore& pictures,
+                              QPagedPaintDevice& device, int first, int last) {
+  using forms::PrintResult;
   QPainter painter;
-  if (!painter.begin(&device)) return false;
+  if (!painter.begin(&device)) return PrintResult::kNotStarted;
   const double scale = std::min(static_cast<double>(device.width()) / document.setup.width(),
                                 static_cast<double>(device.height()) / document.setup.height());
   PagePainter pages(document, pictures);
   for (int page = first; page <= last; ++page) {
-    if (page > first && !device.newPage()) return false;
+    if (page > first && !device.newPage()) return PrintResult::kBrokenOff;
     PaintSheet(painter, pages, page, scale);
   }
-  return painter.end();
+  return painter.end() ? PrintResult::kDone : PrintResult::kBrokenOff;
+}
+
+bool IsWholePdf(const QString& file) {
+  const QByteArray end = "%%EOF\n";
+  QFile pdf(file);
+  return pdf.open(QIODevice::ReadOnly) && pdf.size() > end.size() &&
+         pdf.seek(pdf.size() - end.size()) && pdf.read(end.size()) == end;
 }
 
 bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file) {
@@ -70,7 +79,9 @@ bool WritePdf(const forms::Document& document, const PictureStore& pictures, con
   QPageLayout layout = LayoutOf(document.setup);
   layout.setMode(QPageLayout::FullPageMode);
   writer.setPageLayout(layout);
-  return PaintPages(document, pictures, writer, 0, static_cast<int>(document.pages.size()) - 1);
+  const int last = static_cast<int>(document.pages.size()) - 1;
+  return PaintPages(document, pictures, writer, 0, last) == forms::PrintResult::kDone &&
+         IsWholePdf(file);
 }
 
 QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page) {
