@@ -23,7 +23,7 @@ class IdlePages : public forms::Pages, private forms::TextMetrics {
   double Utf8Width(const forms::Font&, std::string_view) override { return 0; }
   int LineHeight(const forms::Font&) override { return 0; }
   int Ascent(const forms::Font&) override { return 0; }
-  void Print(const forms::Document&) override {}
+  forms::PrintResult Print(const forms::Document&) override { return forms::PrintResult::kDone; }
   void CopyPage(const forms::Document&, int) override {}
   forms::Margins Reach() override { return {}; }
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup&) override { return {}; }

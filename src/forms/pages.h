@@ -20,13 +20,21 @@ class TextMetrics {
   virtual int Ascent(const Font& font) = 0;
 };
 
+// What became of a print.
+enum class PrintResult {
+  kDone,
+  kCancelled,
+  kNotStarted,  // neither the printer nor the file in its place can be opened: nothing is out
+  kBrokenOff,   // some pages may be out
+};
+
 // The printer of the system.
 class Pages {
  public:
   virtual ~Pages() = default;
   virtual TextMetrics& metrics() = 0;
-  // All pages. Without a printer it does nothing.
-  virtual void Print(const Document& document) = 0;
+  // All pages, or those that a person asks for. Nothing is done with no pages.
+  virtual PrintResult Print(const Document& document) = 0;
   // One page, counted from 0, onto the clipboard.
   virtual void CopyPage(const Document& document, int page) = 0;
   // What the printer leaves blank at the edges of its paper; 0.25 inch where no printer says.

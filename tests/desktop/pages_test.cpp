@@ -62,6 +62,7 @@ TEST(Pages, APdfHoldsTheTextOfEachPageAsTheReportHasIt) {
                           "Time Appointment/Activity",
                           "9:00 AM Call AVA about the office, fifty files €5", "No time 2"));
   EXPECT_FALSE(WritePdf(DayPage(metrics), kNoPictures, "/nowhere/day.pdf"));
+  EXPECT_FALSE(WritePdf(DayPage(metrics), kNoPictures, "/dev/full"));
 }
 
 // A text that runs past the room that the core measured for it would run over its neighbour.
@@ -122,7 +123,7 @@ TEST(Pages, TheDialoguesMayBeCancelledOnAMachineWithoutAPrinterToo) {
     qobject_cast<QDialog*>(modal)->reject();
   };
   WhenModal(cancel);
-  pages.Print(DayPage(pages.metrics()));
+  EXPECT_EQ(pages.Print(DayPage(pages.metrics())), forms::PrintResult::kCancelled);
   WhenModal(cancel);
   EXPECT_EQ(pages.ChooseSetup({}), std::nullopt);
   EXPECT_EQ(shown, 2);
@@ -145,7 +146,7 @@ TEST(Pages, OnAMachineWithoutAPrinterTheyGoIntoAPdfFile) {
     name->setText(file);
     qobject_cast<QDialog*>(modal)->accept();
   });
-  pages.Print(DayPage(pages.metrics(), 3));
+  EXPECT_EQ(pages.Print(DayPage(pages.metrics(), 3)), forms::PrintResult::kDone);
   EXPECT_THAT(LinesOfPdf(file), ::testing::IsSupersetOf({"No time 1", "No time 2", "No time 3"}));
 }
 

@@ -135,6 +135,27 @@ TEST_F(PrintPanelTest, ThePageOnShowIsCopiedAndAllPagesArePrinted) {
   EXPECT_EQ(rig.pages.printed[0].pages.size(), 2u);
 }
 
+TEST_F(PrintPanelTest, AFailedPrintIsToldAndOnlyThat) {
+  using forms::PrintResult;
+  const std::pair<PrintResult, const char*> cases[] = {
+      {PrintResult::kDone, nullptr},
+      {PrintResult::kCancelled, nullptr},
+      {PrintResult::kNotStarted,
+       "the printer, or the file in its place, can't be opened.\n"
+       "Nothing was printed."},
+      {PrintResult::kBrokenOff,
+       "the printer or the disk reported an error.\nSome pages may be missing."}};
+  print.Open(Job());
+  for (const auto& [result, told] : cases) {
+    rig.pages.result = result;
+    if (told) {
+      rig.dialogs.Expect("Not Printed", std::string("The pages could not be printed: ") + told);
+    }
+    print.print.Click();
+    EXPECT_TRUE(print.is_open());
+  }
+}
+
 TEST_F(PrintPanelTest, GuideLinesAreStoredWhenAPersonChoosesThem) {
   print.Open(Job());
   print.guide_lines.Pick(1);

@@ -210,11 +210,15 @@ class FakeFolders : public forms::FolderBrowser {
   bool refuse = false;
 };
 
-// A printer that keeps what it was given. `setup` is what its page-setup dialogue answers.
+// A printer that keeps what it was given and answers `result`. `setup` is what its page-setup
+// dialogue answers.
 class FakePages : public forms::Pages {
  public:
   forms::TextMetrics& metrics() override { return fixed_metrics; }
-  void Print(const forms::Document& document) override { printed.push_back(document); }
+  forms::PrintResult Print(const forms::Document& document) override {
+    printed.push_back(document);
+    return result;
+  }
   void CopyPage(const forms::Document& document, int page) override {
     copied = document.pages.at(static_cast<std::size_t>(page));
   }
@@ -226,6 +230,7 @@ class FakePages : public forms::Pages {
 
   FixedMetrics fixed_metrics;
   std::vector<forms::Document> printed;
+  forms::PrintResult result = forms::PrintResult::kDone;
   forms::Page copied;
   forms::Margins reach{0, 0, 0, 0};
   forms::PageSetup last_setup;

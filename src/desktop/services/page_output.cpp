@@ -1,5 +1,6 @@
 #include "desktop/services/page_output.h"
 
+#include <QFile>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -49,8 +50,9 @@ forms::PageSetup SetupOf(const QPageLayout& layout) {
   return setup;
 }
 
-bool PaintPages(const forms::Document& document, const PictureStore& pictures,
-                QPagedPaintDevice& device, int first, int last) {
+forms::PrintResult PaintPages(const forms::Document& document, const PictureStore& pictures,
+                              QPagedPaintDevice& device, int first, int last) {
+  using forms::PrintResult;
   QPainter painter;
   PagePainter pages(document, pictures);
   for (int page = first; page <= last; ++page) {
@@ -60,12 +62,20 @@ bool PaintPages(const forms::Document& document, const PictureStore& pictures,
     const bool is_other = !layout.isEquivalentTo(device.pageLayout());
     // A printer that doesn't have the paper prints on its own.
     if (is_other) device.setPageLayout(layout);
-    if (page == first ? !painter.begin(&device) : !device.newPage()) return false;
+    if (page == first && !painter.begin(&device)) return PrintResult::kNotStarted;
+    if (page > first && !device.newPage()) return PrintResult::kBrokenOff;
     const double scale = std::min(static_cast<double>(device.width()) / setup.width(),
                                   static_cast<double>(device.height()) / setup.height());
     PaintSheet(painter, pages, page, scale);
   }
-  return painter.end();
+  return painter.end() ? PrintResult::kDone : PrintResult::kBrokenOff;
+}
+
+bool IsWholePdf(const QString& file) {
+  const QByteArray end = "%%EOF\n";
+  QFile pdf(file);
+  return pdf.open(QIODevice::ReadOnly) && pdf.size() > end.size() &&
+         pdf.seek(pdf.size() - end.size()) && pdf.read(end.size()) == end;
 }
 
 bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file) {
@@ -76,7 +86,9 @@ bool WritePdf(const forms::Document& document, const PictureStore& pictures, con
   QPageLayout layout = LayoutOf(document.SetupOf(0));
   layout.setMode(QPageLayout::FullPageMode);
   writer.setPageLayout(layout);
-  return PaintPages(document, pictures, writer, 0, static_cast<int>(document.pages.size()) - 1);
+  const int last = static_cast<int>(document.pages.size()) - 1;
+  return PaintPages(document, pictures, writer, 0, last) == forms::PrintResult::kDone &&
+         IsWholePdf(file);
 }
 
 QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page) {

@@ -9,6 +9,7 @@
 
 #include "desktop/widgets/pictures.h"
 #include "forms/page.h"
+#include "forms/pages.h"
 
 namespace tarnwell::desktop {
 
@@ -17,9 +18,12 @@ QPageLayout LayoutOf(const forms::PageSetup& setup);
 forms::PageSetup SetupOf(const QPageLayout& layout);
 
 // Paints the pages `first` to `last`, counted from 0, on a sheet each. A sheet of other paper than
-// the pages were made for gets them whole, as large as it allows. False when the device fails.
-bool PaintPages(const forms::Document& document, const PictureStore& pictures,
-                QPagedPaintDevice& device, int first, int last);
+// the pages were made for gets them whole, as large as it allows. Never cancelled.
+forms::PrintResult PaintPages(const forms::Document& document, const PictureStore& pictures,
+                              QPagedPaintDevice& device, int first, int last);
+
+// Whether a file was written to its end. Qt doesn't tell of a disk that had no room for it.
+bool IsWholePdf(const QString& file);
 
 // False when the file can't be written.
 bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file);

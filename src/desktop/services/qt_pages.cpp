@@ -60,9 +60,9 @@ void Prepare(QPrinter& printer, const forms::PageSetup& setup) {
 
 }  // namespace
 
-void QtPages::Print(const forms::Document& document) {
+forms::PrintResult QtPages::Print(const forms::Document& document) {
   const int pages = static_cast<int>(document.pages.size());
-  if (pages == 0) return;
+  if (pages == 0) return forms::PrintResult::kDone;
   QPrinter printer(QPrinter::HighResolution);
   Prepare(printer, document.SetupOf(0));
   const QString title = FromCore(document.title);
@@ -73,14 +73,19 @@ void QtPages::Print(const forms::Document& document) {
     QPrintDialog dialog(&printer, question.asker());
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, pages);
-    if (dialog.exec() != QDialog::Accepted) return;
+    if (dialog.exec() != QDialog::Accepted) return forms::PrintResult::kCancelled;
   }
   printer.setFullPage(true);
   const int first = printer.fromPage() > 0 ? printer.fromPage() - 1 : 0;
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages) - 1 : pages - 1;
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  PaintPages(document, pictures_, printer, first, last);
+  auto result = PaintPages(document, pictures_, printer, first, last);
+  const QString file = printer.outputFileName();
+  if (result == forms::PrintResult::kDone && !file.isEmpty() && !IsWholePdf(file)) {
+    result = forms::PrintResult::kBrokenOff;
+  }
   QGuiApplication::restoreOverrideCursor();
+  return result;
 }
 
 void QtPages::CopyPage(const forms::Document& document, int page) {

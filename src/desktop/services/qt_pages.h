@@ -12,7 +12,7 @@ class QtPages : public forms::Pages {
   explicit QtPages(const PictureStore& pictures) : pictures_(pictures) {}
 
   forms::TextMetrics& metrics() override { return metrics_; }
-  void Print(const forms::Document& document) override;
+  forms::PrintResult Print(const forms::Document& document) override;
   // As a picture and as text.
   void CopyPage(const forms::Document& document, int page) override;
   forms::Margins Reach() override;
