@@ -7,6 +7,7 @@
 #include <QMenuBar>
 
 #include "desktop/main_window.h"
+#include "desktop/widgets/grid_view.h"
 #include "desktop/widgets/text.h"
 #include "forms/help_menu.h"
 #include "forms/mnemonics.h"
@@ -68,7 +69,7 @@ bool WindowKeys::TakeMnemonic(const QKeyEvent& key, bool act) {
   if (!target) return false;
   auto* button = page->findChild<QAbstractButton*>(FromCore(target->name()));
   if (!button || !button->isVisible()) return false;
-  if (act) {
+  if (act && EndEditUnderKeys()) {
     if (button->focusPolicy() != Qt::NoFocus) button->setFocus(Qt::ShortcutFocusReason);
     button->click();
   }
