@@ -2,15 +2,27 @@
 
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "forms/dialogs.h"
 #include "forms/folder_browser.h"
 #include "forms/pages.h"
 #include "forms/services.h"
 
 namespace tarnwell::bench {
+
+class IdleClock : public forms::Clock {
+  text::Moment Now() override { return {}; }
+};
+
+class IdleLoop : public forms::EventLoop {
+  void Yield() override {}
+  void WaitALittle() override {}
+  void RunUntil(const std::function<bool()>&) override {}
+};
 
 class IdleClipboard : public forms::Clipboard {
   void SetText(std::string_view) override {}
@@ -46,6 +58,33 @@ class IdleFolders : public forms::FolderBrowser {
   std::optional<std::vector<std::string>> Folders(const std::string&) override { return {}; }
   std::optional<std::vector<std::string>> Files(const std::string&) override { return {}; }
   storage::Outcome WriteFile(const std::string&, std::string_view) override { return {}; }
+};
+
+// A user who says yes to everything.
+class YesDialogs : public forms::Dialogs {
+  forms::Answer Message(const forms::MessageBox& box) override {
+    return box.buttons == forms::Buttons::kOk ? forms::Answer::kOk : forms::Answer::kYes;
+  }
+  std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
+  std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
+  std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
+};
+
+class IdleWindow : public forms::Window {
+  forms::Size screen() override { return {}; }
+  forms::Size room() override { return {}; }
+  forms::Size size() override { return {}; }
+  void SetSize(forms::Size) override {}
+  void SetMinimumSize(forms::Size) override {}
+  bool maximized() override { return false; }
+  void SetMaximized(bool) override {}
+  void CenterOnScreen() override {}
+  void SetHourglass(bool) override {}
+  void Beep() override {}
+};
+
+class IdleHelp : public forms::HelpViewer {
+  void Show(int) override {}
 };
 
 }  // namespace tarnwell::bench

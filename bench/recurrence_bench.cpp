@@ -28,32 +28,8 @@ constexpr double kLongestGap = 50;  // milliseconds
 const text::Date kToday = text::MakeDate(2026, 3, 9);
 const text::Date kFirstDay = text::AddDays(kToday, 1);
 
-// A user who says yes to everything, at a machine without a screen.
 class Clock : public forms::Clock {
   text::Moment Now() override { return {kToday, std::chrono::hours(9)}; }
-};
-class Dialogs : public forms::Dialogs {
-  forms::Answer Message(const forms::MessageBox& box) override {
-    return box.buttons == forms::Buttons::kOk ? forms::Answer::kOk : forms::Answer::kYes;
-  }
-  std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
-  std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
-  std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
-};
-class Window : public forms::Window {
-  forms::Size screen() override { return {}; }
-  forms::Size room() override { return {}; }
-  forms::Size size() override { return {}; }
-  void SetSize(forms::Size) override {}
-  void SetMinimumSize(forms::Size) override {}
-  bool maximized() override { return false; }
-  void SetMaximized(bool) override {}
-  void CenterOnScreen() override {}
-  void SetHourglass(bool) override {}
-  void Beep() override {}
-};
-class Help : public forms::HelpViewer {
-  void Show(int) override {}
 };
 
 class GapMeter : public forms::EventLoop {
@@ -126,10 +102,10 @@ class Planner {
   }
 
   Clock clock_;
-  Dialogs dialogs_;
+  YesDialogs dialogs_;
   GapMeter loop_;
-  Window window_;
-  Help help_;
+  IdleWindow window_;
+  IdleHelp help_;
   IdleClipboard clipboard_;
   IdlePages pages_;
   IdleFolders folders_;

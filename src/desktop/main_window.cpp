@@ -11,6 +11,7 @@
 
 #include "desktop/form_dialog.h"
 #include "desktop/services/nested_loop.h"
+#include "desktop/widgets/grid_view.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
@@ -162,7 +163,7 @@ void MainWindow::CloseTop() {
 // The form decides whether the window goes; what it shows next comes through the navigator.
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  CloseTop();
+  if (EndEditUnderKeys()) CloseTop();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

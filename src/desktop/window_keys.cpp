@@ -7,6 +7,7 @@
 #include <QMenuBar>
 
 #include "desktop/main_window.h"
+#include "desktop/widgets/grid_view.h"
 #include "desktop/widgets/text.h"
 #include "forms/mnemonics.h"
 #include "parts/help_menu.h"
@@ -68,7 +69,7 @@ bool WindowKeys::TakeMnemonic(const QKeyEvent& key, bool act) {
   if (!target) return false;
   auto* button = page->findChild<QAbstractButton*>(FromCore(target->name()));
   if (!button || !button->isVisible()) return false;
-  if (act) {
+  if (act && EndEditUnderKeys()) {
     const bool takes_focus = button->focusPolicy() != Qt::NoFocus;
     if (takes_focus) button->setFocus(Qt::ShortcutFocusReason);
     // The control before may not let the focus go; then the button is as little pressed as with the

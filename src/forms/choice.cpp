@@ -39,25 +39,4 @@ void CheckBox::Check(bool checked) {
   Run(on_change);
 }
 
-void ComboBox::SetItems(std::vector<std::string> items) {
-  items_ = std::move(items);
-  selected_ = kNone;
-  Changed();
-}
-
-std::string ComboBox::text() const {
-  return selected_ == kNone ? std::string() : items_[static_cast<std::size_t>(selected_)];
-}
-
-void ComboBox::Select(int index) {
-  selected_ = index >= 0 && index < static_cast<int>(items_.size()) ? index : kNone;
-  Changed();
-}
-
-void ComboBox::Pick(int index) {
-  if (!Reachable() || index < 0 || index >= static_cast<int>(items_.size())) return;
-  Select(index);
-  Run(on_pick);
-}
-
 }  // namespace tarnwell::forms

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/control.h"
+#include "forms/item_list.h"
 
 namespace tarnwell::forms {
 
@@ -80,28 +80,10 @@ class CheckBox : public Control {
   bool checked_ = false;
 };
 
-// A drop-down list. `selected` is 0-based, kNone for nothing.
-class ComboBox : public Control {
+// A drop-down list.
+class ComboBox : public ItemList {
  public:
-  static constexpr int kNone = -1;
-
-  ComboBox(Container& parent, std::string_view name, std::string_view spoken_name)
-      : Control(parent, name) {
-    SetSpokenName(spoken_name);
-  }
-
-  const std::vector<std::string>& items() const { return items_; }
-  void SetItems(std::vector<std::string> items);  // and nothing selected
-  int selected() const { return selected_; }
-  std::string text() const;
-  void Select(int index);
-  void Pick(int index);
-
-  std::function<void()> on_pick;
-
- private:
-  std::vector<std::string> items_;
-  int selected_ = kNone;
+  using ItemList::ItemList;
 };
 
 }  // namespace tarnwell::forms

@@ -1,10 +1,7 @@
 #include "forms/grid.h"
 
 #include <algorithm>
-
-#include "forms/text_field.h"
-#include "text/leading_number.h"
-#include "text/letters.h"
+#include <utility>
 
 namespace tarnwell::forms {
 namespace {
@@ -19,136 +16,186 @@ Grid::Grid(Container& parent, std::string_view name, std::string_view spoken_nam
 }
 
 Grid::Batch::~Batch() {
-  if (--grid_.batches_ == 0) grid_.Changed();
+  if (--grid_.batches_ == 0) grid_.Tell(std::exchange(grid_.pending_, {}));
 }
 
-void Grid::CellsChanged() {
-  if (batches_ == 0) Changed();
+void Grid::Tell(const GridChange& change) {
+  if (batches_ > 0) return pending_.Add(change);
+  // A listener may change the grid in its turn.
+  const GridChange outer = std::exchange(change_, change);
+  Changed();
+  change_ = outer;
 }
 
 bool Grid::HasCell(int row, int column) const {
   return row >= 1 && row < rows() && column >= 0 && column < columns();
 }
 
-bool Grid::CanSelect(int row, int column) const {
-  return HasCell(row, column) && column >= fixed_columns_;
-}
-
-void Grid::SetColumns(std::vector<GridColumn> columns, int fixed_columns) {
+void Grid::SetColumns(std::vector<GridColumn> columns, int fixed_columns, int held_columns) {
   columns_ = std::move(columns);
   fixed_columns_ = fixed_columns;
-  rows_.clear();
+  held_columns_ = std::max(fixed_columns, held_columns);
+  cells_.SetColumns(static_cast<int>(columns_.size()));
+  history_.Forget();
   current_ = {};
-  CellsChanged();
+  typed_.reset();
+  highlight_ = 0;
+  sort_mark_.reset();
+  selected_.clear();
+  Tell({.columns = true, .rows = true, .cursor = true, .marks = true});
 }
 
 void Grid::SetTitle(int column, std::string_view title) {
   if (column < 0 || column >= columns()) return;
   columns_[static_cast<std::size_t>(column)].title = title;
-  CellsChanged();
+  Tell({.titles = true});
+}
+
+void Grid::SetChoices(int column, std::vector<std::string> choices) {
+  if (column < 0 || column >= columns()) return;
+  columns_[static_cast<std::size_t>(column)].choices = std::move(choices);
+}
+
+// Cursor and marks stay in rows that there are.
+void Grid::KeepCurrentInside() {
+  typed_.reset();
+  if (!HasCell(current_.row, current_.column)) current_ = {};
+}
+
+void Grid::MoveRows(const std::function<int(int)>& to) {
+  history_.MoveRows(to);
+  for (int& row : selected_) row = to(row);
+  std::erase(selected_, 0);
+  std::ranges::sort(selected_);
+  if (highlight_ > 0) highlight_ = to(highlight_);
+  KeepCurrentInside();
+  Tell({.rows = true, .cursor = true, .marks = true, .cells = AllCells()});
 }
 
 void Grid::SetRows(int rows) {
-  rows_.resize(static_cast<std::size_t>(std::max(rows, 1) - 1), EmptyRow());
-  KeepCurrentInside();
-  CellsChanged();
+  const int before = this->rows();
+  const int after = std::max(rows, 1);
+  if (after == before) return;
+  cells_.SetRows(after - 1);
+  if (after > before) return Tell({.rows = true});
+  MoveRows([after](int row) { return row < after ? row : 0; });
 }
 
 void Grid::InsertRow(int row) {
   const int place = std::clamp(row, 1, rows());
-  rows_.insert(rows_.begin() + (place - 1), EmptyRow());
-  CellsChanged();
+  cells_.Insert(place);
+  MoveRows([place](int old) { return old < place ? old : old + 1; });
 }
 
 void Grid::RemoveRow(int row) {
   if (!HasCell(row, 0)) return;
-  rows_.erase(rows_.begin() + (row - 1));
-  KeepCurrentInside();
-  CellsChanged();
+  cells_.Remove(row);
+  MoveRows([row](int old) { return old == row ? 0 : old - (old > row ? 1 : 0); });
 }
 
 void Grid::ClearCells() {
-  std::ranges::fill(rows_, EmptyRow());
-  CellsChanged();
+  cells_.Clear();
+  history_.Forget();
+  typed_.reset();
+  Tell({.cursor = true, .cells = AllCells()});
 }
 
 void Grid::Sort(int column, bool descending) {
   if (column < 0 || column >= columns()) return;
-  const auto place = static_cast<std::size_t>(column);
-  const bool numeric = columns_[place].numeric;
-  const auto less = [&](const Row& a, const Row& b) {
-    const std::string& left = (descending ? b : a).cells[place];
-    const std::string& right = (descending ? a : b).cells[place];
-    if (numeric) return text::LeadingNumber(left) < text::LeadingNumber(right);
-    return text::CompareIgnoringCase(left, right) < 0;
-  };
-  std::ranges::stable_sort(rows_, less);
-  CellsChanged();
-}
-
-void Grid::KeepCurrentInside() {
-  if (!HasCell(current_.row, current_.column)) current_ = {};
+  const bool numeric = columns_[static_cast<std::size_t>(column)].numeric;
+  const std::vector<int> order = cells_.Sort(column, numeric, descending);
+  std::vector<int> places(order.size() + 1);
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    places[static_cast<std::size_t>(order[i])] = static_cast<int>(i) + 1;
+  }
+  const auto to = [&places](int row) { return places[static_cast<std::size_t>(row)]; };
+  sort_mark_ = {column, descending};
+  current_.row = to(current_.row);
+  MoveRows(to);
 }
 
 const std::string& Grid::text(int row, int column) const {
   if (row == 0 && column >= 0 && column < columns()) return this->column(column).title;
-  return HasCell(row, column) ? RowAt(row).cells[static_cast<std::size_t>(column)] : kEmpty;
+  return HasCell(row, column) ? cells_.text(row, column) : kEmpty;
+}
+
+// What a form writes because of an edit is part of it; all else isn't the person's to undo.
+void Grid::KeepHistoryTrue(int row, int column, std::string_view text) {
+  GridEdit* last = history_.last();
+  if (taking_ == Taking::kEdit) {
+    if (last && last->place == GridPlace{row, column}) last->after = text;
+  } else if (taking_ == Taking::kNone && batches_ > 0) {
+    history_.Forget();
+  } else if (taking_ == Taking::kNone) {
+    history_.Forget({row, column});
+  }
 }
 
 void Grid::SetText(int row, int column, std::string_view text) {
-  if (!HasCell(row, column)) return;
-  RowAt(row).cells[static_cast<std::size_t>(column)] = text;
-  CellsChanged();
+  if (!HasCell(row, column) || !cells_.SetText(row, column, text)) return;
+  KeepHistoryTrue(row, column, text);
+  Tell({.cells = {row, row, column, column}});
 }
 
 GridCellStyle Grid::style(int row, int column) const {
-  if (!HasCell(row, column)) return {};
-  const auto& styles = RowAt(row).styles;
-  const auto found = styles.find(column);
-  return found == styles.end() ? GridCellStyle{} : found->second;
+  return HasCell(row, column) ? cells_.style(row, column) : GridCellStyle{};
 }
 
 void Grid::SetStyle(int row, int column, const GridCellStyle& style) {
-  if (!HasCell(row, column)) return;
-  auto& styles = RowAt(row).styles;
-  if (style == GridCellStyle{}) {
-    styles.erase(column);
-  } else {
-    styles[column] = style;
-  }
-  CellsChanged();
+  if (!HasCell(row, column) || !cells_.SetStyle(row, column, style)) return;
+  Tell({.cells = {row, row, column, column}});
+}
+
+void Grid::Place(GridPlace place) {
+  if (current_ == place) return;
+  current_ = place;
+  KeepCurrentInside();
+  Tell({.cursor = true, .marks = selection_ != GridSelection::kCell});
 }
 
 void Grid::SetCurrent(GridPlace place) {
-  current_ = place;
-  KeepCurrentInside();
-  CellsChanged();
+  ++placings_;
+  Place(place);
+}
+
+void Grid::SetHighlight(int row) {
+  const int place = row >= 1 && row < rows() ? row : 0;
+  if (highlight_ == place) return;
+  highlight_ = place;
+  Tell({.marks = true});
+}
+
+void Grid::SetSortMark(std::optional<GridSortMark> mark) {
+  sort_mark_ = mark;
+  Tell({.marks = true});
+}
+
+void Grid::SetSelection(GridSelection selection) {
+  selection_ = selection;
+  selected_.clear();
+  Tell({.marks = true});
+}
+
+std::vector<int> Grid::selected_rows() const {
+  if (selection_ == GridSelection::kRows) return selected_;
+  const bool has_one = selection_ == GridSelection::kRow && current_.row > 0;
+  return has_one ? std::vector<int>{current_.row} : std::vector<int>();
+}
+
+void Grid::SetSelectedRows(std::vector<int> rows) {
+  if (selection_ != GridSelection::kRows) return;
+  std::erase_if(rows, [this](int row) { return !HasCell(row, 0); });
+  std::ranges::sort(rows);
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  if (rows == selected_) return;
+  selected_ = std::move(rows);
+  Tell({.marks = true});
 }
 
 void Grid::SetLook(const GridLook& look) {
+  if (look_ == look) return;
   look_ = look;
-  CellsChanged();
-}
-
-void Grid::SelectCell(int row, int column) {
-  if (!Reachable() || !CanSelect(row, column)) return;
-  SetCurrent({row, column});
-  Run(on_select);
-}
-
-void Grid::EditCell(int row, int column, std::string_view text) {
-  if (!Reachable() || !CanSelect(row, column) || !this->column(column).editable) return;
-  if (current_ != GridPlace{row, column}) SelectCell(row, column);
-  // Going there may have led elsewhere.
-  if (current_ != GridPlace{row, column}) return;
-  SetText(row, column, TypedText(text, this->column(column).max_length));
-  if (on_edit) on_edit(row, column);
-}
-
-void Grid::ClickHeading(int column) {
-  if (Reachable() && column >= fixed_columns_ && column < columns() && on_heading) {
-    on_heading(column);
-  }
+  Tell({.look = true});
 }
 
 }  // namespace tarnwell::forms

@@ -1,102 +1,22 @@
-// Grids, lists, page previews and coloured fields, used by keys and by the mouse.
+// Lists, page previews and coloured fields, used by keys and by the mouse.
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QBuffer>
+#include <QComboBox>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QScrollBar>
-#include <QTableView>
 #include <QTest>
 #include <QToolButton>
 
-#include "desktop/sample_form.h"
-#include "desktop/widgets/bound_widgets.h"
-#include "desktop/widgets/pictures.h"
+#include "desktop/shown_widget.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-using ::testing::ElementsAre;
-
-// A picture of one colour stands for every file.
-QByteArray RedPicture() {
-  QImage image(4, 4, QImage::Format_RGB32);
-  image.fill(Qt::red);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  image.save(&buffer, "PNG");
-  return bytes;
-}
-
-class DataWidgets : public ::testing::Test {
- protected:
-  template <typename WidgetClass>
-  WidgetClass* Show(QWidget* widget) {
-    widget_.reset(widget);
-    widget->resize(400, 300);
-    widget->show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(widget));
-    return qobject_cast<WidgetClass*>(widget);
-  }
-  QColor PixelAt(int x, int y) { return widget_->grab().toImage().pixelColor(x, y); }
-
-  testing::SampleWorld world_;
-  testing::SampleForm& form_ = world_.Show();
-  PictureStore pictures_{[](std::string_view) { return RedPicture(); }};
-  std::unique_ptr<QWidget> widget_;
-};
-
-TEST_F(DataWidgets, AGridShowsItsCellsInColumnsOfTheirShares) {
-  forms::Grid grid(form_, "VSGd1", "Month");
-  grid.SetColumns({{"Day", 0.25}, {"Text", 0.5, forms::GridAlign::kRight}, {"Rest", 0.25}});
-  grid.SetRows(2);
-  grid.SetText(1, 1, "Caf\xE9");
-  auto* table = Show<QTableView>(Widget(grid, pictures_));
-  const QAbstractItemModel& model = *table->model();
-  EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), "Text");
-  EXPECT_EQ(model.index(0, 1).data().toString(), QStringLiteral("Café"));
-  const int width = table->viewport()->width();
-  EXPECT_EQ(table->columnWidth(0), width / 4);
-  EXPECT_EQ(table->columnWidth(1), width / 2);
-  grid.SetRows(5);
-  EXPECT_EQ(model.rowCount(), 4);
-  grid.SetLook({forms::kPureBlue, {}});
-  EXPECT_EQ(PixelAt(200, 250), QColor(Qt::blue));
-  grid.SetLook({std::nullopt, "WP1.jpg"});
-  EXPECT_EQ(PixelAt(200, 250), QColor(Qt::red));
-}
-
-TEST_F(DataWidgets, AGridIsWalkedAndEditedWhereItsColumnsAllow) {
-  forms::Grid grid(form_, "VSGd1", "Month");
-  grid.SetColumns({{"Fixed"}, {"Free", 0.3, forms::GridAlign::kLeft, true, false, 4}, {"Dead"}}, 1);
-  grid.SetRows(4);
-  std::vector<int> selected;
-  grid.on_select = [&] { selected.push_back(grid.current().row * 10 + grid.current().column); };
-  auto* table = Show<QTableView>(Widget(grid, pictures_));
-  const auto click = [&](int row, int column) {
-    const QPoint place = table->visualRect(table->model()->index(row - 1, column)).center();
-    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, place);
-  };
-  click(1, 1);
-  click(2, 0);
-  QTest::keyClick(table, Qt::Key_Down);
-  EXPECT_THAT(selected, ElementsAre(11, 21));
-  QTest::keyClicks(table, "1");
-  ASSERT_TRUE(table->viewport()->findChild<QLineEdit*>());
-  QTest::keyClicks(table->viewport()->findChild<QLineEdit*>(), "2345");
-  QTest::keyClick(table->viewport()->findChild<QLineEdit*>(), Qt::Key_Return);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return grid.text(2, 1) == "1234"; }, 1000));
-  click(2, 2);
-  QTest::keyClicks(table, "x");
-  EXPECT_EQ(grid.text(2, 2), "");
-  grid.SetCurrent({1, 1});
-  EXPECT_EQ(table->currentIndex().row(), 0);
-  EXPECT_THAT(selected, ElementsAre(11, 21, 22));
-}
+using DataWidgets = ShownWidget;
 
 TEST_F(DataWidgets, AListIsPickedFromByAClickAndOpenedByEnter) {
   forms::ListBox box(form_, "Dir1", "Folders");
@@ -108,15 +28,46 @@ TEST_F(DataWidgets, AListIsPickedFromByAClickAndOpenedByEnter) {
     opened = box.text();
     box.SetItems({"Below"});
   };
-  auto* list = Show<QListWidget>(Widget(box));
+  auto* list = Show<QListView>(Widget(box));
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                    list->visualItemRect(list->item(0)).center());
+                    list->visualRect(list->model()->index(0, 0)).center());
   QTest::keyClick(list, Qt::Key_Down);
   EXPECT_EQ(picked, "...Caf\xE9.");
   QTest::keyClick(list, Qt::Key_Return);
   EXPECT_EQ(opened, "Caf\xE9");
-  EXPECT_EQ(list->count(), 1);
-  EXPECT_EQ(list->currentRow(), -1);
+  EXPECT_EQ(list->model()->rowCount(), 1);
+  EXPECT_FALSE(list->currentIndex().isValid());
+}
+
+TEST_F(DataWidgets, ALongListFollowsOneItemAndScrollsToTheEndOfItsWidest) {
+  forms::ListBox box(form_, "List1", "Names");
+  std::vector<std::string> names;
+  for (int i = 0; i < 20000; ++i) names.push_back("Name " + std::to_string(i));
+  box.SetItems(names);
+  auto* list = Show<QListView>(Widget(box));
+  int resets = 0;
+  QObject::connect(list->model(), &QAbstractItemModel::modelReset, list, [&] { ++resets; });
+  box.Select(10000);
+  const int place = list->verticalScrollBar()->value();
+  EXPECT_GT(place, 0);
+  box.InsertItem(0, std::string(200, 'W'));
+  box.RemoveItem(2);
+  box.InsertItem(20000, "Last");
+  EXPECT_EQ(list->model()->index(20000, 0).data().toString(), "Last");
+  EXPECT_EQ(list->currentIndex().data().toString(), "Name 10000");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return list->horizontalScrollBar()->maximum() > 1000; }));
+  EXPECT_EQ(resets, 0);
+}
+
+TEST_F(DataWidgets, ALongComboBoxKeepsWhatIsChosenWhenOneItemComes) {
+  form_.country.SetItems(std::vector<std::string>(20000, "Name"));
+  auto* box = Show<QComboBox>(Widget(form_.country));
+  form_.country.Select(3);
+  form_.country.InsertItem(0, "First");
+  EXPECT_EQ(box->currentIndex(), 4);
+  form_.country.RemoveItem(4);
+  EXPECT_EQ(box->currentIndex(), -1);
+  EXPECT_EQ(box->count(), 20000);
 }
 
 TEST_F(DataWidgets, APreviewShowsItsPagesAndTurnsThem) {

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QTest>
 #include <QTimer>
 
@@ -67,7 +67,7 @@ TEST_F(ProofingView, EnterChangesTheWordAndEscapeEndsTheCheck) {
   OneLine text("aaa bbb ccc");
   Check(text, [](QWidget& page) {
     auto* field = page.findChild<QLineEdit*>(QStringLiteral("Text1"));
-    auto* list = page.findChild<QListWidget*>(QStringLiteral("List1"));
+    auto* list = page.findChild<QListView*>(QStringLiteral("List1"));
     EXPECT_TRUE(field->hasFocus());
     QTest::keyClick(field, Qt::Key_Tab);
     QTest::keyClick(list, Qt::Key_Down);

@@ -2,16 +2,21 @@
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QListView>
 #include <QRadioButton>
 #include <QWheelEvent>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/drop_down.h"
+#include "desktop/widgets/item_model.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
+
+constexpr std::size_t kMostMeasured = 500;  // entries
+constexpr int kLettersOfLong = 30;          // room for the chosen one of a longer list
 
 // Picks only what a person meant. The wheel over a closed list scrolls the screen, not the choice,
 // and keys change it only for a person who went into it, by a click or with Tab.
@@ -61,6 +66,14 @@ class DropDown : public QComboBox {
   bool entered_ = false;
 };
 
+// A long list isn't measured text by text.
+void FitWidth(QComboBox* box, const forms::ComboBox& combo) {
+  const bool is_long = combo.items().size() > kMostMeasured;
+  box->setSizeAdjustPolicy(is_long ? QComboBox::AdjustToMinimumContentsLengthWithIcon
+                                   : QComboBox::AdjustToContents);
+  box->setMinimumContentsLength(is_long ? kLettersOfLong : 0);
+}
+
 }  // namespace
 
 bool ShowItems(QComboBox* box, const std::vector<std::string>& items) {
@@ -102,9 +115,13 @@ QWidget* Widget(forms::CheckBox& box) {
 QWidget* Widget(forms::ComboBox& combo) {
   auto* box = new DropDown;
   box->setMaxVisibleItems(16);
-  box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  auto* binding = new Binding(box, combo, [box, &combo] {
-    ShowItems(box, combo.items());
+  auto* model = new ItemModel(combo, box);
+  FitWidth(box, combo);
+  box->setModel(model);
+  if (auto* list = qobject_cast<QListView*>(box->view())) list->setUniformItemSizes(true);
+  auto* binding = new Binding(box, combo, [box, model, &combo] {
+    if (combo.change() == forms::ListChange::kItems) FitWidth(box, combo);
+    model->Follow();
     box->setCurrentIndex(combo.selected());
   });
   QObject::connect(box, &QComboBox::activated, binding,

@@ -1,13 +1,15 @@
 #include "desktop/widgets/grid_model.h"
 
 #include <QColor>
-#include <QFont>
+#include <algorithm>
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
+
+constexpr int kFewCells = 64;  // told one by one; of more the view repaints all that it shows
 
 // The grid counts its heading as row 0.
 int GridRow(const QModelIndex& index) { return index.row() + 1; }
@@ -26,8 +28,12 @@ int AlignmentOf(forms::GridAlign align) {
 
 }  // namespace
 
-void GridModel::Refresh() {
-  if (rows_ != grid_.rows() - 1 || columns_ != grid_.columns()) {
+GridModel::GridModel(forms::Grid& grid) : grid_(grid), bold_(ScaledFont(TextSize::kStrong)) {
+  Follow({.columns = true});
+}
+
+void GridModel::Follow(const forms::GridChange& change) {
+  if (change.columns) {
     beginResetModel();
     rows_ = grid_.rows() - 1;
     columns_ = grid_.columns();
@@ -35,8 +41,39 @@ void GridModel::Refresh() {
     return;
   }
   if (columns_ == 0) return;
-  emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
-  if (rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columns_ - 1));
+  if (change.titles) emit headerDataChanged(Qt::Horizontal, 0, columns_ - 1);
+  if (change.rows) FitRows();
+  TellCells(change.cells);
+}
+
+// Which rows came and went doesn't matter here: what stands in the others is told as their change.
+void GridModel::FitRows() {
+  const int rows = grid_.rows() - 1;
+  if (rows > rows_) {
+    beginInsertRows({}, rows_, rows - 1);
+    rows_ = rows;
+    endInsertRows();
+  } else if (rows < rows_) {
+    beginRemoveRows({}, rows, rows_ - 1);
+    rows_ = rows;
+    endRemoveRows();
+  }
+}
+
+void GridModel::TellCells(forms::GridArea area) {
+  area.last_row = std::min(area.last_row, rows_);
+  if (area.empty()) return;
+  if (area.size() > kFewCells) {
+    emit dataChanged(index(area.first_row - 1, area.first_column),
+                     index(area.last_row - 1, area.last_column));
+    return;
+  }
+  for (int row = area.first_row; row <= area.last_row; ++row) {
+    for (int column = area.first_column; column <= area.last_column; ++column) {
+      const QModelIndex cell = index(row - 1, column);
+      emit dataChanged(cell, cell);
+    }
+  }
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
@@ -46,6 +83,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
+  if (index.column() >= grid_.columns()) return {};
   const int row = GridRow(index);
   switch (role) {
     case Qt::DisplayRole:
@@ -57,7 +95,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
       if (const auto color = grid_.style(row, index.column()).color) return ToQColor(*color);
       return {};
     case Qt::FontRole:
-      if (grid_.style(row, index.column()).bold) return ScaledFont(TextSize::kStrong);
+      if (grid_.style(row, index.column()).bold) return bold_;
       return {};
     default:
       return {};
@@ -75,12 +113,6 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
   if (!index.isValid() || index.column() < grid_.fixed_columns()) return Qt::ItemIsEnabled;
   const auto selectable = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   return grid_.column(index.column()).editable ? selectable | Qt::ItemIsEditable : selectable;
-}
-
-bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-  if (role != Qt::EditRole) return false;
-  grid_.EditCell(GridRow(index), index.column(), ToCore(value.toString()));
-  return true;
 }
 
 }  // namespace tarnwell::desktop

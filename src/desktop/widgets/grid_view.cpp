@@ -1,10 +1,6 @@
 #include "desktop/widgets/grid_view.h"
 
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QStyledItemDelegate>
+#include <QScopedValueRollback>
 #include <algorithm>
 
 #include "desktop/widgets/look.h"
@@ -14,38 +10,9 @@
 namespace tarnwell::desktop {
 namespace {
 
-// Edits a cell with what its column offers or allows.
-class CellEditing : public QStyledItemDelegate {
- public:
-  CellEditing(forms::Grid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}
-
-  QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                        const QModelIndex& index) const override {
-    const forms::GridColumn& column = grid_.column(index.column());
-    auto* line = new QLineEdit;
-    line->setMaxLength(static_cast<int>(column.max_length));
-    line->setFrame(false);
-    if (column.choices.empty()) {
-      line->setParent(parent);
-      return line;
-    }
-    auto* box = new QComboBox(parent);
-    box->setLineEdit(line);
-    box->setEditable(true);
-    for (const std::string& choice : column.choices) box->addItem(FromCore(choice));
-    return box;
-  }
-
-  void setModelData(QWidget* editor, QAbstractItemModel* model,
-                    const QModelIndex& index) const override {
-    const auto* box = qobject_cast<QComboBox*>(editor);
-    if (!box) return QStyledItemDelegate::setModelData(editor, model, index);
-    model->setData(index, box->currentText(), Qt::EditRole);
-  }
-
- private:
-  forms::Grid& grid_;
-};
+forms::GridPlace PlaceOf(const QModelIndex& index) {
+  return index.isValid() ? forms::GridPlace{index.row() + 1, index.column()} : forms::GridPlace();
+}
 
 QColor MeanColor(const QPixmap& picture) {
   return picture.toImage()
@@ -56,38 +23,112 @@ QColor MeanColor(const QPixmap& picture) {
 }  // namespace
 
 GridView::GridView(forms::Grid& grid, const PictureStore& pictures)
-    : grid_(grid), pictures_(pictures), model_(grid) {
+    : grid_(grid),
+      pictures_(pictures),
+      model_(grid),
+      header_(new GridHeader(this)),
+      editing_(new CellEditing(grid, this)) {
+  setHorizontalHeader(header_);
   setModel(&model_);
-  setItemDelegate(new CellEditing(grid, this));
+  setItemDelegate(editing_);
   setTabKeyNavigation(false);
-  setSelectionMode(SingleSelection);
   setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollMode(ScrollPerPixel);
   setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 2 * kTightSpace);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setStretchLastSection(true);
-  connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int column) {
+  header_->setHighlightSections(false);
+  header_->setStretchLastSection(true);
+  connect(header_, &QHeaderView::sectionClicked, this, [this](int column) {
     if (on_heading) on_heading(column);
   });
+  connect(header_, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
+    // The last one takes what is left.
+    if (!is_showing_ && column + 1 < grid_.columns()) dragged_[column] = width;
+  });
+  editing_->on_type = [this](const QString& text) { on_type(text); };
+  editing_->on_leave = [this] { return EndEdit(); };
+  editing_->on_step = [this](forms::GridStep step) { Step(step); };
+  editing_->on_cancel = [this] {
+    on_cancel_edit();
+    CloseEditor();
+  };
+  header_->SetHeld(grid.held_columns());
+  ShowLook();
 }
 
+// The editor goes later than what it tells, and loses the keys on its way.
+GridView::~GridView() { editing_->on_leave = nullptr; }
+
 void GridView::Show() {
-  showing_ = true;
-  const int place = verticalScrollBar()->value();
-  model_.Refresh();
-  ShareWidth();
-  verticalScrollBar()->setValue(place);
+  const forms::GridChange change = grid_.change();
+  const QScopedValueRollback showing(is_showing_, true);
+  model_.Follow(change);
+  if (change.columns) {
+    header_->SetHeld(grid_.held_columns());
+    dragged_.clear();
+    ShareWidth();
+  }
+  ShowMarks();
   ShowCurrent();
-  horizontalHeader()->setSectionsClickable(static_cast<bool>(grid_.on_heading));
+  ShowEdit(change.cursor);
   if (look_ != grid_.look()) ShowLook();
-  showing_ = false;
 }
 
 void GridView::ShowCurrent() {
   const auto [row, column] = grid_.current();
   const QModelIndex current = row > 0 ? model_.index(row - 1, column) : QModelIndex();
-  if (current != currentIndex()) setCurrentIndex(current);
+  if (current != currentIndex()) {
+    if (grid_.selection() == forms::GridSelection::kRows) {
+      selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    } else {
+      setCurrentIndex(current);
+    }
+  }
+  if (grid_.selection() == forms::GridSelection::kRows) ShowSelectedRows();
+}
+
+std::vector<int> GridView::MarkedRows() const {
+  std::vector<int> rows;
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row + 1);
+  }
+  std::ranges::sort(rows);
+  rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+  return rows;
+}
+
+void GridView::ShowSelectedRows() {
+  const std::vector<int> rows = grid_.selected_rows();
+  if (rows == MarkedRows()) return;
+  QItemSelection selection;
+  for (std::size_t i = 0; i < rows.size();) {
+    const std::size_t first = i;
+    while (++i < rows.size() && rows[i] == rows[i - 1] + 1) continue;
+    selection.append({model_.index(rows[first] - 1, 0), model_.index(rows[i - 1] - 1, 0)});
+  }
+  selectionModel()->select(selection,
+                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+void GridView::ShowMarks() {
+  const forms::GridSelection kind = grid_.selection();
+  const bool is_cell = kind == forms::GridSelection::kCell;
+  setSelectionBehavior(is_cell ? SelectItems : SelectRows);
+  setSelectionMode(kind == forms::GridSelection::kRows ? ExtendedSelection : SingleSelection);
+  header_->setSectionsClickable(static_cast<bool>(grid_.on_heading));
+  const auto& mark = grid_.sort_mark();
+  if (mark && !header_->isSortIndicatorShown()) {
+    header_->setSortIndicatorShown(true);
+    ShareWidth();
+  }
+  header_->setSortIndicator(mark ? mark->column : -1,
+                            mark && mark->descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+  if (highlight_ == grid_.highlight()) return;
+  for (const int row : {highlight_, grid_.highlight()}) {
+    viewport()->update(0, rowViewportPosition(row - 1), viewport()->width(), rowHeight(row - 1));
+  }
+  highlight_ = grid_.highlight();
 }
 
 void GridView::ShowLook() {
@@ -107,10 +148,14 @@ void GridView::ShowLook() {
 }
 
 void GridView::ShareWidth() {
+  const QScopedValueRollback showing(is_showing_, true);
   const int width = viewport()->width();
-  for (int i = 0; i < grid_.columns(); ++i) {
+  for (int i = 0; i < header_->count(); ++i) {
+    const auto dragged = dragged_.find(i);
     const int share = static_cast<int>(width * grid_.column(i).share);
-    horizontalHeader()->resizeSection(i, std::max(share, sizeHintForColumn(i) / 2));
+    header_->resizeSection(i, dragged != dragged_.end()
+                                  ? dragged->second
+                                  : std::max(share, header_->sectionSizeHint(i)));
   }
 }
 
@@ -119,15 +164,30 @@ void GridView::resizeEvent(QResizeEvent* event) {
   ShareWidth();
 }
 
-// The tiles stay where they are, so the old picture can't be shifted along.
-void GridView::scrollContentsBy(int dx, int dy) {
-  QTableView::scrollContentsBy(dx, dy);
-  if (!look_.wallpaper.empty()) viewport()->update();
+void GridView::Report() {
+  if (is_showing_ || is_acting_) return;
+  const forms::GridPlace place = PlaceOf(currentIndex());
+  if (grid_.selection() == forms::GridSelection::kRows) {
+    const std::vector<int> rows = MarkedRows();
+    // Getting the keys, Qt goes to the first cell, which may be a fixed one.
+    const bool has_gone =
+        place != grid_.current() && model_.flags(currentIndex()).testFlag(Qt::ItemIsSelectable);
+    if (on_rows && (has_gone || rows != grid_.selected_rows())) on_rows(rows, place);
+  } else if (place.row > 0 && place != grid_.current() && on_select) {
+    on_select(place.row, place.column);
+  }
 }
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QTableView::currentChanged(current, previous);
-  if (!showing_ && current.isValid() && on_select) on_select(current.row() + 1, current.column());
+  Report();
+}
+
+void GridView::selectionChanged(const QItemSelection& on, const QItemSelection& off) {
+  QTableView::selectionChanged(on, off);
+  if (header_->HeldWidth() > 0)
+    viewport()->update(0, 0, header_->HeldWidth(), viewport()->height());
+  Report();
 }
 
 }  // namespace tarnwell::desktop

@@ -1,50 +1,111 @@
 #include <QKeyEvent>
-#include <QListWidget>
+#include <QListView>
+#include <QStyledItemDelegate>
+#include <algorithm>
 #include <functional>
+#include <string_view>
+#include <vector>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/item_model.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-class List : public QListWidget {
+constexpr std::ptrdiff_t kMostMeasured = 64;  // texts, the longest ones
+
+// All rows are of one height and as wide as the widest text, so that a long list is shown without
+// measuring each.
+class EvenRows : public QStyledItemDelegate {
  public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void Forget() { widest_ = 0; }
+  void Measure(std::string_view text, const QFontMetrics& metrics) {
+    widest_ = std::max(widest_, metrics.horizontalAdvance(FromCore(text)));
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    const int text = option.fontMetrics.horizontalAdvance(index.data().toString());
+    return {size.width() + std::max(widest_ - text, 0), size.height()};
+  }
+
+ private:
+  int widest_ = 0;
+};
+
+class List : public QListView {
+ public:
+  explicit List(forms::ListBox& box) : box_(box), model_(box, this), rows_(new EvenRows(this)) {
+    setModel(&model_);
+    setItemDelegate(rows_);
+    setUniformItemSizes(true);
+    MeasureAll();
+  }
+
+  void Show() {
+    switch (box_.change()) {
+      case forms::ListChange::kItems:
+        MeasureAll();
+        break;
+      case forms::ListChange::kInserted:
+        MeasureNew(box_.changed_place());
+        break;
+      default:
+        break;
+    }
+    model_.Follow();
+    const QModelIndex selected = model_.index(box_.selected());
+    if (selected != currentIndex()) setCurrentIndex(selected);
+  }
   std::function<void(int row)> on_key_pick;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    const int before = currentRow();
-    QListWidget::keyPressEvent(event);
-    if (currentRow() != before && on_key_pick) on_key_pick(currentRow());
+    const QModelIndex before = currentIndex();
+    QListView::keyPressEvent(event);
+    if (currentIndex() != before && on_key_pick) on_key_pick(currentIndex().row());
   }
-};
+  void changeEvent(QEvent* event) override {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) MeasureAll();
+  }
 
-void ShowItems(QListWidget* list, const forms::ListBox& box) {
-  QStringList items;
-  for (const std::string& item : box.items()) items << FromCore(item);
-  QStringList shown;
-  for (int i = 0; i < list->count(); ++i) shown << list->item(i)->text();
-  if (items != shown) {
-    list->clear();
-    list->addItems(items);
+ private:
+  // Who was told before may have taken it out again.
+  void MeasureNew(int place) {
+    if (place >= std::ssize(box_.items())) return;
+    rows_->Measure(box_.items()[static_cast<std::size_t>(place)], fontMetrics());
   }
-  if (list->currentRow() != box.selected()) list->setCurrentRow(box.selected());
-}
+  void MeasureAll() {
+    std::vector<std::string_view> texts(box_.items().begin(), box_.items().end());
+    const auto measured = std::min(std::ssize(texts), kMostMeasured);
+    std::ranges::partial_sort(texts, texts.begin() + measured, std::greater(),
+                              &std::string_view::size);
+    rows_->Forget();
+    for (auto text = texts.begin(); text != texts.begin() + measured; ++text) {
+      rows_->Measure(*text, fontMetrics());
+    }
+  }
+
+  forms::ListBox& box_;
+  ItemModel model_;
+  EvenRows* rows_;
+};
 
 }  // namespace
 
 QWidget* Widget(forms::ListBox& box) {
-  auto* list = new List;
-  auto* binding = new Binding(list, box, [list, &box] { ShowItems(list, box); });
+  auto* list = new List(box);
+  auto* binding = new Binding(list, box, [list] { list->Show(); });
   list->on_key_pick = binding->Forward([&box](int row) { box.Pick(row); });
-  QObject::connect(
-      list, &QListWidget::itemClicked, binding,
-      binding->Forward([list, &box](QListWidgetItem* item) { box.Pick(list->row(item)); }));
-  QObject::connect(
-      list, &QListWidget::itemActivated, binding,
-      binding->Forward([list, &box](QListWidgetItem* item) { box.Open(list->row(item)); }));
+  QObject::connect(list, &QListView::clicked, binding,
+                   binding->Forward([&box](const QModelIndex& index) { box.Pick(index.row()); }));
+  QObject::connect(list, &QListView::activated, binding,
+                   binding->Forward([&box](const QModelIndex& index) { box.Open(index.row()); }));
   return list;
 }
 

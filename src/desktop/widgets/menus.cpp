@@ -1,5 +1,6 @@
 #include "desktop/widgets/menus.h"
 
+#include "desktop/widgets/grid_view.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -16,7 +17,7 @@ void Bind(QAction* action, forms::MenuItem& item) {
   auto subscription = std::make_shared<forms::Subscription>(item.OnChanged(show));
   QObject::connect(action, &QAction::triggered, action, [action, show, subscription, &item] {
     if (!subscription->Connected()) return;
-    item.Click();
+    if (EndEditUnderKeys()) item.Click();
     show();  // Qt has toggled the mark; the form decides on it
   });
   show();
