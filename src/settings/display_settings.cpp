@@ -1,6 +1,7 @@
 #include "settings/display_settings.h"
 
 #include "settings/files.h"
+#include "storage/file_names.h"
 #include "storage/record_file.h"
 #include "text/letters.h"
 
@@ -11,7 +12,6 @@ constexpr int kSmallerScreen = 35;
 constexpr int kHeight = 36;
 constexpr int kWidth = 37;
 
-constexpr const char* kStartFile = "HINV3.Fil";
 constexpr int kStartRecordLength = 10;
 constexpr int kStartBackground = 3;
 
@@ -43,11 +43,13 @@ void WriteDefaultWindowSize(storage::ProgramFolder& folder) {
 }
 
 storage::TaggedValue ReadStartBackground(storage::ProgramFolder& folder) {
-  return storage::RecordFile(folder, kStartFile, kStartRecordLength).GetTagged(kStartBackground);
+  return storage::RecordFile(folder, storage::file_names::kHinv3, kStartRecordLength)
+      .GetTagged(kStartBackground);
 }
 
 void WriteStartBackground(storage::ProgramFolder& folder, const storage::TaggedValue& color) {
-  storage::RecordFile(folder, kStartFile, kStartRecordLength).PutTagged(kStartBackground, color);
+  storage::RecordFile(folder, storage::file_names::kHinv3, kStartRecordLength)
+      .PutTagged(kStartBackground, color);
 }
 
 }  // namespace tarnwell::settings
