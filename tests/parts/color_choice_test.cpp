@@ -7,7 +7,6 @@
 #include "parts/grid_background_panel.h"
 #include "settings/grid_backgrounds.h"
 #include "storage/record_file.h"
-#include "support/failing_file_system.h"
 #include "support/form_rig.h"
 
 namespace tarnwell::parts {
