@@ -14,7 +14,7 @@ void SetHidden(const Token& token, std::string_view source, FormatState& state) 
   std::string& other = state.character.other;
   RemoveKept(token.text, other);
   if (token.On()) KeepWord(source, other);
-  state.hidden = HoldsKept("v", other) || HoldsKept("deleted", other);
+  state.hidden = IsHidden(other);
 }
 
 }  // namespace

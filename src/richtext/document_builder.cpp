@@ -28,7 +28,7 @@ std::size_t SizeOf(const ParagraphFormat& format) {
 bool IsGroup(const Run& run) {
   const auto* const opaque = std::get_if<Opaque>(&run.content);
   return opaque != nullptr && opaque->rtf.starts_with('{') && run.field == kNoField &&
-         !HoldsKept("v", run.format.other) && !HoldsKept("deleted", run.format.other);
+         !IsHidden(run.format.other);
 }
 
 }  // namespace

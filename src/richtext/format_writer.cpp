@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "richtext/code_pages.h"
+#include "richtext/head_tables.h"
 #include "richtext/kept_words.h"
 #include "richtext/rtf_words.h"
 #include "richtext/script_words.h"
@@ -84,9 +85,7 @@ int WriterTables::FreeNumber() const {
 
 int WriterTables::CodePageOf(const std::string& font) const {
   const std::string& name = font.empty() ? default_font_ : font;
-  const auto own = std::find_if(fonts_.begin(), fonts_.end(),
-                                [&name](const Font& candidate) { return candidate.name == name; });
-  return own == fonts_.end() ? code_page_ : CodePageOfCharset(own->charset, code_page_);
+  return CodePageOfFont(fonts_, name, code_page_);
 }
 
 int WriterTables::ColorNumber(const std::optional<Color>& color) {

@@ -66,7 +66,7 @@ class FontReader {
   void TakeUnicode(const Token& token) {
     if (!font_) return;
     const auto character = static_cast<char32_t>(token.number & 0xFFFF);
-    if (character >= ' ' && font_->name.size() < kLongestName) AppendUtf8(character, font_->name);
+    if (character >= ' ') AppendUtf8(character, font_->name);
     const Token fallback = tokenizer_.Next();
     if (fallback.kind == TokenKind::kText) tokenizer_.Seek(fallback.begin + 1);
     if (fallback.kind == TokenKind::kGroupEnd) tokenizer_.Seek(fallback.begin);
@@ -82,9 +82,7 @@ class FontReader {
   void TakeName(std::string_view bytes) {
     if (!font_) return;
     const std::size_t end = bytes.find(';');
-    std::string name;
-    decoder_.Take(bytes.substr(0, end), NameCodePage(), name);
-    if (font_->name.size() + name.size() <= kLongestName) font_->name += name;
+    decoder_.Take(bytes.substr(0, end), NameCodePage(), font_->name);
     if (end != std::string_view::npos) Finish();
   }
 
@@ -102,6 +100,7 @@ class FontReader {
     decoder_.Flush(font.name);
     std::erase(font.name, '\t');
     font.name.erase(0, std::min(font.name.find_first_not_of(' '), font.name.size()));
+    if (font.name.size() > kLongestName) font.name.resize(CharacterStart(font.name, kLongestName));
     const bool is_known = std::any_of(fonts_.begin(), fonts_.end(), [&font](const Font& other) {
       return other.number == font.number;
     });
@@ -117,6 +116,11 @@ class FontReader {
 };
 
 }  // namespace
+
+int CodePageOfFont(const std::vector<Font>& fonts, const std::string& name, int document) {
+  const auto own = std::ranges::find(fonts, name, &Font::name);
+  return own == fonts.end() ? document : CodePageOfCharset(own->charset, document);
+}
 
 std::vector<Font> ReadFonts(std::string_view body, int document_code_page) {
   return FontReader(body, document_code_page).Read();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,9 @@
 #include "richtext/rich_document.h"
 
 namespace tarnwell::richtext {
+
+// The code page of text in the first font of that name; `document`'s own where there is none.
+int CodePageOfFont(const std::vector<Font>& fonts, const std::string& name, int document);
 
 // `document_code_page` is that of names in fonts whose character set says nothing.
 std::vector<Font> ReadFonts(std::string_view body, int document_code_page);

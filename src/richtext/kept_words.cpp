@@ -56,4 +56,6 @@ bool HoldsKept(std::string_view name, std::string_view kept) {
   return !kept.empty() && FindKept(name, kept) != std::string_view::npos;
 }
 
+bool IsHidden(std::string_view kept) { return HoldsKept("v", kept) || HoldsKept("deleted", kept); }
+
 }  // namespace tarnwell::richtext

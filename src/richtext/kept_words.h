@@ -23,4 +23,8 @@ void RemoveKept(std::string_view name, std::string& kept);
 std::size_t FindKept(std::string_view name, std::string_view kept);
 bool HoldsKept(std::string_view name, std::string_view kept);
 
+// Whether text of a format that keeps these words isn't shown: hidden, or deleted with the change
+// still tracked.
+bool IsHidden(std::string_view kept);
+
 }  // namespace tarnwell::richtext

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "richtext/head_tables.h"
 #include "richtext/limits.h"
 #include "richtext/runs.h"
+#include "richtext/sections.h"
 #include "richtext/text_escape.h"
 
 namespace tarnwell::richtext {
@@ -35,6 +37,7 @@ RichDocument RtfReader::Read() && {
   LeaveFields();
   EndParagraph(&DocumentBuilder::Finish);
   document_.epilogue = builder_.TakeEpilogue();
+  document_.page = PageOfFirstSection(document_);
   document_.code_page = tables_.code_page;
   document_.default_font = tables_.default_font;
   document_.fonts = std::move(tables_.fonts);
@@ -114,7 +117,9 @@ void RtfReader::AddText(std::string_view utf8) {
   if (utf8.empty()) return;
   BeginBody();
   if (!state().hidden) return builder_.AddText(utf8, settled());
-  builder_.AddOpaque({EscapeText(utf8, state().text_code_page)}, settled());
+  // The font that it will be written in may be another of the same name.
+  const int code_page = CodePageOfFont(tables_.fonts, state().character.font, tables_.code_page);
+  builder_.AddOpaque({EscapeText(utf8, code_page)}, settled());
 }
 
 void RtfReader::TakeSymbol(const Token& token) {

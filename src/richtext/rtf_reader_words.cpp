@@ -55,7 +55,6 @@ void RtfReader::TakeWord(const Token& token) {
     case WordClass::kDestination:
       return TakeDestination(word, token.begin);
     case WordClass::kKeptInPlace:
-      if (token.text == "sectd" && !body_begun_) document_.page = document_.base_page;
       return KeepWordInPlace(source);
     case WordClass::kStructure:
       return TakeStructureWord(word, token);
@@ -127,10 +126,8 @@ void RtfReader::TakeDocumentWord(const KnownWord& word, const Token& token) {
 
 // Those that end in "sxn" are of the first section, which is written with the prologue.
 void RtfReader::TakePageWord(Word word, const Token& token) {
-  const int length = std::clamp(token.number, 0, kLongestLength);
-  LengthOf(word, document_.page) = length;
   if (token.text.ends_with("sxn")) return KeepWordInPlace(WordSource(tokenizer_, token));
-  LengthOf(word, document_.base_page) = length;
+  LengthOf(word, document_.base_page) = std::clamp(token.number, 0, kLongestLength);
 }
 
 void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {

@@ -5,6 +5,7 @@
 
 #include "richtext/head_tables.h"
 #include "richtext/kept_pieces.h"
+#include "richtext/kept_words.h"
 #include "richtext/rich_text_writer.h"
 
 namespace tarnwell::richtext {
@@ -36,6 +37,16 @@ std::string PageWords(const Page& page) {
   add("\\margt", page.top_margin, plain.top_margin);
   add("\\margb", page.bottom_margin, plain.bottom_margin);
   return out;
+}
+
+// The format that holds behind the last paragraph.
+CharacterFormat LastMark(const RichDocument& document) {
+  if (document.blocks.empty()) return {};
+  const Block& last = document.blocks.back();
+  if (const auto* const paragraph = std::get_if<Paragraph>(&last)) return paragraph->mark;
+  const std::vector<TableRow>& rows = std::get<Table>(last).rows;
+  if (rows.empty() || rows.back().cells.empty()) return {};
+  return rows.back().cells.back().paragraphs.back().mark;
 }
 
 }  // namespace
@@ -73,7 +84,10 @@ std::string RtfWriter::Write() && {
   const std::string head = PageWords(document_.base_page) + document_.prologue;
   rtf += head;
   if (!head.empty()) rtf += '\n';
-  return rtf + out_ + document_.epilogue + "}\n";
+  rtf += out_;
+  // Hidden, it would be taken for text of one more paragraph.
+  if (!document_.epilogue.empty() && IsHidden(LastMark(document_).other)) rtf += "\\plain";
+  return rtf + document_.epilogue + "}\n";
 }
 
 void RtfWriter::WriteTable(const Table& table) {

@@ -147,6 +147,12 @@ std::string PageNumberText(int number, PageNumbers style) {
   return text;
 }
 
+Page PageOfFirstSection(const RichDocument& document) {
+  SectionReader reader(document);
+  reader.Take(document.prologue);
+  return reader.section().page;
+}
+
 std::vector<Section> SectionsOf(const RichDocument& document) {
   std::vector<Section> sections;
   SectionReader reader(document);

@@ -41,6 +41,9 @@ struct Section {
   Furniture footer;
 };
 
+// By `document`'s base page and prologue, whatever of the two was said first.
+Page PageOfFirstSection(const RichDocument& document);
+
 // In their order; there is at least one.
 std::vector<Section> SectionsOf(const RichDocument& document);
 
