@@ -21,21 +21,17 @@ using forms::kWhite;
 using settings::PanelColor;
 using settings::StoredColor;
 
-constexpr const char* kTitle = "Panel Color";
-constexpr const char* kQuestion =
-    "Select New Color or Use System Default Color?\nYes = Color Selection Panel will appear.\n"
-    "No = Current System Default Color will be selected.";
 constexpr const char* kConflict =
     "Selected Color would cause a conflict with Text and Background Colors!";
 
 class ColorChoiceTest : public ::testing::Test {
  protected:
   void Choose(ColorTarget target, Answer answer, std::optional<Color> color = std::nullopt) {
-    if (target != ColorTarget::kText) rig.dialogs.Expect(kTitle, kQuestion, answer);
+    if (target != ColorTarget::kText) rig.dialogs.ExpectColorQuestion(answer);
     if (answer == Answer::kYes) rig.dialogs.ExpectColor(color);
     colors.Choose(target);
   }
-  void ExpectConflict() { rig.dialogs.Expect("Color Conflict", kConflict); }
+  void ExpectConflict() { rig.dialogs.ExpectError("Color Conflict", kConflict); }
   StoredColor StoredPanel() {
     return settings::ReadPanelColor(rig.folder, PanelColor::kDocumentImages);
   }
@@ -102,7 +98,7 @@ TEST_F(ColorChoiceTest, TheSystemsOwnColourIsStoredAsAWord) {
 }
 
 TEST_F(ColorChoiceTest, TextAndBackgroundMustDiffer) {
-  rig.dialogs.Expect(kTitle, kQuestion, Answer::kYes);
+  rig.dialogs.ExpectColorQuestion(Answer::kYes);
   ExpectConflict();
   rig.dialogs.ExpectColor(kBlack);
   colors.Choose(ColorTarget::kBackground);
@@ -118,8 +114,10 @@ TEST_F(ColorChoiceTest, TextAndBackgroundMustDiffer) {
 
 TEST_F(ColorChoiceTest, TheColourForAllIsAskedForOncePerColour) {
   const auto ask = [this](Answer answer) {
-    rig.dialogs.Expect("Complete Program Panel Color Update Option",
-                       "Save Panel Color Changes for ALL of the Program Functions?", answer);
+    rig.dialogs.Expect({"Complete Program Panel Color Update Option",
+                        "Save Panel Color Changes for ALL of the Program Functions?",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
+                       answer);
     SaveAllPanelColors(rig.context);
   };
   const auto planner = [this] {
@@ -129,7 +127,6 @@ TEST_F(ColorChoiceTest, TheColourForAllIsAskedForOncePerColour) {
 
   rig.variables.PanelColorNew = "255";
   ask(Answer::kNo);
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   EXPECT_TRUE(planner().empty());
   ask(Answer::kYes);
   EXPECT_EQ(planner(), StoredColor::Number(255));
@@ -196,9 +193,10 @@ TEST_F(GridBackgroundPanelTest, AColourOrTheDefaultTakesThePicturesPlace) {
 TEST_F(GridBackgroundPanelTest, AColourThatTheDiskRefusesIsToldAndHolds) {
   ASSERT_TRUE(std::filesystem::create_directory(rig.temporary.path() + "/GColor1.Fil"));
   rig.dialogs.ExpectColor(0xCCFFCC);
-  rig.dialogs.Expect("Not Saved",
-                     "The grid background could not be saved: something else has the name of its "
-                     "file.\nIt holds for now.");
+  rig.dialogs.ExpectError(
+      "Not Saved",
+      "The grid background could not be saved: something else has the name of its "
+      "file.\nIt holds for now.");
   selector.use_color.Click();
   EXPECT_EQ(look.color, 0xCCFFCC);
 }

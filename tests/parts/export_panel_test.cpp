@@ -23,7 +23,7 @@ class ExportPanelTest : public ::testing::Test {
   }
   void Open() { panel.Open(grid, "Timeline.xls"); }
   void ExpectDone() {
-    rig.dialogs.Expect("Export Function", "Export Completed to selected location!");
+    rig.dialogs.ExpectNote("Export Function", "Export Completed to selected location!");
   }
 
   testing::FormRig rig;
@@ -57,9 +57,9 @@ TEST_F(ExportPanelTest, TheWholeGridGoesOutAsTabbedText) {
 TEST_F(ExportPanelTest, AFailedWriteIsToldInPlaceOfTheConfirmation) {
   Open();
   rig.folders.refuse = true;
-  rig.dialogs.Expect("Not Saved",
-                     "The file Timeline.xls could not be saved: the disk is full.\n"
-                     "It is still on the screen.");
+  rig.dialogs.ExpectError("Not Saved",
+                          "The file Timeline.xls could not be saved: the disk is full.\n"
+                          "It is still on the screen.");
   panel.save.Click();
   EXPECT_TRUE(panel.is_open());
 }
@@ -86,7 +86,7 @@ TEST_F(ExportPanelTest, OnlyASpreadsheetsNameInThisFolderIsTaken) {
   for (const char* name :
        {"  ", "plan.txt", "xls", "plan.xlsx", "a\\b.xls", "d:a.xls", "../a.xls"}) {
     panel.name.Type(name);
-    rig.dialogs.Expect("Export Error", "File Name is Missing or Incorrect");
+    rig.dialogs.ExpectError("Export Error", "File Name is Missing or Incorrect");
     panel.save.Click();
   }
   EXPECT_THAT(rig.folders.written, IsEmpty());
@@ -109,22 +109,20 @@ TEST_F(ExportPanelTest, ADriveOrFolderThatIsGoneLeadsBackToTheProgramsFolder) {
   Open();
   panel.chooser.drives.Pick(2);
   EXPECT_EQ(panel.chooser.path.caption(), "/");
-  rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");
+  rig.dialogs.ExpectError("Device/Drive Error", "Device/Drive is Unavailable!");
   panel.chooser.drives.Pick(1);
-  EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kCritical);
   EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/");
   EXPECT_EQ(panel.chooser.drives.text(), "/home/ann");
   EXPECT_TRUE(panel.save.enabled());
 
   rig.folders.readable.erase("/home/ann/Tarnwell/Sheets/");
-  rig.dialogs.Expect("Device Status", "Device Unavailable!  ");
+  rig.dialogs.ExpectWarning("Device Status", "Device Unavailable!  ");
   panel.chooser.folders.Open(1);
-  EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kExclamation);
   EXPECT_EQ(panel.chooser.path.caption(), "/home/ann/Tarnwell/");
 
   rig.folders.readable.clear();
-  rig.dialogs.Expect("Device/Drive Error", "Device/Drive is Unavailable!");
-  rig.dialogs.Expect("Device Status", "Device Unavailable!  ");
+  rig.dialogs.ExpectError("Device/Drive Error", "Device/Drive is Unavailable!");
+  rig.dialogs.ExpectWarning("Device Status", "Device Unavailable!  ");
   panel.chooser.drives.Pick(1);
   EXPECT_FALSE(panel.save.enabled());
   panel.name.Type("x.xls");

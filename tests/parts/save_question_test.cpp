@@ -34,8 +34,8 @@ TEST(SaveQuestionTest, WorkIsLeftOnlySavedOrKnowingly) {
       return c.save;
     });
     question.SetUnsaved(c.unsaved);
-    if (c.unsaved) rig.dialogs.Expect("Title", "Save?", c.answer);
-    if (c.leave) rig.dialogs.Expect("Not Saved", "Leave without saving?", *c.leave);
+    if (c.unsaved) rig.dialogs.ExpectYesNoCancel("Title", "Save?", c.answer);
+    if (c.leave) rig.dialogs.ExpectLeaveUnsaved(*c.leave);
     EXPECT_EQ(question.Settle({"Title", "Save?", forms::Buttons::kYesNoCancel}), c.may_go);
     EXPECT_EQ(saves, c.saves);
   }
@@ -46,7 +46,8 @@ TEST(SaveQuestionTest, AnOfferMaySaveInItsOwnWay) {
   SaveQuestion question(rig.context, [] { return SaveResult::kFailed; });
   EXPECT_EQ(question.Offer(), SaveResult::kSaved);  // nothing to ask
   question.SetUnsaved(true);
-  rig.dialogs.Expect("Save Changes?", "Save changes/entries before next action?", Answer::kYes);
+  rig.dialogs.ExpectYesNo("Save Changes?", "Save changes/entries before next action?",
+                          Answer::kYes);
   EXPECT_EQ(question.Offer({}, [] { return SaveResult::kDeclined; }), SaveResult::kDeclined);
 }
 

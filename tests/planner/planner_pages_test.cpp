@@ -62,21 +62,22 @@ TEST_F(PlannerPagesTest, AMonthWithoutRowsHasOneEmptyRow) {
   form().view_month.Click();
   EXPECT_EQ(form().pages.month.grid.rows(), 2);
   EXPECT_THAT(MonthRowAt(1), ElementsAre("", "", ""));
-  rig.dialogs.Expect("Print", "There are currently No Entries to Print!");
+  rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
   form().pages.month.print.Click();
-  rig.dialogs.Expect("Copy", "There are currently No Entries to Copy!");
+  rig.dialogs.ExpectNote("Copy", "There are currently No Entries to Copy!");
   rig.ClickMenu("mOCopy");
 }
 
 TEST_F(PlannerPagesTest, ViewingTheMonthOffersToSaveTheDayFirst) {
   form().entries[0].Type("Bank");
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before next action?", Answer::kYes);
-  rig.dialogs.Expect("Save File Command", "Entries Have Been Time Sorted and File Saved.");
+  rig.dialogs.ExpectYesNo("Daily Planner", "Save changes/entries before next action?",
+                          Answer::kYes);
+  rig.dialogs.ExpectNote("Save File Command", "Entries Have Been Time Sorted and File Saved.");
   form().view_month.Click();
   EXPECT_THAT(MonthRowAt(1), ElementsAre(" 9th", "", "Bank"));
   form().pages.month.close.Click();
   form().entries[0].Type("Dropped");
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before next action?", Answer::kNo);
+  rig.dialogs.ExpectYesNo("Daily Planner", "Save changes/entries before next action?", Answer::kNo);
   form().view_month.Click();
   EXPECT_THAT(MonthRowAt(1), ElementsAre(" 9th", "", "Bank"));
   form().pages.month.close.Click();
@@ -84,7 +85,7 @@ TEST_F(PlannerPagesTest, ViewingTheMonthOffersToSaveTheDayFirst) {
 }
 
 TEST_F(PlannerPagesTest, TheDayOnScreenIsPrintedWithItsOptions) {
-  rig.dialogs.Expect("Print", "There are currently No Entries to Print!");
+  rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
   form().print_options.Click();
   EXPECT_FALSE(print().is_open());
   Store(9, {"9:00 AM", "Bank"});
@@ -135,7 +136,7 @@ TEST_F(PlannerPagesTest, TheMonthIsExportedFromItsPanel) {
   EXPECT_FALSE(form().pages.month.panel.visible());
   for (const char* entry : {"mUExport", "mOCopy", "mOS"}) EXPECT_FALSE(Enabled(entry)) << entry;
   EXPECT_EQ(exporting.name.text(), "Daily Planner.xls");
-  rig.dialogs.Expect("Export Function", "Export Completed to selected location!");
+  rig.dialogs.ExpectNote("Export Function", "Export Completed to selected location!");
   exporting.save.Click();
   EXPECT_EQ(rig.folders.written["/home/ann/Tarnwell/Daily Planner.xls"],
             "Day\tTime\tAppointment/Activity\r\n 9th\t9:00 AM\tBank\r\n");
@@ -147,31 +148,29 @@ TEST_F(PlannerPagesTest, TheMonthIsExportedFromItsPanel) {
 }
 
 TEST_F(PlannerPagesTest, WhatIsOnShowIsCopied) {
-  rig.dialogs.Expect("Copy", "There are currently No Entries to Copy!");
+  rig.dialogs.ExpectNote("Copy", "There are currently No Entries to Copy!");
   rig.ClickMenu("mECopy");
   Store(9, {"9:00 AM", "Bank"});
   Open();
-  rig.dialogs.Expect("Copy Option", "Data has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option", "Data has been copied to the Windows Clipboard.");
   rig.ClickMenu("mOCopy");
   EXPECT_THAT(rig.clipboard.text, ::testing::StartsWith("Appointments/Activities For Monday"));
   form().view_month.Click();
-  rig.dialogs.Expect("Copy Option", "Data has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option", "Data has been copied to the Windows Clipboard.");
   rig.ClickMenu("mECopy");
   EXPECT_THAT(rig.clipboard.text, ::testing::StartsWith("Month Calendar For March 2026\r\n"));
 }
 
 TEST_F(PlannerPagesTest, ChangedColoursAreKeptOnlyWhenAPersonSaysSo) {
-  const std::string question =
-      "Select New Color or Use System Default Color?\nYes = Color Selection Panel will "
-      "appear.\nNo = Current System Default Color will be selected.";
   const auto change = [&] {
-    rig.dialogs.Expect("Panel Color", question, Answer::kYes);
+    rig.dialogs.ExpectColorQuestion(Answer::kYes);
     rig.dialogs.ExpectColor(0xCCFFFF);
     rig.ClickMenu("mOC");
     EXPECT_EQ(form().day.background(), 0xCCFFFF);
   };
   const auto leave = [this](Answer answer) {
-    rig.dialogs.Expect("Color Changes", "Save changes made to Panel and or Text Color?", answer);
+    rig.dialogs.ExpectYesNoCancel("Color Changes", "Save changes made to Panel and or Text Color?",
+                                  answer);
     form().exit.Click();
   };
   change();

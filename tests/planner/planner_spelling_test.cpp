@@ -17,8 +17,9 @@ class PlannerSpellingTest : public ::testing::Test {
   Zcalandar1& form() { return rig.Get<Zcalandar1>("Zcalandar1"); }
   proofing::VSSpell1& dialogue() { return rig.Get<proofing::VSSpell1>("VSSpell1"); }
   void ExpectChanged() {
-    rig.dialogs.Expect("Spelling Check",
-                       "Spelling Check has been canceled or has reached the end of your entries");
+    rig.dialogs.ExpectNote(
+        "Spelling Check",
+        "Spelling Check has been canceled or has reached the end of your entries");
   }
 
   testing::ProgramRig rig;
@@ -45,12 +46,12 @@ TEST_F(PlannerSpellingTest, EachRowsTextIsCheckedWithItsRowInHand) {
 TEST_F(PlannerSpellingTest, OnlyAReplacementMakesTheDayUnsaved) {
   rig.speller.misspelled = {{"Dentst", {"Dentist"}}};
   form().entries[0].Type("Dentst");
-  rig.dialogs.Expect("Save File Command", "Entries Have Been Time Sorted and File Saved.");
+  rig.dialogs.ExpectNote("Save File Command", "Entries Have Been Time Sorted and File Saved.");
   form().save.Click();
 
   rig.loop.during_modal = [this] { dialogue().ignore.Click(); };
-  rig.dialogs.Expect("Spelling Check",
-                     "Spelling Check did not change or did not find any misspelled words!");
+  rig.dialogs.ExpectNote("Spelling Check",
+                         "Spelling Check did not change or did not find any misspelled words!");
   rig.ClickMenu("mOSpell");
   form().exit.Click();  // nothing is unsaved, so nothing is asked
   ASSERT_EQ(rig.top(), "Startfrm");
@@ -59,7 +60,8 @@ TEST_F(PlannerSpellingTest, OnlyAReplacementMakesTheDayUnsaved) {
   rig.loop.during_modal = [this] { dialogue().change.Click(); };
   ExpectChanged();
   rig.ClickMenu("mOSpell");
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", forms::Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", "Save changes/entries before exiting?",
+                                forms::Answer::kNo);
   form().exit.Click();
 }
 
@@ -76,11 +78,11 @@ TEST_F(PlannerSpellingTest, ACorrectedRowIsCutToWhatCanBeTyped) {
 TEST_F(PlannerSpellingTest, WithoutADictionaryThePlannerStillChecks) {
   rig.speller.installed = false;
   form().entries[0].Type("Call Annn");
-  rig.dialogs.Expect("Spell Check",
-                     "There is no dictionary of American English on this computer.\n"
-                     "Only frequent slips of the typing are corrected.");
-  rig.dialogs.Expect("Spelling Check",
-                     "Spelling Check did not change or did not find any misspelled words!");
+  rig.dialogs.ExpectNote("Spell Check",
+                         "There is no dictionary of American English on this computer.\n"
+                         "Only frequent slips of the typing are corrected.");
+  rig.dialogs.ExpectNote("Spelling Check",
+                         "Spelling Check did not change or did not find any misspelled words!");
   form().check_spelling.Click();
 }
 

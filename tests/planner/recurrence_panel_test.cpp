@@ -59,21 +59,22 @@ class RecurrencePanelTest : public ::testing::Test {
     choice().calendar.SelectDay(date);
   }
   void ExpectReport(const std::string& entries, const std::string& full_days = {}) {
-    rig.dialogs.Expect(
+    rig.dialogs.ExpectNote(
         "Recurrence Option",
         full_days + "The recurrence option did make " + entries +
             " entry(ies).\n[Note: If Appointment already exists it was not entered again!]");
   }
   void ExpectTenYears() {
-    rig.dialogs.Expect(
+    rig.dialogs.ExpectWarning(
         "Recurrence Option Maximum Year Requirement",
         "Program years have exceeded 10 year maximum!\nAppropriate changes will been made.");
   }
   void ExpectRemovalQuestion(Answer answer) {
-    rig.dialogs.Expect("Remove This Recurrence",
-                       "Are you sure we want to remove the recurrences of this appointment?\n"
-                       "Note: The Removal action will check each day between the Selected\n"
-                       "          Beginning Date and End Date and remove the appointment.",
+    rig.dialogs.Expect({"Remove This Recurrence",
+                        "Are you sure we want to remove the recurrences of this appointment?\n"
+                        "Note: The Removal action will check each day between the Selected\n"
+                        "          Beginning Date and End Date and remove the appointment.",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
                        answer);
   }
   // A person clicks the stop box while the panel yields for the n-th time.
@@ -83,10 +84,10 @@ class RecurrencePanelTest : public ::testing::Test {
     };
   }
   void ExpectInterruption(const std::string& last_line) {
-    rig.dialogs.Expect("Recurrence Interruption!",
-                       "Recurrence File Update has been Stopped Prior to Completion!\n"
-                       "Not all updates have been accomplished!\n" +
-                           last_line);
+    rig.dialogs.ExpectError("Recurrence Interruption!",
+                            "Recurrence File Update has been Stopped Prior to Completion!\n"
+                            "Not all updates have been accomplished!\n" +
+                                last_line);
   }
   // The days on the disk that have the row, from 2026 to 2031.
   std::vector<Date> DaysWith(const DayRow& row) {
@@ -308,9 +309,9 @@ TEST_F(RecurrencePanelTest, DatesOutsideTheLimitsAreIgnoredOrReplaced) {
 }
 
 TEST_F(RecurrencePanelTest, OkWithoutARuleBeepsAndKeepsThePanelOpen) {
-  rig.dialogs.Expect("OK Button Selection",
-                     "No Recurrence Option was selected!\n"
-                     "Please Select Option Desired before clicking the OK Button.");
+  rig.dialogs.ExpectWarning("OK Button Selection",
+                            "No Recurrence Option was selected!\n"
+                            "Please Select Option Desired before clicking the OK Button.");
   panel().ok.Click();
   EXPECT_EQ(rig.window.beeps, 1);
   EXPECT_TRUE(panel().ok.Reachable() && panel().cancel.Reachable() && panel().remove.Reachable());
@@ -378,9 +379,9 @@ TEST_F(RecurrencePanelTest, TheBarIsEmptyBehindTheWarningThatNoRuleIsChosen) {
   ExpectReport("3");
   panel().ok.Click();
   Open(kToday);
-  rig.dialogs.Expect("OK Button Selection",
-                     "No Recurrence Option was selected!\n"
-                     "Please Select Option Desired before clicking the OK Button.");
+  rig.dialogs.ExpectWarning("OK Button Selection",
+                            "No Recurrence Option was selected!\n"
+                            "Please Select Option Desired before clicking the OK Button.");
   panel().ok.Click();
   EXPECT_EQ(panel().progress.value(), 0);
 }
@@ -429,7 +430,6 @@ TEST_F(RecurrencePanelTest, RemovalTakesOneExactRowFromEveryDayOfTheRange) {
   for (Answer answer : {Answer::kNo, Answer::kCancel}) {
     ExpectRemovalQuestion(answer);
     panel().remove.Click();
-    EXPECT_EQ(rig.dialogs.last.default_button, 2);
     EXPECT_TRUE(panel().panel.visible());
   }
   EXPECT_EQ(rig.loop.yields, 0);
@@ -456,17 +456,17 @@ TEST_F(RecurrencePanelTest, UnsavedChangesAreOfferedToBeSavedBeforeThePanelOpens
   panel().cancel.Click();
   form().entries[1].Type("Bank");
   EXPECT_FALSE(form().recurrence_buttons[1].no_drop());
-  rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kYes);
   form().recurrence_buttons[1].Click();  // no box tells of the save
   EXPECT_FALSE(panel().panel.visible());
   EXPECT_EQ(ReadDay(rig.folder, kToday)->rows[1].entry, "Bank");
 
   form().entries[2].Type("Call");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kNo);
   form().recurrence_buttons[2].Click();
   EXPECT_EQ(form().entries[2].text(), "Call");
   EXPECT_EQ(ReadDay(rig.folder, kToday)->rows[2].entry, "");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kYes);
   form().recurrence_buttons[2].Click();  // the row isn't on the disk yet, so it asks again
   form().recurrence_buttons[2].Click();
   EXPECT_TRUE(panel().panel.visible());

@@ -13,6 +13,8 @@ namespace {
 using forms::Answer;
 using text::MakeDate;
 
+constexpr const char* kExit = "Save changes/entries before exiting?";
+
 class Zcalandar1OnABadDiskTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -21,15 +23,12 @@ class Zcalandar1OnABadDiskTest : public ::testing::Test {
   }
   Zcalandar1& form() { return rig.Get<Zcalandar1>("Zcalandar1"); }
   void ExpectNotSaved(const std::string& what) {
-    rig.dialogs.Expect("Not Saved", what +
-                                        " could not be saved: the disk is read-only.\n"
-                                        "It is still on the screen.");
+    rig.dialogs.ExpectError("Not Saved", what +
+                                             " could not be saved: the disk is read-only.\n"
+                                             "It is still on the screen.");
   }
-  void ExpectQuestion(const char* text, Answer answer) {
-    rig.dialogs.Expect("Daily Planner", text, answer);
-  }
-  void ExpectLeave(Answer answer) {
-    rig.dialogs.Expect("Not Saved", "Leave without saving?", answer);
+  void ExpectQuestion(Answer answer) {
+    rig.dialogs.ExpectYesNo("Daily Planner", "Save changes/entries before next action?", answer);
   }
 
   testing::FailingFileSystem files{storage::RealFileSystem()};
@@ -45,29 +44,28 @@ TEST_F(Zcalandar1OnABadDiskTest, AFailedSaveIsToldAndKeepsTheRowsAsTheyWereTyped
   form().save.Click();
   EXPECT_EQ(form().times[0].text(), "9:00");
 
-  const char* next = "Save changes/entries before next action?";
-  ExpectQuestion(next, Answer::kYes);
+  ExpectQuestion(Answer::kYes);
   ExpectNotSaved(day);
   form().recurrence_buttons[0].Click();
-  ExpectQuestion(next, Answer::kYes);
+  ExpectQuestion(Answer::kYes);
   ExpectNotSaved(day);
-  ExpectLeave(Answer::kNo);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   form().picker.SelectDay(MakeDate(2026, 3, 10));
   EXPECT_EQ(form().picker.date(), MakeDate(2026, 3, 9));
-  ExpectQuestion(next, Answer::kYes);
+  ExpectQuestion(Answer::kYes);
   ExpectNotSaved(day);
-  ExpectLeave(Answer::kNo);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   form().view_month.Click();
   EXPECT_EQ(form().entries[0].text(), "Precious");
-  ExpectQuestion("Save changes/entries before exiting?", Answer::kYes);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", kExit, Answer::kYes);
   ExpectNotSaved(day);
-  ExpectLeave(Answer::kNo);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   form().exit.Click();
   EXPECT_EQ(form().entries[0].text(), "Precious");
 
-  ExpectQuestion("Save changes/entries before exiting?", Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", kExit, Answer::kYes);
   ExpectNotSaved(day);
-  ExpectLeave(Answer::kYes);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kYes);
   rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
 }
@@ -79,11 +77,11 @@ TEST_F(Zcalandar1OnABadDiskTest, SettingsThatCantBeStoredAreTold) {
   rig.ClickMenu("mOCal");
   form().calendar_options.months.Pick(1);
   ExpectNotSaved("The calendar options");
-  ExpectLeave(Answer::kNo);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   form().PressEscape();
   EXPECT_TRUE(form().calendar_options.panel.visible());
   ExpectNotSaved("The calendar options");
-  ExpectLeave(Answer::kYes);
+  rig.dialogs.ExpectLeaveUnsaved(Answer::kYes);
   form().calendar_options.close.Click();
   EXPECT_TRUE(form().day.visible());
   rig.dialogs.ExpectColor(0x800000);
@@ -100,7 +98,7 @@ TEST_F(Zcalandar1OnABadDiskTest, DaysThatARecurrenceCantChangeAreTold) {
   form().recurrence.choice.every_days.Type("1");
   form().recurrence.choice.occurrences.Type("3");
   files.MakeReadOnly();
-  rig.dialogs.Expect("Not Saved", "3 dates could not be changed: the disk is read-only.");
+  rig.dialogs.ExpectError("Not Saved", "3 dates could not be changed: the disk is read-only.");
   form().recurrence.ok.Click();
 }
 
@@ -127,16 +125,16 @@ TEST_F(Zcalandar1OnABadDiskTest, ADayThatCantBeReadSaysWhyAndTakesNoEntries) {
 TEST_F(Zcalandar1OnABadDiskTest, AMonthThatCantBeReadStaysClosed) {
   int reads = 0;
   files.FailWhen([&](int) { return files.log().back() == "read" && ++reads == 5; });
-  rig.dialogs.Expect("Can't Be Read",
-                     "The month can't be read: the disk reported an error.\n"
-                     "Nothing will be written over it.");
+  rig.dialogs.ExpectError("Can't Be Read",
+                          "The month can't be read: the disk reported an error.\n"
+                          "Nothing will be written over it.");
   form().view_month.Click();
   EXPECT_FALSE(form().pages.month.panel.visible());
   EXPECT_EQ(form().status(), "");
 
   form().entries[0].Type("Dropped");
   files.Vanish();
-  ExpectQuestion("Save changes/entries before next action?", Answer::kNo);
+  ExpectQuestion(Answer::kNo);
   form().view_month.Click();
   EXPECT_FALSE(form().pages.month.panel.visible());
   EXPECT_FALSE(form().save.enabled());
@@ -145,11 +143,11 @@ TEST_F(Zcalandar1OnABadDiskTest, AMonthThatCantBeReadStaysClosed) {
 
 TEST_F(Zcalandar1OnABadDiskTest, AToDoListThatIsTooLargeIsntReadAndSaysSo) {
   rig.temporary.Write("TODOActv.FIL", std::string(9u << 20, 'x'));
-  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
-                     Answer::kYes);
-  rig.dialogs.Expect("Can't Be Read",
-                     "The To Do list can't be read: it is too large.\n"
-                     "Nothing will be written over it.");
+  rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
+                          Answer::kYes);
+  rig.dialogs.ExpectError("Can't Be Read",
+                          "The To Do list can't be read: it is too large.\n"
+                          "Nothing will be written over it.");
   rig.ClickMenu("mToDo");
 }
 

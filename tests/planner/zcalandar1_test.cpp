@@ -24,7 +24,7 @@ class Zcalandar1Test : public testing::PlannerTest {
     form().times[static_cast<std::size_t>(row)].Type(time);
     form().entries[static_cast<std::size_t>(row)].Type(entry);
   }
-  void ExpectSaved() { rig.dialogs.Expect(kSavedTitle, kSavedText); }
+  void ExpectSaved() { rig.dialogs.ExpectNote(kSavedTitle, kSavedText); }
   void SaveRow(text::Date date, int row, const DayRow& content) {
     DayRows rows = ReadDay(rig.folder, date)->rows;
     rows[static_cast<std::size_t>(row)] = content;
@@ -64,12 +64,12 @@ TEST_F(Zcalandar1Test, ASavedDayIsSortedOnTheScreenAndOnTheDisk) {
 }
 
 TEST_F(Zcalandar1Test, SavingNothingAsksFirst) {
-  const std::string text = "There are currently No Entries to Save!\nSave anyway?";
-  rig.dialogs.Expect("Save", text, Answer::kNo);
+  const forms::MessageBox box{"Save", "There are currently No Entries to Save!\nSave anyway?",
+                              forms::Icon::kQuestion, forms::Buttons::kYesNo, 2};
+  rig.dialogs.Expect(box, Answer::kNo);
   form().save.Click();
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   EXPECT_FALSE(ReadDay(rig.folder, today)->saved);
-  rig.dialogs.Expect("Save", text, Answer::kYes);
+  rig.dialogs.Expect(box, Answer::kYes);
   ExpectSaved();
   form().save.Click();
   EXPECT_TRUE(ReadDay(rig.folder, today)->saved);
@@ -79,7 +79,7 @@ TEST_F(Zcalandar1Test, SavingNothingAsksFirst) {
 TEST_F(Zcalandar1Test, ADateChangeOffersToSaveTheDayThatIsLeft) {
   const std::string question = "Save changes/entries before next action?";
   Type(0, "", "Kept");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kYes);
   ExpectSaved();
   form().picker.SelectDay(tomorrow);
   EXPECT_EQ(ReadDay(rig.folder, today)->rows[0].entry, "Kept");
@@ -87,7 +87,7 @@ TEST_F(Zcalandar1Test, ADateChangeOffersToSaveTheDayThatIsLeft) {
   EXPECT_EQ(form().entries[0].text(), "");
 
   Type(0, "", "Dropped");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kNo);
   form().picker.SelectDay(today);
   EXPECT_EQ(form().entries[0].text(), "Kept");
   EXPECT_FALSE(ReadDay(rig.folder, tomorrow)->saved);
@@ -100,13 +100,12 @@ TEST_F(Zcalandar1Test, ADateChangeOffersToSaveTheDayThatIsLeft) {
 TEST_F(Zcalandar1Test, LeavingWithChangesAsks) {
   const std::string question = "Save changes/entries before exiting?";
   Type(0, "", "Call");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kCancel);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", question, Answer::kCancel);
   form().exit.Click();
   ASSERT_EQ(rig.top(), "Zcalandar1");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kYes);
   ExpectSaved();
   rig.CloseWindow();
-  EXPECT_EQ(rig.dialogs.last.title, kSavedTitle);
   EXPECT_EQ(rig.top(), "Startfrm");
   EXPECT_EQ(ReadDay(rig.folder, today)->rows[0].entry, "Call");
 }
@@ -127,7 +126,8 @@ TEST_F(Zcalandar1Test, APickedTimeGoesToTheRowInHand) {
   form().time_picker.Pick(7);
   EXPECT_EQ(form().times[4].text(), "9:30 AM");
   EXPECT_EQ(form().focus(), &form().entries[4]);
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", "Save changes/entries before exiting?",
+                                Answer::kNo);
   form().exit.Click();
 }
 
@@ -140,23 +140,24 @@ TEST_F(Zcalandar1Test, TypedTextIsCutAtTheScreensLimits) {
 TEST_F(Zcalandar1Test, ClearEntriesBlanksTheScreenOnly) {
   SaveRow(today, 0, {"9:00 AM", "Kept"});
   Open();
-  const std::string question = "Clear all Entries for March 09, 2026 - Mon?";
+  const forms::MessageBox question{"Clear Entries", "Clear all Entries for March 09, 2026 - Mon?",
+                                   forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2};
   for (Answer answer : {Answer::kNo, Answer::kCancel}) {
-    rig.dialogs.Expect("Clear Entries", question, answer);
+    rig.dialogs.Expect(question, answer);
     form().clear_entries.Click();
     EXPECT_EQ(form().entries[0].text(), "Kept");
   }
-  rig.dialogs.Expect("Clear Entries", question, Answer::kYes);
+  rig.dialogs.Expect(question, Answer::kYes);
   form().clear_entries.Click();
   EXPECT_EQ(form().entries[0].text(), "");
   EXPECT_EQ(ReadDay(rig.folder, today)->rows[0].entry, "Kept");
-  rig.dialogs.Expect("Clear Entries", "There are currently No Entries to Clear!");
+  rig.dialogs.ExpectNote("Clear Entries", "There are currently No Entries to Clear!");
   rig.ClickMenu("mOClr");
 }
 
 TEST_F(Zcalandar1Test, ADayIsCopiedOntoTheFreeRowsOfAnother) {
-  rig.dialogs.Expect("Copy all entries for pasteing to another day",
-                     "No Entries to Copy have been found!");
+  rig.dialogs.ExpectNote("Copy all entries for pasteing to another day",
+                         "No Entries to Copy have been found!");
   rig.ClickMenu("mECopyDay");
   EXPECT_FALSE(Enabled("mEPaste"));
 
@@ -172,7 +173,8 @@ TEST_F(Zcalandar1Test, ADayIsCopiedOntoTheFreeRowsOfAnother) {
   EXPECT_EQ(form().entries[2].text(), "A");
   EXPECT_EQ(form().entries[3].text(), "");  // the copied day's blank row used it up
   EXPECT_EQ(form().entries[4].text(), "C");
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", "Save changes/entries before exiting?",
+                                Answer::kNo);
   form().exit.Click();
 }
 
@@ -237,8 +239,8 @@ TEST_F(Zcalandar1Test, ToDoItemsFromTheDayOnScreenOnAreImportedOnce) {
   for (const char* value : values) list.WriteText(value);
   ASSERT_TRUE(list.Save(rig.folder, "TODOActv.FIL"));
   for (int round = 0; round < 2; ++round) {
-    rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
-                       Answer::kYes);
+    rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
+                            Answer::kYes);
     rig.ClickMenu("mToDo");
   }
   const auto day = ReadDay(rig.folder, MakeDate(2026, 3, 12));
@@ -254,8 +256,8 @@ TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {
   storage::SequentialWriter list;
   for (const char* value : {"Taxes", "Thu - Mar 12, 26", ""}) list.WriteText(value);
   ASSERT_TRUE(list.Save(rig.folder, "TODOActv.FIL"));
-  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
-                     Answer::kYes);
+  rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
+                          Answer::kYes);
   int tried = 0;
   rig.loop.on_yield = [&] {
     ++tried;
@@ -271,9 +273,10 @@ TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {
 }
 
 TEST_F(Zcalandar1Test, AnEmptyToDoListIsReported) {
-  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
-                     Answer::kYes);
-  rig.dialogs.Expect("Import To Do List Items", "No To Do List Items to Import have been found!");
+  rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
+                          Answer::kYes);
+  rig.dialogs.ExpectNote("Import To Do List Items",
+                         "No To Do List Items to Import have been found!");
   rig.ClickMenu("mToDo");
 }
 
@@ -281,18 +284,20 @@ TEST_F(Zcalandar1Test, AnEmptyToDoListIsReported) {
 TEST_F(Zcalandar1Test, RowsOnShowStayUnsavedUntilTheyAreSavedOrReplaced) {
   const std::string question = "Save changes/entries before next action?";
   Type(0, "", "Precious");
-  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kNo);
   form().recurrence_buttons[0].Click();
   EXPECT_EQ(form().entries[0].text(), "Precious");
-  rig.dialogs.Expect("To Do List Import Function", "Do you want to Import To Do List Items?",
-                     Answer::kYes);
-  rig.dialogs.Expect("Daily Planner", question, Answer::kNo);
-  rig.dialogs.Expect("Import To Do List Items", "No To Do List Items to Import have been found!");
+  rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
+                          Answer::kYes);
+  rig.dialogs.ExpectYesNo("Daily Planner", question, Answer::kNo);
+  rig.dialogs.ExpectNote("Import To Do List Items",
+                         "No To Do List Items to Import have been found!");
   rig.ClickMenu("mToDo");
   EXPECT_EQ(form().entries[0].text(), "Precious");
   form().print_options.Click();
   form().pages.print.close.Click();
-  rig.dialogs.Expect("Daily Planner", "Save changes/entries before exiting?", Answer::kCancel);
+  rig.dialogs.ExpectYesNoCancel("Daily Planner", "Save changes/entries before exiting?",
+                                Answer::kCancel);
   form().exit.Click();
   EXPECT_EQ(form().entries[0].text(), "Precious");
 }

@@ -127,7 +127,7 @@ TEST_F(PrintPanelTest, ThePageOnShowIsCopiedAndAllPagesArePrinted) {
   print.Open(Job());
   print.preview.TurnTo(7);
   EXPECT_EQ(print.preview.page(), 1);
-  rig.dialogs.Expect("Copy Option", "Current Page has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option", "Current Page has been copied to the Windows Clipboard.");
   print.copy_page.Click();
   EXPECT_THAT(TextsOf(rig.pages.copied), ElementsAre("more"));
   print.print.Click();
@@ -149,7 +149,8 @@ TEST_F(PrintPanelTest, AFailedPrintIsToldAndOnlyThat) {
   for (const auto& [result, told] : cases) {
     rig.pages.result = result;
     if (told) {
-      rig.dialogs.Expect("Not Printed", std::string("The pages could not be printed: ") + told);
+      rig.dialogs.ExpectError("Not Printed",
+                              std::string("The pages could not be printed: ") + told);
     }
     print.print.Click();
     EXPECT_TRUE(print.is_open());
@@ -173,11 +174,11 @@ TEST_F(PrintPanelTest, AChoiceThatTheDiskRefusesIsToldAndHolds) {
   print.Open(Job());
   const std::string why =
       " could not be saved: something else has the name of its file.\nIt holds for now.";
-  rig.dialogs.Expect("Not Saved", "The choice of guide lines" + why);
+  rig.dialogs.ExpectError("Not Saved", "The choice of guide lines" + why);
   print.guide_lines.Pick(1);
   EXPECT_TRUE(print.preview.guide_lines());
   rig.dialogs.ExpectFont(forms::Font{"Arial", 12.5});
-  rig.dialogs.Expect("Not Saved", "The printer font" + why);
+  rig.dialogs.ExpectError("Not Saved", "The printer font" + why);
   print.font.Click();
   EXPECT_EQ(rig.variables.PrintFontName, "Arial");
   EXPECT_EQ(print.font_name.caption(), "Arial ");

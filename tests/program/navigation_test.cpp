@@ -89,16 +89,16 @@ TEST_F(NavigationTest, ClosingTheHubByItsBoxLeadsBackToTheStartScreen) {
 TEST_F(NavigationTest, ExitAsksAndNoOrCancelReturnsToWhatWasOnShow) {
   hub().main_buttons[parts::kEmployeeData].Click();
   for (Answer answer : {Answer::kNo, Answer::kCancel}) {
-    rig.dialogs.Expect("Exit", "Exit Tarnwell?", answer);
+    rig.dialogs.ExpectYesNoCancel("Exit", "Exit Tarnwell?", answer);
     hub().main_buttons[parts::kExitProgram].Click();
     EXPECT_EQ(hub().main_buttons.selected(), parts::kEmployeeData);
     EXPECT_EQ(main_area(), parts::kEmployeeData);
   }
   hub().main_buttons[parts::kToolsAndProgramInformation].Click();
-  rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel("Exit", "Exit Tarnwell?", Answer::kNo);
   tools().main_buttons[parts::kExitProgram].Click();
   EXPECT_EQ(rig.top(), "ToolsandInfo1");
-  rig.dialogs.Expect("Exit", "Exit Tarnwell?", Answer::kYes);
+  rig.dialogs.ExpectYesNoCancel("Exit", "Exit Tarnwell?", Answer::kYes);
   tools().main_buttons[parts::kExitProgram].Click();
   EXPECT_TRUE(rig.navigator().ended());
   tools().main_buttons[parts::kExitProgram].Click();  // a double click's second: no further box

@@ -101,8 +101,8 @@ TEST_F(SpellingTest, AKeyOfTheTableInCapitalsIsAskedAboutAndCanStay) {
 TEST_F(SpellingTest, AWordThatCouldntBeAddedIsTold) {
   rig.speller.misspelled["zork"];
   rig.temporary.Write("UserWords.Fil", std::string(9u << 20, 'x'));
-  rig.dialogs.Expect("Not Saved",
-                     "The word could not be saved: it is too large.\nIt is still on the screen.");
+  rig.dialogs.ExpectError(
+      "Not Saved", "The word could not be saved: it is too large.\nIt is still on the screen.");
   MemoryText text({"zork"});
   Check(text, {[](VSSpell1& form) { form.add.Click(); }});
 }
@@ -197,9 +197,9 @@ TEST_F(SpellingTest, ATypographicApostropheStays) {
 
 TEST_F(SpellingTest, WithoutADictionaryTheTableStillCorrectsAndThatIsToldOnce) {
   rig.speller.installed = false;
-  rig.dialogs.Expect("Spell Check",
-                     "There is no dictionary of American English on this computer.\n"
-                     "Only frequent slips of the typing are corrected.");
+  rig.dialogs.ExpectNote("Spell Check",
+                         "There is no dictionary of American English on this computer.\n"
+                         "Only frequent slips of the typing are corrected.");
   for (int round = 0; round < 2; ++round) {
     MemoryText text({"teh zzzz"});
     Check(text);

@@ -110,15 +110,17 @@ TEST_F(ThesaurusTest, LeavingReplacesNothing) {
 
 TEST_F(ThesaurusTest, WithoutASelectionItAsksForOne) {
   for (const char* nothing : {"", " ."}) {
-    rig.dialogs.Expect("Thesaurus", "Please highlight word you desire to look up!");
+    rig.dialogs.Expect(
+        {"Thesaurus", "Please highlight word you desire to look up!", forms::Icon::kQuestion},
+        forms::Answer::kOk);
     EXPECT_EQ(LookUpSynonym(rig.context, nothing), std::nullopt);
-    EXPECT_EQ(rig.dialogs.last.icon, forms::Icon::kQuestion);
   }
 }
 
 TEST_F(ThesaurusTest, AMissingThesaurusIsToldOnceAndAWordCanStillBeTyped) {
   rig.thesaurus.installed = false;
-  rig.dialogs.Expect("Thesaurus", "There is no thesaurus of American English on this computer.");
+  rig.dialogs.ExpectNote("Thesaurus",
+                         "There is no thesaurus of American English on this computer.");
   for (int round = 0; round < 2; ++round) {
     EXPECT_EQ(LookUp("house",
                      [](VSThesaurus1& form) {

@@ -72,7 +72,7 @@ TEST_F(StartfrmTest, StoredSizesBelowTheLeastBecomeTheDefault) {
 
 TEST_F(StartfrmTest, AScreenThatIsTooSmallEndsTheProgramAfterTheBox) {
   rig.window.screen_size = {800 * 15, 600 * 15};
-  rig.dialogs.Expect(
+  rig.dialogs.ExpectNote(
       "Wessoby Display Option",
       "Monitor Resolution Settings (Screen Area) and Program Size requirements are at least 1024 "
       "by "
@@ -160,29 +160,28 @@ TEST_F(StartfrmTest, LeavingKeepsANormalSizedWindowForTheNextStart) {
 }
 
 TEST_F(StartfrmTest, TheBackgroundIsAskedForStoredAndComesBack) {
-  const std::string title = "Background Color";
-  const std::string text =
-      "Select New Color or Use System Default Color?\nYes = Color Selection Panel will "
-      "appear.\nNo = Current System Default Color will be selected.";
+  const auto ask = [this](Answer answer) {
+    rig.dialogs.ExpectColorQuestion(answer, "Background Color");
+  };
   Start();
-  rig.dialogs.Expect(title, text, Answer::kCancel);
+  ask(Answer::kCancel);
   rig.ClickMenu("mOBC");
   EXPECT_TRUE(storage::IsEmpty(StoredBackground()));
 
-  rig.dialogs.Expect(title, text, Answer::kYes);
+  ask(Answer::kYes);
   rig.dialogs.ExpectColor(std::nullopt);
   rig.ClickMenu("mOBC");
   EXPECT_TRUE(storage::IsEmpty(StoredBackground()));
   EXPECT_EQ(rig.dialogs.last_start_color, 0xFF0000);
 
-  rig.dialogs.Expect(title, text, Answer::kYes);
+  ask(Answer::kYes);
   rig.dialogs.ExpectColor(0x336699);
   rig.ClickMenu("mOBC");
   EXPECT_EQ(StoredBackground(), storage::TaggedValue(std::int32_t{0x336699}));
   Start();
   EXPECT_EQ(form().background(), 0x336699);
 
-  rig.dialogs.Expect(title, text, Answer::kNo);
+  ask(Answer::kNo);
   rig.ClickMenu("mOBC");
   EXPECT_EQ(StoredBackground(), storage::TaggedValue(std::string("Def")));
   Start();

@@ -4,17 +4,15 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "forms/context.h"
-#include "forms/text_field.h"
 #include "support/fixed_metrics.h"
+#include "support/scripted_dialogs.h"
 #include "text/date.h"
 
 namespace tarnwell::testing {
@@ -25,98 +23,6 @@ class FakeClock : public forms::Clock {
 
   text::Moment Now() override { return now; }
   void AddSeconds(int seconds) { now.time_of_day += std::chrono::seconds(seconds); }
-};
-
-// Is told the answers beforehand. A box that nobody expected fails the test, and so does an answer
-// that no box asked for.
-class ScriptedDialogs : public forms::Dialogs {
- public:
-  struct Expected {
-    std::string title;
-    std::string text;
-    forms::Answer answer = forms::Answer::kOk;
-  };
-
-  ~ScriptedDialogs() override {
-    for (const Expected& box : expected_) ADD_FAILURE() << "never shown: " << box.title;
-    for (const ExpectedInput& box : inputs_) ADD_FAILURE() << "never asked: " << box.title;
-  }
-
-  void Expect(std::string title, std::string text, forms::Answer answer = forms::Answer::kOk) {
-    expected_.push_back({std::move(title), std::move(text), answer});
-  }
-  void ExpectColor(std::optional<forms::Color> chosen) { colors_.push_back(chosen); }
-
-  forms::Answer Message(const forms::MessageBox& box) override {
-    last = box;
-    if (expected_.empty()) {
-      ADD_FAILURE() << "unexpected box: " << box.title << " / " << box.text;
-      return forms::Answer::kCancel;
-    }
-    const Expected next = expected_.front();
-    expected_.pop_front();
-    EXPECT_EQ(box.title, next.title);
-    EXPECT_EQ(box.text, next.text);
-    return next.answer;
-  }
-
-  std::optional<forms::Color> ChooseColor(forms::Color start) override {
-    last_start_color = start;
-    if (colors_.empty()) {
-      ADD_FAILURE() << "unexpected colour dialogue";
-      return std::nullopt;
-    }
-    const auto chosen = colors_.front();
-    colors_.pop_front();
-    return chosen;
-  }
-
-  void ExpectFont(std::optional<forms::FontParts> chosen) { fonts_.push_back(chosen); }
-  std::optional<forms::FontParts> ChooseFont(const forms::FontParts& start) override {
-    last_start_font = start;
-    if (fonts_.empty()) {
-      ADD_FAILURE() << "unexpected font dialogue";
-      return std::nullopt;
-    }
-    const auto chosen = fonts_.front();
-    fonts_.pop_front();
-    return chosen;
-  }
-
-  // `answer` is what a person types, as far as the box takes it; none cancels the box.
-  void ExpectInput(std::string title, std::string prompt, std::optional<std::string> answer) {
-    inputs_.push_back({std::move(title), std::move(prompt), std::move(answer)});
-  }
-  std::optional<std::string> Input(const forms::InputBox& box) override {
-    last_input = box;
-    if (inputs_.empty()) {
-      ADD_FAILURE() << "unexpected input box: " << box.title << " / " << box.prompt;
-      return std::nullopt;
-    }
-    const ExpectedInput next = inputs_.front();
-    inputs_.pop_front();
-    EXPECT_EQ(box.title, next.title);
-    EXPECT_EQ(box.prompt, next.prompt);
-    if (!next.answer) return std::nullopt;
-    return forms::TypedText(*next.answer, box.max_length);
-  }
-
-  forms::MessageBox last;
-  forms::InputBox last_input;
-  forms::Color last_start_color = 0;
-  forms::FontParts last_start_font;
-
- private:
-  struct ExpectedInput {
-    std::string title;
-    std::string prompt;
-    std::optional<std::string> answer;
-  };
-
-  std::deque<Expected> expected_;
-  std::deque<ExpectedInput> inputs_;
-  std::deque<std::optional<forms::Color>> colors_;
-  std::deque<std::optional<forms::FontParts>> fonts_;
 };
 
 // Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.

@@ -95,7 +95,7 @@ TEST_F(DocumentPrintingTest, ThePlainFormRunsOnOverTheDocuments) {
 
 TEST_F(DocumentPrintingTest, WithoutDocumentsThereIsNothingToPrint) {
   for (const char* entry : {"mOPAll", "mOPAllB"}) {
-    rig.dialogs.Expect("Print", "There are currently No Entries to Print!");
+    rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
     rig.ClickMenu(entry);
     EXPECT_FALSE(hub().printing.print.is_open());
     EXPECT_TRUE(hub().areas.visible());
@@ -108,8 +108,9 @@ TEST_F(DocumentPrintingTest, WhatCantBeReadIsNamedInsteadOfPrinted) {
   }
   const std::string reason = ": something else has the name of its file";
   const auto expect_names = [&] {
-    rig.dialogs.Expect("Can't Be Read", "These documents are not printed:\nEmployment Agreement" +
-                                            reason + "\nDocument 46" + reason);
+    rig.dialogs.ExpectError("Can't Be Read",
+                            "These documents are not printed:\nEmployment Agreement" + reason +
+                                "\nDocument 46" + reason);
   };
   expect_names();
   rig.ClickMenu("mOPAll");
@@ -123,8 +124,8 @@ TEST_F(DocumentPrintingTest, WhatCantBeReadIsNamedInsteadOfPrinted) {
 
   Press("SSCommand14(0)");
   hub().document.print_options.Click();
-  rig.dialogs.Expect("Can't Be Read",
-                     "This text can't be read" + reason + ".\nNothing will be written over it.");
+  rig.dialogs.ExpectError(
+      "Can't Be Read", "This text can't be read" + reason + ".\nNothing will be written over it.");
   hub().printing.texts[kCommentsText].Check(true);
   EXPECT_FALSE(hub().printing.texts[kCommentsText].checked());
 }
@@ -132,7 +133,7 @@ TEST_F(DocumentPrintingTest, WhatCantBeReadIsNamedInsteadOfPrinted) {
 TEST_F(DocumentPrintingTest, TheDocumentOnShowIsPrintedAsItStandsWithTheTextsTicked) {
   rig.temporary.Write("EmployComment0.Fl2", Rtf("Remarks"));
   Press("SSCommand14(0)");
-  rig.dialogs.Expect("Print", "There are currently No Entries to Print!");
+  rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
   hub().document.print_options.Click();
   EXPECT_TRUE(hub().areas.visible());
 
@@ -154,13 +155,14 @@ TEST_F(DocumentPrintingTest, TickingAnEmptyTextSaysSoAndOnlyTheDisclaimerStaysTi
   hub().document.text.Type("Remarks");
   hub().document.print_options.Click();
   auto& texts = hub().printing.texts;
-  rig.dialogs.Expect("Action Taken",
-                     "No Disclaimer or How to Use entries were found for Independant Contract "
-                     "Agreement!");
+  rig.dialogs.ExpectWarning(
+      "Action Taken",
+      "No Disclaimer or How to Use entries were found for Independant Contract "
+      "Agreement!");
   texts[kDisclaimerText].Check(true);
   EXPECT_TRUE(texts[kDisclaimerText].checked());
-  rig.dialogs.Expect("Policies and Procedures",
-                     "No Document/Policy was found for Independant Contract Agreement!");
+  rig.dialogs.ExpectWarning("Policies and Procedures",
+                            "No Document/Policy was found for Independant Contract Agreement!");
   texts[kPolicyText].Check(true);
   EXPECT_FALSE(texts[kPolicyText].checked());
 }

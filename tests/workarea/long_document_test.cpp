@@ -21,9 +21,10 @@ TEST(LongDocument, IsShownInPartAndItsFileStaysWhole) {
   const auto press = [&](const char* name) {
     dynamic_cast<forms::Command&>(*hub.Find(name)).Click();
   };
-  rig.dialogs.Expect("Document",
-                     "This document is too long to be shown whole. Its beginning can be read and "
-                     "copied, but not changed; the file stays as it is.");
+  rig.dialogs.ExpectNote(
+      "Document",
+      "This document is too long to be shown whole. Its beginning can be read and "
+      "copied, but not changed; the file stays as it is.");
   press("SSCommand14(5)");
   forms::RichTextBox& text = hub.document.text;
   EXPECT_EQ(text.ParagraphText(0), "first");

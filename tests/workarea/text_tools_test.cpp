@@ -30,7 +30,7 @@ TEST_F(TextToolsTest, TheSearchGoesFromMarkToMarkAndBeginsAgain) {
   find();
   EXPECT_EQ(text.SelectedText(), mark);
   EXPECT_EQ(text.selection().from.paragraph, 1);
-  rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
+  rig.dialogs.ExpectNote("Search Document", "Search has reached the end of the document.");
   find();
   find();
   EXPECT_EQ(text.selection().from.paragraph, 1);
@@ -46,8 +46,7 @@ TEST_F(TextToolsTest, EveryMarkIsFoundWhateverIsTypedOverTheOneBefore) {
   auto& view = hub().document;
   for (const std::string typed : {"Lee", "", "One line\nand one more", "x", "<60>"}) {
     SCOPED_TRACE(typed);
-    if (!view.text.IsBlank())
-      rig.dialogs.Expect("Insert Template", kTemplateQuestion, Answer::kYes);
+    if (!view.text.IsBlank()) rig.dialogs.Expect(TemplateQuestion(), Answer::kYes);
     view.insert_template.Click();
     int found = 0;
     for (; view.tools.find_mark.Click(), !view.text.selection().empty(); ++found) {
@@ -60,7 +59,7 @@ TEST_F(TextToolsTest, EveryMarkIsFoundWhateverIsTypedOverTheOneBefore) {
         }
       }
       if (found == 26) {
-        rig.dialogs.Expect("Search Document", "Search has reached the end of the document.");
+        rig.dialogs.ExpectNote("Search Document", "Search has reached the end of the document.");
       }
     }
     EXPECT_EQ(found, 27);
@@ -95,8 +94,8 @@ TEST_F(TextToolsTest, TheSpellingIsCorrectedWhereItStandsInItsFormats) {
     EXPECT_EQ(hub().document.text.SelectedText(), "hous");
     rig.Get<proofing::VSSpell1>("VSSpell1").change.Click();
   };
-  rig.dialogs.Expect("Spell Check",
-                     "Spell Check has been canceled or has reached the end of your document");
+  rig.dialogs.ExpectNote("Spell Check",
+                         "Spell Check has been canceled or has reached the end of your document");
   hub().document.tools.spelling.Click();
   EXPECT_EQ(Shown(), "We receive a house\nand The end");
   EXPECT_EQ(hub().status(), "3 words corrected");
@@ -111,7 +110,9 @@ TEST_F(TextToolsTest, ASynonymTakesThePlaceOfTheHighlightedWord) {
   rig.thesaurus.meanings["Big"] = {{"(adj) large", {"large", "huge (similar term)"}}};
   Open();
   Press("SSCommand14(0)");
-  rig.dialogs.Expect("Thesaurus", "Please highlight word you desire to look up!");
+  rig.dialogs.Expect(
+      {"Thesaurus", "Please highlight word you desire to look up!", forms::Icon::kQuestion},
+      Answer::kOk);
   hub().document.tools.thesaurus.Click();
 
   hub().document.text.MoveSelection({{0, 0}, {0, 5}});  // with the comma and the blank

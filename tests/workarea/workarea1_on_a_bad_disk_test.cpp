@@ -22,14 +22,14 @@ TEST_F(WorkArea1OnABadDiskTest, ATextThatCantBeSavedStaysOnTheScreenUntilTheUser
   form.document.text.Type("Precious");
   files.MakeReadOnly();
   const auto expect_refusal = [&] {
-    full.dialogs.Expect("Not Saved",
-                        "The text could not be saved: the disk is read-only.\n"
-                        "It is still on the screen.");
+    full.dialogs.ExpectError("Not Saved",
+                             "The text could not be saved: the disk is read-only.\n"
+                             "It is still on the screen.");
   };
   const auto expect_questions = [&](Answer leave) {
-    full.dialogs.Expect(kSaveTitle, kSaveText, Answer::kYes);
+    full.dialogs.ExpectYesNo(kSaveTitle, kSaveText, Answer::kYes);
     expect_refusal();
-    full.dialogs.Expect("Not Saved", "Leave without saving?", leave);
+    full.dialogs.ExpectLeaveUnsaved(leave);
   };
   expect_refusal();
   form.document.save.Click();
@@ -90,16 +90,16 @@ TEST_F(WorkArea1OnABadDiskTest, WithoutATemplateTheTextStaysAndTheUserIsTold) {
   hub().document.text.Type("Still ");
   ExpectSaved();
   hub().document.save.Click();
-  rig.dialogs.Expect("Insert Template", "No template is supplied for this document.");
+  rig.dialogs.ExpectNote("Insert Template", "No template is supplied for this document.");
   hub().document.insert_template.Click();
   EXPECT_EQ(Shown(), "Still Mine");
   EXPECT_FALSE(hub().document.unsaved());
   EXPECT_TRUE(hub().document.text.CanUndo());
 
   Press("SSCommand14(1)");
-  rig.dialogs.Expect("Can't Be Read",
-                     "The template can't be read: something else has the name of its file.\n"
-                     "Nothing will be written over it.");
+  rig.dialogs.ExpectError("Can't Be Read",
+                          "The template can't be read: something else has the name of its file.\n"
+                          "Nothing will be written over it.");
   hub().document.insert_template.Click();
   EXPECT_FALSE(hub().document.unsaved());
 }
@@ -117,9 +117,9 @@ TEST_F(WorkArea1OnABadDiskTest, AStatusThatCantBeStoredOrReadIsTold) {
   DocumentView& view = open();
   view.status.Pick(2);
   files.MakeReadOnly();
-  failing.dialogs.Expect("Not Saved",
-                         "The status could not be saved: the disk is read-only.\n"
-                         "The one before stays.");
+  failing.dialogs.ExpectError("Not Saved",
+                              "The status could not be saved: the disk is read-only.\n"
+                              "The one before stays.");
   view.status.Pick(3);
   EXPECT_EQ(view.status.text(), "Working");
 

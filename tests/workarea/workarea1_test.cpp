@@ -45,13 +45,12 @@ TEST_F(WorkArea1Test, ATemplateReplacesATextOnlyOnYes) {
   Open();
   Press("SSCommand14(0)");
   for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
-    rig.dialogs.Expect("Insert Template", kTemplateQuestion, answer);
+    rig.dialogs.Expect(TemplateQuestion(), answer);
     hub().document.insert_template.Click();
     EXPECT_EQ(Shown(), "Mine");
     EXPECT_FALSE(hub().document.unsaved());
   }
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
-  rig.dialogs.Expect("Insert Template", kTemplateQuestion, Answer::kYes);
+  rig.dialogs.Expect(TemplateQuestion(), Answer::kYes);
   hub().document.insert_template.Click();
   EXPECT_EQ(Shown(), "Template");
   EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "Mine");
@@ -107,8 +106,7 @@ TEST_F(WorkArea1Test, ATextStaysUnsavedAsLongAsItIsOnShow) {
   expect_edits();
   for (const Answer answer : {Answer::kNo, Answer::kCancel}) {
     ExpectSaveQuestion(Answer::kNo);
-    const forms::MessageBox exit_box = parts::ExitBox();
-    rig.dialogs.Expect(exit_box.title, exit_box.text, answer);
+    rig.dialogs.ExpectYesNoCancel("Exit", "Exit Tarnwell?", answer);
     hub().main_buttons[parts::kExitProgram].Click();
     expect_edits();
   }
@@ -133,7 +131,7 @@ TEST_F(WorkArea1Test, EachTextOfADocumentHasItsFile) {
   EXPECT_EQ(Shown(), "Old remark");
   EXPECT_FALSE(hub().document.insert_template.enabled());
   hub().document.text.Type("New and o");
-  rig.dialogs.Expect(kSaved, "File Has Been Saved/Updated!");
+  rig.dialogs.ExpectNote(kSaved, "File Has Been Saved/Updated!");
   hub().document.save.Click();
   EXPECT_EQ(Stored("EmployComment35.Fl2"), "New and oOld remark");
 
@@ -158,10 +156,10 @@ TEST_F(WorkArea1Test, AStatusWordIsStoredAtOnceUnderItsDocument) {
   hub().main_buttons[parts::kEmployeeData].Click();
   Press("SSCommand17(0)");
   EXPECT_EQ(hub().document.status.text(), " ");
-  rig.dialogs.Expect("Safeguard Not Being Implemented",
-                     "If this safeguard is not being implemented, be sure and\n"
-                     "document in the Action Taken or Comments/Notes\n"
-                     "area why it is not being implemented!");
+  rig.dialogs.ExpectNote("Safeguard Not Being Implemented",
+                         "If this safeguard is not being implemented, be sure and\n"
+                         "document in the Action Taken or Comments/Notes\n"
+                         "area why it is not being implemented!");
   hub().document.status.Pick(5);
   const auto example = testing::ReadFormatExample("stat1.md");
   std::string stored = rig.temporary.Read("Stat1.Fil");
@@ -178,11 +176,7 @@ TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
   constexpr forms::Color kBlue = 0xC08040;
   Open();
   const auto choose = [&] {
-    rig.dialogs.Expect("Panel Color",
-                       "Select New Color or Use System Default Color?\n"
-                       "Yes = Color Selection Panel will appear.\n"
-                       "No = Current System Default Color will be selected.",
-                       Answer::kYes);
+    rig.dialogs.ExpectColorQuestion(Answer::kYes);
     rig.dialogs.ExpectColor(kBlue);
     rig.ClickMenu("mOC");
     EXPECT_EQ(hub().colors.panel(), kBlue);
@@ -191,7 +185,8 @@ TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
     return settings::ReadPanelColor(rig.folder, settings::PanelColor::kWorkArea).color();
   };
   const auto leave = [&](Answer answer) {
-    rig.dialogs.Expect("Color Changes", "Save changes made to Panel and or Text Color?", answer);
+    rig.dialogs.ExpectYesNo("Color Changes", "Save changes made to Panel and or Text Color?",
+                            answer);
     hub().main_buttons[parts::kToolsAndProgramInformation].Click();
     EXPECT_EQ(rig.top(), "ToolsandInfo1");
   };
@@ -229,26 +224,22 @@ TEST_F(WorkArea1Test, TheRecoveryPlanIsExplainedUntilThereIsOne) {
       "covered in a few sentences instead of the lists and so forth as contained in this plan.\n"
       "You can use this template to make changes in this program and save your changes, etc. or "
       "you can copy and paste this document into your word processor and work on it there.";
-  rig.dialogs.Expect("Disaster Recovery Plan Information", information);
+  rig.dialogs.ExpectNote("Disaster Recovery Plan Information", information);
   enter();
   EXPECT_EQ(Shown(), "About plans");
   EXPECT_FALSE(hub().document.actions.visible());
   const auto save = [&] {
-    rig.dialogs.Expect(kSaved, "Disaster Recovery Plan Has Been Saved!");
+    rig.dialogs.ExpectNote(kSaved, "Disaster Recovery Plan Has Been Saved!");
     hub().document.save.Click();
   };
   save();  // as it stands it is no plan yet
   hub().document.exit.Click();
-  rig.dialogs.Expect("Disaster Recovery Plan Information", information);
+  rig.dialogs.ExpectNote("Disaster Recovery Plan Information", information);
   enter();
   hub().document.insert_template.Click();  // unasked: there is nothing to lose
   EXPECT_EQ(Shown(), "Sample plan");
   const auto refuse_template = [&] {
-    rig.dialogs.Expect("Insert Template",
-                       "The program has detected an existing Disaster Recovery Plan.\n"
-                       "If you insert template and save file the existing file will be "
-                       "overwritten!\nInsert new Template?",
-                       Answer::kNo);
+    rig.dialogs.Expect(TemplateQuestion("Disaster Recovery Plan."), Answer::kNo);
     hub().document.insert_template.Click();
   };
   refuse_template();
@@ -280,7 +271,7 @@ TEST_F(WorkArea1Test, TheWholeDocumentIsCopiedAsRichText) {
   Open();
   Press("SSCommand14(0)");
   hub().document.text.MoveSelection({{0, 0}, {0, 3}});
-  rig.dialogs.Expect("Copy Option", "A copy has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option", "A copy has been copied to the Windows Clipboard.");
   rig.ClickMenu("mOClip");
   EXPECT_EQ(richtext::ReadRichText(rig.clipboard.rich_text), hub().document.text.document());
 }

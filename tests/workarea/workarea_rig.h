@@ -18,10 +18,14 @@ namespace tarnwell::workarea {
 inline constexpr const char* kSaveTitle = "Save Changes?";
 inline constexpr const char* kSaveText = "Save changes/entries before next action?";
 inline constexpr const char* kSaved = "File Save Command";
-inline constexpr const char* kTemplateQuestion =
-    "The program has detected an existing Agreement/Doc.\n"
-    "If you insert template and save file the existing file will be overwritten!\n"
-    "Insert new Template?";
+
+inline forms::MessageBox TemplateQuestion(const std::string& what = "Agreement/Doc.") {
+  return {"Insert Template",
+          "The program has detected an existing " + what +
+              "\nIf you insert template and save file the existing file will be overwritten!"
+              "\nInsert new Template?",
+          forms::Icon::kExclamation, forms::Buttons::kYesNoCancel, 2};
+}
 
 inline std::string Rtf(const std::string& text) {
   return R"({\rtf1\ansi\deff0{\fonttbl{\f0 Times New Roman;}}\pard )" + text + "\\par}\r\n";
@@ -45,10 +49,10 @@ class WorkAreaTest : public ::testing::Test {
     return richtext::PlainText(richtext::ReadRichText(rig.temporary.Read(file)));
   }
   void ExpectSaveQuestion(forms::Answer answer) {
-    rig.dialogs.Expect(kSaveTitle, kSaveText, answer);
+    rig.dialogs.ExpectYesNo(kSaveTitle, kSaveText, answer);
   }
   void ExpectSaved() {
-    rig.dialogs.Expect(kSaved, "Document, Form, Policy, etc. Has Been Saved/Updated!");
+    rig.dialogs.ExpectNote(kSaved, "Document, Form, Policy, etc. Has Been Saved/Updated!");
   }
 
   testing::ProgramRig rig;
