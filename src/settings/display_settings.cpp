@@ -16,10 +16,9 @@ constexpr int kStartRecordLength = 10;
 constexpr int kStartBackground = 3;
 
 template <typename Number>
-void WriteSize(storage::ProgramFolder& folder, Number height, Number width) {
+storage::Outcome WriteSize(storage::ProgramFolder& folder, Number height, Number width) {
   auto file = OpenGColor3(folder);
-  file.PutTagged(kHeight, height);
-  file.PutTagged(kWidth, width);
+  return file.Finish(file.PutTagged(kHeight, height) && file.PutTagged(kWidth, width));
 }
 
 }  // namespace
@@ -30,16 +29,17 @@ Display ReadDisplay(storage::ProgramFolder& folder) {
           storage::NumberOf(file.GetTagged(kHeight)), storage::NumberOf(file.GetTagged(kWidth))};
 }
 
-void WriteSmallerScreen(storage::ProgramFolder& folder, bool smaller_screen) {
-  OpenGColor3(folder).PutText(kSmallerScreen, smaller_screen ? "Yes" : "No");
+storage::Outcome WriteSmallerScreen(storage::ProgramFolder& folder, bool smaller_screen) {
+  return WriteText(folder, {storage::file_names::kGColor3, kSmallerScreen},
+                   smaller_screen ? "Yes" : "No");
 }
 
-void WriteWindowSize(storage::ProgramFolder& folder, float height, float width) {
-  WriteSize(folder, height, width);
+storage::Outcome WriteWindowSize(storage::ProgramFolder& folder, float height, float width) {
+  return WriteSize(folder, height, width);
 }
 
-void WriteDefaultWindowSize(storage::ProgramFolder& folder) {
-  WriteSize<std::int16_t>(folder, kDefaultHeight, kDefaultWidth);
+storage::Outcome WriteDefaultWindowSize(storage::ProgramFolder& folder) {
+  return WriteSize<std::int16_t>(folder, kDefaultHeight, kDefaultWidth);
 }
 
 storage::TaggedValue ReadStartBackground(storage::ProgramFolder& folder) {
@@ -47,9 +47,10 @@ storage::TaggedValue ReadStartBackground(storage::ProgramFolder& folder) {
       .GetTagged(kStartBackground);
 }
 
-void WriteStartBackground(storage::ProgramFolder& folder, const storage::TaggedValue& color) {
-  storage::RecordFile(folder, storage::file_names::kHinv3, kStartRecordLength)
-      .PutTagged(kStartBackground, color);
+storage::Outcome WriteStartBackground(storage::ProgramFolder& folder,
+                                      const storage::TaggedValue& color) {
+  storage::RecordFile file(folder, storage::file_names::kHinv3, kStartRecordLength);
+  return file.Finish(file.PutTagged(kStartBackground, color));
 }
 
 }  // namespace tarnwell::settings

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "storage/fault.h"
 #include "storage/program_folder.h"
 #include "storage/tagged_value.h"
 
@@ -16,11 +17,11 @@ struct Display {
 
 Display ReadDisplay(storage::ProgramFolder& folder);
 
-void WriteSmallerScreen(storage::ProgramFolder& folder, bool smaller_screen);
+storage::Outcome WriteSmallerScreen(storage::ProgramFolder& folder, bool smaller_screen);
 // The present size of a window is stored in single precision.
-void WriteWindowSize(storage::ProgramFolder& folder, float height, float width);
+storage::Outcome WriteWindowSize(storage::ProgramFolder& folder, float height, float width);
 // The default size is stored as two whole numbers.
-void WriteDefaultWindowSize(storage::ProgramFolder& folder);
+storage::Outcome WriteDefaultWindowSize(storage::ProgramFolder& folder);
 
 inline constexpr int kDefaultHeight = 11200;  // twips
 inline constexpr int kDefaultWidth = 15100;
@@ -29,6 +30,7 @@ inline constexpr int kLeastStoredHeight = 11100;
 
 // Background of the start screen: a 32-bit colour, the text "Def" for the system's own, or empty.
 storage::TaggedValue ReadStartBackground(storage::ProgramFolder& folder);
-void WriteStartBackground(storage::ProgramFolder& folder, const storage::TaggedValue& color);
+storage::Outcome WriteStartBackground(storage::ProgramFolder& folder,
+                                      const storage::TaggedValue& color);
 
 }  // namespace tarnwell::settings

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "parts/color_choice.h"
@@ -198,7 +199,7 @@ void Startfrm::FullScreen() {
   if (full_screen_entry_->checked()) return;
   smaller_screen_entry_->SetChecked(false);
   full_screen_entry_->SetChecked(true);
-  settings::WriteSmallerScreen(context_.folder, false);
+  TellDisplay(settings::WriteSmallerScreen(context_.folder, false));
   RepeatLoadRoutine();
 }
 
@@ -208,7 +209,6 @@ void Startfrm::SmallerScreen() {
   full_screen_entry_->SetChecked(false);
   loading_ = true;
   context_.window.SetMaximized(false);
-  settings::WriteSmallerScreen(context_.folder, true);
   KeepWindowSize();
   RepeatLoadRoutine();
 }
@@ -224,8 +224,8 @@ void Startfrm::ReturnToSmallerScreen() {
 void Startfrm::DefaultScreenSize() {
   full_screen_entry_->SetChecked(false);
   smaller_screen_entry_->SetChecked(false);
-  settings::WriteSmallerScreen(context_.folder, true);
-  settings::WriteDefaultWindowSize(context_.folder);
+  const auto smaller = settings::WriteSmallerScreen(context_.folder, true);
+  TellDisplay(smaller ? settings::WriteDefaultWindowSize(context_.folder) : smaller);
   RunLoadRoutine();
 }
 
@@ -250,7 +250,8 @@ void Startfrm::ChooseBackground() {
   }
   context_.variables.StartBackColor = color;
   SetBackground(color);
-  settings::WriteStartBackground(context_.folder, stored);
+  const auto written = settings::WriteStartBackground(context_.folder, stored);
+  if (!written) forms::TellHoldsForNow(context_, "The background", written.fault());
 }
 
 void Startfrm::Begin() {
@@ -271,15 +272,25 @@ void Startfrm::Exit() {
 
 // A window that is left while it is normal-sized comes back in the smaller-screen display.
 void Startfrm::KeepNormalSize() {
-  if (context_.window.maximized()) return;
-  settings::WriteSmallerScreen(context_.folder, true);
-  KeepWindowSize();
+  if (!context_.window.maximized()) KeepWindowSize();
 }
 
+// What is stored already isn't written again: a disk that takes nothing is told of only when it
+// matters.
 void Startfrm::KeepWindowSize() {
   const forms::Size size = context_.window.size();
-  settings::WriteWindowSize(context_.folder, static_cast<float>(size.height),
-                            static_cast<float>(size.width));
+  const settings::Display stored = settings::ReadDisplay(context_.folder);
+  if (stored.smaller_screen && stored.height == size.height && stored.width == size.width) return;
+  const auto smaller = settings::WriteSmallerScreen(context_.folder, true);
+  TellDisplay(smaller ? settings::WriteWindowSize(context_.folder, static_cast<float>(size.height),
+                                                  static_cast<float>(size.width))
+                      : smaller);
+}
+
+void Startfrm::TellDisplay(const storage::Outcome& written) {
+  if (written) return;
+  forms::TellRefused(context_, "The size of the window", written.fault(),
+                     "The next start takes the one before.");
 }
 
 }  // namespace tarnwell::shell

@@ -61,6 +61,7 @@ class Startfrm : public forms::Form {
   void Exit();
   void KeepNormalSize();
   void KeepWindowSize();
+  void TellDisplay(const storage::Outcome& written);
 
   forms::MenuItem* full_screen_entry_ = nullptr;
   forms::MenuItem* smaller_screen_entry_ = nullptr;

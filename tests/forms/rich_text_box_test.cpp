@@ -56,6 +56,16 @@ TEST_F(RichTextBoxTest, OnlyAPersonsEditsAreTold) {
   EXPECT_EQ(box.document(), richtext::RichDocument{});
 }
 
+TEST_F(RichTextBoxTest, TheWayBackIsFiveHundredStepsLong) {
+  Show("");
+  for (int i = 0; i <= 500; ++i)
+    box.Type("ab");  // each a step of its own: no key gives two letters
+  int undone = 0;
+  for (; box.CanUndo(); ++undone) box.Undo();
+  EXPECT_EQ(undone, 500);
+  EXPECT_EQ(text(), "ab");
+}
+
 TEST_F(RichTextBoxTest, ALockedBoxIsReadOnlyAndAHiddenOneTakesNoGesture) {
   const auto try_all = [this] {
     box.Type("x");

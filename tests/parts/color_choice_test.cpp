@@ -24,6 +24,10 @@ using settings::StoredColor;
 constexpr const char* kConflict =
     "Selected Color would cause a conflict with Text and Background Colors!";
 
+const forms::MessageBox kForAll{"Complete Program Panel Color Update Option",
+                                "Save Panel Color Changes for ALL of the Program Functions?",
+                                forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2};
+
 class ColorChoiceTest : public ::testing::Test {
  protected:
   void Choose(ColorTarget target, Answer answer, std::optional<Color> color = std::nullopt) {
@@ -114,10 +118,7 @@ TEST_F(ColorChoiceTest, TextAndBackgroundMustDiffer) {
 
 TEST_F(ColorChoiceTest, TheColourForAllIsAskedForOncePerColour) {
   const auto ask = [this](Answer answer) {
-    rig.dialogs.Expect({"Complete Program Panel Color Update Option",
-                        "Save Panel Color Changes for ALL of the Program Functions?",
-                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
-                       answer);
+    rig.dialogs.Expect(kForAll, answer);
     SaveAllPanelColors(rig.context);
   };
   const auto planner = [this] {
@@ -136,6 +137,39 @@ TEST_F(ColorChoiceTest, TheColourForAllIsAskedForOncePerColour) {
   rig.variables.PanelColorNew = "Default";
   ask(Answer::kYes);
   EXPECT_TRUE(planner().is_default());
+}
+
+TEST_F(ColorChoiceTest, TheSharedTextColourGivesWayToTheBackgroundItComesUpon) {
+  for (const auto& [background, text] : {std::pair{kWhite, kBlack}, {kBlack, kWhite}}) {
+    ASSERT_TRUE(settings::WriteFieldColor(rig.folder, settings::FieldColor::kDocumentImages,
+                                          StoredColor::Number(background)));
+    ASSERT_TRUE(settings::WriteTextColor(rig.folder, background));
+    colors.Load();
+    EXPECT_EQ(colors.text(), text);
+  }
+}
+
+TEST_F(ColorChoiceTest, ColoursThatTheDiskRefusesAreTold) {
+  for (const char* name : {"/GColor1.Fil", "/GColor3.Fil"}) {
+    ASSERT_TRUE(std::filesystem::create_directory(rig.temporary.path() + name));
+  }
+  const std::string why = " could not be saved: something else has the name of its file.\n";
+  Choose(ColorTarget::kPanel, Answer::kYes, 0x112233);
+  for (const Answer leave : {Answer::kNo, Answer::kYes}) {
+    rig.dialogs.ExpectYesNo("Color Changes", "Save changes made to Panel and or Text Color?",
+                            Answer::kYes);
+    rig.dialogs.ExpectError("Not Saved", "The chosen color" + why + "It is still on the screen.");
+    rig.dialogs.ExpectLeaveUnsaved(leave);
+    EXPECT_EQ(colors.Leave(forms::Buttons::kYesNo), leave == Answer::kYes);
+    EXPECT_TRUE(colors.changed());
+    EXPECT_EQ(rig.variables.PanelColorNew, "");
+  }
+  rig.variables.PanelColorNew = "255";
+  rig.dialogs.Expect(kForAll, Answer::kYes);
+  rig.dialogs.ExpectError("Not Saved",
+                          "The color of all functions" + why + "Some of them may have it.");
+  SaveAllPanelColors(rig.context);
+  EXPECT_EQ(rig.variables.PanelColorNew, "255");  // it is offered again
 }
 
 class GridBackgroundPanelTest : public ::testing::Test {

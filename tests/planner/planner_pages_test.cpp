@@ -91,6 +91,7 @@ TEST_F(PlannerPagesTest, TheDayOnScreenIsPrintedWithItsOptions) {
   Store(9, {"9:00 AM", "Bank"});
   Open();
   rig.ClickMenu("mOP");
+  EXPECT_EQ(form().help_context(), 1014);
   EXPECT_FALSE(print().as_of->visible());
   EXPECT_THAT(Shown(), ElementsAre("Printed:  March 9, 2026",
                                    "Appointments/Activities For Monday, March 09, 2026", "Time",
@@ -176,7 +177,9 @@ TEST_F(PlannerPagesTest, ChangedColoursAreKeptOnlyWhenAPersonSaysSo) {
   change();
   leave(Answer::kCancel);
   EXPECT_EQ(rig.top(), "Zcalandar1");
-  leave(Answer::kNo);
+  rig.dialogs.ExpectYesNo("Color Changes", "Save changes made to Panel and or Text Color?",
+                          Answer::kNo);
+  rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
   Open();
   EXPECT_EQ(form().day.background(), std::nullopt);

@@ -312,7 +312,7 @@ TEST_F(RecurrencePanelTest, OkWithoutARuleBeepsAndKeepsThePanelOpen) {
   rig.dialogs.ExpectWarning("OK Button Selection",
                             "No Recurrence Option was selected!\n"
                             "Please Select Option Desired before clicking the OK Button.");
-  panel().ok.Click();
+  EXPECT_TRUE(form().PressEnter());
   EXPECT_EQ(rig.window.beeps, 1);
   EXPECT_TRUE(panel().ok.Reachable() && panel().cancel.Reachable() && panel().remove.Reachable());
   EXPECT_FALSE(panel().run_panel.visible() || form().busy());

@@ -252,9 +252,10 @@ TEST_F(Zcalandar1Test, ToDoItemsFromTheDayOnScreenOnAreImportedOnce) {
   EXPECT_FALSE(form().todo_import.panel.visible());
 }
 
-TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {
+TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRunsBehindWhichTheDayOnShowHasItsItems) {
   storage::SequentialWriter list;
-  for (const char* value : {"Taxes", "Thu - Mar 12, 26", ""}) list.WriteText(value);
+  for (const char* value : {"Taxes", "Tue - Mar 10, 26", ""}) list.WriteText(value);
+  form().picker.SelectDay(tomorrow);
   ASSERT_TRUE(list.Save(rig.folder, "TODOActv.FIL"));
   rig.dialogs.ExpectYesNo("To Do List Import Function", "Do you want to Import To Do List Items?",
                           Answer::kYes);
@@ -264,12 +265,13 @@ TEST_F(Zcalandar1Test, NothingElseWorksWhileAnImportRuns) {
     EXPECT_FALSE(rig.CloseWindow());
     rig.ClickMenu("mOE");
     form().exit.Click();
-    form().picker.SelectDay(tomorrow);
+    form().picker.SelectDay(today);
     EXPECT_EQ(rig.top(), "Zcalandar1");
   };
   rig.ClickMenu("mToDo");
   EXPECT_EQ(tried, 1);
-  EXPECT_EQ(form().picker.date(), today);
+  EXPECT_EQ(form().picker.date(), tomorrow);
+  EXPECT_EQ(form().entries[0].text(), "Taxes");
 }
 
 TEST_F(Zcalandar1Test, AnEmptyToDoListIsReported) {

@@ -119,6 +119,15 @@ TEST_F(PageEngineTest, ATablesHeadComesAgainOnEachPageAndRowsStayTogether) {
   EXPECT_EQ(std::get<PlacedText>(page(1).at(4)), (PlacedText{1940, 340, 1, "x"}));
 }
 
+TEST_F(PageEngineTest, ARowFitsWithTheGapAboveIt) {
+  Start();
+  Table table(engine, {{"Day", 1000}}, TableLines::kNone);
+  for (const char* row : {"1", "2", "3", "4", "5"}) table.Row({row}, 300);
+  ASSERT_EQ(engine.page_count(), 2);
+  EXPECT_THAT(TextsOf(page(1)), ElementsAre("Day", "5"));
+  EXPECT_EQ(std::get<PlacedText>(page(1).at(1)).y, 340);
+}
+
 TEST_F(PageEngineTest, ARowTallerThanAPageIsPartedAndAnEmptyTableIsNothing) {
   Start();
   Table empty(engine, {{"Day", 1000}}, TableLines::kAll);

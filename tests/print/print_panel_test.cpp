@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <filesystem>
 
 #include "storage/record_file.h"
@@ -165,6 +166,18 @@ TEST_F(PrintPanelTest, GuideLinesAreStoredWhenAPersonChoosesThem) {
   print.guide_lines.Pick(0);
   EXPECT_EQ(GColor3().GetText(14), "0");
   EXPECT_EQ(builds, 1);
+}
+
+TEST_F(PrintPanelTest, ADamagedFontSizeIsNotTaken) {
+  const std::string name = rig.variables.PrintFontName;
+  const double size = rig.variables.PrintFontSize;
+  for (const float damaged : {0.0f, -12.0f, 0.5f, 1001.0f, INFINITY, NAN}) {
+    ASSERT_TRUE(settings::WritePrinterFont(rig.folder, settings::PrinterFont::kVehicles,
+                                           {"Arial", damaged}));
+    print.Open(Job());
+    EXPECT_EQ(rig.variables.PrintFontName, name) << damaged;
+    EXPECT_EQ(rig.variables.PrintFontSize, size) << damaged;
+  }
 }
 
 TEST_F(PrintPanelTest, AChoiceThatTheDiskRefusesIsToldAndHolds) {

@@ -96,6 +96,14 @@ TEST(Breaking, AParagraphPartsAndAListGoesOn) {
   }
 }
 
+TEST(Breaking, APageBegunByAParagraphIsBegunOnce) {
+  RichDocument document = FromSketch("ab");
+  std::get<Paragraph>(document.blocks[0]).format.page_break_before = true;
+  Editor(document).BreakParagraph({0, 1});
+  EXPECT_TRUE(std::get<Paragraph>(document.blocks[0]).format.page_break_before);
+  EXPECT_FALSE(std::get<Paragraph>(document.blocks[1]).format.page_break_before);
+}
+
 // A long paste is one change, not one for each line.
 TEST(Breaking, LinesDoWhatEachOfThemWouldAtOneGo) {
   for (const char* before : {"", "abc", "a{}b", "1.>a|2.>c|d", "1.>|2.>c", "[a,b]|c", "$a$"}) {

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
 #include "settings/display_settings.h"
 #include "storage/record_file.h"
+#include "support/failing_file_system.h"
 #include "support/program_rig.h"
 
 namespace tarnwell::shell {
@@ -188,6 +190,38 @@ TEST_F(StartfrmTest, TheBackgroundIsAskedForStoredAndComesBack) {
   EXPECT_EQ(form().background(), forms::kNeutral);
 }
 
+TEST(StartfrmOnABadDiskTest, ADisplayThatCantBeStoredIsTold) {
+  testing::FailingFileSystem files(storage::RealFileSystem());
+  testing::ProgramRig rig(files);
+  rig.Start();
+  rig.window.is_maximized = false;
+  auto& form = rig.Get<Startfrm>("Startfrm");
+  form.Resized();  // stored: a normal-sized window of this size
+  files.MakeReadOnly();
+  form.begin.Click();
+  rig.navigator().Close(*rig.navigator().top(), forms::UnloadCause::kCommand);
+
+  const auto expect_refusal = [&] {
+    rig.dialogs.ExpectError("Not Saved",
+                            "The size of the window could not be saved: the disk is read-only.\n"
+                            "The next start takes the one before.");
+  };
+  for (const char* entry : {"mOPF", "mOPDefault"}) {
+    expect_refusal();
+    rig.ClickMenu(entry);
+  }
+  rig.dialogs.ExpectColorQuestion(Answer::kNo, "Background Color");
+  rig.dialogs.ExpectError("Not Saved",
+                          "The background could not be saved: the disk is read-only.\n"
+                          "It holds for now.");
+  rig.ClickMenu("mOBC");
+  EXPECT_EQ(form.background(), forms::kNeutral);
+  rig.window.normal_size = {17000, 13000};
+  expect_refusal();
+  rig.CloseWindow();
+  EXPECT_TRUE(rig.navigator().ended());
+}
+
 TEST_F(StartfrmTest, OnlyAnAppointmentTextOfTodayBringsTheReminder) {
   SaveToday({"9:30 AM", ""});
   Start();
@@ -197,6 +231,13 @@ TEST_F(StartfrmTest, OnlyAnAppointmentTextOfTodayBringsTheReminder) {
   EXPECT_TRUE(form().reminder.visible());
   EXPECT_EQ(form().reminder_clock.caption(), "2:05 PM");
   form().close_reminder.Click();
+  EXPECT_FALSE(form().reminder.visible());
+}
+
+TEST_F(StartfrmTest, ADayThatCantBeReadBringsNoReminder) {
+  const std::string year = planner::PlannerYearFileName(2026);
+  ASSERT_TRUE(std::filesystem::create_directory(rig.temporary.path() + "/" + year));
+  Start();
   EXPECT_FALSE(form().reminder.visible());
 }
 
@@ -215,7 +256,7 @@ TEST_F(StartfrmTest, AboutIsModalAndHelpOpensByNumber) {
     EXPECT_EQ(rig.top(), "About1");
     form().begin.Click();  // lies below a modal form
     EXPECT_EQ(rig.top(), "About1");
-    rig.navigator().top()->PressEscape();
+    EXPECT_TRUE(rig.navigator().top()->PressEnter());
   };
   rig.ClickMenu("mHAbout");
   EXPECT_EQ(rig.top(), "Startfrm");

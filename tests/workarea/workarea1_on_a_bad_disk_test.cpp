@@ -122,6 +122,10 @@ TEST_F(WorkArea1OnABadDiskTest, AStatusThatCantBeStoredOrReadIsTold) {
                               "The one before stays.");
   view.status.Pick(3);
   EXPECT_EQ(view.status.text(), "Working");
+  for (const char* document : {"SSCommand14(1)", "SSCommand14(0)"}) {
+    dynamic_cast<forms::Command&>(*failing.Get<WorkArea1>("WorkArea1").Find(document)).Click();
+  }
+  EXPECT_EQ(view.status.text(), "Working");
 
   files.MakeReadOnly(false);
   const std::string path = failing.temporary.path() + "/Stat1.Fil";

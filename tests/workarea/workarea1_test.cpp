@@ -197,6 +197,12 @@ TEST_F(WorkArea1Test, APanelColorIsStoredWithTheTextOrOnTheWayOut) {
 
   Open();
   choose();
+  rig.dialogs.ExpectYesNo("Color Changes", "Save changes made to Panel and or Text Color?",
+                          Answer::kNo);
+  EXPECT_TRUE(rig.CloseWindow());
+
+  Open();
+  choose();
   leave(Answer::kYes);
   EXPECT_EQ(stored(), kBlue);
 
