@@ -81,6 +81,12 @@ std::string DocumentComments(int number);
 std::string DocumentTemplate(int number);
 std::string Worksheet(int number);
 
+// The file of something that the user named, such as a report "Ann Lee / 03/09/2026": the name
+// without the blanks at its ends, cut to what a file's name can hold, with "-" for each character
+// that it can't, and the extension (".Fl5"), unless the name ends in that. Never the file of a list
+// of names.
+std::string OfUserName(std::string_view name, std::string_view extension);
+
 // Year files. The blank in front of a planner's year is part of its name.
 std::string PlannerYear(int year);
 std::string BudgetYear(int year);

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "storage/file_names.h"
 #include "support/failing_file_system.h"
 #include "support/temporary_folder.h"
 
@@ -144,6 +145,27 @@ TEST_F(ProgramFolderTest, NamesThatAreNotPlainNeverTouchAnything) {
     EXPECT_TRUE(IsPlainFileName(name)) << name;
     EXPECT_TRUE(inside.WriteWhole(name, name)) << name;
     EXPECT_EQ(inside.ReadWhole(name), name);
+  }
+}
+
+TEST(FileNamesTest, AnyNameOfAUsersMakesAPlainFileName) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"Ann Lee / 03/09/2026", "Ann Lee - 03-09-2026.Fl5"},
+      {"  Welder  ", "Welder.Fl5"},
+      {"a\\b:c*d?e\"f<g>h|i\tj\x7Fk\x9Dl", "a-b-c-d-e-f-g-h-i-j-k-l.Fl5"},
+      {"Mr. X.", "Mr. X..Fl5"},
+      {"Zo\xEB \x80", "Zo\xEB \x80.Fl5"},
+      {".tarnwell-lock", "-tarnwell-lock.Fl5"},
+      {"..", "-..Fl5"},
+      {"", "-.Fl5"},
+      {"welder.fL5", "welder.Fl5"},
+      {"JOBHOLD", "JOBHOLD-.Fl5"},
+      {std::string(255, 'x'), std::string(251, 'x') + ".Fl5"},
+      {std::string(255, '\x80'), std::string(83, '\x80') + ".Fl5"},
+  };
+  for (const auto& [name, file] : cases) {
+    EXPECT_EQ(file_names::OfUserName(name, ".Fl5"), file);
+    EXPECT_TRUE(IsPlainFileName(file)) << file;
   }
 }
 
