@@ -49,6 +49,14 @@ TEST(SuppliedDocuments, EachIsWhatItsNameSaysAndHasPlacesToFillIn) {
       {"EmployPolicy33.Fl1", "Acceptable Use Policy", 11, 1200},
       {"DRPln1.Fl1", "Disaster Recovery Plan", 141, 4000},
       {"EmployAction1.Fl2", "Disclaimer and How To Use", 0, 800},
+      {"EmployPolicy12.Fl1", "Job Description", 18, 200},
+      {"EmployPolicy14.Fl1", "Job Description - Short Form", 11, 50},
+      {"EmployPolicy23.Fl1", "Disciplinary Action Form", 13, 100},
+      {"EmployPolicy26.Fl1", "Employee Evaluation", 11, 100},
+      {"Misc59.Fl1", "Worksheet", 9, 100},
+      {"Misc61.Fl1", "Implementation Specifications", 0, 300},
+      {"Misc62.Fl1", "References in Rule", 0, 300},
+      {"Misc63.Fl1", "Additional Information", 0, 300},
       {"Misc60.Fl1", "Company Disaster Recovery Plan", 0, 300},
   };
   for (const auto& c : cases) {
