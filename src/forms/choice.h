@@ -69,6 +69,10 @@ class CheckBox : public Control {
       : Control(parent, name), caption_(caption) {}
 
   const std::string& caption() const { return caption_; }
+  void SetCaption(std::string_view caption) {
+    caption_ = caption;
+    Changed();
+  }
   bool checked() const { return checked_; }
   void SetChecked(bool checked);
   void Check(bool checked);

@@ -178,6 +178,12 @@ void PrintPanel::ChooseFont() {
   if (!stored) forms::TellHoldsForNow(context_, "The printer font", stored.fault());
 }
 
+void PrintPanel::ResetFont() {
+  context_.variables.SetPrintFont(forms::ProgramVariables().PrintFont());
+  ShowFont();
+  Rebuild();
+}
+
 void PrintPanel::ChooseSetup() {
   const forms::PageSetup shown = job_.own_paper ? engine_.document().SetupOf(0) : setup_;
   const auto setup = context_.pages.ChooseSetup(shown);

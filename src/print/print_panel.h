@@ -94,6 +94,9 @@ class PrintPanel {
   forms::Margins ReportMargins() const;
   // Hides it, without a question.
   void Close();
+  // "Times New Roman" in 10 points, black, as at the start of the program; for this run. Builds the
+  // preview anew.
+  void ResetFont();
   // The job prints something else from now on: builds the preview anew. Nothing while closed.
   void Rebuild();
 

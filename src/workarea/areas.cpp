@@ -9,9 +9,15 @@ constexpr AreaButton kAreas[] = {
     {kAgreements, "Company Agreements/Docs", " Company Agreements and Documents ",
      parts::kCompanyData},
     {kPolicies, "Company Policies", "  Comapany Policies  ", parts::kCompanyData},
+    {kWorksheets, "Company - Additional Docs.",
+     "  Company - Additional Documents, Forms and Policies  ", parts::kCompanyData},
     {kRecoveryPlan, "Company Disaster Recovery Plan", "  Disaster Recovery Plan  ",
      parts::kCompanyData},
+    {kJobDescriptions, "Company Job Descriptions", "Company Job Descriptions", parts::kCompanyData},
     {kEmployeeDocuments, "Employee Documents", "Employee Documents", parts::kEmployeeData},
+    {kDisciplinaryActions, "Employee Displinary Actions", "Employee Displinary Actions",
+     parts::kEmployeeData},
+    {kEvaluations, "Employee Evaluations", "Employee Evaluations", parts::kEmployeeData},
 };
 
 constexpr DocumentButton kAgreementButtons[] = {

@@ -16,7 +16,12 @@ enum Area : int {
   kAgreements = 2,
   kEmployeeDocuments = 3,
   kPolicies = 4,
+  kWorksheets = 7,
   kRecoveryPlan = 8,
+  kJobDescriptions = 9,
+  kDisciplinaryActions = 10,
+  kEvaluations = 11,
+  kArchive = 99,  // has no button: the menu leads to it
 };
 
 struct AreaButton {

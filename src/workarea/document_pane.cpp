@@ -15,7 +15,12 @@ void DocumentPane::Leave() {
 
 PaneMenu DocumentPane::Menu() {
   const auto copy = [this] { view_.CopyToClipboard(); };
-  return {{"mOClip", {copy, {&view_.print_options}}},  // both need a text that can be read
+  // These need a text that can be read, as printing does.
+  const auto archive = [this] { view_.on_archive(); };
+  const auto view_archive = [this] { view_.on_view_archive(); };
+  return {{"mOClip", {copy, {&view_.print_options}}},
+          {"mOArchive", {archive, {&view_.print_options}}},
+          {"mOArchiveV", {view_archive, {&view_.print_options}}},
           {"mOFont", forms::ActionOf(view_.tools.font)},
           {"mOSpell", forms::ActionOf(view_.tools.spelling)},
           {"mOThes", forms::ActionOf(view_.tools.thesaurus)},

@@ -34,6 +34,7 @@ constexpr EmptyText kEmptyTexts[] = {
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
     : print(parent, context,
             {.as_of_caption = {}, .range_caption = "Print Selected Document", .auto_size = false}),
+      first(print.options_frame, "SSCheck80(0)", kImplementationText),
       texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
             forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
             forms::CheckBox{print.options_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
@@ -46,6 +47,7 @@ DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& con
       context_(context) {
   all_panel.SetVisible(false);
   all_panel.SetHelpContext(print::kPrintHelp);
+  first.on_change = [this] { TickFirst(); };
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     texts[static_cast<std::size_t>(i)].on_change = [this, i] { Tick(i); };
   }
@@ -59,7 +61,9 @@ void DocumentPrinting::Open(PrintedDocument document) {
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     texts[static_cast<std::size_t>(i)].SetChecked(i == document_.on_show);
   }
-  ShowChoices(true, document_.has_texts);
+  first.SetCaption(document_.first_text);
+  first.SetChecked(false);
+  ShowChoices(true);
   print::PrintJob job;
   job.build = [this](print::PageEngine& engine) { Build(engine); };
   job.printed_line = false;  // Build has a place for it
@@ -68,9 +72,30 @@ void DocumentPrinting::Open(PrintedDocument document) {
   print.Open(std::move(job));
 }
 
-void DocumentPrinting::ShowChoices(bool one_document, bool its_texts) {
+void DocumentPrinting::ShowChoices(bool one_document) {
   print.range_frame.SetVisible(one_document);
-  print.options_frame.SetVisible(its_texts);
+  print.options_frame.SetVisible(one_document &&
+                                 (document_.has_texts || document_.print_first != nullptr));
+  for (forms::CheckBox& box : texts) box.SetVisible(document_.has_texts);
+}
+
+void DocumentPrinting::TickFirst() {
+  if (unticking_ || !print.is_open()) return;
+  if (!first.checked()) return print.Rebuild();
+  if (document_.print_first) return print.ResetFont();
+  if (document_.first_text == kSafeguardsText) {
+    forms::ShowMessage(context_, {"Print",
+                                  "Only works with the Implementation specicfication, References "
+                                  "in Rule and Additional Information of this portion of the "
+                                  "program!",
+                                  forms::Icon::kExclamation});
+  } else {
+    forms::ShowMessage(context_,
+                       {"Action Taken",
+                        "No Implementation specification is available for " + document_.title + "!",
+                        forms::Icon::kExclamation});
+  }
+  Untick(first);
 }
 
 void DocumentPrinting::Tick(int text) {
@@ -80,7 +105,7 @@ void DocumentPrinting::Tick(int text) {
   const PrintedText ticked = document_.text(text);
   if (ticked.fault != storage::Fault::kNone) {
     forms::TellUnreadable(context_, "This text", ticked.fault);
-    return Untick(text);
+    return Untick(box);
   }
   if (richtext::IsBlank(ticked.document)) {
     const EmptyText& empty = kEmptyTexts[text];
@@ -88,36 +113,40 @@ void DocumentPrinting::Tick(int text) {
         context_,
         {empty.title, "No " + std::string(empty.kind) + " found for " + document_.title + "!",
          forms::Icon::kExclamation});
-    if (empty.is_unticked) Untick(text);
+    if (empty.is_unticked) Untick(box);
     return;
   }
   print.Rebuild();
 }
 
-void DocumentPrinting::Untick(int text) {
+void DocumentPrinting::Untick(forms::CheckBox& box) {
   unticking_ = true;
-  texts[static_cast<std::size_t>(text)].SetChecked(false);
+  box.SetChecked(false);
   unticking_ = false;
 }
 
 void DocumentPrinting::Build(print::PageEngine& engine) {
+  const int head = print.ReportMargins().top;
   bool is_first = true;
+  if (document_.print_first && first.checked()) {
+    engine.MoveTo(head + print::kHeadHeight);
+    document_.print_first(engine);
+    is_first = false;
+  }
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     if (!texts[static_cast<std::size_t>(i)].checked()) continue;
     const richtext::RichDocument text = document_.text(i).document;
     if (richtext::IsBlank(text)) continue;
-    const int head = print.ReportMargins().top;
     print::RichPaper paper{print.chosen_paper(), is_first ? head + print::kHeadHeight : 0};
-    if (!is_first) engine.NewPage();
+    if (!std::exchange(is_first, false)) engine.NewPage();
     print::AddRichPages(engine, text, paper);
-    if (std::exchange(is_first, false)) {
-      engine.OnPage(0, [&] { print::PrintedLine(engine, context_.clock.Today(), head); });
-    }
   }
+  if (is_first) return;
+  engine.OnPage(0, [&] { print::PrintedLine(engine, context_.clock.Today(), head); });
 }
 
 void DocumentPrinting::OpenAll(Breaks breaks) {
-  ShowChoices(false, false);
+  ShowChoices(false);
   left_out_.clear();
   print::PrintJob job;
   job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };

@@ -5,6 +5,7 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "forms/context.h"
 #include "forms/label.h"
@@ -23,12 +24,19 @@ struct PrintedText {
   storage::Fault fault = storage::Fault::kNone;
 };
 
+inline constexpr std::string_view kImplementationText = "Implementation specification";
+inline constexpr std::string_view kSafeguardsText = "All Safeguards";
+
 // A document with the texts that can be printed of it.
 struct PrintedDocument {
   std::string title;
-  int on_show = kPolicyText;  // the text that is ticked when the panel opens
-  bool has_texts = false;     // there are all three to choose from
+  int on_show = kPolicyText;                  // the text that is ticked when the panel opens
+  bool has_texts = false;                     // there are all three to choose from
   std::function<PrintedText(int text)> text;  // what it is at present
+  // What else can be printed of it: the caption of its box, and what it puts on the page. Where
+  // there is only the caption, the user is told so.
+  std::string_view first_text = kImplementationText;
+  std::function<void(print::PageEngine&)> print_first = {};
 };
 
 class DocumentPrinting {
@@ -36,6 +44,7 @@ class DocumentPrinting {
   DocumentPrinting(forms::Container& parent, forms::Context& context);
 
   print::PrintPanel print;
+  forms::CheckBox first;  // in front of the texts
   // One for each text of a document.
   std::array<forms::CheckBox, 3> texts;
   forms::Panel all_panel;
@@ -49,12 +58,13 @@ class DocumentPrinting {
   void OpenAll(Breaks breaks);
 
  private:
-  void ShowChoices(bool one_document, bool its_texts);
+  void ShowChoices(bool one_document);
+  void TickFirst();
   void Tick(int text);
   void Build(print::PageEngine& engine);
   void BuildAll(print::PageEngine& engine, Breaks breaks);
   void Gather(print::PageEngine& engine, Breaks breaks);
-  void Untick(int text);
+  void Untick(forms::CheckBox& box);
 
   forms::Context& context_;
   PrintedDocument document_;

@@ -13,10 +13,12 @@ constexpr int kRecordLength = 20;
 
 constexpr std::string_view kWords[] = {" ",         "Pending", "Working",
                                        "Completed", "Review",  kNotImplemented};
+constexpr std::string_view kComplianceWords[] = {" ", "Yes", "No", "Partial", "Planned"};
 
 }  // namespace
 
 std::span<const std::string_view> StatusWords() { return kWords; }
+std::span<const std::string_view> ComplianceWords() { return kComplianceWords; }
 
 storage::Outcome DocumentStatus::Read(storage::ProgramFolder& folder) {
   storage::RecordFile file(folder, storage::file_names::kDocumentStatus, kRecordLength);
@@ -42,9 +44,9 @@ std::string_view DocumentStatus::operator[](int record) const {
   return words_[static_cast<std::size_t>(record)];
 }
 
-int DocumentStatus::PlaceOf(int record) const {
-  const auto found = std::ranges::find(kWords, text::Trim((*this)[record]), text::Trim);
-  return found == std::end(kWords) ? 0 : static_cast<int>(found - std::begin(kWords));
+int DocumentStatus::PlaceOf(int record, std::span<const std::string_view> words) const {
+  const auto found = std::ranges::find(words, text::Trim((*this)[record]), text::Trim);
+  return found == words.end() ? 0 : static_cast<int>(found - words.begin());
 }
 
 }  // namespace tarnwell::workarea

@@ -66,29 +66,50 @@ void DocumentView::Open(std::string_view file, Access access) {
   SetAccess(access);
 }
 
-void DocumentView::InsertTemplate(std::string_view file, std::string_view kind, bool is_spare) {
+std::optional<std::string> DocumentView::ReadTemplate(std::string_view file) {
   storage::ReadResult supplied = context_.folder.Read(file);
   if (supplied.is_unreadable()) {
-    return forms::TellUnreadable(context_, "The template", supplied.fault);
+    forms::TellUnreadable(context_, "The template", supplied.fault);
+    return std::nullopt;
   }
-  forms::Form& form = panel.form();
   if (supplied.content.empty()) {
-    form.Message({"Insert Template", "No template is supplied for this document.",
-                  forms::Icon::kInformation});
-    return;
+    panel.form().Message({"Insert Template", "No template is supplied for this document.",
+                          forms::Icon::kInformation});
+    return std::nullopt;
   }
+  return std::move(supplied.content);
+}
+
+void DocumentView::InsertTemplate(std::string_view file, std::string_view kind, bool is_spare) {
+  auto supplied = ReadTemplate(file);
+  if (!supplied) return;
   const std::string question =
       "The program has detected an existing " + std::string(kind) +
       "\nIf you insert template and save file the existing file will be overwritten!"
       "\nInsert new Template?";
   if (!text.IsBlank() && !is_spare &&
-      !form.Confirmed({"Insert Template", question, forms::Icon::kExclamation,
-                       forms::Buttons::kYesNoCancel, 2})) {
+      !panel.form().Confirmed({"Insert Template", question, forms::Icon::kExclamation,
+                               forms::Buttons::kYesNoCancel, 2})) {
     return;
   }
   const forms::Hourglass hourglass(context_.window);
-  Show(std::move(supplied.content));
+  Show(*std::move(supplied));
   question_.SetUnsaved(true);
+}
+
+void DocumentView::OpenNew() {
+  Clear();
+  SetAccess(Access::kEdit);
+}
+
+bool DocumentView::OpenTemplate(std::string_view file) {
+  auto supplied = ReadTemplate(file);
+  if (!supplied) return false;
+  const forms::Hourglass hourglass(context_.window);
+  OpenNew();
+  Show(*std::move(supplied));
+  question_.SetUnsaved(true);
+  return true;
 }
 
 void DocumentView::Show(std::string bytes) {
@@ -110,7 +131,7 @@ void DocumentView::Clear() {
 
 bool DocumentView::Write(std::string_view file) {
   const forms::Hourglass hourglass(context_.window);
-  std::string bytes = richtext::SaveRichText(text.document(), stored_);
+  std::string bytes = Bytes();
   if (const auto written = context_.folder.WriteWhole(file, bytes); !written) {
     forms::TellNotSaved(context_, "The text", written.fault());
     return false;
@@ -118,6 +139,12 @@ bool DocumentView::Write(std::string_view file) {
   stored_ = richtext::StoredFormOf(std::move(bytes), text.document());
   question_.SetUnsaved(false);
   return true;
+}
+
+void DocumentView::ShowChoices(bool of_status, bool of_text) {
+  status_label.SetVisible(of_status);
+  status.SetVisible(of_status);
+  actions.SetVisible(of_text);
 }
 
 void DocumentView::CopyToClipboard() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -53,8 +54,11 @@ class DocumentView {
   forms::Command save{panel, "SSCommand6", "&Save"};
   forms::Command exit{panel, "SSCommand7", "E&xit"};
 
+  // Which choices its documents have: of a status, and among three texts.
+  void ShowChoices(bool of_status, bool of_text);
   // Its commands are the owner's from now on.
   void LendTo(DocumentOwner* owner) { owner_ = owner; }
+  DocumentOwner* owner() const { return owner_; }
 
   // What can be done: nothing without a document; leaving it alone when it can't be read; reading;
   // or everything.
@@ -68,32 +72,44 @@ class DocumentView {
   void Open(std::string_view file, Access access);
   // Without a document.
   void Clear();
+  // A new document, empty.
+  void OpenNew();
+  // Likewise with the text of a file to start from, which isn't saved yet. Without that file the
+  // user is told, and what is on show stays.
+  bool OpenTemplate(std::string_view file);
   // Shows a supplied file's document as a new, unsaved text of the document in hand. Before that
   // the user must agree to lose what is on show, if there is anything and unless it `is_spare`;
   // `kind` is the box's word for it.
   void InsertTemplate(std::string_view file, std::string_view kind, bool is_spare = false);
 
+  // What is on show as a file holds it.
+  std::string Bytes() const { return richtext::SaveRichText(text.document(), stored_); }
   // Writes what is on show; where nobody changed what was read, its very bytes. False when the disk
   // refused: the user was told, and the text stays, unsaved.
   bool Write(std::string_view file);
 
   // Holds as long as edited text is on show that isn't saved.
   bool unsaved() const { return question_.unsaved(); }
+  // What was written isn't kept after all.
+  void MarkUnsaved() { question_.SetUnsaved(true); }
   // Offers to save what is unsaved. False when that was wanted and didn't work.
   bool OfferToSave() { return question_.Offer() != parts::SaveResult::kFailed; }
   // Likewise before the text is left. False when it has to stay.
-  bool Settle() { return question_.Settle(); }
+  bool Settle(const parts::SaveWords& words = {}) { return question_.Settle(words); }
 
   void CopyToClipboard();
 
   std::function<void()> on_saved;
   std::function<void(PrintedDocument)> on_print;
+  std::function<void()> on_archive;       // a copy of what is on show
+  std::function<void()> on_view_archive;  // what was copied
 
  private:
   void ConnectCommands();
   parts::SaveResult Save();
   void SetAccess(Access access);
   void Show(std::string bytes);
+  std::optional<std::string> ReadTemplate(std::string_view file);
 
   forms::Context& context_;
   richtext::StoredForm stored_;  // of the document on show

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "forms/disk_trouble.h"
 #include "forms/form.h"
 #include "forms/message.h"
 #include "richtext/rich_text_reader.h"
@@ -13,16 +12,6 @@ namespace tarnwell::workarea {
 namespace {
 
 namespace file_names = storage::file_names;
-
-std::vector<std::string> StatusItems() { return {StatusWords().begin(), StatusWords().end()}; }
-
-void RemindOfReason(forms::Context& context) {
-  forms::ShowMessage(context, {"Safeguard Not Being Implemented",
-                               "If this safeguard is not being implemented, be sure and\n"
-                               "document in the Action Taken or Comments/Notes\n"
-                               "area why it is not being implemented!",
-                               forms::Icon::kInformation});
-}
 
 }  // namespace
 
@@ -37,7 +26,7 @@ DocumentButtons::DocumentButtons(forms::Container& parent, const DocumentGroup& 
 }
 
 DocumentsPane::DocumentsPane(forms::Container& parent, forms::Context& context, DocumentView& view)
-    : DocumentPane(view), context_(context) {
+    : DocumentPane(view), context_(context), status_(context, view) {
   for (const DocumentGroup& group : DocumentGroups()) {
     std::vector<forms::Control*> others;  // one group is shown at a time
     for (const auto& row : groups) others.push_back(&row->panel);
@@ -54,28 +43,15 @@ bool DocumentsPane::Has(Area area) const {
 }
 
 void DocumentsPane::Show(Area area) {
-  ReadStatus();
+  status_.Take("Current Status:", StatusWords());
   Paint(nullptr);
   for (const auto& row : groups) {
     row->panel.SetVisible(row->group.area == area);
     if (row->group.area == area) group_ = &row->group;
   }
   view_.views.Choose(text_);
-  for (forms::Control* own :
-       std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
-    own->SetVisible(true);
-  }
+  view_.ShowChoices(true, true);
   CloseDocument();
-}
-
-// Words that can't be read aren't chosen: the choice would be written among them.
-void DocumentsPane::ReadStatus() {
-  const storage::Outcome read = status_.Read(context_.folder);
-  has_status_ = static_cast<bool>(read);
-  view_.status.SetItems(read ? StatusItems() : std::vector<std::string>{"Can't be read"});
-  std::string note;
-  if (!read) note = forms::UnreadableNote("The status of the documents", read.fault());
-  view_.panel.form().SetStatus(note.substr(0, note.find('\n')));
 }
 
 void DocumentsPane::Hide() {
@@ -97,8 +73,7 @@ void DocumentsPane::Choose(const DocumentGroup& group, std::size_t place) {
   }
   title_ = text::Trim(document_->tool_tip);
   view_.heading.SetCaption(std::string(group.heading) + title_);
-  view_.status.SetEnabled(has_status_);
-  view_.status.Select(status_.PlaceOf(StatusRecord(number())));
+  status_.Show(StatusRecord(number()));
   view_.actions.SetEnabled(true);
   ShowText();
 }
@@ -109,8 +84,7 @@ void DocumentsPane::CloseDocument() {
   Paint(nullptr);
   view_.Clear();
   view_.heading.SetCaption("");
-  view_.status.Select(forms::ComboBox::kNone);
-  view_.status.SetEnabled(false);
+  status_.Close();
   view_.actions.SetEnabled(false);
 }
 
@@ -166,15 +140,7 @@ void DocumentsPane::InsertTemplate() {
 }
 
 void DocumentsPane::PickStatus() {
-  if (!document_) return;
-  const int record = StatusRecord(number());
-  const std::string word = view_.status.text();
-  if (const auto written = status_.Put(context_.folder, record, word); !written) {
-    view_.status.Select(status_.PlaceOf(record));
-    forms::TellRefused(context_, "The status", written.fault(), "The one before stays.");
-  } else if (word == kNotImplemented) {
-    RemindOfReason(context_);
-  }
+  if (document_) status_.Store(StatusRecord(number()));
 }
 
 }  // namespace tarnwell::workarea

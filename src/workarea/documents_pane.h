@@ -6,8 +6,8 @@
 
 #include "forms/command.h"
 #include "forms/panel.h"
-#include "workarea/document_status.h"
 #include "workarea/document_pane.h"
+#include "workarea/status_choice.h"
 
 namespace tarnwell::workarea {
 
@@ -41,14 +41,12 @@ class DocumentsPane : public DocumentPane {
   void Choose(const DocumentGroup& group, std::size_t place);
   void Paint(const forms::Command* chosen);
   void ShowText();
-  void ReadStatus();
   // Of one of the texts of the document in hand.
   std::string FileOf(int text) const;
   int number() const { return group_->base + document_->index; }
 
   forms::Context& context_;
-  DocumentStatus status_;
-  bool has_status_ = true;  // it could be read
+  StatusChoice status_;
   const DocumentGroup* group_ = nullptr;
   const DocumentButton* document_ = nullptr;
   int text_ = kPolicyText;

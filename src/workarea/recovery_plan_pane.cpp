@@ -30,10 +30,7 @@ void ShowInformation(forms::Context& context) {
 }  // namespace
 
 void RecoveryPlanPane::Show(Area) {
-  for (forms::Control* of_others :
-       std::initializer_list<forms::Control*>{&view_.status_label, &view_.status, &view_.actions}) {
-    of_others->SetVisible(false);
-  }
+  view_.ShowChoices(false, false);
   view_.heading.SetCaption(std::string(" Document: ") + kTitle);
   view_.tools.StartSearch(kInsertionMark);
   const bool has_plan = HasPlan();

@@ -11,14 +11,28 @@
 namespace tarnwell::workarea {
 namespace {
 
+constexpr int kBackupHelp = 1002;
+constexpr int kArchiveHelp = 1005;
 constexpr int kAreaHelp = 3010;
 constexpr int kRecoveryPlanHelp = 3048;
+constexpr int kWorksheetsHelp = 5150;
 
 std::int16_t Twips(int length) {
   return static_cast<std::int16_t>(std::min<int>(length, std::numeric_limits<std::int16_t>::max()));
 }
 
-int HelpOf(Area area) { return area == kRecoveryPlan ? kRecoveryPlanHelp : kAreaHelp; }
+int HelpOf(Area area) {
+  switch (area) {
+    case kWorksheets:
+      return kWorksheetsHelp;
+    case kRecoveryPlan:
+      return kRecoveryPlanHelp;
+    case kArchive:
+      return kArchiveHelp;
+    default:
+      return kAreaHelp;
+  }
+}
 
 }  // namespace
 
@@ -27,22 +41,32 @@ WorkArea1::WorkArea1(forms::Context& context)
       document(areas, context),
       documents(areas, context, document),
       recovery_plan(context, document),
+      reports(context, document, names),
+      archive(context, document, names),
+      worksheets(*this, areas, context, document),
       printing(*this, context),
       colors(context, settings::PanelColor::kWorkArea) {
   main_buttons.on_press = [this](int index) { Press(index); };
   area_buttons.on_press = [this](Area area) { ChooseArea(area); };
-  // The colours go with the text. Where they can't be stored they stay to be, and the text is saved.
+  // The colours go with the text. Where they can't be stored they stay to be, and the text is
+  // saved.
   document.on_saved = [this] {
     if (colors.changed()) colors.Save();
   };
   document.on_print = [this](PrintedDocument printed) { printing.Open(std::move(printed)); };
+  document.on_archive = [this] { archive.Create(document.owner()->ToPrint().title); };
+  document.on_view_archive = [this] { ShowArchive(); };
   recovery_plan.on_exit = [this] { LeaveArea(); };
   colors.on_change = [this] { ShowColors(); };
   printing.print.panel.Cover({&areas});
   printing.all_panel.Cover({&areas});
+  worksheets.titles.panel.Cover({&areas});
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
-                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", print::kPrintHelp}});
+                     {{"&Backing up and Restoring Data/Files", kBackupHelp},
+                      {"Create/View - Archives of Policies,  etc.", kArchiveHelp},
+                      {"&Print", print::kPrintHelp},
+                      {"&Company/Employee Data Area", kAreaHelp}});
 }
 
 void WorkArea1::BuildMenus() {
@@ -60,6 +84,8 @@ void WorkArea1::BuildMenus() {
   };
   options.AddSeparator();
   add("mOClip", "&Copy to Clipboard");
+  add("mOArchive", "Create Archive of Policy, etc.");
+  add("mOArchiveV", "View Archived Policies, etc.");
   add("mOFont", "&Font Select");
   add("mOSpell", "&Spell Check");
   add("mOThes", "&Thesaurus");
@@ -69,6 +95,7 @@ void WorkArea1::BuildMenus() {
   options.AddEntry("mOPAllB", "Print All Current Policies/Docs Only - &With Page Breaks",
                    [this] { PrintAll(DocumentPrinting::Breaks::kPages); });
   add("mOS", "&Save");
+  add("mORATitle", "&Add/Edit/Delete Button Titles");
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
@@ -169,6 +196,13 @@ void WorkArea1::LeaveArea() {
   EnterArea(kNoArea);
 }
 
+void WorkArea1::ShowArchive() {
+  if (!pane_->Settle()) return;
+  archive.on_exit = [this, back = area_] { ChooseArea(back); };
+  LeaveArea();
+  EnterArea(kArchive);
+}
+
 void WorkArea1::LendMenu() {
   PaneMenu menu = pane_ ? pane_->Menu() : PaneMenu();
   for (forms::MenuItem* entry : pane_entries_) entry->SetAction(std::move(menu[entry->name()]));
@@ -179,7 +213,8 @@ void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
 }
 
 void WorkArea1::ShowColors() {
-  for (forms::Panel* panel : {&areas, &printing.print.panel, &printing.all_panel}) {
+  for (forms::Panel* panel :
+       {&areas, &printing.print.panel, &printing.all_panel, &worksheets.titles.panel}) {
     panel->SetBackground(colors.panel());
   }
   document.text.SetTextColor(colors.text());

@@ -7,11 +7,15 @@
 #include "forms/panel.h"
 #include "parts/color_choice.h"
 #include "parts/main_buttons.h"
+#include "workarea/archive_pane.h"
 #include "workarea/area_buttons.h"
 #include "workarea/document_printing.h"
 #include "workarea/document_view.h"
 #include "workarea/documents_pane.h"
+#include "workarea/names_panel.h"
 #include "workarea/recovery_plan_pane.h"
+#include "workarea/reports_pane.h"
+#include "workarea/worksheets_pane.h"
 
 namespace tarnwell::workarea {
 
@@ -28,6 +32,10 @@ class WorkArea1 : public forms::Form {
   DocumentView document;
   DocumentsPane documents;
   RecoveryPlanPane recovery_plan;
+  NamesPanel names{areas};
+  ReportsPane reports;
+  ArchivePane archive;
+  WorksheetsPane worksheets;
   DocumentPrinting printing;
   parts::ColorChoice colors;
 
@@ -46,6 +54,8 @@ class WorkArea1 : public forms::Form {
   void ChooseArea(Area area);
   void EnterArea(Area area);
   void LeaveArea();
+  // In the place of the area in hand, to which leaving it goes back.
+  void ShowArchive();
   Pane* PaneOf(Area area);
   // Of the pane on show, or none.
   void LendMenu();
@@ -55,7 +65,7 @@ class WorkArea1 : public forms::Form {
 
   parts::MainArea main_area_ = parts::kCompanyData;
   Area area_ = kNoArea;
-  const std::vector<Pane*> panes_{&documents, &recovery_plan};
+  const std::vector<Pane*> panes_{&documents, &recovery_plan, &reports, &archive, &worksheets};
   Pane* pane_ = nullptr;
   std::vector<forms::MenuItem*> pane_entries_;
 };

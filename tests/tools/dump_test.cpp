@@ -123,6 +123,14 @@ TEST(DumpTest, PrintsTheExamplesOfThePagesInWords) {
       {"TODOActv.FIL", "todoactv.md",
        "TODOActv.FIL: company To Do list, 43 bytes\n"
        "row 1: item \"Pay rent\", to do date \"Mon - Mar 9, 26\"\n"},
+      {"RAList.Fl2", "ralist.md",
+       "RAList.Fl2: titles of worksheets, 43 bytes\n"
+       "record 1 (worksheet button): \"Fire Safety\"\n"
+       "record 3 (worksheet button): \" \"\n"},
+      {"JobHold.Fl5", "jobhold.md",
+       "JobHold.Fl5: names of job descriptions, 34 bytes\n"
+       "\"Welder / 03/09/2026\"\n"
+       "\"Zo\u00EB Ash\"\n"},
   };
   TemporaryFolder disk;
   for (const auto& [name, page, dump] : cases) {

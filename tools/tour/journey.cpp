@@ -43,6 +43,36 @@ void LookAtOtherDocuments(Traveller& person) {
   person.Click("SSCommand80(2)");
 }
 
+void WriteReport(Traveller& person) {
+  const QString begin = QStringLiteral("Select New Report - Insert Template");
+  person.Click("SSCommand11(11)");
+  person.Answer(begin, QMessageBox::Ok, [&] { person.Click("SSCommand25"); });
+  person.Type(QStringLiteral("Ann Lee / 03/09/2026"));
+  person.Answer(QStringLiteral("Save File Action"), QMessageBox::Ok,
+                [&] { person.Click("SSCommand6"); });
+  person.TakePicture("evaluation");
+  person.Answer(
+      QStringLiteral("Make Archive Copy of Policies, Rish Analysis, Incident Reports"),
+      QMessageBox::Cancel, [&] { person.ChooseFromMenu("mOArchive"); }, "archive-question");
+}
+
+void FillInWorksheet(Traveller& person) {
+  person.Click("SSCommand4(0)");
+  person.Click("SSCommand11(7)");
+  person.ChooseFromMenu("mORATitle");
+  person.Type(QStringLiteral("Fire Safety"));
+  person.TakePicture("worksheet-titles");
+  person.Click("SSCommand23(0)");
+  person.Click("SSCommand12(1)");
+  person.Click("SSCommand2");
+  person.Answer(QStringLiteral("File Save Command"), QMessageBox::Ok,
+                [&] { person.Click("SSCommand6"); });
+  person.TakePicture("worksheet");
+  person.Click("SSOption2");
+  person.Click("SSCommand13(7)");
+  person.TakePicture("rule");
+}
+
 void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
@@ -125,6 +155,8 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   person.TakePicture("start");
   WriteAgreement(person);
   LookAtOtherDocuments(person);
+  WriteReport(person);
+  FillInWorksheet(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

@@ -1,6 +1,7 @@
 #include "desktop/views/main_screen.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/views.h"
+#include "desktop/views/worksheets_view.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
 #include "workarea/workarea1.h"
@@ -9,6 +10,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfNote = 90;
+constexpr int kLettersOfNames = 36;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
   QWidget* column = Column({}, kTightSpace);
@@ -28,6 +30,16 @@ QWidget* DocumentButtons(workarea::DocumentsPane& documents) {
   return rows;
 }
 
+QWidget* Names(workarea::NamesPanel& names) {
+  return AtMost(
+      Widget(names.panel,
+             Column({Wrapped(Widget(names.title)), Widget(names.list_heading), Widget(names.list),
+                     Widget(names.name), Widget(names.prompt), Listed(Widget(names.select)),
+                     Listed(Widget(names.new_report)), Listed(Widget(names.new_blank)),
+                     Listed(Widget(names.remove)), Spring()})),
+      kLettersOfNames);
+}
+
 QWidget* Views(forms::OptionGroup& views) {
   return Flow({Widget(views.option(0)), Widget(views.option(1)), Widget(views.option(2))});
 }
@@ -38,12 +50,14 @@ QWidget* Alignment(workarea::TextTools& tools) {
                                                    Widget(group.option(2))})));
 }
 
-QWidget* Document(workarea::DocumentView& view) {
+QWidget* Document(workarea::DocumentView& view, workarea::WorksheetsPane& worksheets) {
   return Widget(
       view.panel,
       Column({
-          Flow({Widget(view.heading), Row({Widget(view.status_label), Widget(view.status)})}),
+          Flow({Widget(view.heading), Row({Widget(view.status_label), Widget(view.status)}),
+                Widget(worksheets.terms)}),
           Inline(Widget(view.actions, Views(view.views))),
+          Inline(Widget(worksheets.references.frame, Views(worksheets.references.views))),
           Grow(Widget(view.text)),
           Flow({Primary(Widget(view.save)), WithIcon("next-mark", Widget(view.tools.find_mark)),
                 Widget(view.insert_template), Widget(view.tools.font), Alignment(view.tools),
@@ -55,25 +69,26 @@ QWidget* Document(workarea::DocumentView& view) {
 }
 
 QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) {
-  return PrintView(
-      printing.print, pictures,
-      {Widget(printing.texts[0]), Widget(printing.texts[1]), Widget(printing.texts[2])});
+  return PrintView(printing.print, pictures,
+                   {Widget(printing.first), Widget(printing.texts[0]), Widget(printing.texts[1]),
+                    Widget(printing.texts[2])});
 }
 
 }  // namespace
 
 QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
-  QWidget* areas =
-      Widget(form.areas,
-             Narrowable(Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents)})),
-                        Document(form.document)));
+  QWidget* areas = Widget(
+      form.areas, Narrowable(Scrolled(Row({Areas(form.area_buttons),
+                                           DocumentButtons(form.documents), Names(form.names)})),
+                             Document(form.document, form.worksheets)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));
   return MainScreenView(
       form.main_buttons,
       Column({Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
-              AtTop(AtMost(all, kLettersOfNote)), Grow(Printing(form.printing, pictures))}));
+              AtTop(AtMost(all, kLettersOfNote)), Grow(TitlesView(form.worksheets.titles)),
+              Grow(Printing(form.printing, pictures))}));
 }
 
 }  // namespace tarnwell::desktop

@@ -102,8 +102,9 @@ QWidget* Widget(forms::Option& option) {
 }
 
 QWidget* Widget(forms::CheckBox& box) {
-  auto* button = new QCheckBox(FromCore(box.caption()));
+  auto* button = new QCheckBox;
   auto* binding = new Binding(button, box, [button, &box] {
+    button->setText(FromCore(box.caption()));
     button->setChecked(box.checked());
     NameForScreenReader(button, box, box.caption());
   });
