@@ -18,7 +18,7 @@
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/pictures.h"
 #include "held_memory.h"
-#include "idle_form.h"
+#include "idle_world.h"
 #include "ratio_table.h"
 
 namespace tarnwell::bench {
@@ -196,14 +196,19 @@ bool MeasureFillingAndSorting(Sheet& sheet, const Texts& texts) {
 int Run(const std::string& parent) {
   const BenchFolder disk(parent);
   storage::ProgramFolder folder(storage::RealFileSystem(), disk.path());
-  IdleForm idle(folder);
+  IdleWorld<> world(folder);
+  world.navigator.Register("Blank", [](forms::Context& context) {
+    return std::make_unique<forms::Form>(context, "Blank", "Blank");
+  });
+  world.navigator.Show("Blank");
+  forms::Form& form = *world.navigator.top();
   const Texts texts = MakeTexts();
-  bool is_good = MeasureMemory(idle.form(), texts);
-  Sheet sheet(idle.form());
+  bool is_good = MeasureMemory(form, texts);
+  Sheet sheet(form);
   sheet.Fill(texts);
   is_good = MeasureCore(sheet) && is_good;
   is_good = MeasurePainted(sheet) && is_good;
-  is_good = MeasureList(idle.form()) && is_good;
+  is_good = MeasureList(form) && is_good;
   return MeasureFillingAndSorting(sheet, texts) && is_good ? 0 : 1;
 }
 

@@ -12,8 +12,7 @@
 
 #include "bench_folder.h"
 #include "forms/form_names.h"
-#include "forms/navigator.h"
-#include "idle_services.h"
+#include "idle_world.h"
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
 #include "ratio_table.h"
@@ -61,19 +60,14 @@ class GapMeter : public forms::EventLoop {
 // The planner as a person uses it: the panel opened for the first row of today.
 class Planner {
  public:
-  explicit Planner(storage::ProgramFolder& folder)
-      : context_{{folder, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
-                  speller_, thesaurus_},
-                 variables_,
-                 navigator_} {
+  explicit Planner(storage::ProgramFolder& folder) : world_(folder) {
     planner::DayRows rows;
     rows[0] = {"9:00 AM", "Stand-up meeting with the whole crew"};
     Check(planner::WriteDay(folder, kToday, rows), "write today");
-    navigator_.SetContext(context_);
-    navigator_.Register(forms::form_names::kZcalandar1, [](forms::Context& context) {
+    world_.navigator.Register(forms::form_names::kZcalandar1, [](forms::Context& context) {
       return std::make_unique<planner::Zcalandar1>(context);
     });
-    navigator_.Show(forms::form_names::kZcalandar1);
+    world_.navigator.Show(forms::form_names::kZcalandar1);
   }
 
   // Each day of ten years from tomorrow on.
@@ -83,11 +77,11 @@ class Planner {
     Run(panel.ok);
   }
   void Remove() { Run(Open().remove); }
-  double longest_gap() const { return loop_.longest(); }
+  double longest_gap() const { return world_.loop.longest(); }
 
  private:
   planner::RecurrencePanel& Open() {
-    auto& form = dynamic_cast<planner::Zcalandar1&>(*navigator_.top());
+    auto& form = dynamic_cast<planner::Zcalandar1&>(*world_.navigator.top());
     form.recurrence_buttons[0].Click();
     planner::RecurrenceChoice& choice = form.recurrence.choice;
     choice.calendar.SelectDay(kFirstDay);
@@ -96,24 +90,12 @@ class Planner {
     return form.recurrence;
   }
   void Run(forms::Command& command) {
-    loop_.BeginRun();
+    world_.loop.BeginRun();
     command.Click();
-    Check(loop_.yields() == kDays, "walk every day");
+    Check(world_.loop.yields() == kDays, "walk every day");
   }
 
-  Clock clock_;
-  YesDialogs dialogs_;
-  GapMeter loop_;
-  IdleWindow window_;
-  IdleHelp help_;
-  IdleClipboard clipboard_;
-  IdlePages pages_;
-  IdleFolders folders_;
-  IdleSpeller speller_;
-  IdleThesaurus thesaurus_;
-  forms::ProgramVariables variables_;
-  forms::Navigator navigator_;
-  forms::Context context_;
+  IdleWorld<Clock, GapMeter> world_;
 };
 
 // The same records in the same order, in files of the same size.

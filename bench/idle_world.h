@@ -1,0 +1,37 @@
+// What a form is lent at a machine without a screen.
+
+#pragma once
+
+#include "forms/context.h"
+#include "forms/navigator.h"
+#include "idle_services.h"
+
+namespace tarnwell::bench {
+
+// With the clock and the event loop that a benchmark measures by.
+template <typename ClockClass = IdleClock, typename LoopClass = IdleLoop>
+struct IdleWorld {
+  explicit IdleWorld(storage::ProgramFolder& folder)
+      : context{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders, speller,
+                 thesaurus},
+                variables,
+                navigator} {
+    navigator.SetContext(context);
+  }
+
+  ClockClass clock;
+  YesDialogs dialogs;
+  LoopClass loop;
+  IdleWindow window;
+  IdleHelp help;
+  IdleClipboard clipboard;
+  IdlePages pages;
+  IdleFolders folders;
+  IdleSpeller speller;
+  IdleThesaurus thesaurus;
+  forms::ProgramVariables variables;
+  forms::Navigator navigator;
+  forms::Context context;
+};
+
+}  // namespace tarnwell::bench
