@@ -48,6 +48,10 @@ class RichTextBox : public Control {
   const std::optional<Color>& background() const { return background_; }
   void SetBackground(std::optional<Color> color);
 
+  // Whether the text is shown on pages, with their margins and what stands above and below it.
+  bool shows_pages() const { return shows_pages_; }
+  void SetShowsPages(bool shows);
+
   int paragraph_count() const;
   std::string ParagraphText(int paragraph) const;
   const richtext::Range& selection() const { return selection_; }
@@ -127,6 +131,7 @@ class RichTextBox : public Control {
   std::optional<richtext::CharacterFormat> typing_format_;
   bool after_blank_ = false;  // the last thing typed was a blank
   bool locked_ = false;
+  bool shows_pages_ = false;
   std::optional<Color> text_color_;
   std::optional<Color> background_;
   std::deque<richtext::ChangedSpan> spans_;

@@ -122,12 +122,8 @@ PrintedText::Printed PrintedText::Of(const Paragraph& paragraph) {
 }
 
 void PrintedText::AddText(const Run& run, std::string text, Printed& printed) const {
-  const std::string& other = run.format.other;
-  const auto is_on = [&other](std::string_view word) {
-    return richtext::HoldsKept(word, other) &&
-           other.find("\\" + std::string(word) + "0") == std::string::npos;
-  };
-  if (is_on("scaps")) {
+  const auto capitals = richtext::CapitalsOf(run.format);
+  if (capitals == richtext::CapitalLetters::kSmall) {
     for (richtext::CapitalPart& part : richtext::SmallCapitals(text)) {
       Run small = run;
       if (part.is_small) {
@@ -139,7 +135,7 @@ void PrintedText::AddText(const Run& run, std::string text, Printed& printed) co
     }
     return;
   }
-  if (is_on("caps")) text = richtext::Capitals(text);
+  if (capitals == richtext::CapitalLetters::kAll) text = richtext::Capitals(text);
   printed.paragraph.runs.push_back({run.format, std::move(text), run.field});
 }
 

@@ -1,5 +1,6 @@
 #include "richtext/capitals.h"
 
+#include "richtext/kept_words.h"
 #include "richtext/utf8.h"
 
 namespace tarnwell::richtext {
@@ -22,6 +23,17 @@ char32_t CapitalOf(char32_t c) {
 }
 
 }  // namespace
+
+CapitalLetters CapitalsOf(const CharacterFormat& format) {
+  const std::string& other = format.other;
+  if (other.find("caps") == std::string::npos) return CapitalLetters::kNone;
+  const auto is_on = [&other](std::string_view word) {
+    return HoldsKept(word, other) &&
+           other.find("\\" + std::string(word) + "0") == std::string::npos;
+  };
+  if (is_on("scaps")) return CapitalLetters::kSmall;
+  return is_on("caps") ? CapitalLetters::kAll : CapitalLetters::kNone;
+}
 
 std::vector<CapitalPart> SmallCapitals(std::string_view utf8) {
   std::vector<CapitalPart> parts;

@@ -4,7 +4,14 @@
 #include <string_view>
 #include <vector>
 
+#include "richtext/rich_document.h"
+
 namespace tarnwell::richtext {
+
+enum class CapitalLetters { kNone, kAll, kSmall };
+
+// How the text of a format is shown.
+CapitalLetters CapitalsOf(const CharacterFormat& format);
 
 // A part of a text for small capitals: letters that are capitals already stand large.
 struct CapitalPart {

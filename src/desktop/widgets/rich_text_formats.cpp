@@ -3,6 +3,10 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "richtext/capitals.h"
+#include "richtext/paragraph_frame.h"
+#include "richtext/paragraphs.h"
+
 namespace tarnwell::desktop {
 namespace {
 
@@ -12,31 +16,37 @@ constexpr int kMarkerGap = 120;  // twips
 
 QColor ColorOf(const richtext::Color& color) { return {color.red, color.green, color.blue}; }
 
-QTextCharFormat::UnderlineStyle StyleOf(richtext::Underline underline) {
+// What Qt draws itself; empty for the view's own.
+std::optional<QTextCharFormat::UnderlineStyle> StyleOf(richtext::Underline underline) {
   using richtext::Underline;
   switch (underline) {
     case Underline::kNone:
       return QTextCharFormat::NoUnderline;
+    case Underline::kSingle:
+      return QTextCharFormat::SingleUnderline;
     case Underline::kDotted:
-    case Underline::kThickDotted:
       return QTextCharFormat::DotLine;
     case Underline::kWave:
-    case Underline::kHeavyWave:
-    case Underline::kDoubleWave:
       return QTextCharFormat::WaveUnderline;
     case Underline::kDash:
-    case Underline::kLongDash:
-    case Underline::kThickDash:
-    case Underline::kThickLongDash:
       return QTextCharFormat::DashUnderline;
     case Underline::kDashDot:
-    case Underline::kThickDashDot:
       return QTextCharFormat::DashDotLine;
     case Underline::kDashDotDot:
-    case Underline::kThickDashDotDot:
       return QTextCharFormat::DashDotDotLine;
     default:
-      return QTextCharFormat::SingleUnderline;
+      return std::nullopt;
+  }
+}
+
+QFont::Capitalization CapitalizationOf(const richtext::CharacterFormat& format) {
+  switch (richtext::CapitalsOf(format)) {
+    case richtext::CapitalLetters::kAll:
+      return QFont::AllUppercase;
+    case richtext::CapitalLetters::kSmall:
+      return QFont::SmallCaps;
+    default:
+      return QFont::MixedCase;
   }
 }
 
@@ -77,12 +87,54 @@ QTextFrameFormat::BorderStyle StyleOf(const richtext::Border& border) {
   return QTextFrameFormat::BorderStyle_Solid;
 }
 
+bool IsLine(const richtext::Border& border) {
+  return StyleOf(border) != QTextFrameFormat::BorderStyle_None;
+}
+
+Qt::PenStyle PenOf(const richtext::Border& border) {
+  if (StyleOf(border) == QTextFrameFormat::BorderStyle_Dotted) return Qt::DotLine;
+  return StyleOf(border) == QTextFrameFormat::BorderStyle_Dashed ? Qt::DashLine : Qt::SolidLine;
+}
+
+QString UsualFontOf(const richtext::RichDocument& document) {
+  const std::string font = richtext::DefaultFontName(document);
+  return QString::fromStdString(font.empty() ? richtext::kUsualFont : font);
+}
+
 }  // namespace
 
-RichTextFormats::RichTextFormats(const QPaintDevice& device, double zoom, const std::string& font)
+QVariant ShownFrame::ToVariant() const {
+  QVariantList list{fill};
+  for (const Side& side : sides) {
+    list << side.width << side.distance << side.color << static_cast<int>(side.style)
+         << side.is_double;
+  }
+  return list;
+}
+
+ShownFrame ShownFrame::Of(const QTextBlockFormat& format) {
+  ShownFrame frame;
+  const QVariantList list = format.property(kFrameProperty).toList();
+  if (list.isEmpty()) return frame;
+  frame.fill = list[0].value<QColor>();
+  qsizetype next = 1;
+  for (Side& side : frame.sides) {
+    side.width = list[next].toDouble();
+    side.distance = list[next + 1].toDouble();
+    side.color = list[next + 2].value<QColor>();
+    side.style = static_cast<Qt::PenStyle>(list[next + 3].toInt());
+    side.is_double = list[next + 4].toBool();
+    next += 5;
+  }
+  return frame;
+}
+
+RichTextFormats::RichTextFormats(const QPaintDevice& device, double zoom,
+                                 const richtext::RichDocument& document)
     : pixels_per_twip_(device.logicalDpiX() / kTwipsPerInch * zoom),
       zoom_(zoom),
-      font_(QString::fromStdString(font.empty() ? richtext::kUsualFont : font)) {}
+      font_(UsualFontOf(document)),
+      colors_(document.colors) {}
 
 QTextCharFormat RichTextFormats::Of(const richtext::CharacterFormat& format) const {
   QTextCharFormat out;
@@ -94,7 +146,13 @@ QTextCharFormat RichTextFormats::Of(const richtext::CharacterFormat& format) con
   if (format.italic) out.setFontItalic(true);
   if (format.strike) out.setFontStrikeOut(true);
   if (format.underline != richtext::Underline::kNone) {
-    out.setUnderlineStyle(StyleOf(format.underline));
+    const auto style = StyleOf(format.underline);
+    if (style) out.setUnderlineStyle(*style);
+    if (!style) out.setProperty(kUnderlineProperty, static_cast<int>(format.underline));
+  }
+  if (!format.other.empty()) {
+    const QFont::Capitalization capitals = CapitalizationOf(format);
+    if (capitals != QFont::MixedCase) out.setFontCapitalization(capitals);
   }
   if (format.script == richtext::Script::kSuperscript) {
     out.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
@@ -123,21 +181,62 @@ QTextBlockFormat RichTextFormats::Of(const richtext::Paragraph& paragraph) const
   } else if (spacing < 0) {
     out.setLineHeight(Pixels(-spacing), QTextBlockFormat::FixedHeight);
   }
+  if (!format.tabs.empty()) AddTabs(format, out);
+  if (!format.other.empty()) AddFrame(format, out);
+  if (format.page_break_before) {
+    out.setProperty(kPageBreakBeforeProperty, true);
+    out.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+  }
+  if (!paragraph.section_break.empty() &&
+      paragraph.section_break.find("\\sbknone") == std::string::npos) {
+    out.setProperty(kPageBreakBehindProperty, true);
+    out.setPageBreakPolicy(out.pageBreakPolicy() | QTextFormat::PageBreak_AlwaysAfter);
+  }
+  AddMarker(paragraph, out);
+  return out;
+}
+
+void RichTextFormats::AddTabs(const richtext::ParagraphFormat& format,
+                              QTextBlockFormat& out) const {
   QList<QTextOption::Tab> tabs;
+  QVariantList leaders;
+  bool has_leader = false;
   for (const richtext::TabStop& tab : format.tabs) {
     if (tab.kind == richtext::TabStop::Kind::kBar) continue;
     // Qt counts from where the line begins.
     const double position = Pixels(tab.position - format.left_indent);
-    if (position > 0) tabs.append(QTextOption::Tab(position, TypeOf(tab.kind), QLatin1Char('.')));
+    if (position <= 0) continue;
+    tabs.append(QTextOption::Tab(position, TypeOf(tab.kind), QLatin1Char('.')));
+    leaders << position << static_cast<int>(tab.leader);
+    has_leader = has_leader || tab.leader != richtext::TabStop::Leader::kNone;
   }
   if (!tabs.isEmpty()) out.setTabPositions(tabs);
-  if (format.page_break_before) out.setProperty(kPageBreakBeforeProperty, true);
-  if (!paragraph.section_break.empty() &&
-      paragraph.section_break.find("\\sbknone") == std::string::npos) {
-    out.setProperty(kPageBreakBehindProperty, true);
+  if (has_leader) out.setProperty(kLeadersProperty, leaders);
+}
+
+// The frame's lines and what they keep off the text stand between two paragraphs.
+void RichTextFormats::AddFrame(const richtext::ParagraphFormat& format,
+                               QTextBlockFormat& out) const {
+  const richtext::ParagraphFrame frame = richtext::FrameOf(format, colors_);
+  if (frame.is_empty()) return;
+  ShownFrame shown;
+  if (frame.fill) shown.fill = ColorOf(*frame.fill);
+  std::size_t next = 0;
+  for (const auto* given : {&frame.top, &frame.left, &frame.bottom, &frame.right}) {
+    ShownFrame::Side& line = shown.sides[next++];
+    line.distance = Pixels(given->distance);
+    if (!IsLine(given->border)) continue;
+    line.width = std::max(1.0, Pixels(given->border.width));
+    line.color = given->border.color ? ColorOf(*given->border.color) : QColor(Qt::black);
+    line.style = PenOf(given->border);
+    line.is_double = given->border.style == "brdrdb";
   }
-  AddMarker(paragraph, out);
-  return out;
+  out.setProperty(kFrameProperty, shown.ToVariant());
+  const auto room = [&shown](std::size_t i) {
+    return shown.sides[i].width > 0 ? shown.sides[i].distance + shown.sides[i].width : 0;
+  };
+  out.setTopMargin(out.topMargin() + room(0));
+  out.setBottomMargin(out.bottomMargin() + room(2));
 }
 
 void RichTextFormats::AddMarker(const richtext::Paragraph& paragraph,

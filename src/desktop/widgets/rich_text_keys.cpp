@@ -92,16 +92,25 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   QTextEdit::keyPressEvent(event);
 }
 
-// A step back from behind a place to break at begins before it: both are the same place in the
-// text.
+// Both sides of a place to break at, or of a sign, are the same place in the text: one step goes
+// over it.
 void RichTextView::StepOverBreak(const QKeyEvent& event) {
-  const bool selects = Matches(event, QKeySequence::SelectPreviousChar);
-  if (!selects && !Matches(event, QKeySequence::MoveToPreviousChar)) return;
+  const bool back = Matches(event, QKeySequence::MoveToPreviousChar) ||
+                    Matches(event, QKeySequence::SelectPreviousChar);
+  const bool selects = Matches(event, QKeySequence::SelectPreviousChar) ||
+                       Matches(event, QKeySequence::SelectNextChar);
+  if (!back && !selects && !Matches(event, QKeySequence::MoveToNextChar)) return;
   QTextCursor cursor = textCursor();
-  const int place = cursor.position();
-  if (cursor.atBlockStart() || PositionOf(place - 1) != PositionOf(place)) return;
+  const int start = cursor.position();
+  int place = start;
+  const auto is_at_edge = [&] {
+    return place == cursor.block().position() + (back ? 0 : cursor.block().length() - 1);
+  };
+  const int step = back ? -1 : 1;
+  while (!is_at_edge() && PositionOf(place + step) == PositionOf(start)) place += step;
+  if (place == start) return;
   const QSignalBlocker quiet(this);
-  cursor.setPosition(place - 1, selects ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+  cursor.setPosition(place, selects ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
   setTextCursor(cursor);
 }
 
@@ -208,8 +217,9 @@ void RichTextView::Backspace() {
   QTextCursor cursor = textCursor();
   cursor.clearSelection();
   const richtext::Position from = PositionOf(cursor.position());
-  cursor.movePosition(QTextCursor::PreviousCharacter);
-  if (PositionOf(cursor.position()) == from) cursor.movePosition(QTextCursor::PreviousCharacter);
+  while (cursor.movePosition(QTextCursor::PreviousCharacter) &&
+         PositionOf(cursor.position()) == from) {
+  }
   box_.Backspace(PositionOf(cursor.position()));
 }
 
@@ -217,8 +227,9 @@ void RichTextView::EraseTo(QTextCursor::MoveOperation operation) {
   QTextCursor cursor = textCursor();
   if (!cursor.hasSelection()) {
     cursor.movePosition(operation, QTextCursor::KeepAnchor);
-    // Nothing lies between both sides of a place to break at.
-    if (RangeOf(cursor).empty()) cursor.movePosition(operation, QTextCursor::KeepAnchor);
+    // Nothing lies between both sides of a place to break at, or of a sign.
+    while (RangeOf(cursor).empty() && cursor.movePosition(operation, QTextCursor::KeepAnchor)) {
+    }
   }
   box_.Erase(RangeOf(cursor));
 }

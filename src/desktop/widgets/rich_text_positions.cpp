@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "desktop/widgets/rich_text_formats.h"
+
 namespace tarnwell::desktop {
 namespace {
 
@@ -48,18 +50,35 @@ std::vector<int> BreaksInWords(std::string_view paragraph) {
   return breaks;
 }
 
-int ToUtf16Offset(std::string_view paragraph, int offset) {
-  offset = std::max(offset, 0);
+std::vector<int> SignsIn(const QTextBlock& block) {
+  std::vector<int> signs;
+  for (auto part = block.begin(); !part.atEnd(); ++part) {
+    const QTextFragment fragment = part.fragment();
+    if (fragment.charFormat().objectType() != kKeptObject) continue;
+    for (int i = 0; i < fragment.length(); ++i) {
+      signs.push_back(fragment.position() - block.position() + i);
+    }
+  }
+  return signs;
+}
+
+int ToUtf16Offset(std::string_view paragraph, int offset, std::span<const int> signs) {
+  if (offset <= 0) return 0;
   int units = 0;
   for (const char byte : paragraph.substr(0, static_cast<std::size_t>(offset))) {
     units += UnitsOf(byte);
   }
   const std::vector<int> breaks = BreaksInWords(paragraph);
   const auto before = std::ranges::upper_bound(breaks, offset) - breaks.begin();
-  return units + static_cast<int>(before);
+  units += static_cast<int>(before);
+  for (const int sign : signs) {
+    if (sign <= units) ++units;
+  }
+  return units;
 }
 
-int ToUtf8Offset(std::string_view paragraph, int utf16_offset) {
+int ToUtf8Offset(std::string_view paragraph, int utf16_offset, std::span<const int> signs) {
+  utf16_offset -= static_cast<int>(std::ranges::lower_bound(signs, utf16_offset) - signs.begin());
   const std::vector<int> breaks = BreaksInWords(paragraph);
   auto next_break = breaks.begin();
   int bytes = 0;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QString>
+#include <QTextBlock>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -17,8 +19,12 @@ QString ShownInBlock(std::string_view utf8);
 inline constexpr int kLongestWord = 1000;
 std::vector<int> BreaksInWords(std::string_view paragraph);
 
-// Offsets into the same text of a whole paragraph; Qt's has the places to break at too.
-int ToUtf16Offset(std::string_view paragraph, int offset);
-int ToUtf8Offset(std::string_view paragraph, int utf16_offset);
+// Offsets in a block of Qt's text at which signs of its own stand; see kKeptObject.
+std::vector<int> SignsIn(const QTextBlock& block);
+
+// Offsets into the same text of a whole paragraph; Qt's has the places to break at and the signs
+// too. What is typed comes behind a sign, but for one at the beginning.
+int ToUtf16Offset(std::string_view paragraph, int offset, std::span<const int> signs = {});
+int ToUtf8Offset(std::string_view paragraph, int utf16_offset, std::span<const int> signs = {});
 
 }  // namespace tarnwell::desktop

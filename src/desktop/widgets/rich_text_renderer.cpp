@@ -3,12 +3,11 @@
 #include <QTextBlock>
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <optional>
 #include <ranges>
 #include <utility>
 
-#include "desktop/widgets/rich_text_pictures.h"
-#include "desktop/widgets/rich_text_positions.h"
 #include "richtext/paragraphs.h"
 #include "richtext/table_grid.h"
 
@@ -32,24 +31,6 @@ void MakeThin(QTextCursor& cursor) {
   QTextBlockFormat format;
   format.setLineHeight(1, QTextBlockFormat::FixedHeight);
   cursor.setBlockFormat(format);
-}
-
-// Qt keeps a cell's own format, its spans and its fill too, in the format of the cell's first
-// block.
-void SetMark(QTextCharFormat mark, const QTextTable* table, QTextCursor& cursor) {
-  const QTextTableCell cell = table != nullptr ? table->cellAt(cursor) : QTextTableCell();
-  if (cell.isValid() && cell.firstPosition() == cursor.block().position()) {
-    mark.clearBackground();
-    const QMap<int, QVariant> all = cell.format().properties();
-    for (auto it = all.begin(); it != all.end(); ++it) {
-      const bool is_of_table = it.key() >= QTextFormat::TableCellRowSpan &&
-                               it.key() <= QTextFormat::TableCellRightBorderBrush;
-      if (is_of_table || it.key() == QTextFormat::BackgroundBrush)
-        mark.setProperty(it.key(), it.value());
-    }
-    mark.setObjectType(QTextFormat::TableCellObject);
-  }
-  cursor.setBlockCharFormat(mark);
 }
 
 // A paragraph of one line and one format is 1; letters and formats take time too.
@@ -77,17 +58,16 @@ void RichTextRenderer::Start(const richtext::RichDocument& document,
                              const RichTextFormats& formats) {
   target_.clear();
   pictures_.clear();
+  kept_.clear();
   QTextOption option = target_.defaultTextOption();
   option.setTabStopDistance(formats.Pixels(kUsualTabDistance));
   target_.setDefaultTextOption(option);
   document_ = &document;
   shown_ = ShownBlocks();
   fillers_ = FillersIn(document);
-  next_ = 0;
-  tables_ = {};
-  next_row_ = 0;
+  covered_ = CoveredIn(document);
+  progress_ = {};
   is_done_ = false;
-  is_fresh_ = true;
 }
 
 void RichTextRenderer::RenderAll(const richtext::RichDocument& document,
@@ -105,49 +85,62 @@ void RichTextRenderer::RenderMore(const richtext::RichDocument& document,
   cursor.beginEditBlock();
   cursor.movePosition(QTextCursor::End);
   const std::size_t written = document.blocks.size();
-  for (std::size_t done = 0; next_ < written && done < work;) {
-    if (IsTable(document.blocks[next_])) {
-      done += RenderPart(cursor);
-      continue;
-    }
-    if (!is_fresh_) cursor.insertBlock();
-    const auto& paragraph = std::get<richtext::Paragraph>(document.blocks[next_++]);
-    Fill(paragraph, nullptr, cursor);
-    is_fresh_ = false;
-    done += WorkOf(paragraph);
-  }
-  is_done_ = next_ >= written;
+  RenderBlocks(progress_, written, work, cursor);
+  is_done_ = progress_.next >= written;
   if (is_done_ && EndsUnwritten(document)) Fill(ParagraphAt(written), nullptr, cursor);
   cursor.endEditBlock();
 }
 
-void RichTextRenderer::Update(const richtext::RichDocument& document,
+void RichTextRenderer::RenderBlocks(Progress& progress, std::size_t end, std::size_t work,
+                                    QTextCursor& cursor) {
+  for (std::size_t done = 0; progress.next < end && done < work;) {
+    if (IsTable(document_->blocks[progress.next])) {
+      done += RenderPart(progress, cursor);
+      continue;
+    }
+    if (!progress.is_fresh) cursor.insertBlock();
+    const auto& paragraph = std::get<richtext::Paragraph>(document_->blocks[progress.next++]);
+    Fill(paragraph, nullptr, cursor);
+    progress.is_fresh = false;
+    done += WorkOf(paragraph);
+  }
+}
+
+bool RichTextRenderer::Update(const richtext::RichDocument& document,
                               const RichTextFormats& formats,
                               const std::vector<richtext::ChangedSpan>& spans) {
-  if (spans.empty()) return;
+  if (spans.empty()) return true;
   const Region region = Merged(spans);
-  // What isn't rendered yet comes as it is by then.
-  const bool is_amid = next_row_ > 0 || region.first + region.before > next_;
-  if (!is_done_ && is_amid) return RenderAll(document, formats);
   document_ = &document;
   formats_ = &formats;
+  const std::size_t end = region.first + region.before;
+  // What isn't rendered yet comes as it is by then.
+  const bool is_to_come = !is_done_ && region.first > progress_.next;
+  const bool is_amid = !is_done_ && !is_to_come && end > progress_.next;
+  if (is_amid) return false;
   QTextCursor edit(&target_);
   edit.beginEditBlock();
   const richtext::ChangedSpan& first = spans.front();
   bool is_shown = true;
-  if (spans.size() == 1 && first.where.in_table) {
+  if (is_to_come) {
+    // Nothing yet.
+  } else if (spans.size() == 1 && first.where.in_table) {
     Paragraphs after = ParagraphsOf(richtext::CellAt(document, first.where));
     after.erase(after.begin(), after.begin() + static_cast<std::ptrdiff_t>(first.where.index));
     after.resize(first.blocks_after);
-    UpdateParagraphs(BlockOf(first.first_paragraph), first.blocks_before, after);
+    const bool is_covered = std::ranges::binary_search(covered_, first.first_paragraph);
+    if (!is_covered) UpdateParagraphs(BlockOf(first.first_paragraph), first.blocks_before, after);
   } else {
     is_shown = UpdateInPlace(region);
   }
   edit.endEditBlock();
-  if (!is_shown) return RenderAll(document, formats);
+  if (!is_shown) return false;
   shown_ = ShownBlocks();
   fillers_ = FillersIn(document);
-  next_ += region.after - region.before;
+  covered_ = CoveredIn(document);
+  if (!is_to_come) progress_.next += region.after - region.before;
+  if (progress_.next_row > 0) progress_.tables = TablesAt(document, progress_.next);
+  return true;
 }
 
 // Spans follow each other: each counts in the document that the one before left.
@@ -180,6 +173,7 @@ std::vector<RichTextRenderer::Shown> RichTextRenderer::ShownBlocks() const {
 }
 
 bool RichTextRenderer::UpdateInPlace(Region region) {
+  const Region written_region = region;
   const std::vector<Shown> now = ShownBlocks();
   // The last of these is a paragraph; one that isn't stored counts as one that is.
   const std::size_t written = document_->blocks.size();
@@ -197,12 +191,51 @@ bool RichTextRenderer::UpdateInPlace(Region region) {
       std::any_of(old_first, old_end, is_table) || std::any_of(new_first, new_end, is_table);
   int paragraph = 0;
   for (auto shown = shown_.begin(); shown != old_first; ++shown) paragraph += shown->paragraphs;
+  if (has_tables || region.before == 0 || region.after == 0) {
+    return ReplaceBlocks(written_region, paragraph, now);
+  }
   const QTextBlock first = BlockOf(paragraph);
-  if (has_tables) return false;
-  if (region.before == 0 || region.after == 0) return false;
   Paragraphs after;
   for (std::size_t i = 0; i < region.after; ++i) after.push_back(&ParagraphAt(region.first + i));
   UpdateParagraphs(first, region.before, after);
+  return true;
+}
+
+// Between a paragraph before and one behind, both of which stay. Tables that touch are one for Qt.
+bool RichTextRenderer::ReplaceBlocks(Region region, int first_paragraph,
+                                     const std::vector<Shown>& now) {
+  while (region.first > 0 && now[region.first - 1].is_table) {
+    --region.first;
+    ++region.before;
+    ++region.after;
+    first_paragraph -= now[region.first].paragraphs;
+  }
+  std::size_t old_end = region.first + region.before;
+  std::size_t new_end = region.first + region.after;
+  for (; new_end < now.size() && now[new_end].is_table; ++old_end) ++new_end;
+  const bool is_near_end = !is_done_ && old_end >= progress_.next;
+  if (region.first == 0 || new_end >= now.size() || old_end >= shown_.size() || is_near_end) {
+    return false;
+  }
+  int paragraph = first_paragraph;
+  for (std::size_t i = region.first; i < old_end; ++i) paragraph += shown_[i].paragraphs;
+  const QTextBlock behind = BlockOf(paragraph);
+  QTextCursor cursor(BlockOf(first_paragraph - 1));
+  if (!behind.isValid() || cursor.currentTable() != nullptr) return false;
+  cursor.movePosition(QTextCursor::EndOfBlock);
+  cursor.setPosition(behind.position(), QTextCursor::KeepAnchor);
+  cursor.removeSelectedText();
+  cursor.insertBlock();
+  cursor.movePosition(QTextCursor::PreviousBlock);
+  Fill(ParagraphAt(region.first - 1), nullptr, cursor);
+  Progress progress{region.first, {}, {}, 0, false};
+  RenderBlocks(progress, new_end, std::numeric_limits<std::size_t>::max(), cursor);
+  if (progress.is_fresh) {
+    cursor.deleteChar();  // the block behind a table, before the one that is there
+  } else {
+    cursor.movePosition(QTextCursor::NextBlock);
+  }
+  Fill(ParagraphAt(new_end), nullptr, cursor);
   return true;
 }
 
@@ -237,49 +270,57 @@ const richtext::Paragraph& RichTextRenderer::ParagraphAt(std::size_t block) cons
   return richtext::ParagraphAt(*document_, richtext::Place{block});
 }
 
+int RichTextRenderer::NumberOf(int paragraph) const {
+  const auto fillers = std::ranges::upper_bound(fillers_, paragraph) - fillers_.begin();
+  const auto covered = std::ranges::lower_bound(covered_, paragraph) - covered_.begin();
+  return paragraph + static_cast<int>(fillers) - static_cast<int>(covered);
+}
+
 QTextBlock RichTextRenderer::BlockOf(int paragraph) const {
-  const auto before = std::ranges::upper_bound(fillers_, paragraph) - fillers_.begin();
-  return target_.findBlockByNumber(paragraph + static_cast<int>(before));
+  return target_.findBlockByNumber(NumberOf(paragraph));
 }
 
 int RichTextRenderer::ParagraphOf(const QTextBlock& block) const {
-  // A filler has as many blocks before it as paragraphs and other fillers.
-  const auto stands_before = [&](int i) {
-    return fillers_[static_cast<std::size_t>(i)] + i < block.blockNumber();
-  };
-  const auto all = std::views::iota(0, static_cast<int>(fillers_.size()));
-  const auto before = std::ranges::partition_point(all, stands_before) - all.begin();
-  return block.blockNumber() - static_cast<int>(before);
+  const int number = block.blockNumber();
+  const auto all = std::views::iota(0, number + static_cast<int>(covered_.size()) + 1);
+  const auto stands_before = [&](int paragraph) { return NumberOf(paragraph) < number; };
+  int paragraph = *std::ranges::partition_point(all, stands_before);
+  while (std::ranges::binary_search(covered_, paragraph)) ++paragraph;
+  return paragraph;
 }
 
 bool RichTextRenderer::IsFiller(const QTextBlock& block) const {
   return BlockOf(ParagraphOf(block)) != block;
 }
 
-std::size_t RichTextRenderer::RenderPart(QTextCursor& cursor) {
-  if (next_row_ == 0) {
-    tables_ = TablesAt(*document_, next_);
-    grid_ = richtext::GridOf(tables_.rows);
+std::size_t RichTextRenderer::RenderPart(Progress& progress, QTextCursor& cursor) {
+  const TableRows& rows = progress.tables.rows;
+  if (progress.next_row == 0) {
+    progress.tables = TablesAt(*document_, progress.next);
+    progress.grid = richtext::GridOf(rows);
   }
-  const std::size_t end = EndOfPart(tables_.rows, next_row_);
-  if (is_fresh_ && end > 0) MakeThin(cursor);
-  InsertRows(next_row_, end, cursor);
+  const std::size_t end = EndOfPart(rows, progress.next_row);
+  if (progress.is_fresh && end > 0) MakeThin(cursor);
+  InsertRows(progress, end, cursor);
   std::size_t work = 1;
-  for (; next_row_ < end; ++next_row_) {
-    for (const richtext::Cell& cell : tables_.rows[next_row_]->cells) {
+  for (; progress.next_row < end; ++progress.next_row) {
+    for (const richtext::Cell& cell : rows[progress.next_row]->cells) {
       work += kCellWork;
       for (const richtext::Paragraph& paragraph : cell.paragraphs) work += WorkOf(paragraph);
     }
   }
-  if (end == tables_.rows.size()) {
-    next_ = std::exchange(tables_, {}).end;
-    next_row_ = 0;
+  if (end == rows.size()) {
+    progress.next = std::exchange(progress.tables, {}).end;
+    progress.next_row = 0;
   }
-  is_fresh_ = true;
+  progress.is_fresh = true;
   return work;
 }
 
-void RichTextRenderer::InsertRows(std::size_t first, std::size_t end, QTextCursor& cursor) {
+void RichTextRenderer::InsertRows(const Progress& progress, std::size_t end, QTextCursor& cursor) {
+  const std::size_t first = progress.next_row;
+  const TableRows& rows = progress.tables.rows;
+  const richtext::TableGrid& grid = progress.grid;
   if (first == end) return;
   QTextTableFormat format;
   format.setBorderCollapse(true);
@@ -287,27 +328,37 @@ void RichTextRenderer::InsertRows(std::size_t first, std::size_t end, QTextCurso
   format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
   format.setCellSpacing(0);
   format.setCellPadding(0);
-  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid_.left_edge)));
+  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid.left_edge)));
   QList<QTextLength> widths;
-  for (const int width : grid_.widths) {
+  for (const int width : grid.widths) {
     widths.append(QTextLength(QTextLength::FixedLength, formats_->Pixels(width)));
   }
   format.setColumnWidthConstraints(widths);
   QTextTable* const table =
       cursor.insertTable(static_cast<int>(end - first), static_cast<int>(widths.size()), format);
+  CellSpans merged;
+  if (HasMergedCells(std::span(rows).subspan(first, end - first))) {
+    merged = SpansOfPart(rows, grid, first, end);
+  }
   for (std::size_t i = first; i < end; ++i) {
-    const richtext::TableRow& row = *tables_.rows[i];
+    const richtext::TableRow& row = *rows[i];
     const int number = static_cast<int>(i - first);
     int column = 0;
-    for (std::size_t n = 0; n < row.cells.size(); ++n) {
-      const int span = grid_.spans[i][n];
-      if (span > 1) table->mergeCells(number, column, 1, span);
+    for (std::size_t n = 0; n < row.cells.size(); column += grid.spans[i][n++]) {
+      richtext::CellSpan span{grid.spans[i][n]};
+      if (!merged.empty()) span = merged[i - first][n];
+      if (span.is_covered) continue;
+      if (span.columns > 1 || span.rows > 1) {
+        table->mergeCells(number, column, span.rows, span.columns);
+      }
       QTextTableCell cell = table->cellAt(number, column);
       QTextCharFormat look = cell.format();  // with its spans
       look.merge(formats_->Of(row.cells[n], row.half_gap));
       cell.setFormat(look);
+      const auto widths_from = grid.widths.begin() + column;
+      const int width = std::accumulate(widths_from, widths_from + span.columns, 0);
+      cell_width_ = formats_->Pixels(width - 2 * row.half_gap);
       InsertCell(row.cells[n], *table, cell.firstCursorPosition());
-      column += span;
     }
   }
   cursor.setPosition(table->lastPosition() + 1);
@@ -319,65 +370,6 @@ void RichTextRenderer::InsertCell(const richtext::Cell& cell, const QTextTable& 
     if (&paragraph != &cell.paragraphs.front()) cursor.insertBlock();
     Fill(paragraph, &table, cursor);
   }
-}
-
-void RichTextRenderer::Fill(const richtext::Paragraph& paragraph, const QTextTable* table,
-                            QTextCursor& cursor) {
-  cursor.movePosition(QTextCursor::StartOfBlock);
-  cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-  cursor.removeSelectedText();
-  cursor.setBlockFormat(formats_->Of(paragraph));
-  SetMark(formats_->Of(paragraph.mark), table, cursor);
-  const std::vector<int> breaks = BreaksInWords(richtext::ShownText(paragraph));
-  int begin = 0;
-  for (const richtext::Run& run : paragraph.runs) {
-    const int end = begin + static_cast<int>(richtext::ShownText(run).size());
-    const auto first = std::ranges::lower_bound(breaks, begin);
-    const auto last = std::ranges::lower_bound(first, breaks.end(), end);
-    InsertRun(run, {first, last}, begin, cursor);
-    begin = end;
-  }
-}
-
-void RichTextRenderer::InsertRun(const richtext::Run& run, std::span<const int> breaks, int begin,
-                                 QTextCursor& cursor) {
-  if (const auto* const picture = std::get_if<richtext::Picture>(&run.content)) {
-    return InsertPicture(*picture, cursor);
-  }
-  const auto* const text = std::get_if<std::string>(&run.content);
-  if (text == nullptr) return;
-  const QTextCharFormat format = formats_->Of(run.format);
-  std::size_t done = 0;
-  for (const int place : breaks) {
-    const auto end = static_cast<std::size_t>(place - begin);
-    InsertText(std::string_view(*text).substr(done, end - done), format, cursor);
-    cursor.insertText(QString(QChar(0x200B)), format);
-    done = end;
-  }
-  InsertText(std::string_view(*text).substr(done), format, cursor);
-}
-
-void RichTextRenderer::InsertText(std::string_view rest, const QTextCharFormat& format,
-                                  QTextCursor& cursor) {
-  while (!rest.empty()) {
-    const std::size_t end = std::min(rest.find('\f'), rest.size());
-    cursor.insertText(ShownInBlock(rest.substr(0, end)), format);
-    rest.remove_prefix(end);
-    if (rest.empty()) return;
-    QTextCharFormat page_break = format;
-    page_break.setProperty(kPageBreakProperty, true);
-    cursor.insertText(QString(QChar::LineSeparator), page_break);
-    rest.remove_prefix(1);
-  }
-}
-
-void RichTextRenderer::InsertPicture(const richtext::Picture& picture, QTextCursor& cursor) {
-  const QByteArray file(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
-  const richtext::Page& page = document_->page;
-  const double widest = formats_->Pixels(page.width - page.left_margin - page.right_margin);
-  const QTextImageFormat format = PictureFormat(picture, file, *formats_, widest);
-  pictures_.insert(format.name(), {file, QSizeF(format.width(), format.height()).toSize()});
-  cursor.insertImage(format);
 }
 
 }  // namespace tarnwell::desktop

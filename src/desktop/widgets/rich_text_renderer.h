@@ -1,5 +1,6 @@
 // Shows a document as Qt's text. Each paragraph is a block, in the same order. Only Qt's blocks
-// before a table at the beginning and between the parts of a long table have no paragraph.
+// before a table at the beginning and between the parts of a long table have no paragraph, and
+// only the paragraphs of cells that lie under a merged one have no block.
 
 #pragma once
 
@@ -16,6 +17,7 @@
 #include "desktop/widgets/rich_text_formats.h"
 #include "desktop/widgets/table_parts.h"
 #include "richtext/change.h"
+#include "richtext/kept_things.h"
 #include "richtext/rich_document.h"
 #include "richtext/table_grid.h"
 
@@ -32,8 +34,9 @@ class RichTextRenderer {
   void RenderMore(const richtext::RichDocument& document, const RichTextFormats& formats,
                   std::size_t work);
   bool is_done() const { return is_done_; }
-  // Shows what changed since the last rendering. The document is the one behind all changes.
-  void Update(const richtext::RichDocument& document, const RichTextFormats& formats,
+  // Shows what changed since the last rendering. The document is the one behind all changes. False
+  // if it has to be rendered anew.
+  bool Update(const richtext::RichDocument& document, const RichTextFormats& formats,
               const std::vector<richtext::ChangedSpan>& spans);
 
   // Invalid for a paragraph that isn't shown yet.
@@ -47,6 +50,10 @@ class RichTextRenderer {
     QSize size;
   };
   ShownPicture PictureOf(const QString& name) const { return pictures_.value(name); }
+  bool has_kept() const { return !kept_.isEmpty(); }
+  const QHash<QString, richtext::KeptThing>& kept() const { return kept_; }
+  // What a kKeptObject stands for; null if there is none of that name.
+  const richtext::KeptThing* KeptOf(const QString& name) const;
 
  private:
   // A block of the document as it is shown.
@@ -61,9 +68,20 @@ class RichTextRenderer {
     std::size_t after = 0;
   };
 
+  // How far a rendering is.
+  struct Progress {
+    std::size_t next = 0;      // block to be rendered
+    AdjacentTables tables;     // that stand there
+    richtext::TableGrid grid;  // theirs
+    std::size_t next_row = 0;  // of `tables`
+    bool is_fresh = true;      // the block in hand waits for a paragraph
+  };
+
   static Region Merged(const std::vector<richtext::ChangedSpan>& spans);
-  // False where tables come, go or change as a whole.
+  // Both are false where that can't be done.
   bool UpdateInPlace(Region region);
+  bool ReplaceBlocks(Region region, int first_paragraph, const std::vector<Shown>& now);
+  void RenderBlocks(Progress& progress, std::size_t end, std::size_t work, QTextCursor& cursor);
   void UpdateParagraphs(const QTextBlock& first, std::size_t before,
                         const std::vector<const richtext::Paragraph*>& after);
   // With the paragraph that isn't stored.
@@ -71,8 +89,8 @@ class RichTextRenderer {
   const richtext::Paragraph& ParagraphAt(std::size_t block) const;
 
   // The next part of the tables that stand next; gives the work it was.
-  std::size_t RenderPart(QTextCursor& cursor);
-  void InsertRows(std::size_t first, std::size_t end, QTextCursor& cursor);
+  std::size_t RenderPart(Progress& progress, QTextCursor& cursor);
+  void InsertRows(const Progress& progress, std::size_t end, QTextCursor& cursor);
   void InsertCell(const richtext::Cell& cell, const QTextTable& table, QTextCursor cursor);
   // Makes the cursor's block show the paragraph. `table` is the one that it stands in, which Qt
   // itself doesn't know before an edit has ended.
@@ -82,17 +100,19 @@ class RichTextRenderer {
                  QTextCursor& cursor);
   static void InsertText(std::string_view text, const QTextCharFormat& format, QTextCursor& cursor);
   void InsertPicture(const richtext::Picture& picture, QTextCursor& cursor);
+  // `notes` counts the numbers of notes in the paragraph.
+  void InsertSigns(const richtext::Run& run, int& notes, QTextCursor& cursor);
+  int NumberOf(int paragraph) const;
 
   QTextDocument& target_;
   std::vector<Shown> shown_;
   std::vector<int> fillers_;  // see FillersIn
-  std::size_t next_ = 0;      // block to be rendered
-  AdjacentTables tables_;     // that stand there
-  richtext::TableGrid grid_;  // theirs
-  std::size_t next_row_ = 0;  // of tables_
+  std::vector<int> covered_;  // see CoveredIn
+  Progress progress_;
   bool is_done_ = true;
-  bool is_fresh_ = true;  // the last of Qt's blocks waits for a paragraph
   QHash<QString, ShownPicture> pictures_;
+  QHash<QString, richtext::KeptThing> kept_;
+  double cell_width_ = 0;  // pixels, of the cell in hand
   // During a rendering.
   const richtext::RichDocument* document_ = nullptr;
   const RichTextFormats* formats_ = nullptr;

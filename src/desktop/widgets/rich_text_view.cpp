@@ -34,8 +34,6 @@ constexpr double kZoomStep = 1.1;
 constexpr double kLeastFittingZoom = 0.75;
 // Letters get whole pixels only; at a quarter's steps most of them keep their proportions.
 constexpr double kFittingZooms = 4;  // in 1
-constexpr int kSheetMargin = 480;    // twips
-constexpr int kTableEdge = 2;        // pixels by which a table's borders are wider than its cells
 constexpr double kWheelStep = 120;
 const QColor kLockedPaper{0xF7, 0xF7, 0xF5};
 
@@ -102,6 +100,13 @@ RichTextView::RichTextView(forms::RichTextBox& box)
           Given(new ViewDocument(this, [this](const QString& name) { return PictureNamed(name); }),
                 *this)) {
   document()->setUseDesignMetrics(true);
+  document()->documentLayout()->registerHandler(kKeptObject, &kept_);
+  kept_.number_of = [this](int paragraph, int note) {
+    return furniture_.NumberOf(paragraph, note);
+  };
+  // The sheet is as wide with a long text as with a short one.
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this] { MakeRoomBelow(); });
   setAcceptRichText(true);
   connect(document(), &QTextDocument::contentsChange, this, [this](int, int removed, int added) {
     if (!is_showing_ && removed + added > 0) TakeForeignChange();
@@ -114,7 +119,7 @@ RichTextView::RichTextView(forms::RichTextBox& box)
 }
 
 RichTextFormats RichTextView::Formats() const {
-  return {*viewport(), zoom_, richtext::DefaultFontName(box_.document())};
+  return {*viewport(), zoom_, box_.document()};
 }
 
 void RichTextView::Show() {
@@ -122,27 +127,47 @@ void RichTextView::Show() {
   ShowState();
   const auto spans = known_ ? box_.SpansFrom(*known_) : std::nullopt;
   known_ = box_.spans_made();
-  if (!spans || (!spans->empty() && !renderer_.is_done())) {
+  const bool turns = shows_pages_ != box_.shows_pages();
+  shows_pages_ = box_.shows_pages();
+  if (!spans) {
     ShowAll();
-  } else if (IsMuch(box_.document(), *spans)) {
+  } else if (turns) {
     ShowAll();
     scroll_requests_ = -1;
   } else if (!spans->empty()) {
     const int place = verticalScrollBar()->value();
-    renderer_.Update(box_.document(), Formats(), *spans);
-    verticalScrollBar()->setValue(place);
     scroll_requests_ = -1;
+    if (IsMuch(box_.document(), *spans) ||
+        !renderer_.Update(box_.document(), Formats(), *spans)) {
+      ShowAll();
+    } else {
+      verticalScrollBar()->setValue(place);
+      if (renderer_.has_kept()) Follow();
+    }
   }
   ShowSelection();
 }
 
 void RichTextView::ShowAll() {
   if (!is_zoomed_) zoom_ = FittingZoom();
-  renderer_.Start(box_.document(), Formats());
+  const RichTextFormats formats = Formats();
+  const richtext::Page& page = box_.document().page;
+  furniture_.Show(box_.document(), formats,
+                  formats.Pixels(std::max(page.width - page.left_margin - page.right_margin,
+                                          2 * kSheetMargin)));
+  kept_.SetSource(furniture_.source());
+  renderer_.Start(box_.document(), formats);
   renderer_.RenderMore(box_.document(), Formats(), kFirstWork);
   PlaceSheet();
   moveCursor(QTextCursor::Start);
   if (!renderer_.is_done()) next_part_.start();
+  DescribeKept();
+}
+
+void RichTextView::Follow() {
+  furniture_.Follow(box_.document());
+  MakeRoomBelow();
+  DescribeKept();
 }
 
 void RichTextView::ShowMore(std::size_t work) {
@@ -152,6 +177,7 @@ void RichTextView::ShowMore(std::size_t work) {
   if (is_current) renderer_.RenderMore(box_.document(), Formats(), work);
   if (!is_current || renderer_.is_done()) next_part_.stop();
   if (is_current && selection_waits_) ShowSelection();
+  if (is_current && renderer_.is_done()) Follow();
 }
 
 void RichTextView::ShowRest() {
@@ -178,15 +204,19 @@ void RichTextView::ShowSelection() {
   const auto is_shown = [this] {
     return renderer_.is_done() || renderer_.BlockOf(box_.selection().to.paragraph).isValid();
   };
-  if (!waited && !is_shown()) ShowRest();
+  // A place that somebody asked for is soon there; what a person selects may reach further.
+  if (!waited && !is_shown() && box_.selection().empty()) ShowRest();
   selection_waits_ = !is_shown();
   if (selection_waits_) return;
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
-  const bool is_astray = renderer_.IsFiller(textCursor().block());
   QTextCursor cursor(document());
   cursor.setPosition(QtPositionOf(box_.selection().from));
   cursor.setPosition(QtPositionOf(box_.selection().to), QTextCursor::KeepAnchor);
+  const bool is_beside_sign = !cursor.hasSelection() && !textCursor().hasSelection() &&
+                              textCursor().block() == cursor.block() &&
+                              textCursor().position() != cursor.position();
+  const bool is_astray = is_beside_sign || renderer_.IsFiller(textCursor().block());
   // All parts of a table, too, where a person's cursor reaches from one into another.
   const bool is_all = textCursor().selectionStart() <= cursor.selectionStart() &&
                       textCursor().selectionEnd() >= cursor.selectionEnd();
@@ -211,34 +241,16 @@ void RichTextView::ShowAnew() {
   Show();
 }
 
-// In twips: what the document's page has for text, and the sheet's own margins.
-int RichTextView::SheetWidth() const {
-  const richtext::Page& page = box_.document().page;
-  const int text = page.width - page.left_margin - page.right_margin;
-  return std::max(text, 2 * kSheetMargin) + 2 * kSheetMargin;
-}
-
 int RichTextView::RoomForSheet() const {
   return width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - 2 * kSpace;
 }
 
 // Small enough for the whole width of the sheet, as long as that can be read.
 double RichTextView::FittingZoom() const {
-  const double sheet = RichTextFormats(*viewport(), 1, {}).Pixels(SheetWidth());
+  const double sheet = RichTextFormats(*viewport(), 1, richtext::RichDocument()).Pixels(SheetWidth());
   const double room = RoomForSheet() - kTableEdge;
   const double zoom = std::floor(room / sheet * kFittingZooms) / kFittingZooms;
   return std::clamp(zoom, kLeastFittingZoom, 1.0);
-}
-
-// The sheet lies in the middle of the view; it gets narrower where there is less room.
-void RichTextView::PlaceSheet() {
-  if (!box_is_there_.Connected()) return;
-  const RichTextFormats formats = Formats();
-  const int sheet = static_cast<int>(std::ceil(formats.Pixels(SheetWidth()))) + kTableEdge;
-  const int side = kSpace + std::max(0, (RoomForSheet() - sheet) / 2);
-  if (viewportMargins().left() != side) setViewportMargins(side, 0, side, 0);
-  const double margin = formats.Pixels(kSheetMargin);
-  if (document()->documentMargin() != margin) document()->setDocumentMargin(margin);
 }
 
 void RichTextView::resizeEvent(QResizeEvent* event) {
@@ -258,12 +270,13 @@ richtext::Position RichTextView::PositionOf(int qt_position) const {
   const QTextBlock block = document()->findBlock(qt_position);
   const int paragraph = renderer_.ParagraphOf(block);
   const std::string text = box_.ParagraphText(paragraph);
-  return {paragraph, ToUtf8Offset(text, qt_position - block.position())};
+  return {paragraph, ToUtf8Offset(text, qt_position - block.position(), SignsIn(block))};
 }
 
 int RichTextView::QtPositionOf(richtext::Position position) const {
   const QTextBlock block = renderer_.BlockOf(position.paragraph);
-  const int offset = ToUtf16Offset(box_.ParagraphText(position.paragraph), position.offset);
+  const int offset = ToUtf16Offset(box_.ParagraphText(position.paragraph), position.offset,
+                                   SignsIn(block));
   return block.position() + std::min(offset, block.length() - 1);
 }
 

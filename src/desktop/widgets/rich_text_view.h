@@ -4,7 +4,9 @@
 #include <QTimer>
 #include <optional>
 
+#include "desktop/widgets/kept_objects.h"
 #include "desktop/widgets/picture_cache.h"
+#include "desktop/widgets/rich_text_furniture.h"
 #include "desktop/widgets/rich_text_renderer.h"
 #include "forms/rich_text_box.h"
 
@@ -31,6 +33,7 @@ class RichTextView : public QTextEdit {
   void wheelEvent(QWheelEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -44,9 +47,24 @@ class RichTextView : public QTextEdit {
   // All of it where that is soon done.
   void ShowRest();
   void ShowState();
+  // Finds anew what stands around the text, behind a change.
+  void Follow();
   void ShowSelection();
   void ShowAnew();
+  static constexpr int kSheetMargin = 480;  // twips, of a sheet that isn't a page
+  static constexpr int kTableEdge = 2;      // pixels by which borders are wider than their cells
   int SheetWidth() const;
+  bool shows_pages() const { return shows_pages_; }
+  // Pixels from one page's beginning to the next.
+  double PageStep() const;
+  // Of the text on the sheet, in pixels.
+  QMarginsF SheetMargins();
+  // What stands below the text: notes, and a footer where there are no pages.
+  double FurnitureHeight();
+  void MakeRoomBelow();
+  double EndOfText() const;
+  void DescribeKept();
+  QString KeptAt(QPoint place) const;
   int RoomForSheet() const;  // pixels
   double FittingZoom() const;
   void PlaceSheet();
@@ -74,13 +92,20 @@ class RichTextView : public QTextEdit {
   void CutSelection();
 
   QPixmap PictureNamed(const QString& name);
-  void PaintMarker(QPainter& painter, const QTextBlock& block, QPointF origin);
+  void PaintSheets(QPainter& painter, double top, double bottom);
+  void PaintFurniture(QPainter& painter, double top, double bottom);
+  void PaintPageFurniture(QPainter& painter, int page, int pages);
   void PaintPageBreaks(QPainter& painter, const QTextBlock& block, QPointF origin);
 
   forms::RichTextBox& box_;
   forms::Subscription box_is_there_;
   PictureCache pictures_;
   RichTextRenderer renderer_;
+  KeptObjects kept_{renderer_};
+  RichTextFurniture furniture_{[this] { viewport()->update(); }};
+  bool shows_pages_ = false;
+  bool makes_room_ = false;
+  int own_range_ = 0;  // of the scroll bar, for Qt's text alone
   QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown
   int scroll_requests_ = 0;

@@ -1,8 +1,13 @@
 #include "desktop/widgets/table_parts.h"
 
+#include <algorithm>
+
 #include "richtext/paragraphs.h"
 
 namespace tarnwell::desktop {
+
+using richtext::TableGrid;
+
 namespace {
 
 bool IsLong(const TableRows& rows) {
@@ -21,6 +26,17 @@ int CountParagraphs(const richtext::TableRow& row) {
 }
 
 }  // namespace
+
+CellSpans SpansOfPart(const TableRows& rows, const TableGrid& grid, std::size_t first,
+                      std::size_t end) {
+  TableRows part(rows.begin() + static_cast<std::ptrdiff_t>(first),
+                 rows.begin() + static_cast<std::ptrdiff_t>(end));
+  TableGrid of_part;
+  of_part.widths = grid.widths;
+  of_part.spans.assign(grid.spans.begin() + static_cast<std::ptrdiff_t>(first),
+                       grid.spans.begin() + static_cast<std::ptrdiff_t>(end));
+  return richtext::CellSpansOf(part, of_part);
+}
 
 AdjacentTables TablesAt(const richtext::RichDocument& document, std::size_t block) {
   AdjacentTables tables;
@@ -63,6 +79,44 @@ std::vector<int> FillersIn(const richtext::RichDocument& document) {
     block = tables.end;
   }
   return fillers;
+}
+
+bool HasMergedCells(std::span<const richtext::TableRow* const> rows) {
+  return std::ranges::any_of(rows, [](const richtext::TableRow* row) {
+    return std::ranges::any_of(row->cells, [](const richtext::Cell& cell) {
+      return cell.other.find("mrg") != std::string::npos;
+    });
+  });
+}
+
+std::vector<int> CoveredIn(const richtext::RichDocument& document) {
+  std::vector<int> covered;
+  int paragraph = 0;
+  for (std::size_t block = 0; block < document.blocks.size();) {
+    if (std::holds_alternative<richtext::Paragraph>(document.blocks[block])) {
+      ++paragraph;
+      ++block;
+      continue;
+    }
+    const AdjacentTables tables = TablesAt(document, block);
+    const bool has_merged = HasMergedCells(tables.rows);
+    const richtext::TableGrid grid = has_merged ? richtext::GridOf(tables.rows) : TableGrid();
+    for (std::size_t first = 0; first < tables.rows.size();) {
+      const std::size_t end = EndOfPart(tables.rows, first);
+      const auto spans = has_merged ? SpansOfPart(tables.rows, grid, first, end) : CellSpans();
+      for (std::size_t row = first; row < end; ++row) {
+        for (std::size_t i = 0; i < tables.rows[row]->cells.size(); ++i) {
+          const int count = static_cast<int>(tables.rows[row]->cells[i].paragraphs.size());
+          const bool is_covered = has_merged && spans[row - first][i].is_covered;
+          for (int n = 0; is_covered && n < count; ++n) covered.push_back(paragraph + n);
+          paragraph += count;
+        }
+      }
+      first = end;
+    }
+    block = tables.end;
+  }
+  return covered;
 }
 
 richtext::Range WithWholeTables(const richtext::RichDocument& document, richtext::Range range) {

@@ -1,0 +1,67 @@
+// A document's box and its view, without a window around them.
+
+#pragma once
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <chrono>
+#include <cstdlib>
+#include <string>
+
+#include "desktop/widgets/rich_text_view.h"
+#include "richtext/rich_text_reader.h"
+
+namespace tarnwell::bench {
+
+// Without a form around it the box is always in reach.
+class Desk : public forms::Container {
+  forms::Form& form() override { std::abort(); }
+  bool Reachable() const override { return true; }
+};
+
+class Editor {
+ public:
+  Editor() {
+    view_.resize(800, 700);
+    view_.show();
+  }
+
+  void Open(const std::string& bytes) {
+    box_.SetDocument(richtext::ReadRichText(bytes));
+    view_.viewport()->repaint();
+  }
+  const richtext::RichDocument& document() const { return box_.document(); }
+  // The whole document is shown once the cursor has been anywhere in it.
+  void GoTo(int paragraph) {
+    box_.Select({{paragraph, 20}, {paragraph, 20}});
+    QApplication::processEvents();
+  }
+  // Each gives milliseconds until the effect is on the screen.
+  double Press(int key, const QString& text = {}, Qt::KeyboardModifiers held = Qt::NoModifier) {
+    QKeyEvent event(QEvent::KeyPress, key, held, text);
+    return Time([&] {
+      QApplication::sendEvent(&view_, &event);
+      QApplication::processEvents();
+    });
+  }
+  // Of what goes on by itself, as much as a key may have to wait for.
+  double Wait() {
+    return Time([] { QApplication::processEvents(QEventLoop::AllEvents, 0); });
+  }
+  template <typename Work>
+  static double Time(Work work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    const std::chrono::duration<double, std::milli> taken =
+        std::chrono::steady_clock::now() - start;
+    return taken.count();
+  }
+
+ private:
+  Desk desk_;
+  forms::RichTextBox box_{desk_, "RichTextBox1", {}};
+  desktop::RichTextView view_{box_};
+  forms::Subscription shown_ = box_.OnChanged([this] { view_.Show(); });
+};
+
+}  // namespace tarnwell::bench
