@@ -1,6 +1,6 @@
 #include "richtext/capitals.h"
 
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -26,11 +26,11 @@ char32_t CapitalOf(char32_t c) {
 std::vector<CapitalPart> SmallCapitals(std::string_view utf8) {
   std::vector<CapitalPart> parts;
   while (!utf8.empty()) {
-    const char32_t letter = TakeUtf8(utf8);
+    const char32_t letter = text::TakeUtf8(utf8);
     const char32_t capital = CapitalOf(letter);
     const bool is_small = capital != letter;
     if (parts.empty() || parts.back().is_small != is_small) parts.push_back({{}, is_small});
-    AppendUtf8(capital, parts.back().text);
+    text::AppendUtf8(capital, parts.back().text);
   }
   return parts;
 }

@@ -6,7 +6,7 @@
 #include "richtext/kept_words.h"
 #include "richtext/rtf_capture.h"
 #include "richtext/rtf_tokenizer.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -66,7 +66,8 @@ class FontReader {
   void TakeUnicode(const Token& token) {
     if (!font_) return;
     const auto character = static_cast<char32_t>(token.number & 0xFFFF);
-    if (character >= ' ' && font_->name.size() < kLongestName) AppendUtf8(character, font_->name);
+    if (character >= ' ' && font_->name.size() < kLongestName)
+      text::AppendUtf8(character, font_->name);
     const Token fallback = tokenizer_.Next();
     if (fallback.kind == TokenKind::kText) tokenizer_.Seek(fallback.begin + 1);
     if (fallback.kind == TokenKind::kGroupEnd) tokenizer_.Seek(fallback.begin);
