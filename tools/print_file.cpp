@@ -24,7 +24,7 @@ std::string Quoted(std::string_view value) {
   for (const char letter : value) {
     const auto code = static_cast<unsigned char>(letter);
     if (code >= 0x20 && code != 0x7F) {
-      shown += text::ToUtf8({&letter, 1});
+      shown += text::ToUtf8({&letter, 1}).bytes();
     } else {
       shown.append("\\x").append(1, kHexDigits[code >> 4]).append(1, kHexDigits[code & 15]);
     }
@@ -160,7 +160,8 @@ void PrintRecords(storage::ProgramFolder& folder, std::string_view name, const F
 void PrintFile(storage::ProgramFolder& folder, std::string_view name, const FileKind& kind,
                std::ostream& out) {
   if (!folder.Exists(name)) return;
-  out << text::ToUtf8(name) << ": " << kind.title << ", " << folder.Length(name) << " bytes\n";
+  out << text::ToUtf8(name).bytes() << ": " << kind.title << ", " << folder.Length(name)
+      << " bytes\n";
   if (kind.layout == Layout::kDocument) return;
   if (kind.record_length > 0) return PrintRecords(folder, name, kind, out);
   storage::SequentialReader reader(folder, name);

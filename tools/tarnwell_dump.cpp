@@ -15,7 +15,7 @@ int main(int count, char** arguments) {
     return 2;
   }
   const std::filesystem::path path(arguments[1]);
-  const std::string name = tarnwell::text::FromUtf8(path.filename().string());
+  const std::string name = tarnwell::text::FromUtf8(tarnwell::text::Utf8(path.filename().string()));
   const std::string parent = path.parent_path().string();
   tarnwell::storage::ProgramFolder folder(tarnwell::storage::RealFileSystem(),
                                           parent.empty() ? "." : parent);

@@ -87,7 +87,7 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   std::vector<std::unique_ptr<QWidget>> retired_;  // pages and dialogs of unloaded forms
   QTimer sweep_;
   QTimer size_announcement_;
-  QTimer meet_frame_;
+  QTimer meet_frame_{this};
   QSize least_size_;   // pixels, with the frame
   QSize wanted_size_;  // likewise; empty once the window has it
   QSize frame_;        // what frame and title bar added to the window before it was maximised

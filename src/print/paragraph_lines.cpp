@@ -5,7 +5,7 @@
 
 #include "print/picture_size.h"
 #include "print/tab_stops.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::print {
 namespace {
@@ -19,16 +19,16 @@ std::size_t FittingBytes(RichStyles& styles, int style, std::string_view text, d
   std::size_t too_long = text.size() + 1;
   while (fits + 1 < too_long) {
     const std::size_t middle = fits + (too_long - fits) / 2;
-    const std::size_t cut = richtext::CharacterStart(text, middle);
+    const std::size_t cut = text::CharacterStart(text, middle);
     const bool is_fitting = styles.Width(style, text.substr(0, cut)) <= width;
     (is_fitting ? fits : too_long) = middle;
   }
-  return richtext::CharacterStart(text, fits);
+  return text::CharacterStart(text, fits);
 }
 
 std::size_t FirstCharacter(std::string_view text) {
   std::size_t size = 1;
-  while (size < text.size() && richtext::CharacterStart(text, size) != size) ++size;
+  while (size < text.size() && text::CharacterStart(text, size) != size) ++size;
   return size;
 }
 

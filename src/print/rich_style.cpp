@@ -37,7 +37,7 @@ RichStyles::RichStyles(PageEngine& engine, const richtext::RichDocument& documen
 }
 
 std::string RichStyles::FontName(const std::string& name) const {
-  return name.empty() ? default_font_ : text::FromUtf8(name);
+  return name.empty() ? default_font_ : text::FromUtf8(text::Utf8(name));
 }
 
 std::shared_ptr<const std::string> RichStyles::Shared(const std::string& file) {

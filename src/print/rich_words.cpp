@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::print {
 namespace {
@@ -103,7 +103,7 @@ bool RichWordReader::ReadText(std::string_view text, int style, RichWord& word) 
       return ReadBlanks(text, style, word);
     }
     std::string_view rest = text.substr(byte);
-    const char32_t next = richtext::TakeUtf8(rest);
+    const char32_t next = text::TakeUtf8(rest);
     const std::size_t size = text.size() - byte - rest.size();
     const bool is_too_long = length_ + size > kLongestWord && length_ > 0;
     // A dash that begins a word is a sign: it stays with what follows.

@@ -33,7 +33,7 @@ class ColumnCopy : public CheckedText {
  public:
   ColumnCopy(forms::Grid& grid, int column) : grid_(grid), column_(column) {
     for (int row = 1; row < grid.rows(); ++row) {
-      cells_.push_back(text::ToUtf8(grid.text(row, column)));
+      cells_.push_back(text::ToUtf8(grid.text(row, column)).bytes());
     }
   }
 

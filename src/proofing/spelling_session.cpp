@@ -16,7 +16,7 @@ std::string InApostrophesOf(std::string_view wrong_utf8, std::string_view right)
   if (wrong_utf8.find("\u2019") != std::string_view::npos) {
     std::ranges::replace(written, '\'', '\x92');
   }
-  return text::ToUtf8(written);
+  return text::ToUtf8(written).bytes();
 }
 
 }  // namespace
@@ -56,7 +56,7 @@ bool SpellingSession::CorrectPair(const WordPlace& first) {
   if (right.empty()) return false;
   const WordPlace both{first.offset, second.end() - first.offset};
   Replace(both, WithCapitalsOf(word, right),
-          {text::FromUtf8(both.In(content_)), std::string(right)});
+          {text::FromUtf8(text::Utf8(both.In(content_))), std::string(right)});
   return true;
 }
 
@@ -93,7 +93,7 @@ bool SpellingSession::IsRight() const {
 
 bool SpellingSession::StandsOutInCapitals(const WordPlace& place) const {
   if (word_.size() < 2 || text::UpperCase(word_) != word_) return false;
-  const std::string line = text::FromUtf8(LineAround(content_, place));
+  const std::string line = text::FromUtf8(text::Utf8(LineAround(content_, place)));
   return text::UpperCase(line) != line;
 }
 

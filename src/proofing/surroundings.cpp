@@ -11,7 +11,7 @@ constexpr char kDots = '\x85';  // "..." as one character
 
 // In one line.
 std::string Narrow(std::string_view utf8) {
-  std::string narrow = text::FromUtf8(utf8);
+  std::string narrow = text::FromUtf8(text::Utf8(utf8));
   std::ranges::replace_if(
       narrow, [](char c) { return c >= '\0' && c < ' '; }, ' ');
   return narrow;

@@ -31,7 +31,7 @@ std::string ReplacementFor(std::string_view word, std::string_view chosen) {
 }
 
 std::optional<std::string> LookUpSynonym(forms::Context& context, std::string_view selection) {
-  const std::string word = text::FromUtf8(WordToLookUp(selection));
+  const std::string word = text::FromUtf8(text::Utf8(WordToLookUp(selection)));
   if (word.empty()) {
     forms::ShowMessage(
         context, {kTitle, "Please highlight word you desire to look up!", forms::Icon::kQuestion});
@@ -45,7 +45,7 @@ std::optional<std::string> LookUpSynonym(forms::Context& context, std::string_vi
     thesaurus.on_replace = [&chosen](const std::string& text) { chosen = text; };
   });
   if (!chosen) return std::nullopt;
-  return text::ToUtf8(ReplacementFor(word, *chosen));
+  return text::ToUtf8(ReplacementFor(word, *chosen)).bytes();
 }
 
 }  // namespace tarnwell::proofing

@@ -4,9 +4,9 @@
 #include <array>
 
 #include "proofing/addresses.h"
-#include "richtext/utf8.h"
 #include "text/code_page_1252.h"
 #include "text/letters.h"
+#include "text/utf8.h"
 
 namespace tarnwell::proofing {
 namespace {
@@ -27,9 +27,10 @@ Kind KindOfWide(char32_t character) {
   if (character == kRightQuote) return Kind::kApostrophe;
   if (character == kSoftHyphen) return Kind::kLetter;
   std::string utf8;
-  richtext::AppendUtf8(character, utf8);
-  const std::string narrow = text::FromUtf8(utf8);
-  if (text::ToUtf8(narrow) != utf8) {
+  text::AppendUtf8(character, utf8);
+  const text::Utf8 wide(utf8);
+  const std::string narrow = text::FromUtf8(wide);
+  if (text::ToUtf8(narrow) != wide) {
     // Punctuation, signs and drawings part words as they do in the code page.
     const bool sign = IsIn(character, 0x2000, 0x2BFF) || IsIn(character, 0x3000, 0x303F) ||
                       IsIn(character, 0xE000, 0xF8FF) || IsIn(character, 0xFE00, 0xFE0F) ||
@@ -119,7 +120,7 @@ std::vector<WordPlace> WordsOf(std::string_view text) {
   };
   for (std::string_view rest = text; !rest.empty();) {
     const std::size_t begin = text.size() - rest.size();
-    const Kind kind = KindOf(richtext::TakeUtf8(rest));
+    const Kind kind = KindOf(text::TakeUtf8(rest));
     const std::size_t end = text.size() - rest.size();
     if (kind == Kind::kBlank) {
       end_run(begin);
@@ -148,7 +149,7 @@ bool StandTogether(std::string_view text, const WordPlace& first, const WordPlac
 std::string DictionaryForm(std::string_view word) {
   constexpr char kNarrowRightQuote = '\x92';
   constexpr char kNarrowSoftHyphen = '\xAD';
-  std::string form = text::FromUtf8(word);
+  std::string form = text::FromUtf8(text::Utf8(word));
   std::erase(form, kNarrowSoftHyphen);
   std::ranges::replace(form, kNarrowRightQuote, '\'');
   return form;

@@ -1,7 +1,7 @@
 #include "richtext/capitals.h"
 
 #include "richtext/kept_words.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -38,11 +38,11 @@ CapitalLetters CapitalsOf(const CharacterFormat& format) {
 std::vector<CapitalPart> SmallCapitals(std::string_view utf8) {
   std::vector<CapitalPart> parts;
   while (!utf8.empty()) {
-    const char32_t letter = TakeUtf8(utf8);
+    const char32_t letter = text::TakeUtf8(utf8);
     const char32_t capital = CapitalOf(letter);
     const bool is_small = capital != letter;
     if (parts.empty() || parts.back().is_small != is_small) parts.push_back({{}, is_small});
-    AppendUtf8(capital, parts.back().text);
+    text::AppendUtf8(capital, parts.back().text);
   }
   return parts;
 }

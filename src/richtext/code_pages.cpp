@@ -4,9 +4,9 @@
 #include <utility>
 
 #include "richtext/code_page_tables.h"
-#include "richtext/utf8.h"
 #include "text/code_page_1252.h"
 #include "text/system_code_pages.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -53,12 +53,12 @@ void ByteDecoder::TakeUpper(char byte, int code_page, std::string& utf8) {
   }
   const std::string_view bytes(&byte, 1);
   if (code_page == 1252) {
-    utf8 += text::ToUtf8(bytes);
+    utf8 += text::ToUtf8(bytes).bytes();
     return;
   }
   if (const CodePageTable* const table = TableOf(code_page)) {
     const char16_t character = table->upper[static_cast<unsigned char>(byte) - kFirstUpper];
-    return AppendUtf8(character == 0 ? U'?' : character, utf8);
+    return text::AppendUtf8(character == 0 ? U'?' : character, utf8);
   }
   if (!text::AppendCharacter(code_page, bytes, utf8)) utf8 += '?';
 }
@@ -82,7 +82,7 @@ void ByteDecoder::Take(std::string_view bytes, int code_page, std::string& utf8)
     } else if (code < ' ') {
       continue;
     } else if (code_page == kSymbolCodePage && byte != ' ') {
-      AppendUtf8(0xF000u + code, utf8);
+      text::AppendUtf8(0xF000u + code, utf8);
     } else if (code < kFirstUpper) {
       utf8 += byte;
     } else {

@@ -6,7 +6,7 @@
 #include "richtext/kept_words.h"
 #include "richtext/list_words.h"
 #include "richtext/runs.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -67,7 +67,7 @@ void DocumentBuilder::AddText(std::string_view utf8, const FormatState& state) {
   const std::size_t room = std::min(text_left_, paragraph_text_left_);
   const std::size_t size = utf8.size();
   has_text_ = true;
-  if (size > room) utf8 = utf8.substr(0, CharacterStart(utf8, room));
+  if (size > room) utf8 = utf8.substr(0, text::CharacterStart(utf8, room));
   if (!utf8.empty()) AppendText(utf8, state);
   is_full_ = is_full_ || size > room;
   if (is_full_) return;

@@ -11,7 +11,7 @@
 #include "richtext/run_edit.h"
 #include "richtext/runs.h"
 #include "richtext/selection.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -170,7 +170,7 @@ void PartLong(RichDocument& fragment) {
   for (Block& block : fragment.blocks) {
     auto* const paragraph = std::get_if<Paragraph>(&block);
     while (paragraph != nullptr && ShownLength(*paragraph) > static_cast<int>(kLongestPasted)) {
-      const std::size_t end = CharacterStart(ShownText(*paragraph), kLongestPasted);
+      const std::size_t end = text::CharacterStart(ShownText(*paragraph), kLongestPasted);
       SplitRuns parts = Split(paragraph->runs, static_cast<int>(end));
       paragraph->runs = std::move(parts.head);
       blocks.emplace_back(*paragraph);

@@ -6,7 +6,7 @@
 #include "richtext/kept_words.h"
 #include "richtext/rtf_capture.h"
 #include "richtext/rtf_tokenizer.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -66,7 +66,7 @@ class FontReader {
   void TakeUnicode(const Token& token) {
     if (!font_) return;
     const auto character = static_cast<char32_t>(token.number & 0xFFFF);
-    if (character >= ' ') AppendUtf8(character, font_->name);
+    if (character >= ' ') text::AppendUtf8(character, font_->name);
     const Token fallback = tokenizer_.Next();
     if (fallback.kind == TokenKind::kText) tokenizer_.Seek(fallback.begin + 1);
     if (fallback.kind == TokenKind::kGroupEnd) tokenizer_.Seek(fallback.begin);
@@ -100,7 +100,7 @@ class FontReader {
     decoder_.Flush(font.name);
     std::erase(font.name, '\t');
     font.name.erase(0, std::min(font.name.find_first_not_of(' '), font.name.size()));
-    if (font.name.size() > kLongestName) font.name.resize(CharacterStart(font.name, kLongestName));
+    if (font.name.size() > kLongestName) font.name.resize(text::CharacterStart(font.name, kLongestName));
     const bool is_known = std::any_of(fonts_.begin(), fonts_.end(), [&font](const Font& other) {
       return other.number == font.number;
     });

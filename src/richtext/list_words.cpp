@@ -5,7 +5,7 @@
 
 #include "richtext/code_pages.h"
 #include "richtext/rtf_tokenizer.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -48,8 +48,8 @@ class MarkerReader {
   std::string Marker() const {
     std::string marker;
     for (std::string_view rest = utf8_; !rest.empty() && marker.size() < kLongestMarker;) {
-      const char32_t character = ShownBullet(TakeUtf8(rest));
-      if (character >= ' ') AppendUtf8(character, marker);
+      const char32_t character = ShownBullet(text::TakeUtf8(rest));
+      if (character >= ' ') text::AppendUtf8(character, marker);
     }
     marker.erase(marker.find_last_not_of(' ') + 1);
     marker.erase(0, std::min(marker.find_first_not_of(' '), marker.size()));
@@ -62,7 +62,7 @@ class MarkerReader {
     if (word.word == Word::kFont) tables_.SetFont(token.number, state_);
     if (word.word == Word::kPlain) ResetCharacter(tables_, state_);
     if (word.word_class == WordClass::kCharacterOf) {
-      AppendUtf8(static_cast<char32_t>(word.value), utf8_);
+      text::AppendUtf8(static_cast<char32_t>(word.value), utf8_);
     }
     if (word.word != Word::kUnicode) return;
     joiner_.Take(static_cast<char16_t>(token.number & 0xFFFF), utf8_);
@@ -71,9 +71,9 @@ class MarkerReader {
 
   void TakeSymbol(char symbol) {
     if (symbol == '\\' || symbol == '{' || symbol == '}') TakeBytes(std::string_view(&symbol, 1));
-    if (symbol == '~') AppendUtf8(0xA0, utf8_);
-    if (symbol == '-') AppendUtf8(0xAD, utf8_);
-    if (symbol == '_') AppendUtf8(0x2011, utf8_);
+    if (symbol == '~') text::AppendUtf8(0xA0, utf8_);
+    if (symbol == '-') text::AppendUtf8(0xAD, utf8_);
+    if (symbol == '_') text::AppendUtf8(0x2011, utf8_);
   }
 
   void Skip(const Token& token) {
@@ -88,7 +88,7 @@ class MarkerReader {
   FormatState state_;
   ByteDecoder decoder_;
   std::string utf8_;
-  Utf16Joiner joiner_;
+  text::Utf16Joiner joiner_;
   int skip_ = 0;
 };
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "richtext/limits.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -48,7 +48,7 @@ bool AppendParagraph(std::string_view line, std::size_t& room, RichDocument& doc
   if (document.blocks.size() == kMostParagraphs) return false;
   const std::size_t most = std::min(room, kLongestParagraph);
   const bool is_whole = line.size() <= most;
-  if (!is_whole) line = line.substr(0, CharacterStart(line, most));
+  if (!is_whole) line = line.substr(0, text::CharacterStart(line, most));
   room -= line.size();
   Paragraph paragraph;
   std::string text;

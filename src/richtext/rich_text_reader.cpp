@@ -4,8 +4,8 @@
 
 #include "richtext/plain_text.h"
 #include "richtext/rtf_reader.h"
-#include "richtext/utf8.h"
 #include "text/code_page_1252.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -25,10 +25,10 @@ bool IsRtf(std::string_view bytes) { return WithoutLead(bytes).starts_with("{\\r
 
 RichDocument ReadRichText(std::string_view bytes) {
   if (IsRtf(bytes)) return RtfReader(WithoutLead(bytes)).Read();
-  if (!bytes.starts_with(kByteOrderMark)) return FromPlainText(text::ToUtf8(bytes));
+  if (!bytes.starts_with(kByteOrderMark)) return FromPlainText(text::ToUtf8(bytes).bytes());
   std::string utf8;
   for (std::string_view rest = bytes.substr(kByteOrderMark.size()); !rest.empty();) {
-    AppendUtf8(TakeUtf8(rest), utf8);
+    text::AppendUtf8(text::TakeUtf8(rest), utf8);
   }
   return FromPlainText(utf8);
 }

@@ -104,7 +104,7 @@ void RtfReader::TakeUnicode(int number) {
   text_.clear();
   if (number > 0xFFFF) {
     joiner_.Flush(text_);
-    AppendUtf8(static_cast<char32_t>(number), text_);
+    text::AppendUtf8(static_cast<char32_t>(number), text_);
   } else {
     const auto unit = static_cast<char16_t>(number & 0xFFFF);
     if (unit >= ' ') joiner_.Take(unit, text_);

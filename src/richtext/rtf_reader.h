@@ -14,7 +14,7 @@
 #include "richtext/rich_document.h"
 #include "richtext/rtf_tokenizer.h"
 #include "richtext/rtf_words.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 
@@ -84,7 +84,7 @@ class RtfReader {
   std::vector<FormatState> states_;
   DocumentBuilder builder_;
   ByteDecoder decoder_;
-  Utf16Joiner joiner_;
+  text::Utf16Joiner joiner_;
   std::string text_;  // decoded last; kept for its memory
   std::vector<OpenField> open_fields_;
   std::size_t depth_ = 0;    // of groups; states_ stops growing at its bound

@@ -49,7 +49,7 @@ void RtfReader::TakeWord(const Token& token) {
       return builder_.row_definition().Apply(token, source, tables_);
     case WordClass::kCharacterOf: {
       text_.clear();
-      AppendUtf8(static_cast<char32_t>(word.value), text_);
+      text::AppendUtf8(static_cast<char32_t>(word.value), text_);
       return AddText(text_);
     }
     case WordClass::kDestination:

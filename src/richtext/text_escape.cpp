@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "richtext/code_pages.h"
-#include "richtext/utf8.h"
 #include "text/code_page_1252.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -25,8 +25,8 @@ void AppendByte(char byte, std::string& out) {
 
 void AppendFallback(char32_t character, int code_page, std::string& out) {
   std::string utf8;
-  AppendUtf8(character, utf8);
-  const std::string nearest = code_page == 1252 ? text::FromUtf8(utf8) : "?";
+  text::AppendUtf8(character, utf8);
+  const std::string nearest = code_page == 1252 ? text::FromUtf8(text::Utf8(utf8)) : "?";
   const auto is_letter = [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; };
   if (nearest.size() != 1 || nearest == "?") {
     out += '?';
@@ -83,7 +83,7 @@ std::string Escape(std::string_view utf8, int code_page, Kind kind) {
     out.append(utf8.begin(), plain_end);
     utf8.remove_prefix(static_cast<std::size_t>(plain_end - utf8.begin()));
     if (utf8.empty()) break;
-    const char32_t character = TakeUtf8(utf8);
+    const char32_t character = text::TakeUtf8(utf8);
     const std::string_view control =
         kind != Kind::kName ? ControlOf(character) : std::string_view{};
     if (!control.empty()) {

@@ -1,7 +1,7 @@
 #include "richtext/typed_text.h"
 
 #include "richtext/limits.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -22,7 +22,7 @@ std::string TypedText(std::string_view utf8) {
   while (!utf8.empty()) {
     const bool is_pair = utf8.starts_with("\r\n");
     if (is_pair) utf8.remove_prefix(1);
-    char32_t character = TakeUtf8(utf8);
+    char32_t character = text::TakeUtf8(utf8);
     if (character == '\r' || character == kParagraphSeparator) character = '\n';
     const bool is_kept = character == '\n' || character == '\t' || character == '\f';
     if (is_kept || (!IsControl(character) && character != kPictureCharacter)) {
@@ -30,7 +30,7 @@ std::string TypedText(std::string_view utf8) {
         text += '\n';
         line = text.size();
       }
-      AppendUtf8(character, text);
+      text::AppendUtf8(character, text);
       if (character == '\n') line = text.size();
     }
   }

@@ -20,7 +20,7 @@ std::optional<std::string> FolderNames::Locate(std::string_view name) {
 }
 
 void FolderNames::Learn(std::string_view name) {
-  on_disk_.emplace(text::UpperCase(name), text::ToUtf8(name));
+  on_disk_.emplace(text::UpperCase(name), text::ToUtf8(name).bytes());
 }
 
 void FolderNames::Forget(std::string_view name) { on_disk_.erase(text::UpperCase(name)); }
@@ -30,8 +30,9 @@ bool FolderNames::Scan() {
   if (!listing) return false;
   const auto before = std::exchange(on_disk_, {});
   for (std::string& on_disk : *listing) {
-    const std::string name = text::FromUtf8(on_disk);
-    if (text::ToUtf8(name) != on_disk) continue;  // no name of the code page can mean this file
+    const text::Utf8 listed(on_disk);
+    const std::string name = text::FromUtf8(listed);
+    if (text::ToUtf8(name) != listed) continue;  // no name of the code page can mean this file
     std::string folded = text::UpperCase(name);
     const auto [entry, is_first] = on_disk_.try_emplace(folded, on_disk);
     if (is_first) continue;

@@ -29,7 +29,7 @@ bool IsOwnName(std::string_view name) {
 bool IsPlainFileName(std::string_view name) {
   return !name.empty() && name != "." && name != ".." && name.size() <= kLongestName &&
          std::none_of(name.begin(), name.end(), IsForbidden) && !IsOwnName(name) &&
-         text::ToUtf8(name).size() <= kLongestName;
+         text::ToUtf8(name).bytes().size() <= kLongestName;
 }
 
 ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,
@@ -190,7 +190,7 @@ bool ProgramFolder::FinishTornWrite(const RedoNote::Write& write) {
 }
 
 std::string ProgramFolder::NewPath(std::string_view name) const {
-  return user_folder_ + "/" + text::ToUtf8(name);
+  return user_folder_ + "/" + text::ToUtf8(name).bytes();
 }
 
 Fault ProgramFolder::FolderFault() const {

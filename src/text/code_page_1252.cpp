@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <optional>
 
 #include "text/nearest_form.h"
 
@@ -38,79 +37,19 @@ void AppendCodePage(char32_t character, std::string& out) {
   }
 }
 
-// The lead byte of a UTF-8 sequence: how many bytes follow, its own share of the character, and
-// the range of the second byte that leaves out overlong forms, surrogates and what is past 10FFFF.
-struct Lead {
-  std::size_t followers;
-  char32_t bits;
-  unsigned char second_low = 0x80;
-  unsigned char second_high = 0xBF;
-};
-
-std::optional<Lead> LeadOf(unsigned char byte) {
-  if (byte < 0x80) return Lead{0, byte};
-  if (byte >= 0xC2 && byte <= 0xDF) return Lead{1, byte & 0x1Fu};
-  if (byte == 0xE0) return Lead{2, 0, 0xA0, 0xBF};
-  if (byte == 0xED) return Lead{2, 0xD, 0x80, 0x9F};
-  if (byte >= 0xE1 && byte <= 0xEF) return Lead{2, byte & 0x0Fu};
-  if (byte == 0xF0) return Lead{3, 0, 0x90, 0xBF};
-  if (byte == 0xF4) return Lead{3, 4, 0x80, 0x8F};
-  if (byte >= 0xF1 && byte <= 0xF3) return Lead{3, byte & 0x07u};
-  return std::nullopt;
-}
-
-// Takes one character off the front of `rest`, which isn't empty. Bytes that begin a sequence and
-// break off are taken together; a byte that can't stand where it does is left for the next call.
-std::optional<char32_t> TakeCharacter(std::string_view& rest) {
-  const std::optional<Lead> lead = LeadOf(static_cast<unsigned char>(rest.front()));
-  rest.remove_prefix(1);
-  if (!lead) return std::nullopt;
-  char32_t character = lead->bits;
-  unsigned char low = lead->second_low;
-  unsigned char high = lead->second_high;
-  for (std::size_t i = 0; i < lead->followers; ++i) {
-    if (rest.empty()) return std::nullopt;
-    const auto byte = static_cast<unsigned char>(rest.front());
-    if (byte < low || byte > high) return std::nullopt;
-    character = (character << 6) | (byte & 0x3Fu);
-    rest.remove_prefix(1);
-    low = 0x80;
-    high = 0xBF;
-  }
-  return character;
-}
-
 }  // namespace
 
-std::string ToUtf8(std::string_view text) {
+Utf8 ToUtf8(std::string_view text) {
   std::string utf8;
   utf8.reserve(text.size());
-  for (const char byte : text) {
-    const char32_t character = UnicodeOf(byte);
-    if (character < 0x80) {
-      utf8 += static_cast<char>(character);
-    } else if (character < 0x800) {
-      utf8 += static_cast<char>(0xC0 | (character >> 6));
-      utf8 += static_cast<char>(0x80 | (character & 0x3F));
-    } else {
-      utf8 += static_cast<char>(0xE0 | (character >> 12));
-      utf8 += static_cast<char>(0x80 | ((character >> 6) & 0x3F));
-      utf8 += static_cast<char>(0x80 | (character & 0x3F));
-    }
-  }
-  return utf8;
+  for (const char byte : text) AppendUtf8(UnicodeOf(byte), utf8);
+  return Utf8(utf8);
 }
 
-std::string FromUtf8(std::string_view utf8) {
+std::string FromUtf8(const Utf8& utf8) {
   std::string text;
-  text.reserve(utf8.size());
-  while (!utf8.empty()) {
-    if (const std::optional<char32_t> character = TakeCharacter(utf8)) {
-      AppendCodePage(*character, text);
-    } else {
-      text += '?';
-    }
-  }
+  text.reserve(utf8.bytes().size());
+  for (std::string_view rest = utf8.bytes(); !rest.empty();) AppendCodePage(TakeUtf8(rest), text);
   return text;
 }
 

@@ -202,7 +202,7 @@ TEST(CompletenessInspection, FindsEachKindOfFault) {
   outside->setParent(panel);
   page.resize(400, 300);
   page.show();
-  QTest::qWait(20);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
   outside->setGeometry(panel->width() - 10, 0, 200, 60);
   outside->show();
 

@@ -11,6 +11,10 @@ int main(int argc, char* argv[]) {
   ::testing::InitGoogleTest(&argc, argv);
   const tarnwell::testing::TemporaryFolder home;
   tarnwell::testing::FixSurroundings(home.path());
+  // Of a test that has to begin before Qt does.
+  if (qEnvironmentVariableIsSet("TARNWELL_TEST_SCALE")) {
+    qputenv("QT_SCALE_FACTOR", qgetenv("TARNWELL_TEST_SCALE"));
+  }
   // The plain "offscreen" has a screen that the program refuses as too small.
   const QString platform = qEnvironmentVariable("QT_QPA_PLATFORM");
   if (platform.isEmpty() || platform == QLatin1String("offscreen")) {

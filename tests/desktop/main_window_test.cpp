@@ -7,9 +7,11 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 #include "desktop/sample_form.h"
 #include "desktop/services/qt_event_loop.h"
@@ -44,6 +46,13 @@ class MainWindowTest : public ::testing::Test {
   SampleForm& Form(const char* name) { return dynamic_cast<SampleForm&>(*navigator_.Find(name)); }
   QPushButton* Button(const char* form, const char* name) {
     return window_.PageOf(Form(form))->findChild<QPushButton*>(QLatin1String(name));
+  }
+
+  // No timer is still to come that fits the window to its frame.
+  bool HasMetItsFrame() {
+    const auto timers = window_.findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly);
+    EXPECT_FALSE(timers.isEmpty());
+    return std::ranges::none_of(timers, [](const QTimer* timer) { return timer->isActive(); });
   }
 
   testing::TemporaryFolder temporary_;
@@ -174,6 +183,17 @@ TEST_F(MainWindowTest, ARightClickPopsUpOnlyWhatCanBeChosen) {
   }
 }
 
+TEST_F(MainWindowTest, AMenuThatCantBeOpenedIsGreyed) {
+  navigator_.Show("Lower");
+  const auto picture = [this] { return window_.menuBar()->grab().toImage(); };
+  const QImage live = picture();
+  forms::MenuItem& menu = *Form("Lower").menus().items().front();
+  menu.SetEnabled(false);
+  EXPECT_NE(picture(), live);
+  menu.SetEnabled(true);
+  EXPECT_EQ(picture(), live);
+}
+
 TEST_F(MainWindowTest, AFormAndItsWidgetsGoOnlyWhenNoHandlerIsLeft) {
   navigator_.Show("Lower");
   navigator_.Show("Upper");
@@ -239,13 +259,41 @@ TEST_F(MainWindowTest, SizesAreTwipsOfWholePixels) {
   window.SetSize({15100, 11200});
   EXPECT_EQ(window.size(), (forms::Size{1007 * 15, 747 * 15}));
   EXPECT_EQ(window.screen(), (forms::Size{1024 * 15, 768 * 15}));
-  window.SetMaximized(true);
-  EXPECT_TRUE(window.maximized());
-  QTest::qWait(300);
-  EXPECT_TRUE(window.maximized());
-  EXPECT_EQ(window.size(), (forms::Size{1024 * 15, 768 * 15}));
-  window.SetMaximized(false);
-  EXPECT_EQ(window.size(), (forms::Size{1007 * 15, 747 * 15}));
+  ASSERT_GT(window_.frameSize().width(), window_.width());
+  for (int round = 0; round < 3; ++round) {
+    for (const bool maximized : {true, false}) {
+      const forms::Size size =
+          maximized ? forms::Size{1024 * 15, 768 * 15} : forms::Size{1007 * 15, 747 * 15};
+      window.SetMaximized(maximized);
+      if (!maximized) {
+        EXPECT_EQ(window.size(), size);  // at once
+      }
+      EXPECT_TRUE(QTest::qWaitFor([this] { return HasMetItsFrame(); }));
+      EXPECT_EQ(window.maximized(), maximized);
+      EXPECT_EQ(window.size(), size);
+    }
+  }
+}
+
+// Each scale is a process of its own.
+TEST_F(MainWindowTest, TheScreenIsAsLargeAsTheMonitorHoweverItIsEnlarged) {
+  constexpr const char* kScale = "TARNWELL_TEST_SCALE";  // main() hands it on to Qt
+  if (qEnvironmentVariableIsSet(kScale)) {
+    const forms::Size screen = static_cast<forms::Window&>(window_).screen();
+    EXPECT_EQ(screen, (forms::Size{1024 * 15, 768 * 15}));
+    EXPECT_EQ(window_.room(), (forms::Size{512 * 15, 384 * 15}));
+    return;
+  }
+  QProcess enlarged;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QLatin1String(kScale), QStringLiteral("2"));
+  enlarged.setProcessEnvironment(environment);
+  enlarged.setProcessChannelMode(QProcess::ForwardedChannels);
+  enlarged.start(QCoreApplication::applicationFilePath(),
+                 {QStringLiteral("--gtest_brief=1"),
+                  QStringLiteral("--gtest_filter=MainWindowTest.TheScreenIsAsLargeAs*")});
+  ASSERT_TRUE(enlarged.waitForFinished());
+  EXPECT_EQ(enlarged.exitCode(), 0);
 }
 
 TEST_F(MainWindowTest, NoSizeIsLargerThanTheScreen) {

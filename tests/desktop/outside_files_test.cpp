@@ -95,7 +95,7 @@ class OutsideFiles : public ::testing::Test {
   }
   void Show(const richtext::RichDocument& document) {
     box_.SetDocument(document);
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     page_->grab();
   }
 

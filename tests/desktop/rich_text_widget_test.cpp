@@ -322,9 +322,8 @@ TEST_F(RichTextWidgetTest, AChangeOfQtsTextByAnybodyElseIsTakenBack) {
   Show("abc|d");
   QTextCursor cursor(view_->document());
   cursor.insertText(QStringLiteral("xyz"));
-  QTest::qWait(10);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Shown(*view_->document()) == ShownAnew(); }));
   EXPECT_EQ(text(), "abc|d");
-  EXPECT_EQ(Shown(*view_->document()), ShownAnew());
 }
 
 TEST_F(RichTextWidgetTest, AClickSelectsAndTheProgramScrolls) {
@@ -355,8 +354,7 @@ TEST_F(RichTextWidgetTest, ALongDocumentIsShownInPartsAndWholeForAKey) {
   EXPECT_EQ(box_.selection().to, (Position{box_.paragraph_count() - 1, 0}));
   const QStringList shown = Shown(*view_->document());
   box_.SetDocument(FromSketch(("x" + sketch.substr(5)).c_str()));
-  QTest::qWait(300);
-  EXPECT_EQ(Shown(*view_->document()), shown);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Shown(*view_->document()) == shown; }));
 }
 
 TEST_F(RichTextWidgetTest, TypingInALongDocumentDoesntWaitForTheRest) {
@@ -371,12 +369,13 @@ TEST_F(RichTextWidgetTest, TypingInALongDocumentDoesntWaitForTheRest) {
   box_.Erase({{4, 1}, {7, 2}});
   box_.Replace({{10, 0}, {10, 1}}, "in a cell");
   EXPECT_LT(view_->document()->blockCount(), at_first + 5);
-  QTest::qWait(300);
-  const QStringList shown = Shown(*view_->document());
-  EXPECT_GE(shown.size(), box_.paragraph_count());
+  QStringList shown;
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    shown = Shown(*view_->document());
+    return shown.size() >= box_.paragraph_count();
+  }));
   box_.SetDocument(richtext::RichDocument(box_.document()));
-  QTest::qWait(300);
-  EXPECT_EQ(Shown(*view_->document()), shown);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Shown(*view_->document()) == shown; }));
 }
 
 TEST_F(RichTextWidgetTest, BlocksStayInStepWithTheParagraphsOfAnUnevenTable) {

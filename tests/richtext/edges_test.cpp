@@ -7,7 +7,7 @@
 #include "richtext/rich_text_files.h"
 #include "richtext/rich_text_writer.h"
 #include "richtext/rtf_tokenizer.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -81,10 +81,10 @@ TEST(CodePages, AByteIsTheCharacterThatItsCodePageHasThere) {
 
 TEST(Utf8, AByteThatCannotStandGivesTheReplacementCharacter) {
   for (std::string_view bytes : {"\xC0\xAF", "\xE2\x82", "\xED\xA0\x80", "\xF5", "\x80"}) {
-    EXPECT_EQ(TakeUtf8(bytes), kReplacementCharacter);
+    EXPECT_EQ(text::TakeUtf8(bytes), text::kReplacementCharacter);
   }
   std::string_view euro = "€x";
-  EXPECT_EQ(TakeUtf8(euro), U'€');
+  EXPECT_EQ(text::TakeUtf8(euro), U'€');
   EXPECT_EQ(euro, "x");
 }
 

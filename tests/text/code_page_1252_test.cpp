@@ -12,8 +12,8 @@ TEST(CodePage1252, EveryByteHasACharacterOfItsOwn) {
 }
 
 TEST(CodePage1252, CharactersStandWhereTheCodePageHasThem) {
-  EXPECT_EQ(ToUtf8("caf\xE9 \x80 12 \x96 \x8D"), "café € 12 – \xC2\x8D");
-  EXPECT_EQ(FromUtf8("Ÿ™ž"), "\x9F\x99\x9E");
+  EXPECT_EQ(ToUtf8("caf\xE9 \x80 12 \x96 \x8D").bytes(), "café € 12 – \xC2\x8D");
+  EXPECT_EQ(FromUtf8(Utf8("Ÿ™ž")), "\x9F\x99\x9E");
 }
 
 TEST(CodePage1252, WhatItCannotHoldBecomesTheNearestForm) {
@@ -41,7 +41,7 @@ TEST(CodePage1252, WhatItCannotHoldBecomesTheNearestForm) {
       {"😀", "?"},
       {"\xC2\x80", "?"},
   };
-  for (const auto& c : cases) EXPECT_EQ(FromUtf8(c.utf8), c.text) << c.utf8;
+  for (const auto& c : cases) EXPECT_EQ(FromUtf8(Utf8(c.utf8)), c.text) << c.utf8;
 }
 
 TEST(CodePage1252, AMalformedSequenceGivesOneQuestionMark) {
@@ -58,7 +58,7 @@ TEST(CodePage1252, AMalformedSequenceGivesOneQuestionMark) {
       {"\xED\xA0\x80", "???"},       // a surrogate
       {"\xF4\x90\x80\x80", "????"},  // past the last character
   };
-  for (const auto& c : cases) EXPECT_EQ(FromUtf8(c.utf8), c.text) << c.text;
+  for (const auto& c : cases) EXPECT_EQ(FromUtf8(Utf8(c.utf8)), c.text) << c.text;
 }
 
 }  // namespace

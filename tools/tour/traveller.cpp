@@ -28,6 +28,19 @@ QString TextOf(QWidget* widget) {
 
 }  // namespace
 
+Traveller::Traveller(QString pictures) : pictures_(std::move(pictures)) {
+  watch_.callOnTimeout([this] { DismissUnexpectedBox(); });
+  watch_.start(kLookForBoxMs);
+}
+
+// Nobody else would answer it, and the journey would never end.
+void Traveller::DismissUnexpectedBox() {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (!box || expects_box_) return;
+  Note(QStringLiteral("nobody expected the box ") + box->windowTitle());
+  box->buttons().constFirst()->click();
+}
+
 QWidget* Traveller::Find(const char* control) {
   forms::Form* top = desktop_->navigator().top();
   desktop::FormPage* page = top ? desktop_->window().PageOf(*top) : nullptr;
@@ -71,8 +84,10 @@ void Traveller::Press(Qt::Key key) {
 }
 
 void Traveller::ChooseFromMenu(const char* name) {
-  for (const auto& menu : desktop_->window().PageOf(*desktop_->navigator().top())->menus()) {
-    if (auto* action = menu->findChild<QAction*>(QLatin1String(name))) return action->trigger();
+  if (const forms::Form* top = desktop_->navigator().top()) {
+    for (const auto& menu : desktop_->window().PageOf(*top)->menus()) {
+      if (auto* action = menu->findChild<QAction*>(QLatin1String(name))) return action->trigger();
+    }
   }
   Note(QStringLiteral("no menu entry %1").arg(QLatin1String(name)));
 }
@@ -87,10 +102,13 @@ void Traveller::Answer(const QString& title, QMessageBox::StandardButton button,
     answered = true;
     if (box->windowTitle() != title) Note(QStringLiteral("the box ") + box->windowTitle());
     if (picture) TakePicture(picture);
+    expects_box_ = false;
     QTest::mouseClick(box->button(button), Qt::LeftButton);
   });
   look.start(kLookForBoxMs);
+  expects_box_ = true;
   act();
+  expects_box_ = false;
   if (!answered) Note(QStringLiteral("no box ") + title);
 }
 

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <functional>
 
 #include "desktop/desktop.h"
@@ -15,7 +16,7 @@ namespace tarnwell::testing {
 // can.
 class Traveller {
  public:
-  explicit Traveller(QString pictures) : pictures_(std::move(pictures)) {}
+  explicit Traveller(QString pictures);
 
   // The program that the gestures below go to.
   void Use(desktop::Desktop& desktop) { desktop_ = &desktop; }
@@ -42,11 +43,14 @@ class Traveller {
  private:
   QWidget* Find(const char* control);
   void Note(const QString& text) { notes_ << text; }
+  void DismissUnexpectedBox();
 
   QString pictures_;
   desktop::Desktop* desktop_ = nullptr;
   QStringList notes_;
   int pictures_taken_ = 0;
+  bool expects_box_ = false;
+  QTimer watch_;
 };
 
 }  // namespace tarnwell::testing

@@ -17,12 +17,12 @@ bool IsUnicode(const Hunspell& dictionary) { return dictionary.get_dict_encoding
 
 // Dictionaries come in UTF-8 or, older ones, in Latin 1, which the core's code page holds.
 std::string Encoded(const Hunspell& dictionary, std::string_view word) {
-  return IsUnicode(dictionary) ? text::ToUtf8(word) : std::string(word);
+  return IsUnicode(dictionary) ? text::ToUtf8(word).bytes() : std::string(word);
 }
 
 std::vector<std::string> Decoded(const Hunspell& dictionary, std::vector<std::string> words) {
   if (IsUnicode(dictionary)) {
-    for (std::string& word : words) word = text::FromUtf8(word);
+    for (std::string& word : words) word = text::FromUtf8(text::Utf8(word));
   }
   return words;
 }

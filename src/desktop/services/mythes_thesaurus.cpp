@@ -50,9 +50,9 @@ std::vector<forms::Meaning> MythesThesaurus::LookUpEntry(std::string_view word) 
   if (word.empty() || word.size() > kLongestEntry) return {};
   const bool unicode = std::strcmp(thesaurus_->get_th_encoding(), "UTF-8") == 0;
   const auto decoded = [unicode](const char* bytes) {
-    return unicode ? text::FromUtf8(bytes) : std::string(bytes);
+    return unicode ? text::FromUtf8(text::Utf8(bytes)) : std::string(bytes);
   };
-  const std::string entry = unicode ? text::ToUtf8(word) : std::string(word);
+  const std::string entry = unicode ? text::ToUtf8(word).bytes() : std::string(word);
   mentry* found = nullptr;
   const int count = thesaurus_->Lookup(entry.data(), static_cast<int>(entry.size()), &found);
   std::vector<forms::Meaning> meanings;

@@ -88,6 +88,7 @@ QMenuBar {
 }
 QMenuBar::item { padding: 4px 10px; border-radius: 4px; background: transparent; }
 QMenuBar::item:selected { background: #E1EAF6; }
+QMenuBar::item:disabled { color: #5F6974; }
 QMenu { background: #FFFFFF; color: #1C2530; border: 1px solid #C3CAD2; padding: 4px; }
 QMenu::item { padding: 5px 28px 5px 24px; border-radius: 4px; }
 QMenu::item:selected { background: #E1EAF6; color: #1C2530; }

@@ -4,9 +4,11 @@
 
 namespace tarnwell::desktop {
 
-QString FromCore(std::string_view text) { return QString::fromStdString(text::ToUtf8(text)); }
+QString FromCore(std::string_view text) {
+  return QString::fromStdString(text::ToUtf8(text).bytes());
+}
 
-std::string ToCore(const QString& text) { return text::FromUtf8(text.toStdString()); }
+std::string ToCore(const QString& text) { return text::FromUtf8(text::Utf8(text.toStdString())); }
 
 QString Spoken(std::string_view caption) {
   std::string spoken;

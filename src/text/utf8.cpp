@@ -1,26 +1,37 @@
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 #include <cstddef>
+#include <optional>
 #include <utility>
 
-namespace tarnwell::richtext {
+namespace tarnwell::text {
 namespace {
 
 constexpr char32_t kLastCharacter = 0x10FFFF;
 
 bool IsSurrogate(char32_t character) { return character >= 0xD800 && character <= 0xDFFF; }
 
-// How many bytes follow a lead byte, 4 for a byte that can't lead.
-std::size_t Followers(unsigned char lead) {
-  if (lead < 0x80) return 0;
-  if (lead >= 0xC2 && lead <= 0xDF) return 1;
-  if (lead >= 0xE0 && lead <= 0xEF) return 2;
-  if (lead >= 0xF0 && lead <= 0xF4) return 3;
-  return 4;
-}
+// The lead byte of a sequence: how many bytes follow, its own share of the character, and the range
+// of the second byte that leaves out overlong forms, surrogates and what is past the last
+// character.
+struct Lead {
+  std::size_t followers;
+  char32_t bits;
+  unsigned char second_low = 0x80;
+  unsigned char second_high = 0xBF;
+};
 
-// The least character that needs so many following bytes; a lower one is written overlong.
-constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
+std::optional<Lead> LeadOf(unsigned char byte) {
+  if (byte < 0x80) return Lead{0, byte};
+  if (byte >= 0xC2 && byte <= 0xDF) return Lead{1, byte & 0x1Fu};
+  if (byte == 0xE0) return Lead{2, 0, 0xA0, 0xBF};
+  if (byte == 0xED) return Lead{2, 0xD, 0x80, 0x9F};
+  if (byte >= 0xE1 && byte <= 0xEF) return Lead{2, byte & 0x0Fu};
+  if (byte == 0xF0) return Lead{3, 0, 0x90, 0xBF};
+  if (byte == 0xF4) return Lead{3, 4, 0x80, 0x8F};
+  if (byte >= 0xF1 && byte <= 0xF3) return Lead{3, byte & 0x07u};
+  return std::nullopt;
+}
 
 }  // namespace
 
@@ -44,23 +55,22 @@ void AppendUtf8(char32_t character, std::string& out) {
 }
 
 char32_t TakeUtf8(std::string_view& rest) {
-  const auto lead = static_cast<unsigned char>(rest.front());
-  const std::size_t followers = Followers(lead);
-  if (followers == 0 || followers == 4 || rest.size() <= followers) {
-    rest.remove_prefix(1);
-    return followers == 0 ? lead : kReplacementCharacter;
-  }
-  char32_t character = lead & (0x3Fu >> followers);
-  bool whole = true;
-  for (std::size_t i = 1; i <= followers; ++i) {
-    const auto byte = static_cast<unsigned char>(rest[i]);
-    whole = whole && (byte & 0xC0) == 0x80;
+  const std::optional<Lead> lead = LeadOf(static_cast<unsigned char>(rest.front()));
+  rest.remove_prefix(1);
+  if (!lead) return kReplacementCharacter;
+  char32_t character = lead->bits;
+  unsigned char low = lead->second_low;
+  unsigned char high = lead->second_high;
+  for (std::size_t i = 0; i < lead->followers; ++i) {
+    if (rest.empty()) return kReplacementCharacter;
+    const auto byte = static_cast<unsigned char>(rest.front());
+    if (byte < low || byte > high) return kReplacementCharacter;
     character = (character << 6) | (byte & 0x3Fu);
+    rest.remove_prefix(1);
+    low = 0x80;
+    high = 0xBF;
   }
-  whole = whole && character >= kLeast[followers] && character <= kLastCharacter &&
-          !IsSurrogate(character);
-  rest.remove_prefix(whole ? followers + 1 : 1);
-  return whole ? character : kReplacementCharacter;
+  return character;
 }
 
 std::size_t CharacterStart(std::string_view utf8, std::size_t size) {
@@ -87,4 +97,4 @@ void Utf16Joiner::Flush(std::string& utf8) {
   if (std::exchange(high_, u'\0') != 0) AppendUtf8(kReplacementCharacter, utf8);
 }
 
-}  // namespace tarnwell::richtext
+}  // namespace tarnwell::text
