@@ -33,7 +33,9 @@ constexpr EmptyText kEmptyTexts[] = {
 
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
     : print(parent, context,
-            {.as_of_caption = {}, .range_caption = "Print Selected Document", .auto_size = false}),
+            {.grid_lines_caption = "Print Grid Lines on each page",
+             .range_caption = "Print Selected Document",
+             .auto_size_name = "SSCommand3"}),
       texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
             forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
             forms::CheckBox{print.options_frame, "SSCheck80(5)", "View Document/Policy Etc."}},
@@ -59,7 +61,7 @@ void DocumentPrinting::Open(PrintedDocument document) {
   for (int i = 0; i < static_cast<int>(texts.size()); ++i) {
     texts[static_cast<std::size_t>(i)].SetChecked(i == document_.on_show);
   }
-  ShowChoices(true, document_.has_texts);
+  ShowChoices(document_.has_texts ? Printed::kTextsOfDocument : Printed::kDocument);
   print::PrintJob job;
   job.build = [this](print::PageEngine& engine) { Build(engine); };
   job.printed_line = false;  // Build has a place for it
@@ -68,9 +70,21 @@ void DocumentPrinting::Open(PrintedDocument document) {
   print.Open(std::move(job));
 }
 
-void DocumentPrinting::ShowChoices(bool one_document, bool its_texts) {
-  print.range_frame.SetVisible(one_document);
-  print.options_frame.SetVisible(its_texts);
+void DocumentPrinting::ShowChoices(Printed printed) {
+  const bool is_report = printed == Printed::kReport;
+  const bool has_texts = printed == Printed::kTextsOfDocument;
+  print.range_frame.SetVisible(has_texts || printed == Printed::kDocument);
+  print.options_frame.SetVisible(has_texts || is_report);
+  for (forms::CheckBox& text : texts) text.SetVisible(has_texts);
+  for (forms::Control* own : std::initializer_list<forms::Control*>{
+           &*print.as_of, &*print.grid_lines, &*print.auto_size}) {
+    own->SetVisible(is_report);
+  }
+}
+
+void DocumentPrinting::OpenReport(print::PrintJob job) {
+  ShowChoices(Printed::kReport);
+  print.Open(std::move(job));
 }
 
 void DocumentPrinting::Tick(int text) {
@@ -117,7 +131,7 @@ void DocumentPrinting::Build(print::PageEngine& engine) {
 }
 
 void DocumentPrinting::OpenAll(Breaks breaks) {
-  ShowChoices(false, false);
+  ShowChoices(Printed::kAllDocuments);
   left_out_.clear();
   print::PrintJob job;
   job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };

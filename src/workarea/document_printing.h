@@ -26,8 +26,8 @@ struct PrintedText {
 // A document with the texts that can be printed of it.
 struct PrintedDocument {
   std::string title;
-  int on_show = kPolicyText;  // the text that is ticked when the panel opens
-  bool has_texts = false;     // there are all three to choose from
+  int on_show = kPolicyText;                  // the text that is ticked when the panel opens
+  bool has_texts = false;                     // there are all three to choose from
   std::function<PrintedText(int text)> text;  // what it is at present
 };
 
@@ -45,11 +45,14 @@ class DocumentPrinting {
   enum class Breaks { kNone, kPages };
 
   void Open(PrintedDocument document);
+  // A report of a grid, with the choices that such reports have.
+  void OpenReport(print::PrintJob job);
   // Every document that has text, one behind the other. Those that can't be read are named.
   void OpenAll(Breaks breaks);
 
  private:
-  void ShowChoices(bool one_document, bool its_texts);
+  enum class Printed { kDocument, kTextsOfDocument, kAllDocuments, kReport };
+  void ShowChoices(Printed printed);
   void Tick(int text);
   void Build(print::PageEngine& engine);
   void BuildAll(print::PageEngine& engine, Breaks breaks);

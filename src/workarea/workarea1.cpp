@@ -12,13 +12,23 @@ namespace tarnwell::workarea {
 namespace {
 
 constexpr int kAreaHelp = 3010;
+constexpr int kToDoHelp = 2009;
 constexpr int kRecoveryPlanHelp = 3048;
 
 std::int16_t Twips(int length) {
   return static_cast<std::int16_t>(std::min<int>(length, std::numeric_limits<std::int16_t>::max()));
 }
 
-int HelpOf(Area area) { return area == kRecoveryPlan ? kRecoveryPlanHelp : kAreaHelp; }
+int HelpOf(Area area) {
+  switch (area) {
+    case kToDoList:
+      return kToDoHelp;
+    case kRecoveryPlan:
+      return kRecoveryPlanHelp;
+    default:
+      return kAreaHelp;
+  }
+}
 
 }  // namespace
 
@@ -27,22 +37,30 @@ WorkArea1::WorkArea1(forms::Context& context)
       document(areas, context),
       documents(areas, context, document),
       recovery_plan(context, document),
+      to_do(*this, areas, context),
       printing(*this, context),
       colors(context, settings::PanelColor::kWorkArea) {
   main_buttons.on_press = [this](int index) { Press(index); };
   area_buttons.on_press = [this](Area area) { ChooseArea(area); };
-  // The colours go with the text. Where they can't be stored they stay to be, and the text is saved.
-  document.on_saved = [this] {
+  // The colours go with the text. Where they can't be stored they stay to be, and the text is
+  // saved.
+  document.on_saved = to_do.on_saved = [this] {
     if (colors.changed()) colors.Save();
   };
   document.on_print = [this](PrintedDocument printed) { printing.Open(std::move(printed)); };
-  recovery_plan.on_exit = [this] { LeaveArea(); };
+  recovery_plan.on_exit = to_do.on_exit = [this] { LeaveArea(); };
+  to_do.on_print = [this](print::PrintJob job) { printing.OpenReport(std::move(job)); };
   colors.on_change = [this] { ShowColors(); };
-  printing.print.panel.Cover({&areas});
-  printing.all_panel.Cover({&areas});
+  to_do.panel.Cover({&document.panel});
+  for (forms::Panel* over : {&printing.print.panel, &printing.all_panel, &to_do.exporting.panel,
+                             &to_do.background.panel}) {
+    over->Cover({&areas});
+  }
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
-                     {{"&Company/Employee Data Area", kAreaHelp}, {"&Print", print::kPrintHelp}});
+                     {{"Company To Do List", kToDoHelp},
+                      {"&Company/Employee Data Area", kAreaHelp},
+                      {"&Print", print::kPrintHelp}});
 }
 
 void WorkArea1::BuildMenus() {
@@ -55,14 +73,18 @@ void WorkArea1::BuildMenus() {
   for (const auto& [index, caption] : main_entries) {
     options.AddCommand("mOTab(" + std::to_string(index) + ")", caption, main_buttons[index]);
   }
-  const auto add = [&](const char* name, const char* caption) {
-    pane_entries_.push_back(&options.AddEntry(name, caption, forms::MenuAction{}));
+  const auto add_to = [&](forms::MenuItem& menu, const char* name, const char* caption) {
+    pane_entries_.push_back(&menu.AddEntry(name, caption, forms::MenuAction{}));
   };
+  const auto add = [&](const char* name, const char* caption) { add_to(options, name, caption); };
   options.AddSeparator();
   add("mOClip", "&Copy to Clipboard");
   add("mOFont", "&Font Select");
   add("mOSpell", "&Spell Check");
   add("mOThes", "&Thesaurus");
+  add("mODel", "&Delete Item from Grid");
+  add("mOClear", "&Clear Grid");
+  add("mOIns", "&Insert Row");
   add("mOP", "&Print Options");
   options.AddEntry("mOPAll", "Print &All Current Policies/Docs Only",
                    [this] { PrintAll(DocumentPrinting::Breaks::kNone); });
@@ -72,7 +94,11 @@ void WorkArea1::BuildMenus() {
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
+  add("mOGB", "&Grid Background");
   options.LiveWith({&areas});
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  add_to(utilities, "mUExport", "Export File in Excel/Spreadsheet Format");
+  utilities.LiveWith({&areas});
   SetPopupMenu(options);
 }
 
@@ -179,7 +205,8 @@ void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
 }
 
 void WorkArea1::ShowColors() {
-  for (forms::Panel* panel : {&areas, &printing.print.panel, &printing.all_panel}) {
+  for (forms::Panel* panel : {&areas, &printing.print.panel, &printing.all_panel,
+                              &to_do.exporting.panel, &to_do.background.panel}) {
     panel->SetBackground(colors.panel());
   }
   document.text.SetTextColor(colors.text());

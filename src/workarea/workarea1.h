@@ -12,6 +12,7 @@
 #include "workarea/document_view.h"
 #include "workarea/documents_pane.h"
 #include "workarea/recovery_plan_pane.h"
+#include "workarea/todo_pane.h"
 
 namespace tarnwell::workarea {
 
@@ -28,6 +29,7 @@ class WorkArea1 : public forms::Form {
   DocumentView document;
   DocumentsPane documents;
   RecoveryPlanPane recovery_plan;
+  ToDoPane to_do;
   DocumentPrinting printing;
   parts::ColorChoice colors;
 
@@ -55,7 +57,7 @@ class WorkArea1 : public forms::Form {
 
   parts::MainArea main_area_ = parts::kCompanyData;
   Area area_ = kNoArea;
-  const std::vector<Pane*> panes_{&documents, &recovery_plan};
+  const std::vector<Pane*> panes_{&to_do, &documents, &recovery_plan};
   Pane* pane_ = nullptr;
   std::vector<forms::MenuItem*> pane_entries_;
 };

@@ -1,5 +1,7 @@
+#include "desktop/views/grid_background_view.h"
 #include "desktop/views/main_screen.h"
 #include "desktop/views/print_view.h"
+#include "desktop/views/todo_view.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
@@ -9,6 +11,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfNote = 90;
+constexpr int kLettersOfPanel = 150;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
   QWidget* column = Column({}, kTightSpace);
@@ -66,14 +69,17 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas =
       Widget(form.areas,
              Narrowable(Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents)})),
-                        Document(form.document)));
+                        Column({Document(form.document), ToDoView(form.to_do, pictures)}, 0)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));
   return MainScreenView(
       form.main_buttons,
-      Column({Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
-              AtTop(AtMost(all, kLettersOfNote)), Grow(Printing(form.printing, pictures))}));
+      Column(
+          {Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
+           AtTop(AtMost(all, kLettersOfNote)), Grow(Printing(form.printing, pictures)),
+           Grow(AtMost(ExportView(form.to_do.exporting), kLettersOfPanel)),
+           AtTop(AtMost(GridBackgroundView(form.to_do.background, pictures), kLettersOfPanel))}));
 }
 
 }  // namespace tarnwell::desktop
