@@ -13,12 +13,13 @@ using Sheet = ToDoSheet;
 
 std::vector<forms::GridColumn> Columns() {
   const auto title = [](std::size_t place) { return std::string(kToDoTitles[place]); };
-  return {{.title = "", .share = 0.06, .align = forms::GridAlign::kRight},
-          {.title = title(0), .share = 0.35, .editable = true, .max_length = kLongestToDoItem},
-          {.title = title(1), .share = 0.18, .editable = true},
-          {.title = title(2), .share = 0.18, .editable = true},
+  // The spacer takes what its heading needs, and the last column what is left.
+  return {{.title = "", .share = 0.05, .align = forms::GridAlign::kRight},
+          {.title = title(0), .share = 0.34, .editable = true, .max_length = kLongestToDoItem},
+          {.title = title(1), .share = 0.17, .editable = true},
+          {.title = title(2), .share = 0.17, .editable = true},
           {.title = "", .share = 0.02},
-          {.title = title(3), .share = 0.19, .editable = true}};
+          {.title = title(3), .share = 0.17, .editable = true}};
 }
 
 bool IsDate(int column) {

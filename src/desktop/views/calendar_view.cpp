@@ -13,17 +13,7 @@ QWidget* Choice(forms::Panel& frame, forms::OptionGroup& group) {
 }
 
 QWidget* Selection(planner::Calendar& form) {
-  return Column({
-      Widget(form.picker),
-      Widget(form.import_label),
-      Widget(form.imports),
-      Choice(form.numbers_frame, form.numbers),
-      Choice(form.sort_frame, form.sort_time),
-      Widget(form.display_frame,
-             Column({Widget(form.guide_lines.option(0)), Widget(form.guide_lines.option(1))},
-                    kTightSpace)),
-      Spring(),
-  });
+  return Column({Widget(form.picker), Widget(form.import_label), Widget(form.imports), Spring()});
 }
 
 QWidget* Day(planner::Calendar& form) {
@@ -33,20 +23,29 @@ QWidget* Day(planner::Calendar& form) {
                        Widget(form.font), WithIcon("print", Widget(form.print)),
                        WithIcon("exit", Widget(form.exit))},
                       kTightSpace));
+  Append(column, Choice(form.numbers_frame, form.numbers));
+  Append(column, Choice(form.sort_frame, form.sort_time));
   Append(column, Spring());
   return AtLeast(kLeastLines, column);
+}
+
+// It makes room for an enlarged sheet.
+QWidget* Beside(forms::PagePreview& sheet, QWidget* content) {
+  return ShownWhile(
+      sheet, [&sheet] { return sheet.zoom() != forms::Zoom::kEnlarged; }, content);
 }
 
 }  // namespace
 
 QWidget* View(planner::Calendar& form, PictureStore& pictures) {
-  // All that stands beside the sheet makes room for an enlarged one.
-  QWidget* beside = ShownWhile(
-      form.preview, [&form] { return form.preview.zoom() != forms::Zoom::kEnlarged; },
-      Row({Selection(form), Grow(Day(form))}));
-  QWidget* sheet = Column({Grow(Widget(form.preview, pictures)),
+  QWidget* guide_lines =
+      Beside(form.preview, Widget(form.display_frame, Flow({Widget(form.guide_lines.option(0)),
+                                                            Widget(form.guide_lines.option(1))})));
+  QWidget* sheet = Column({Grow(Widget(form.preview, pictures)), guide_lines,
                            Row({Widget(form.zoom), Widget(form.auto_size), Spring()})});
-  return Widget(form.page, Row({Grow(beside, 2), Grow(sheet, 3)}, kWideSpace));
+  return Widget(form.page, Row({Beside(form.preview, Selection(form)),
+                                Grow(Beside(form.preview, Day(form)), 2), Grow(sheet, 3)},
+                               kWideSpace));
 }
 
 }  // namespace tarnwell::desktop

@@ -32,7 +32,11 @@ class CalendarPlace : public QObject {
   void Place() {
     if (!sheet_.calendar.visible()) return;
     const QSize size = calendar_->sizeHint();
-    const int left = static_cast<int>(sheet_.calendar_left() * grid_->width());
+    int left = static_cast<int>(sheet_.calendar_left() * grid_->width());
+    const int column =
+        grid_->viewport()->x() + grid_->columnViewportPosition(grid_->currentIndex().column());
+    // On the left of its column it ends there.
+    if (left < column) left = std::min(left, column - size.width());
     const int top = grid_->viewport()->y() + grid_->visualRect(grid_->currentIndex()).top();
     const QSize room = grid_->size() - size;
     calendar_->setGeometry(QRect({std::clamp(left, 0, std::max(room.width(), 0)),
@@ -57,15 +61,15 @@ QWidget* Sheet(workarea::ToDoSheet& sheet, PictureStore& pictures) {
 
 QWidget* ToDoView(workarea::ToDoPane& pane, PictureStore& pictures) {
   QWidget* names =
-      Inline(Widget(pane.names_frame, Flow({AtMost(Widget(pane.names), kLettersOfName),
-                                            Widget(pane.add), Widget(pane.delete_name)})));
+      Inline(Widget(pane.names_frame, Row({Grow(AtMost(Widget(pane.names), kLettersOfName)),
+                                           Widget(pane.add), Widget(pane.delete_name), Spring()})));
   return Widget(
       pane.panel,
       Column({
           Flow({Widget(pane.heading), Widget(pane.date)}),
           names,
           Grow(Sheet(pane.sheet, pictures)),
-          Flow({Primary(WithIcon("save", Widget(pane.save))), Widget(pane.delete_row),
+          Flow({Primary(Widget(pane.save)), Widget(pane.delete_row),
                 WithIcon("clear", Widget(pane.clear)), WithIcon("spelling", Widget(pane.spelling)),
                 WithIcon("print", Widget(pane.print_options)), WithIcon("exit", Widget(pane.exit))},
                kTightSpace),
