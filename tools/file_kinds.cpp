@@ -138,7 +138,7 @@ constexpr FileKind kKinds[] = {
     {"TODOActv.FIL", "company To Do list", kRows, "todoactv.md", 0, {}, {}, kToDoColumns},
     {"TODOActv.Fl2", "company To Do list", kRows, "todoactv.md", 0, {}, {}, kToDoColumns},
     {"TODOActv.hb1", "backup of the To Do list", kRows, "todoactv.md", 0, {}, {}, kToDoColumns},
-    {"TODONAME.FIL", "To Do item names", kValues},
+    {"TODONAME.FIL", "To Do item names", kValues, "todoname.md"},
     {"TODONAME.hb1", "backup of the To Do item names", kValues},
     {"Location.Fil", "location marker", kValues},
 
@@ -147,7 +147,7 @@ constexpr FileKind kKinds[] = {
     {" ####.Cal", "planner year", kPlannerDays, "planner-year-file.md", 900},
     {" ####.Bb1", "backup of a planner year", kPlannerDays, "planner-year-file.md", 900},
     {"CalOpt.fil", "calendar display options", kRecords, "calopt.md", 20, kCalendarOptions},
-    {"######.Fil", "calendar sheet", kRows, {}, 0, {}, {}, kSheetColumns, 31},
+    {"######.Fil", "calendar sheet", kRows, "calendar-sheet.md", 0, {}, {}, kSheetColumns, 31},
 
     {"####.Fil", "budget year", kRows, {}, 0, {}, {}, kBudgetColumns, 500},
     {"####.Bup", "backup of a budget year", kRows, {}, 0, {}, {}, kBudgetColumns, 500},

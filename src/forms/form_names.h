@@ -11,6 +11,7 @@ inline constexpr const char* kWorkArea1 = "WorkArea1";
 inline constexpr const char* kInfoAdv = "InfoAdv";
 inline constexpr const char* kToolsandInfo1 = "ToolsandInfo1";
 inline constexpr const char* kZcalandar1 = "Zcalandar1";
+inline constexpr const char* kCalendar = "Calendar";
 inline constexpr const char* kVSSpell1 = "VSSpell1";
 inline constexpr const char* kVSThesaurus1 = "VSThesaurus1";
 

@@ -100,10 +100,14 @@ void Grid::ClearCells() {
   Tell({.cursor = true, .cells = AllCells()});
 }
 
-void Grid::Sort(int column, bool descending) {
+void Grid::Sort(int column, bool descending, const GridSortKey& key) {
   if (column < 0 || column >= columns()) return;
   const bool numeric = columns_[static_cast<std::size_t>(column)].numeric;
-  const std::vector<int> order = cells_.Sort(column, numeric, descending);
+  const std::vector<int> order = cells_.Sort({.column = column,
+                                              .numeric = numeric,
+                                              .descending = descending,
+                                              .fixed_columns = fixed_columns_,
+                                              .key = &key});
   std::vector<int> places(order.size() + 1);
   for (std::size_t i = 0; i < order.size(); ++i) {
     places[static_cast<std::size_t>(order[i])] = static_cast<int>(i) + 1;
@@ -121,6 +125,7 @@ const std::string& Grid::text(int row, int column) const {
 
 // What a form writes because of an edit is part of it; all else isn't the person's to undo.
 void Grid::KeepHistoryTrue(int row, int column, std::string_view text) {
+  if (column < fixed_columns_) return;  // nothing of the person's stands there
   GridEdit* last = history_.last();
   if (taking_ == Taking::kEdit) {
     if (last && last->place == GridPlace{row, column}) last->after = text;

@@ -44,8 +44,9 @@ class Grid : public Control {
   void ClearCells();
   // By a column's texts, capitals or not, or its numbers; marks its heading. Either way blank cells
   // come behind the others and empty rows last. Rows that are equal keep their order. The cursor
-  // and the marks go with their rows.
-  void Sort(int column, bool descending);
+  // and the marks go with their rows. Fixed columns don't count for whether a row is empty. With a
+  // `key` it is what the cells count as, such as the days of dates.
+  void Sort(int column, bool descending, const GridSortKey& key = {});
 
   const std::string& text(int row, int column) const;
   void SetText(int row, int column, std::string_view text);

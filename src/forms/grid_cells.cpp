@@ -62,20 +62,28 @@ bool GridCells::SetStyle(int row, int column, const GridCellStyle& style) {
   return true;
 }
 
-std::vector<int> GridCells::Sort(int column, bool numeric, bool descending) {
+bool GridCells::HoldsNothing(int row, int fixed_columns) const {
+  for (int column = fixed_columns; column < columns_; ++column) {
+    if (!IsBlank(text(row, column))) return false;
+  }
+  return true;
+}
+
+std::vector<int> GridCells::Sort(const Order& by) {
   std::vector<SortKey> keys;
   keys.reserve(rows_.size());
   for (int row = 1; row <= rows(); ++row) {
-    const std::string& cell = text(row, column);
+    const std::string& cell = text(row, by.column);
+    const std::string counts = by.key && *by.key ? (*by.key)(cell) : cell;
     SortKey& key = keys.emplace_back();
-    if (!IsBlank(cell)) {
-      if (numeric) {
-        key.number = text::LeadingNumber(cell);
+    if (!IsBlank(counts)) {
+      if (by.numeric) {
+        key.number = text::LeadingNumber(counts);
       } else {
-        key.text = text::UpperCase(cell);
+        key.text = text::UpperCase(counts);
       }
     } else {
-      key.blanks = std::ranges::all_of(RowAt(row).cells, IsBlank) ? 2 : 1;
+      key.blanks = HoldsNothing(row, by.fixed_columns) ? 2 : 1;
     }
   }
   std::vector<int> order(rows_.size());
@@ -84,9 +92,10 @@ std::vector<int> GridCells::Sort(int column, bool numeric, bool descending) {
     const SortKey& left = keys[static_cast<std::size_t>(a - 1)];
     const SortKey& right = keys[static_cast<std::size_t>(b - 1)];
     if (left.blanks != right.blanks) return left.blanks < right.blanks;
-    const SortKey& low = descending ? right : left;
-    const SortKey& high = descending ? left : right;
-    return numeric ? low.number < high.number : text::CompareIgnoringCase(low.text, high.text) < 0;
+    const SortKey& low = by.descending ? right : left;
+    const SortKey& high = by.descending ? left : right;
+    return by.numeric ? low.number < high.number
+                      : text::CompareIgnoringCase(low.text, high.text) < 0;
   });
   std::vector<Row> sorted;
   sorted.reserve(rows_.size());

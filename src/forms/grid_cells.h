@@ -29,10 +29,17 @@ class GridCells {
   GridCellStyle style(int row, int column) const;
   bool SetStyle(int row, int column, const GridCellStyle& style);
 
-  // By a column's texts, capitals or not, or by the numbers that they begin with. Either way blank
-  // cells come behind the others, and rows that hold nothing at all come last. Rows that are equal
-  // keep their order. Gives the old place of each row, for the first row first.
-  std::vector<int> Sort(int column, bool numeric, bool descending);
+  struct Order {
+    int column = 0;
+    bool numeric = false;  // by the numbers that its texts begin with
+    bool descending = false;
+    int fixed_columns = 0;             // don't count for whether a row holds anything
+    const GridSortKey* key = nullptr;  // what a cell counts as; without one its text
+  };
+  // By a column's texts, capitals or not, or by their numbers. Either way blank cells come behind
+  // the others, and rows that hold nothing at all come last. Rows that are equal keep their order.
+  // Gives the old place of each row, for the first row first.
+  std::vector<int> Sort(const Order& by);
 
  private:
   struct Row {
@@ -40,6 +47,7 @@ class GridCells {
     std::vector<std::pair<int, GridCellStyle>> styles;  // by column; few cells have one
   };
 
+  bool HoldsNothing(int row, int fixed_columns) const;
   Row& RowAt(int row) { return rows_[static_cast<std::size_t>(row - 1)]; }
   const Row& RowAt(int row) const { return rows_[static_cast<std::size_t>(row - 1)]; }
 

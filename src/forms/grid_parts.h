@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,6 +42,9 @@ struct GridPlace {
 
 // What a person marks: the cell with the cursor, its whole row, or any number of rows.
 enum class GridSelection { kCell, kRow, kRows };
+
+// What a cell with this text counts as when its column is sorted; empty counts as blank.
+using GridSortKey = std::function<std::string(const std::string& text)>;
 
 // The arrow in a heading.
 struct GridSortMark {

@@ -20,7 +20,7 @@ std::vector<ToDoItem> ReadToDoItems(storage::SequentialReader& reader) {
     const std::string date = reader.Next();
     reader.Next();
     const auto day = text::ReadDate(text::Right(date, kDateWidth));
-    if (!entry.empty() && day) items.push_back({*day, entry});
+    if (!entry.empty() && day) items.push_back({text::InCenturyOfWeekday(*day, date), entry});
   }
   return items;
 }

@@ -68,8 +68,8 @@ Zcalandar1::Zcalandar1(forms::Context& context)
   BuildMenus();
 }
 
-// Each of these takes the rows' place. Most hide the picker too: what they show holds for the date on
-// screen.
+// Each of these takes the rows' place. Most hide the picker too: what they show holds for the date
+// on screen.
 void Zcalandar1::CoverRows() {
   calendar_options.panel.Cover({&day});
   todo_import.panel.Cover({&day});
@@ -83,7 +83,8 @@ void Zcalandar1::CoverRows() {
 void Zcalandar1::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   const auto copy = [this] { Copy(); };
-  const std::vector<forms::Control*> copied{&view_month, &pages.month.grid};  // the day or the month
+  const std::vector<forms::Control*> copied{&view_month,
+                                            &pages.month.grid};  // the day or the month
   options.AddCommand("mOS", "&Save", save);
   options.AddCommand("mOClr", "Clear &Entries", clear_entries);
   options.AddCommand("mOV", "&View Entire Month", view_month);
@@ -92,13 +93,16 @@ void Zcalandar1::BuildMenus() {
   options.AddEntry("mOCopy", "&Copy", {copy, copied});
   options.AddEntry("mOCal", "Calendar &Display Options",
                    {[this] { calendar_options.panel.SetVisible(true); }, {&day}});
+  options.AddEntry("mOCalDev", "Calendar Developer",
+                   [this] { context_.navigator.Show(forms::form_names::kCalendar); });
   options.AddEntry("mToDo", "Import To Do List Items", {[this] { ImportToDo(); }, {&day}});
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "&Text Color", [this] { colors.Choose(parts::ColorTarget::kText); });
   options.AddEntry("mOGB", "&Grid Background",
                    {[this] { background.Open(); }, {&day, &pages.month.panel}});
   options.AddSeparator();
-  options.AddEntry("mOE", "E&xit", [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); });
+  options.AddEntry("mOE", "E&xit",
+                   [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); });
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
   edit.AddEntry("mECopy", "&Copy", {copy, copied});
   edit.AddEntry("mECopyDay", "C&opy all entries for pasteing to another day",

@@ -4,6 +4,7 @@
 
 #include "forms/disk_trouble.h"
 #include "forms/message.h"
+#include "print/print_pages.h"
 #include "print/report.h"
 #include "text/number_mask.h"
 
@@ -35,7 +36,7 @@ PrintPanel::PrintPanel(forms::Container& parent, forms::Context& context,
   page_setup.on_click = [this] { ChooseSetup(); };
   close.on_click = [this] { Close(); };
   copy_page.on_click = [this] { CopyPage(); };
-  print.on_click = [this] { Print(); };
+  print.on_click = [this] { PrintPages(context_, engine_.document()); };
   zoom.on_click = [this] { ToggleZoom(); };
   guide_lines.on_pick = [this](int option) { ChooseGuideLines(option); };
   line_styles.on_pick = [this](int) { Rebuild(); };
@@ -198,28 +199,6 @@ void PrintPanel::CopyPage() {
                      {"Copy Option", "Current Page has been copied to the Windows Clipboard.",
                       forms::Icon::kInformation});
   preview.Focus();
-}
-
-void PrintPanel::Print() {
-  switch (context_.pages.Print(engine_.document())) {
-    case forms::PrintResult::kDone:
-    case forms::PrintResult::kCancelled:
-      return;
-    case forms::PrintResult::kNotStarted:
-      return TellNotPrinted("the printer, or the file in its place, can't be opened",
-                            "Nothing was printed.");
-    case forms::PrintResult::kBrokenOff:
-      return TellNotPrinted("the printer or the disk reported an error",
-                            "Some pages may be missing.");
-  }
-}
-
-void PrintPanel::TellNotPrinted(std::string_view reason, std::string_view holds) {
-  forms::ShowMessage(
-      context_,
-      {"Not Printed",
-       std::string("The pages could not be printed: ").append(reason).append(".\n").append(holds),
-       forms::Icon::kCritical});
 }
 
 void PrintPanel::ToggleZoom() {

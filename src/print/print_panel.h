@@ -114,8 +114,6 @@ class PrintPanel {
   void ChooseFont();
   void ChooseSetup();
   void CopyPage();
-  void Print();
-  void TellNotPrinted(std::string_view reason, std::string_view holds);
   void ToggleZoom();
   void ChooseGuideLines(int option);
   void TakeChecks();

@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "forms/form_names.h"
+#include "planner/calendar.h"
 #include "planner/zcalandar1.h"
 #include "proofing/vsspell1.h"
 #include "proofing/vsthesaurus1.h"
@@ -28,6 +29,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kInfoAdv, Make<reference::InfoAdv>);
   navigator.Register(kToolsandInfo1, Make<reference::ToolsandInfo1>);
   navigator.Register(kZcalandar1, Make<planner::Zcalandar1>);
+  navigator.Register(kCalendar, Make<planner::Calendar>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

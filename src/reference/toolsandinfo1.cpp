@@ -15,10 +15,12 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
     : MainScreen(context, forms::form_names::kToolsandInfo1, "Tools and Program Information",
                  parts::kToolsAndProgramInformation,
                  {"&Comapny Data", "&Employee Data", "&Information Advisor", "&Exit Program"}) {
-  planner.on_click = [this] {
+  const auto show = [this](const char* form) {
     const forms::Hourglass hourglass(context_.window);
-    context_.navigator.Show(forms::form_names::kZcalandar1);
+    context_.navigator.Show(form);
   };
+  planner.on_click = [show] { show(forms::form_names::kZcalandar1); };
+  calendar.on_click = [show] { show(forms::form_names::kCalendar); };
   SetHelpContext(kScreenHelp);
   parts::AddHelpMenu(*this, context_, {{"&Tools and Program Information", kScreenHelp}});
 }

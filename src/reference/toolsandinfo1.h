@@ -7,7 +7,7 @@
 
 namespace tarnwell::reference {
 
-// The screen "Tools and Program Information": the way to the planner.
+// The screen "Tools and Program Information": the way to the planner and the calendar.
 class ToolsandInfo1 : public parts::MainScreen {
  public:
   explicit ToolsandInfo1(forms::Context& context);
@@ -15,6 +15,7 @@ class ToolsandInfo1 : public parts::MainScreen {
   forms::Label title{*this, "Label1", "Tools and Program Information", forms::LabelRole::kTitle};
   forms::Panel side{*this, "SSPanel2"};
   forms::Command planner{side, "SSCommand11(5)", "Daily Planner Function"};
+  forms::Command calendar{side, "SSCommand11(6)", "Calendar Developer"};
 };
 
 }  // namespace tarnwell::reference

@@ -10,7 +10,7 @@
 #include "richtext/nested_table.h"
 #include "richtext/paragraphs.h"
 #include "richtext/rich_text_reader.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -103,7 +103,7 @@ std::string TextOfPart(std::string_view rtf, std::size_t most) {
     if (!text.empty()) text += ' ';
     text += ShownText(paragraph);
   });
-  text.resize(CharacterStart(text, std::min(text.size(), most)));
+  text.resize(text::CharacterStart(text, std::min(text.size(), most)));
   std::ranges::replace_if(text, [](char c) { return c == '\n' || c == '\t' || c == '\f'; }, ' ');
   text.erase(text.find_last_not_of(' ') + 1);
   return text;

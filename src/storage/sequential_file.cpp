@@ -54,6 +54,12 @@ void SequentialReader::SkipPast(std::size_t end) {
   place_ = end + (content_.compare(end, 2, "\r\n") == 0 ? 2 : 1);
 }
 
+std::string WithoutQuotes(std::string_view text) {
+  std::string kept(text);
+  std::ranges::replace(kept, '"', '\'');
+  return kept;
+}
+
 void SequentialWriter::WriteLine(std::initializer_list<Value> values) {
   std::string_view separator;
   for (const Value& value : values) {

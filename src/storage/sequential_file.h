@@ -44,6 +44,10 @@ class SequentialReader {
   Fault fault_ = Fault::kNone;
 };
 
+// The text with apostrophes for its double quotes, at which a reader would stop. For the field in
+// which a person types what a sequential file is to keep, so that nothing of it is lost unseen.
+std::string WithoutQuotes(std::string_view text);
+
 // Collects lines; Save replaces the file whole.
 class SequentialWriter {
  public:

@@ -130,4 +130,12 @@ std::optional<Date> ReadDate(std::string_view text) {
   return first.value > 12 ? MakeChecked(third, second, first) : MakeChecked(third, first, second);
 }
 
+Date InCenturyOfWeekday(Date date, std::string_view text) {
+  TakeRun(text, kBlanks);
+  const auto weekday = FindName(kWeekdayNames, TakeRun(text, kLetters));
+  const Date later = date + std::chrono::years(100);
+  if (!weekday || !later.ok() || WeekdayOf(date) == static_cast<unsigned>(*weekday)) return date;
+  return WeekdayOf(later) == static_cast<unsigned>(*weekday) ? later : date;
+}
+
 }  // namespace tarnwell::text

@@ -16,4 +16,9 @@ namespace tarnwell::text {
 // the date. Empty when it is no date of the years 100 to 9999.
 std::optional<Date> ReadDate(std::string_view text);
 
+// `date` was read from a text with a year of two digits. Where the text begins with a weekday
+// that only the same day a hundred years later has, that one is meant: "Sun - Jan 5, 31" was
+// written in this century.
+Date InCenturyOfWeekday(Date date, std::string_view text);
+
 }  // namespace tarnwell::text

@@ -6,6 +6,7 @@ namespace tarnwell::workarea {
 namespace {
 
 constexpr AreaButton kAreas[] = {
+    {kToDoList, "Company To Do List", "Company To Do List", parts::kCompanyData},
     {kAgreements, "Company Agreements/Docs", " Company Agreements and Documents ",
      parts::kCompanyData},
     {kPolicies, "Company Policies", "  Comapany Policies  ", parts::kCompanyData},

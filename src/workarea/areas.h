@@ -13,6 +13,7 @@ namespace tarnwell::workarea {
 // The areas by the index of their button.
 enum Area : int {
   kNoArea = 0,
+  kToDoList = 1,
   kAgreements = 2,
   kEmployeeDocuments = 3,
   kPolicies = 4,

@@ -1,5 +1,6 @@
 #include "workarea/document_printing.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "forms/disk_trouble.h"
@@ -33,7 +34,9 @@ constexpr EmptyText kEmptyTexts[] = {
 
 DocumentPrinting::DocumentPrinting(forms::Container& parent, forms::Context& context)
     : print(parent, context,
-            {.as_of_caption = {}, .range_caption = "Print Selected Document", .auto_size = false}),
+            {.grid_lines_caption = "Print Grid Lines on each page",
+             .range_caption = "Print Selected Document",
+             .auto_size_name = "SSCommand3"}),
       first(print.options_frame, "SSCheck80(0)", kImplementationText),
       texts{forms::CheckBox{print.options_frame, "SSCheck80(3)", "Disclaimer and How To Use"},
             forms::CheckBox{print.options_frame, "SSCheck80(4)", "Comments/Notes"},
@@ -63,7 +66,7 @@ void DocumentPrinting::Open(PrintedDocument document) {
   }
   first.SetCaption(document_.first_text);
   first.SetChecked(false);
-  ShowChoices(true);
+  ShowChoices(Printed::kDocument);
   print::PrintJob job;
   job.build = [this](print::PageEngine& engine) { Build(engine); };
   job.printed_line = false;  // Build has a place for it
@@ -72,11 +75,24 @@ void DocumentPrinting::Open(PrintedDocument document) {
   print.Open(std::move(job));
 }
 
-void DocumentPrinting::ShowChoices(bool one_document) {
-  print.range_frame.SetVisible(one_document);
-  print.options_frame.SetVisible(one_document &&
-                                 (document_.has_texts || document_.print_first != nullptr));
-  for (forms::CheckBox& box : texts) box.SetVisible(document_.has_texts);
+void DocumentPrinting::ShowChoices(Printed printed) {
+  const bool is_report = printed == Printed::kReport;
+  const bool is_document = printed == Printed::kDocument;
+  const bool has_texts = is_document && document_.has_texts;
+  const bool has_first = has_texts || (is_document && document_.print_first != nullptr);
+  print.range_frame.SetVisible(is_document);
+  print.options_frame.SetVisible(has_first || is_report);
+  first.SetVisible(has_first);
+  for (forms::CheckBox& text : texts) text.SetVisible(has_texts);
+  for (forms::Control* own : std::initializer_list<forms::Control*>{
+           &*print.as_of, &*print.grid_lines, &*print.auto_size}) {
+    own->SetVisible(is_report);
+  }
+}
+
+void DocumentPrinting::OpenReport(print::PrintJob job) {
+  ShowChoices(Printed::kReport);
+  print.Open(std::move(job));
 }
 
 void DocumentPrinting::TickFirst() {
@@ -146,7 +162,7 @@ void DocumentPrinting::Build(print::PageEngine& engine) {
 }
 
 void DocumentPrinting::OpenAll(Breaks breaks) {
-  ShowChoices(false);
+  ShowChoices(Printed::kAllDocuments);
   left_out_.clear();
   print::PrintJob job;
   job.build = [this, breaks](print::PageEngine& engine) { BuildAll(engine, breaks); };

@@ -54,11 +54,14 @@ class DocumentPrinting {
   enum class Breaks { kNone, kPages };
 
   void Open(PrintedDocument document);
+  // A report of a grid, with the choices that such reports have.
+  void OpenReport(print::PrintJob job);
   // Every document that has text, one behind the other. Those that can't be read are named.
   void OpenAll(Breaks breaks);
 
  private:
-  void ShowChoices(bool one_document);
+  enum class Printed { kDocument, kAllDocuments, kReport };
+  void ShowChoices(Printed printed);
   void TickFirst();
   void Tick(int text);
   void Build(print::PageEngine& engine);

@@ -14,6 +14,7 @@ namespace {
 constexpr int kBackupHelp = 1002;
 constexpr int kArchiveHelp = 1005;
 constexpr int kAreaHelp = 3010;
+constexpr int kToDoHelp = 2009;
 constexpr int kRecoveryPlanHelp = 3048;
 constexpr int kWorksheetsHelp = 5150;
 
@@ -23,6 +24,8 @@ std::int16_t Twips(int length) {
 
 int HelpOf(Area area) {
   switch (area) {
+    case kToDoList:
+      return kToDoHelp;
     case kWorksheets:
       return kWorksheetsHelp;
     case kRecoveryPlan:
@@ -41,6 +44,7 @@ WorkArea1::WorkArea1(forms::Context& context)
       document(areas, context),
       documents(areas, context, document),
       recovery_plan(context, document),
+      to_do(*this, areas, context),
       reports(context, document, names),
       archive(context, document, names),
       worksheets(*this, areas, context, document),
@@ -50,21 +54,22 @@ WorkArea1::WorkArea1(forms::Context& context)
   area_buttons.on_press = [this](Area area) { ChooseArea(area); };
   // The colours go with the text. Where they can't be stored they stay to be, and the text is
   // saved.
-  document.on_saved = [this] {
+  document.on_saved = to_do.on_saved = [this] {
     if (colors.changed()) colors.Save();
   };
   document.on_print = [this](PrintedDocument printed) { printing.Open(std::move(printed)); };
   document.on_archive = [this] { archive.Create(document.owner()->ToPrint().title); };
   document.on_view_archive = [this] { ShowArchive(); };
-  recovery_plan.on_exit = [this] { LeaveArea(); };
+  recovery_plan.on_exit = to_do.on_exit = [this] { LeaveArea(); };
+  to_do.on_print = [this](print::PrintJob job) { printing.OpenReport(std::move(job)); };
   colors.on_change = [this] { ShowColors(); };
-  printing.print.panel.Cover({&areas});
-  printing.all_panel.Cover({&areas});
-  worksheets.titles.panel.Cover({&areas});
+  to_do.panel.Cover({&document.panel});
+  for (forms::Panel* over : PanelsOverAreas()) over->Cover({&areas});
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
                      {{"&Backing up and Restoring Data/Files", kBackupHelp},
                       {"Create/View - Archives of Policies,  etc.", kArchiveHelp},
+                      {"Company To Do List", kToDoHelp},
                       {"&Print", print::kPrintHelp},
                       {"&Company/Employee Data Area", kAreaHelp}});
 }
@@ -79,9 +84,10 @@ void WorkArea1::BuildMenus() {
   for (const auto& [index, caption] : main_entries) {
     options.AddCommand("mOTab(" + std::to_string(index) + ")", caption, main_buttons[index]);
   }
-  const auto add = [&](const char* name, const char* caption) {
-    pane_entries_.push_back(&options.AddEntry(name, caption, forms::MenuAction{}));
+  const auto add_to = [&](forms::MenuItem& menu, const char* name, const char* caption) {
+    pane_entries_.push_back(&menu.AddEntry(name, caption, forms::MenuAction{}));
   };
+  const auto add = [&](const char* name, const char* caption) { add_to(options, name, caption); };
   options.AddSeparator();
   add("mOClip", "&Copy to Clipboard");
   add("mOArchive", "Create Archive of Policy, etc.");
@@ -89,6 +95,9 @@ void WorkArea1::BuildMenus() {
   add("mOFont", "&Font Select");
   add("mOSpell", "&Spell Check");
   add("mOThes", "&Thesaurus");
+  add("mODel", "&Delete Item from Grid");
+  add("mOClear", "&Clear Grid");
+  add("mOIns", "&Insert Row");
   add("mOP", "&Print Options");
   options.AddEntry("mOPAll", "Print &All Current Policies/Docs Only",
                    [this] { PrintAll(DocumentPrinting::Breaks::kNone); });
@@ -99,7 +108,11 @@ void WorkArea1::BuildMenus() {
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
+  add("mOGB", "&Grid Background");
   options.LiveWith({&areas});
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  add_to(utilities, "mUExport", "Export File in Excel/Spreadsheet Format");
+  utilities.LiveWith({&areas});
   SetPopupMenu(options);
 }
 
@@ -212,9 +225,14 @@ void WorkArea1::PrintAll(DocumentPrinting::Breaks breaks) {
   if (!pane_ || pane_->OfferToSave()) printing.OpenAll(breaks);
 }
 
+std::vector<forms::Panel*> WorkArea1::PanelsOverAreas() {
+  return {&printing.print.panel, &printing.all_panel, &to_do.exporting.panel,
+          &to_do.background.panel, &worksheets.titles.panel};
+}
+
 void WorkArea1::ShowColors() {
-  for (forms::Panel* panel :
-       {&areas, &printing.print.panel, &printing.all_panel, &worksheets.titles.panel}) {
+  areas.SetBackground(colors.panel());
+  for (forms::Panel* panel : PanelsOverAreas()) {
     panel->SetBackground(colors.panel());
   }
   document.text.SetTextColor(colors.text());

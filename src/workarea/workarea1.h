@@ -15,6 +15,7 @@
 #include "workarea/names_panel.h"
 #include "workarea/recovery_plan_pane.h"
 #include "workarea/reports_pane.h"
+#include "workarea/todo_pane.h"
 #include "workarea/worksheets_pane.h"
 
 namespace tarnwell::workarea {
@@ -32,6 +33,7 @@ class WorkArea1 : public forms::Form {
   DocumentView document;
   DocumentsPane documents;
   RecoveryPlanPane recovery_plan;
+  ToDoPane to_do;
   NamesPanel names{areas};
   ReportsPane reports;
   ArchivePane archive;
@@ -62,10 +64,13 @@ class WorkArea1 : public forms::Form {
 
   void PrintAll(DocumentPrinting::Breaks breaks);
   void ShowColors();
+  // Each comes up in the place of the areas.
+  std::vector<forms::Panel*> PanelsOverAreas();
 
   parts::MainArea main_area_ = parts::kCompanyData;
   Area area_ = kNoArea;
-  const std::vector<Pane*> panes_{&documents, &recovery_plan, &reports, &archive, &worksheets};
+  const std::vector<Pane*> panes_{&to_do,   &documents, &recovery_plan,
+                                  &reports, &archive,   &worksheets};
   Pane* pane_ = nullptr;
   std::vector<forms::MenuItem*> pane_entries_;
 };

@@ -141,6 +141,7 @@ const Way kWays[] = {
     {"Start", "Startfrm", {}},
     {"About", "About1", {}},
     {"Hub", "WorkArea1", {}},
+    {"ToDoExport", "WorkArea1", {"mUExport"}},
     {"Documents", "WorkArea1", {"SSCommand11(4)", "SSCommand14(0)"}},
     {"DocumentPrinting", "WorkArea1", {"SSCommand11(4)", "SSCommand14(0)", "SSCommand7"}},
     {"RecoveryPlan", "WorkArea1", {"SSCommand11(8)"}},
@@ -153,6 +154,7 @@ const Way kWays[] = {
     {"PlannerBackground", "Zcalandar1", {"mOGB"}},
     {"PlannerOptions", "Zcalandar1", {"mOCal"}},
     {"PlannerRecurrence", "Zcalandar1", {"Option2(0)"}},
+    {"Calendar", "Calendar", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

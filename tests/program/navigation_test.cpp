@@ -115,7 +115,7 @@ TEST_F(NavigationTest, ThePlannerReturnsToTheScreenThatOpenedIt) {
 }
 
 TEST_F(NavigationTest, EachScreenHasItsHelp) {
-  EXPECT_EQ(hub().help_context(), 3010);
+  EXPECT_EQ(hub().help_context(), 2009);
   hub().main_buttons[parts::kToolsAndProgramInformation].Click();
   EXPECT_EQ(tools().help_context(), 3014);
   tools().main_buttons[parts::kInformationAdvisor].Click();

@@ -19,6 +19,7 @@ class DocumentPrintingTest : public ::testing::Test {
   void SetUp() override {
     rig.Start();
     rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    Press("SSCommand11(2)");
   }
   void Write(int number, const std::string& text) {
     rig.temporary.Write("EmployPolicy" + std::to_string(number) + ".Fl2", Rtf(text));

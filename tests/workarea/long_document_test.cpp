@@ -21,6 +21,7 @@ TEST(LongDocument, IsShownInPartAndItsFileStaysWhole) {
   const auto press = [&](const char* name) {
     dynamic_cast<forms::Command&>(*hub.Find(name)).Click();
   };
+  press("SSCommand11(2)");
   rig.dialogs.ExpectNote(
       "Document",
       "This document is too long to be shown whole. Its beginning can be read and "

@@ -18,7 +18,9 @@ TEST_F(WorkArea1OnABadDiskTest, ATextThatCantBeSavedStaysOnTheScreenUntilTheUser
   full.Start();
   full.Get<shell::Startfrm>("Startfrm").begin.Click();
   auto& form = full.Get<WorkArea1>("WorkArea1");
-  dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
+  for (const char* button : {"SSCommand11(2)", "SSCommand14(0)"}) {
+    dynamic_cast<forms::Command&>(*form.Find(button)).Click();
+  }
   form.document.text.Type("Precious");
   files.MakeReadOnly();
   const auto expect_refusal = [&] {
@@ -111,7 +113,9 @@ TEST_F(WorkArea1OnABadDiskTest, AStatusThatCantBeStoredOrReadIsTold) {
     failing.Start();
     failing.Get<shell::Startfrm>("Startfrm").begin.Click();
     auto& form = failing.Get<WorkArea1>("WorkArea1");
-    dynamic_cast<forms::Command&>(*form.Find("SSCommand14(0)")).Click();
+    for (const char* button : {"SSCommand11(2)", "SSCommand14(0)"}) {
+      dynamic_cast<forms::Command&>(*form.Find(button)).Click();
+    }
     return form.document;
   };
   DocumentView& view = open();

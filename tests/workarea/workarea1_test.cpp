@@ -69,16 +69,14 @@ TEST_F(WorkArea1Test, EveryWayOutOfAnUnsavedTextAsksToSaveIt) {
   };
   for (const auto& [way, leave] : ways) {
     SCOPED_TRACE(way);
-    rig.Start();
-    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    Open();
     Press("SSCommand14(0)");
     hub().document.text.Type("Dropped");
     ExpectSaveQuestion(Answer::kNo);
     leave();
     EXPECT_EQ(Stored("EmployPolicy0.Fl2"), "");
 
-    rig.Start();
-    rig.Get<shell::Startfrm>("Startfrm").begin.Click();
+    Open();
     Press("SSCommand14(0)");
     Press("SSCommand14(0)");  // the one in hand: nothing
     hub().document.text.Type("Kept");
@@ -283,7 +281,9 @@ TEST_F(WorkArea1Test, TheWholeDocumentIsCopiedAsRichText) {
 }
 
 TEST_F(WorkArea1Test, TheHelpFollowsTheArea) {
-  Open();
+  Open(kToDoList);
+  EXPECT_EQ(hub().help_context(), 2009);
+  Press("SSCommand11(2)");
   EXPECT_EQ(hub().help_context(), 3010);
   Press("SSCommand11(8)");
   EXPECT_EQ(hub().help_context(), 3048);

@@ -34,10 +34,12 @@ inline std::string Rtf(const std::string& text) {
 class WorkAreaTest : public ::testing::Test {
  protected:
   void SetUp() override { rig.temporary.Write("DRPln1.Fl2", Rtf("Our plan")); }
-  void Open() {
+  // The hub on an area; it begins with the To Do list.
+  void Open(Area area = kAgreements) {
     rig.Start();
     rig.Get<shell::Startfrm>("Startfrm").begin.Click();
     ASSERT_EQ(rig.top(), "WorkArea1");
+    if (area != kToDoList) Press("SSCommand11(" + std::to_string(area) + ")");
   }
   WorkArea1& hub() { return rig.Get<WorkArea1>("WorkArea1"); }
   forms::Command& Button(std::string_view name) {

@@ -10,9 +10,23 @@ const QString kAgreementDate = QStringLiteral("March 9, 2026");
 const QString kAppointment = QStringLiteral("Dentist");
 const QString kMistypedAppointment = QStringLiteral("Denttist");
 
-void WriteAgreement(Traveller& person) {
+void WriteToDoItem(Traveller& person) {
   person.Click("Command2");
   person.ExpectTop("WorkArea1");
+  person.Click("SSCommand19(2)");  // nothing to add yet: to the names
+  person.Type(QStringLiteral("Pay rent"));
+  person.Click("SSCommand19(2)");
+  person.Press(Qt::Key_Right);
+  person.TakePicture("to-do-list");
+  person.Answer(QStringLiteral("File Save Command"), QMessageBox::Ok,
+                [&] { person.Click("SSCommand19(5)"); });
+  person.Click("SSCommand19(4)");
+  person.TakePicture("to-do-print");
+  person.Click("SSCommand80(2)");
+}
+
+void WriteAgreement(Traveller& person) {
+  person.Click("SSCommand11(2)");
   person.TakePicture("company-data");
   person.Click("SSCommand14(5)");
   person.Click("SSCommand2");
@@ -147,12 +161,26 @@ void LookAtPrint(Traveller& person) {
   person.Click("SSCommand80(2)");
 }
 
+void MakeCalendar(Traveller& person) {
+  person.Click("SSCommand11(6)");
+  person.ExpectTop("Calendar");
+  person.Click("Text1(0)");
+  person.Type(kAppointment);
+  person.TakePicture("calendar");
+  person.Click("Command4");
+  person.Click("SSCommand1");
+  person.TakePicture("calendar-enlarged");
+  person.Press(Qt::Key_Escape);
+  person.ExpectTop("ToolsandInfo1");
+}
+
 void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   person.Use(desktop);
   person.TakePictureSoon("splash");
   desktop.Start();
   person.ExpectTop("Startfrm");
   person.TakePicture("start");
+  WriteToDoItem(person);
   WriteAgreement(person);
   LookAtOtherDocuments(person);
   WriteReport(person);
@@ -165,6 +193,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   LookAtPrint(person);
   person.Press(Qt::Key_Escape);
   person.ExpectTop("ToolsandInfo1");
+  MakeCalendar(person);
   person.Answer(
       QStringLiteral("Exit"), QMessageBox::Yes, [&] { person.Click("SSCommand4(4)"); }, "exit");
 }

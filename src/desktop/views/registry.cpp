@@ -5,6 +5,7 @@
 
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
+#include "planner/calendar.h"
 #include "planner/zcalandar1.h"
 #include "proofing/vsspell1.h"
 #include "proofing/vsthesaurus1.h"
@@ -37,6 +38,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kInfoAdv, Make<reference::InfoAdv>},
     {forms::form_names::kToolsandInfo1, Make<reference::ToolsandInfo1>},
     {forms::form_names::kZcalandar1, Make<planner::Zcalandar1>},
+    {forms::form_names::kCalendar, Make<planner::Calendar>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -17,8 +17,9 @@ class InfoAdv;
 class ToolsandInfo1;
 }  // namespace tarnwell::reference
 namespace tarnwell::planner {
+class Calendar;
 class Zcalandar1;
-}
+}  // namespace tarnwell::planner
 namespace tarnwell::proofing {
 class VSSpell1;
 class VSThesaurus1;
@@ -35,6 +36,7 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures);
 QWidget* View(reference::InfoAdv& form, PictureStore& pictures);
 QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures);
 QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
+QWidget* View(planner::Calendar& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 

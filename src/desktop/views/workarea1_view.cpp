@@ -1,5 +1,7 @@
+#include "desktop/views/grid_background_view.h"
 #include "desktop/views/main_screen.h"
 #include "desktop/views/print_view.h"
+#include "desktop/views/todo_view.h"
 #include "desktop/views/views.h"
 #include "desktop/views/worksheets_view.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -11,6 +13,7 @@ namespace {
 
 constexpr int kLettersOfNote = 90;
 constexpr int kLettersOfNames = 36;
+constexpr int kLettersOfPanel = 150;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
   QWidget* column = Column({}, kTightSpace);
@@ -80,15 +83,20 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas = Widget(
       form.areas, Narrowable(Scrolled(Row({Areas(form.area_buttons),
                                            DocumentButtons(form.documents), Names(form.names)})),
-                             Document(form.document, form.worksheets)));
+                             Column({Document(form.document, form.worksheets),
+                                     ToDoView(form.to_do, pictures)},
+                                    0)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));
   return MainScreenView(
       form.main_buttons,
-      Column({Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
-              AtTop(AtMost(all, kLettersOfNote)), Grow(TitlesView(form.worksheets.titles)),
-              Grow(Printing(form.printing, pictures))}));
+      Column(
+          {Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
+           AtTop(AtMost(all, kLettersOfNote)), Grow(TitlesView(form.worksheets.titles)),
+           Grow(Printing(form.printing, pictures)),
+           Grow(AtMost(ExportView(form.to_do.exporting), kLettersOfPanel)),
+           AtTop(AtMost(GridBackgroundView(form.to_do.background, pictures), kLettersOfPanel))}));
 }
 
 }  // namespace tarnwell::desktop

@@ -46,7 +46,15 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-  if (LeaveFor(indexAt(event->pos()))) Act([&] { QTableView::mousePressEvent(event); });
+  const QModelIndex index = indexAt(event->pos());
+  const forms::GridPlace place{index.row() + 1, index.column()};
+  // Qt has nothing to tell then, but a form may have something to show for each click.
+  const bool is_there_already = index.isValid() && place == grid_.current() && !grid_.typed() &&
+                                grid_.selection() != forms::GridSelection::kRows;
+  if (LeaveFor(index)) Act([&] { QTableView::mousePressEvent(event); });
+  if (is_there_already && event->button() == Qt::LeftButton && place == grid_.current()) {
+    on_select(place.row, place.column);
+  }
 }
 
 // False where the edit goes on or the form has put the cursor elsewhere.

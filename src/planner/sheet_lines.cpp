@@ -1,0 +1,65 @@
+#include "planner/sheet_lines.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "text/letters.h"
+
+namespace tarnwell::planner {
+namespace {
+
+// Its last words.
+bool EndsWith(std::string_view line, std::string_view ending) {
+  if (ending.empty() || line.size() <= ending.size() || !line.ends_with(ending)) return false;
+  return line[line.size() - ending.size() - 1] == ' ';
+}
+
+bool HasTime(std::string_view line) {
+  return (line.size() > 1 && line[1] == ':') || (line.size() > 2 && line[2] == ':');
+}
+
+// A time goes up to the first blank, or to the one behind its AM or PM.
+DayRow RowOfLine(const std::string& line) {
+  const std::string trimmed = text::Trim(line);
+  if (!HasTime(trimmed)) return {"", trimmed};
+  std::size_t end = std::min(trimmed.find(' '), trimmed.size());
+  const std::string half_of_day = text::UpperCase(trimmed.substr(end, 3));
+  const bool is_word = end + 3 >= trimmed.size() || trimmed[end + 3] == ' ';
+  if (is_word && (half_of_day == " AM" || half_of_day == " PM")) end += 3;
+  return {trimmed.substr(0, end), text::Trim(trimmed.substr(end))};
+}
+
+}  // namespace
+
+Placed PlaceEntry(DayLines& lines, std::string_view entry, std::string_view fitted) {
+  std::string* shorter = nullptr;
+  std::string* blank = nullptr;
+  for (std::string& line : lines) {
+    const std::string known = text::Trim(line);
+    for (const std::string_view form : {entry, fitted}) {
+      if (known == form || EndsWith(known, form)) return Placed::kFound;
+    }
+    if (!shorter && EndsWith(entry, known)) shorter = &line;
+    if (!blank && known.empty()) blank = &line;
+  }
+  std::string* const place = shorter ? shorter : blank;
+  if (!place) return Placed::kNoRoom;
+  *place = fitted;
+  return Placed::kPlaced;
+}
+
+void SortLines(DayLines& lines, SortTimeOption option) {
+  std::vector<std::pair<std::string, std::string>> keyed;
+  for (std::string& line : lines) {
+    if (text::Trim(line).empty()) continue;
+    keyed.emplace_back(TimeSortKey(RowOfLine(line), option), std::move(line));
+  }
+  std::ranges::stable_sort(keyed, [](const auto& a, const auto& b) {
+    return text::CompareIgnoringCase(a.first, b.first) < 0;
+  });
+  lines = {};
+  for (std::size_t i = 0; i < keyed.size(); ++i) lines[i] = std::move(keyed[i].second);
+}
+
+}  // namespace tarnwell::planner
