@@ -49,7 +49,8 @@ std::vector<CapitalPart> SmallCapitals(std::string_view utf8) {
 
 std::string Capitals(std::string_view utf8) {
   std::string all;
-  for (const CapitalPart& part : SmallCapitals(utf8)) all += part.text;
+  all.reserve(utf8.size());
+  while (!utf8.empty()) AppendUtf8(CapitalOf(TakeUtf8(utf8)), all);
   return all;
 }
 

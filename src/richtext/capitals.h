@@ -19,7 +19,8 @@ struct CapitalPart {
   bool is_small = false;
 };
 
-// Of a text in UTF-8: Latin, Greek and Cyrillic letters; any other character stays as it is.
+// Of a text in UTF-8: Latin, Greek and Cyrillic letters; any other character stays as it is. A
+// capital takes as many bytes as its small letter.
 std::string Capitals(std::string_view utf8);
 std::vector<CapitalPart> SmallCapitals(std::string_view utf8);
 

@@ -24,12 +24,6 @@ bool HasSameLists(const Change& change) {
       });
 }
 
-void LeaveList(Paragraph& paragraph) {
-  paragraph.format.list.reset();
-  paragraph.format.left_indent = 0;
-  paragraph.format.first_line_indent = 0;
-}
-
 // The paragraph that begins where a person ends `paragraph`; a section's end goes with it.
 Paragraph NextLine(Paragraph& paragraph) {
   Paragraph next;
@@ -201,7 +195,7 @@ Position Editor::InsertLines(Position at, std::string_view utf8, const Typing& t
     if (end == std::string_view::npos) break;
     utf8.remove_prefix(end + 1);
     if (line.format.list && !has_rest && ShownLength(line) == 0) {
-      LeaveList(line);
+      LeaveList(line.format);
     } else {
       Paragraph next = NextLine(line);
       lines.emplace_back(std::exchange(line, std::move(next)));
@@ -217,7 +211,7 @@ Position Editor::InsertLines(Position at, std::string_view utf8, const Typing& t
 void Editor::EndList(Position at) {
   const Place place = FindPlace(document_, at.paragraph);
   Paragraph paragraph = CopyAt(place);
-  LeaveList(paragraph);
+  LeaveList(paragraph.format);
   Replace(place, 1, {std::move(paragraph)});
 }
 
@@ -330,13 +324,42 @@ void Editor::Reformat(const Range& range, const std::function<void(CharacterForm
   }
 }
 
-void Editor::ReformatParagraphs(const Range& range,
-                                const std::function<void(ParagraphFormat&)>& change) {
+void Editor::Rewrite(const Range& range, const Rewriting& change) {
   for (const Range& part : SelectedBy(document_, range).parts) {
-    for (int number = part.from.paragraph; number <= part.to.paragraph; ++number) {
-      ReformatIn(number, part, [&change](Paragraph& paragraph) { change(paragraph.format); });
+    for (int number = part.from.paragraph; number <= part.to.paragraph;) {
+      const Place first = FindPlace(document_, number);
+      std::vector<Block> blocks;
+      if (CountAt(first) == 0) {
+        if (range.from.paragraph != range.to.paragraph) return;
+        blocks.emplace_back(CopyAt(first));
+      } else {
+        blocks = BlocksAt(first, ParagraphsFrom(first, part.to.paragraph - number + 1));
+      }
+      const std::size_t count = blocks.size();
+      change(ItemsAbove(first), blocks);
+      Replace(first, CountAt(first) == 0 ? 0 : count, std::move(blocks));
+      number += static_cast<int>(count);
     }
   }
+}
+
+std::size_t Editor::ParagraphsFrom(const Place& first, int most) const {
+  const std::size_t end = first.in_table ? CellAt(document_, first).paragraphs.size() - first.index
+                                         : document_.blocks.size() - first.block;
+  const std::size_t last = std::min(end, static_cast<std::size_t>(most));
+  std::size_t count = 1;
+  while (count < last && (first.in_table || std::holds_alternative<Paragraph>(
+                                                document_.blocks[first.block + count]))) {
+    ++count;
+  }
+  return count;
+}
+
+void Editor::ReformatParagraphs(const Range& range,
+                                const std::function<void(ParagraphFormat&)>& change) {
+  Rewrite(range, [&change](const std::vector<Block>&, std::vector<Block>& paragraphs) {
+    for (Block& paragraph : paragraphs) change(std::get<Paragraph>(paragraph).format);
+  });
 }
 
 }  // namespace tarnwell::richtext

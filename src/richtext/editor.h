@@ -8,15 +8,17 @@
 #include <vector>
 
 #include "richtext/change.h"
+#include "richtext/list_kind.h"
 #include "richtext/position.h"
 #include "richtext/rich_document.h"
 #include "richtext/run_edit.h"
+#include "richtext/table_edit.h"
 
 namespace tarnwell::richtext {
 
 // Ranges and positions are Clamped() ones of the document; selection.h says what a range takes in.
-// What isn't shown stays, unless whole paragraphs go with it. No edit changes the grid of a table,
-// and none makes two tables meet.
+// What isn't shown stays, unless whole paragraphs go with it. No edit but EditTable changes the grid
+// of a table, and none makes two tables meet.
 class Editor {
  public:
   explicit Editor(RichDocument& document)
@@ -35,8 +37,23 @@ class Editor {
   Position BreakParagraph(Position at);
   // Makes an item of a list an ordinary paragraph.
   void EndList(Position at);
+  // Makes the paragraphs items, which go on in a list of their kind that ends above them; or, with
+  // kNone, ordinary paragraphs.
+  void SetList(const Range& range, ListKind kind);
+  // By so many steps, backwards below 0: items by levels, other paragraphs by kIndentStep. Text
+  // keeps some room.
+  void Indent(const Range& range, int steps);
   // One paragraph goes into the text, several part it; in a cell tables give their text.
   Position Insert(Position at, RichDocument fragment);
+
+  // Of empty cells, as wide as the text, outside tables. Gives the beginning of its first cell.
+  Position InsertTable(Position at, int rows, int columns);
+  // Does it to the rows or columns that the range touches of the table in which it begins. Cells
+  // that are merged stay so, and what they hold stays as long as a part of them does. Gives where
+  // the cursor belongs then.
+  Position EditTable(const Range& range, TableEdit edit);
+  // Of a range within one paragraph.
+  void Link(const Range& range, std::string_view address);
 
   void Reformat(const Range& range, const std::function<void(CharacterFormat&)>& change);
   // Of every paragraph that the range touches.
@@ -70,6 +87,14 @@ class Editor {
   Position InsertBlocks(const Place& place, Position at, std::vector<Block> inserted);
   void TakeFields(RichDocument& fragment);
   void ReformatIn(int number, const Range& range, const std::function<void(Paragraph&)>& change);
+  // Of the paragraphs that the range touches, as many at one go as stand behind each other; `change`
+  // is told what stands above them.
+  using Rewriting = std::function<void(const std::vector<Block>& above, std::vector<Block>&)>;
+  void Rewrite(const Range& range, const Rewriting& change);
+  // How many paragraphs stand behind each other from there on, at most `most`.
+  std::size_t ParagraphsFrom(const Place& first, int most) const;
+  // The items of lists that end right above the place.
+  std::vector<Block> ItemsAbove(Place place) const;
 
   RichDocument& document_;
   std::size_t fields_before_;

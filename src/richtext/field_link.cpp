@@ -40,6 +40,14 @@ std::string AddressOf(std::string_view instruction_rtf) {
 
 }  // namespace
 
+bool IsLinkAddress(std::string_view address) {
+  const bool is_bare = address.ends_with("://") || address.ends_with(':');
+  return IsSafe(address) && !is_bare &&
+         std::ranges::all_of(address, [](char c) {
+           return c > ' ' && c < 0x7F && std::string_view("\"\\{}").find(c) == std::string_view::npos;
+         });
+}
+
 std::string LinkOf(const RichDocument& document, int field) {
   while (field >= 0 && static_cast<std::size_t>(field) < document.fields.size()) {
     const Field& candidate = document.fields[static_cast<std::size_t>(field)];
