@@ -69,8 +69,8 @@ WorkArea1::WorkArea1(forms::Context& context)
   parts::AddHelpMenu(*this, context_,
                      {{"&Backing up and Restoring Data/Files", kBackupHelp},
                       {"Create/View - Archives of Policies,  etc.", kArchiveHelp},
-                      {"Company To Do List", kToDoHelp},
                       {"&Print", print::kPrintHelp},
+                      {"Company To Do List", kToDoHelp},
                       {"&Company/Employee Data Area", kAreaHelp}});
 }
 
