@@ -1,27 +1,21 @@
-// A document's box and its view, without a window around them.
+// A document's box and its view, on an empty form.
 
 #pragma once
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <chrono>
-#include <cstdlib>
 #include <string>
 
 #include "desktop/widgets/rich_text_view.h"
+#include "idle_form.h"
 #include "richtext/rich_text_reader.h"
 
 namespace tarnwell::bench {
 
-// Without a form around it the box is always in reach.
-class Desk : public forms::Container {
-  forms::Form& form() override { std::abort(); }
-  bool Reachable() const override { return true; }
-};
-
 class Editor {
  public:
-  Editor() {
+  explicit Editor(storage::ProgramFolder& folder) : desk_(folder) {
     view_.resize(800, 700);
     view_.show();
   }
@@ -58,8 +52,8 @@ class Editor {
   }
 
  private:
-  Desk desk_;
-  forms::RichTextBox box_{desk_, "RichTextBox1", {}};
+  IdleForm desk_;
+  forms::RichTextBox box_{desk_.form(), "RichTextBox1", {}};
   desktop::RichTextView view_{box_};
   forms::Subscription shown_ = box_.OnChanged([this] { view_.Show(); });
 };

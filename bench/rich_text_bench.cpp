@@ -142,7 +142,7 @@ int Run(const std::string& parent) {
   const std::string bytes = MakeDocument();
   Check(folder.WriteWhole("Policy.Fl2", bytes), "write the document");
   const std::string path = disk.path() + "/Policy.Fl2";
-  Editor editor;
+  Editor editor(folder);
   RatioTable table;
   std::size_t read = 0;
   table.Measure(

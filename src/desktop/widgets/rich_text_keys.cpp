@@ -23,7 +23,10 @@ namespace {
 constexpr const char* kLineBreak = "\u2028";
 constexpr const char* kPageBreak = "\f";
 
-constexpr int kBlocksOfPage = 150;                                      // more than any key goes
+// More than a key goes.
+constexpr int kBlocksOfPage = 150;
+constexpr int kBlocksOfStep = 3;
+constexpr std::size_t kMoreWork = 100;                                  // of the renderer
 constexpr richtext::Position kEnd{std::numeric_limits<int>::max(), 0};  // or before it
 
 bool MovesCursor(const QKeyEvent& event) {
@@ -81,8 +84,9 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (!box_is_there_.Connected()) return;
   // Nothing waits for the rest of a long document that doesn't come near it.
   const bool moves = MovesCursor(*event);
-  const int behind = document()->blockCount() - textCursor().blockNumber();
-  if (behind < (moves ? kBlocksOfPage : 2)) ShowRest();
+  const bool goes_far = event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp;
+  const int needed = textCursor().blockNumber() + (goes_far ? kBlocksOfPage : kBlocksOfStep);
+  while (!renderer_.is_done() && document()->blockCount() < needed) ShowMore(kMoreWork);
   if (PressCommandKey(*event) || PressTab(*event) || PressEraseKey(*event) ||
       PressTextKey(*event)) {
     return event->accept();
@@ -180,14 +184,19 @@ void RichTextView::MoveToCell(bool forward) {
   const QTextTable* const table = cursor.currentTable();
   const QTextTableCell cell = table->cellAt(cursor);
   int row = cell.row();
-  int column = forward ? cell.column() + cell.columnSpan() : cell.column() - 1;
-  if (column == table->columns()) {
-    ++row;
-    column = 0;
-  } else if (column < 0) {
-    --row;
-    column = table->columns() - 1;
-  }
+  int column = cell.column();
+  // A place under a merged cell belongs to that.
+  do {
+    column += forward ? 1 : -1;
+    if (column == table->columns()) {
+      ++row;
+      column = 0;
+    } else if (column < 0) {
+      --row;
+      column = table->columns() - 1;
+    }
+  } while (row >= 0 && row < table->rows() &&
+           (table->cellAt(row, column).row() != row || table->cellAt(row, column).column() != column));
   if (row < 0) {
     const QTextBlock before = document()->findBlock(table->firstPosition() - 1);
     // Between two parts of one table.

@@ -115,7 +115,8 @@ bool RichTextRenderer::Update(const richtext::RichDocument& document,
   formats_ = &formats;
   const std::size_t end = region.first + region.before;
   // What isn't rendered yet comes as it is by then.
-  const bool is_to_come = !is_done_ && region.first > progress_.next;
+  const std::size_t amid = progress_.next_row > 0 ? 1 : 0;
+  const bool is_to_come = !is_done_ && region.first >= progress_.next + amid;
   const bool is_amid = !is_done_ && !is_to_come && end > progress_.next;
   if (is_amid) return false;
   QTextCursor edit(&target_);

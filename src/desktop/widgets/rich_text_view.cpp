@@ -207,7 +207,7 @@ void RichTextView::ShowSelection() {
   // A place that somebody asked for is soon there; what a person selects may reach further.
   if (!waited && !is_shown() && box_.selection().empty()) ShowRest();
   selection_waits_ = !is_shown();
-  if (selection_waits_) return;
+  if (selection_waits_) return ShowPartOfSelection();
   const bool scrolls = scroll_requests_ != box_.scroll_requests();
   scroll_requests_ = box_.scroll_requests();
   QTextCursor cursor(document());
@@ -226,6 +226,19 @@ void RichTextView::ShowSelection() {
     if (!is_all && !scrolls) verticalScrollBar()->setValue(place);
   }
   if (scrolls) ensureCursorVisible();
+}
+
+// As far as the text is shown.
+void RichTextView::ShowPartOfSelection() {
+  if (box_.selection().empty() || !renderer_.BlockOf(box_.selection().from.paragraph).isValid()) {
+    return;
+  }
+  const int place = verticalScrollBar()->value();
+  QTextCursor cursor(document());
+  cursor.setPosition(QtPositionOf(box_.selection().from));
+  cursor.movePosition(QTextCursor::End, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  verticalScrollBar()->setValue(place);
 }
 
 void RichTextView::SetZoom(double zoom) {

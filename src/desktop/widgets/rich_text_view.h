@@ -50,6 +50,7 @@ class RichTextView : public QTextEdit {
   // Finds anew what stands around the text, behind a change.
   void Follow();
   void ShowSelection();
+  void ShowPartOfSelection();
   void ShowAnew();
   static constexpr int kSheetMargin = 480;  // twips, of a sheet that isn't a page
   static constexpr int kTableEdge = 2;      // pixels by which borders are wider than their cells
