@@ -50,7 +50,7 @@ std::vector<CapitalPart> SmallCapitals(std::string_view utf8) {
 std::string Capitals(std::string_view utf8) {
   std::string all;
   all.reserve(utf8.size());
-  while (!utf8.empty()) AppendUtf8(CapitalOf(TakeUtf8(utf8)), all);
+  while (!utf8.empty()) text::AppendUtf8(CapitalOf(text::TakeUtf8(utf8)), all);
   return all;
 }
 

@@ -5,7 +5,7 @@
 
 #include "richtext/capitals.h"
 #include "richtext/paragraphs.h"
-#include "richtext/utf8.h"
+#include "text/utf8.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -20,11 +20,11 @@ bool IsOfWord(char32_t c) {
 
 bool EndsInWord(std::string_view text) {
   if (text.empty()) return false;
-  std::string_view last = text.substr(CharacterStart(text, text.size() - 1));
-  return IsOfWord(TakeUtf8(last));
+  std::string_view last = text.substr(text::CharacterStart(text, text.size() - 1));
+  return IsOfWord(text::TakeUtf8(last));
 }
 
-bool BeginsWithWord(std::string_view text) { return !text.empty() && IsOfWord(TakeUtf8(text)); }
+bool BeginsWithWord(std::string_view text) { return !text.empty() && IsOfWord(text::TakeUtf8(text)); }
 
 // Looks through one paragraph after another. Capitals are as long as their small letters.
 class Searcher {

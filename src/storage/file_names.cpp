@@ -41,7 +41,7 @@ std::string OfUserName(std::string_view name, std::string_view extension) {
       stem, [](char letter) { return !FitsInName(letter); }, '-');
   // A name that begins with a dot is hidden, or the store's own.
   if (stem.empty() || stem[0] == '.') stem.replace(0, 1, "-");
-  while (text::ToUtf8(stem).size() + extension.size() > kLongestName) stem.pop_back();
+  while (text::ToUtf8(stem).bytes().size() + extension.size() > kLongestName) stem.pop_back();
   const std::string file = stem + std::string(extension);
   const std::string_view lists[] = {kJobDescriptions, kDisciplinaryActions, kEvaluations, kArchive};
   const bool is_list = std::ranges::any_of(
