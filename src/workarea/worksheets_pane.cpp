@@ -11,7 +11,7 @@ namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr const char* kAreaTitle = "Company - Additional Documents, Forms and Policies";
+constexpr const char* kAreaTitle = "Company - Additional Docs.";
 
 // A title has no mnemonic: each "&" of the user's is shown.
 std::string AsCaption(const std::string& title) {
@@ -74,6 +74,7 @@ void WorksheetsPane::Hide() {
 
 // A worksheet that has a text can be reached, whatever its title.
 void WorksheetsPane::ShowTitles() {
+  bool is_any = false;
   for (int number = 1; number <= kWorksheetCount; ++number) {
     forms::Command& button = *buttons[static_cast<std::size_t>(number) - 1];
     const std::string title = stored_.Caption(number);
@@ -81,6 +82,10 @@ void WorksheetsPane::ShowTitles() {
     button.SetToolTip(title);
     button.SetVisible(stored_.IsSet(number) ||
                       context_.folder.Length(file_names::Worksheet(number)) > 0);
+    is_any |= button.visible();
+  }
+  if (!is_any && titles_fault_ == storage::Fault::kNone) {
+    view_.panel.form().SetStatus("Options, Add/Edit/Delete Button Titles makes the first button.");
   }
 }
 
@@ -165,6 +170,7 @@ void WorksheetsPane::OpenTitles() {
 
 bool WorksheetsPane::ChangeTitles(const NewTitles& changed) {
   const auto written = stored_.Change(context_.folder, changed);
+  view_.panel.form().SetStatus({});
   ShowTitles();
   if (number_ != 0) ShowHeading();
   if (!written) forms::TellNotSaved(context_, "The titles", written.fault());

@@ -68,8 +68,7 @@ TEST_F(WorksheetsTest, AWorksheetIsStartedSavedGivenAStatusAndFoundAgain) {
   EXPECT_EQ(view().insert_template.caption(), "New Worksheet");
   EXPECT_EQ(view().status_label.caption(), " Compliance Status:");
   Press("SSCommand12(1)");
-  EXPECT_EQ(view().heading.caption(),
-            "Company - Additional Documents, Forms and Policies - Fire Safety");
+  EXPECT_EQ(view().heading.caption(), "Company - Additional Docs. - Fire Safety");
   view().insert_template.Click();
   EXPECT_EQ(Shown(), "Risks");
   ExpectSaved();
