@@ -29,6 +29,7 @@ RuleReferences::RuleReferences(forms::Container& rows_parent, DocumentView& view
     : frame(view.panel, "SSFrame3", "References"), panel(rows_parent, "SSPanel10"), view_(view) {
   frame.SetVisible(false);
   panel.SetVisible(false);
+  frame.Cover({&view.actions});
   views.Add(frame, "SSOption6", "Implementation specification");
   views.Add(frame, "SSOption2", "References in Rule");
   views.Add(frame, "SSOption7", "Additional Information");

@@ -61,6 +61,12 @@ WorkArea1::WorkArea1(forms::Context& context)
   printing.print.panel.Cover({&areas});
   printing.all_panel.Cover({&areas});
   worksheets.titles.panel.Cover({&areas});
+  // Beside the areas there is room for the buttons of one.
+  std::vector<forms::Control*> others;
+  for (const auto& group : documents.groups) others.push_back(&group->panel);
+  names.panel.Cover(others);
+  others.push_back(&names.panel);
+  worksheets.panel.Cover(std::move(others));
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
                      {{"&Backing up and Restoring Data/Files", kBackupHelp},
