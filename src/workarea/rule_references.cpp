@@ -72,6 +72,9 @@ void RuleReferences::Show() {
   }
   const int section = FindSection(paragraphs, SafeguardWord(RowOf(row_).safeguard));
   if (section < 0) return;
+  // From below, so that the section stands at the head of the view and not at its foot.
+  const int last = static_cast<int>(paragraphs.size()) - 1;
+  view_.text.Select({{last, 0}, {last, 0}});
   const int end = static_cast<int>(paragraphs[static_cast<std::size_t>(section)].size());
   view_.text.Select({{section, 0}, {section, end}});
 }

@@ -47,9 +47,8 @@ WorksheetsPane::WorksheetsPane(forms::Container& form, forms::Container& parent,
 
 void WorksheetsPane::Show(Area) {
   const forms::Hourglass hourglass(context_.window);
-  view_.ShowChoices(true, false);
+  ShowStatus(true);
   view_.insert_template.SetCaption("New Worksheet");
-  terms.SetVisible(true);
   references.frame.SetVisible(true);
   panel.SetVisible(true);
   status_.Take(" Compliance Status:", ComplianceWords());
@@ -60,6 +59,12 @@ void WorksheetsPane::Show(Area) {
   }
   ShowTitles();
   CloseDocument();
+}
+
+// The rule has none.
+void WorksheetsPane::ShowStatus(bool shown) {
+  view_.ShowChoices(shown, false);
+  terms.SetVisible(shown);
 }
 
 void WorksheetsPane::Hide() {
@@ -115,7 +120,13 @@ void WorksheetsPane::OpenReference(int reference) {
   number_ = 0;
   Paint();
   status_.Close();
+  ShowStatus(false);
   references.Open(reference);
+}
+
+void WorksheetsPane::Exit() {
+  CloseDocument();
+  ShowStatus(true);
 }
 
 void WorksheetsPane::CloseDocument() {

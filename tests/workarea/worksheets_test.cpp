@@ -120,12 +120,12 @@ TEST_F(WorksheetsTest, TheReferencesShowTheSectionOfTheRow) {
   pane().references.views.Pick(0);
   EXPECT_FALSE(pane().panel.visible());
   EXPECT_TRUE(view().text.locked());
-  EXPECT_FALSE(view().status.enabled());
+  EXPECT_FALSE(view().status.visible());
   Press("SSCommand13(8)");
   EXPECT_EQ(view().heading.caption(), "Encryption (A)");
   EXPECT_EQ(view().text.SelectedText(), "Encryption");
   view().exit.Click();
-  EXPECT_TRUE(pane().panel.visible());
+  EXPECT_TRUE(pane().panel.visible() && view().status.visible());
   Press("SSCommand12(1)");
   EXPECT_EQ(Shown(), "Mine");
 }
