@@ -23,6 +23,7 @@ void ArchivePane::Show(Area) {
   names_.title.SetCaption(
       "Archived Policies, Documents, Disaster Recovery Plan, Print and Copy (Only)");
   names_.list_heading.SetCaption("Document Title\nand Date Archived");
+  names_.list_heading.SetVisible(true);
   for (forms::Command* of_others : {&names_.new_report, &names_.new_blank}) {
     of_others->SetVisible(false);
   }

@@ -129,6 +129,10 @@ bool NamedPane::Keep(std::string_view name,
                      const std::function<bool(const std::string& file)>& write) {
   const std::string file = documents_->FileOf(name);
   const bool was_there = documents_->Has(name);
+  if (context_.folder.Exists(file) && !context_.folder.Open(file, storage::OpenMode::kRead)) {
+    forms::TellNotSaved(context_, "The document", context_.folder.fault());
+    return false;  // nothing is written over what can't be read
+  }
   if (!write(file)) return false;
   if (documents_->IsListed(name)) return true;
   const auto added = documents_->Add(name);

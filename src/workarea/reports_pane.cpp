@@ -28,7 +28,7 @@ void ReportsPane::Show(Area area) {
   kind_ = KindOf(area);
   TakePanel(kind_->files);
   names_.title.SetCaption(kind_->title);
-  names_.list_heading.SetCaption("");
+  names_.list_heading.SetVisible(false);
   names_.new_report.on_click = [this] { BeginFromTemplate(); };
   names_.new_blank.on_click = [this] { BeginBlank(); };
   for (forms::Command* own : {&names_.new_report, &names_.new_blank}) own->SetVisible(true);

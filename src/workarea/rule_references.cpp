@@ -29,6 +29,7 @@ RuleReferences::RuleReferences(forms::Container& rows_parent, DocumentView& view
     : frame(view.panel, "SSFrame3", "References"), panel(rows_parent, "SSPanel10"), view_(view) {
   frame.SetVisible(false);
   panel.SetVisible(false);
+  frame.Cover({&view.actions});
   views.Add(frame, "SSOption6", "Implementation specification");
   views.Add(frame, "SSOption2", "References in Rule");
   views.Add(frame, "SSOption7", "Additional Information");
@@ -71,6 +72,9 @@ void RuleReferences::Show() {
   }
   const int section = FindSection(paragraphs, SafeguardWord(RowOf(row_).safeguard));
   if (section < 0) return;
+  // From below, so that the section stands at the head of the view and not at its foot.
+  const int last = static_cast<int>(paragraphs.size()) - 1;
+  view_.text.Select({{last, 0}, {last, 0}});
   const int end = static_cast<int>(paragraphs[static_cast<std::size_t>(section)].size());
   view_.text.Select({{section, 0}, {section, end}});
 }

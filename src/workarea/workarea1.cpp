@@ -65,6 +65,12 @@ WorkArea1::WorkArea1(forms::Context& context)
   colors.on_change = [this] { ShowColors(); };
   to_do.panel.Cover({&document.panel});
   for (forms::Panel* over : PanelsOverAreas()) over->Cover({&areas});
+  // Beside the areas there is room for the buttons of one.
+  std::vector<forms::Control*> others;
+  for (const auto& group : documents.groups) others.push_back(&group->panel);
+  names.panel.Cover(others);
+  others.push_back(&names.panel);
+  worksheets.panel.Cover(std::move(others));
   BuildMenus();
   parts::AddHelpMenu(*this, context_,
                      {{"&Backing up and Restoring Data/Files", kBackupHelp},

@@ -11,7 +11,7 @@ namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr const char* kAreaTitle = "Company - Additional Documents, Forms and Policies";
+constexpr const char* kAreaTitle = "Company - Additional Docs.";
 
 // A title has no mnemonic: each "&" of the user's is shown.
 std::string AsCaption(const std::string& title) {
@@ -47,9 +47,8 @@ WorksheetsPane::WorksheetsPane(forms::Container& form, forms::Container& parent,
 
 void WorksheetsPane::Show(Area) {
   const forms::Hourglass hourglass(context_.window);
-  view_.ShowChoices(true, false);
+  ShowStatus(true);
   view_.insert_template.SetCaption("New Worksheet");
-  terms.SetVisible(true);
   references.frame.SetVisible(true);
   panel.SetVisible(true);
   status_.Take(" Compliance Status:", ComplianceWords());
@@ -60,6 +59,12 @@ void WorksheetsPane::Show(Area) {
   }
   ShowTitles();
   CloseDocument();
+}
+
+// The rule has none.
+void WorksheetsPane::ShowStatus(bool shown) {
+  view_.ShowChoices(shown, false);
+  terms.SetVisible(shown);
 }
 
 void WorksheetsPane::Hide() {
@@ -74,6 +79,7 @@ void WorksheetsPane::Hide() {
 
 // A worksheet that has a text can be reached, whatever its title.
 void WorksheetsPane::ShowTitles() {
+  bool is_any = false;
   for (int number = 1; number <= kWorksheetCount; ++number) {
     forms::Command& button = *buttons[static_cast<std::size_t>(number) - 1];
     const std::string title = stored_.Caption(number);
@@ -81,6 +87,10 @@ void WorksheetsPane::ShowTitles() {
     button.SetToolTip(title);
     button.SetVisible(stored_.IsSet(number) ||
                       context_.folder.Length(file_names::Worksheet(number)) > 0);
+    is_any |= button.visible();
+  }
+  if (!is_any && titles_fault_ == storage::Fault::kNone) {
+    view_.panel.form().SetStatus("Options, Add/Edit/Delete Button Titles makes the first button.");
   }
 }
 
@@ -110,7 +120,13 @@ void WorksheetsPane::OpenReference(int reference) {
   number_ = 0;
   Paint();
   status_.Close();
+  ShowStatus(false);
   references.Open(reference);
+}
+
+void WorksheetsPane::Exit() {
+  CloseDocument();
+  ShowStatus(true);
 }
 
 void WorksheetsPane::CloseDocument() {
@@ -165,6 +181,7 @@ void WorksheetsPane::OpenTitles() {
 
 bool WorksheetsPane::ChangeTitles(const NewTitles& changed) {
   const auto written = stored_.Change(context_.folder, changed);
+  view_.panel.form().SetStatus({});
   ShowTitles();
   if (number_ != 0) ShowHeading();
   if (!written) forms::TellNotSaved(context_, "The titles", written.fault());

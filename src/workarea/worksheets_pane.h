@@ -34,6 +34,7 @@ class WorksheetsPane : public DocumentPane {
   void InsertTemplate() override;
   void PickStatus() override;
   void CloseDocument() override;
+  void Exit() override;
   PrintedDocument ToPrint() override;
 
  private:
@@ -44,6 +45,7 @@ class WorksheetsPane : public DocumentPane {
   bool ChangeTitles(const NewTitles& titles);
   void Choose(int number);
   void OpenReference(int reference);
+  void ShowStatus(bool shown);
   void Paint();
   void ShowHeading();
   void ExplainTerms();

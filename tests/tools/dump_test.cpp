@@ -129,8 +129,12 @@ TEST(DumpTest, PrintsTheExamplesOfThePagesInWords) {
        "record 3 (worksheet button): \" \"\n"},
       {"JobHold.Fl5", "jobhold.md",
        "JobHold.Fl5: names of job descriptions, 34 bytes\n"
-       "\"Welder / 03/09/2026\"\n"
-       "\"Zo\u00EB Ash\"\n"},
+       "value 1: \"Welder / 03/09/2026\"\n"
+       "value 2: \"Zo\u00EB Ash\"\n"},
+      {"ArchiveHold.Fla", "archivehold.md",
+       "ArchiveHold.Fla: names of archived documents, 85 bytes\n"
+       "value 1: \"Cell Phone Use Policy Mar-09-26.Fla\"\n"
+       "value 2: \"Independant Contract Agreeme Mar-09-26.Fla\"\n"},
   };
   TemporaryFolder disk;
   for (const auto& [name, page, dump] : cases) {

@@ -68,8 +68,7 @@ TEST_F(WorksheetsTest, AWorksheetIsStartedSavedGivenAStatusAndFoundAgain) {
   EXPECT_EQ(view().insert_template.caption(), "New Worksheet");
   EXPECT_EQ(view().status_label.caption(), " Compliance Status:");
   Press("SSCommand12(1)");
-  EXPECT_EQ(view().heading.caption(),
-            "Company - Additional Documents, Forms and Policies - Fire Safety");
+  EXPECT_EQ(view().heading.caption(), "Company - Additional Docs. - Fire Safety");
   view().insert_template.Click();
   EXPECT_EQ(Shown(), "Risks");
   ExpectSaved();
@@ -121,12 +120,12 @@ TEST_F(WorksheetsTest, TheReferencesShowTheSectionOfTheRow) {
   pane().references.views.Pick(0);
   EXPECT_FALSE(pane().panel.visible());
   EXPECT_TRUE(view().text.locked());
-  EXPECT_FALSE(view().status.enabled());
+  EXPECT_FALSE(view().status.visible());
   Press("SSCommand13(8)");
   EXPECT_EQ(view().heading.caption(), "Encryption (A)");
   EXPECT_EQ(view().text.SelectedText(), "Encryption");
   view().exit.Click();
-  EXPECT_TRUE(pane().panel.visible());
+  EXPECT_TRUE(pane().panel.visible() && view().status.visible());
   Press("SSCommand12(1)");
   EXPECT_EQ(Shown(), "Mine");
 }

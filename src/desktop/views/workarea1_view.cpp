@@ -12,7 +12,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfNote = 90;
-constexpr int kLettersOfNames = 36;
+constexpr int kLettersOfNames = 32;
 constexpr int kLettersOfPanel = 150;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
@@ -57,8 +57,8 @@ QWidget* Document(workarea::DocumentView& view, workarea::WorksheetsPane& worksh
   return Widget(
       view.panel,
       Column({
-          Flow({Widget(view.heading), Row({Widget(view.status_label), Widget(view.status)}),
-                Widget(worksheets.terms)}),
+          Row({Grow(Wrapped(Widget(view.heading))), Widget(view.status_label), Widget(view.status),
+               Widget(worksheets.terms)}),
           Inline(Widget(view.actions, Views(view.views))),
           Inline(Widget(worksheets.references.frame, Views(worksheets.references.views))),
           Grow(Widget(view.text)),
@@ -81,11 +81,11 @@ QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) 
 
 QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas = Widget(
-      form.areas, Narrowable(Scrolled(Row({Areas(form.area_buttons),
-                                           DocumentButtons(form.documents), Names(form.names)})),
-                             Column({Document(form.document, form.worksheets),
-                                     ToDoView(form.to_do, pictures)},
-                                    0)));
+      form.areas,
+      Narrowable(Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents),
+                               Names(form.names), WorksheetButtons(form.worksheets)})),
+                 Column({Document(form.document, form.worksheets), ToDoView(form.to_do, pictures)},
+                        0)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));

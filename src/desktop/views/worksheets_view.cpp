@@ -10,6 +10,7 @@ namespace {
 
 constexpr int kLettersOfRules = 44;
 constexpr int kLettersOfTitle = 26;
+constexpr int kColumnBehind = 3;  // takes the width that the titles don't need
 
 }  // namespace
 
@@ -32,13 +33,13 @@ QWidget* WorksheetButtons(workarea::WorksheetsPane& worksheets) {
 QWidget* TitlesView(workarea::TitlesPanel& titles) {
   QWidget* rows = Grid({{Widget(titles.number_heading), Widget(titles.current_heading),
                          Widget(titles.change_heading)}},
-                       1);
+                       kColumnBehind);
   auto* grid = static_cast<QGridLayout*>(rows->layout());
   grid->setVerticalSpacing(kHairSpace);
   for (const auto& row : titles.rows) {
     const int line = grid->rowCount();
     grid->addWidget(Widget(row->label), line, 0);
-    grid->addWidget(Widget(row->current), line, 1);
+    grid->addWidget(OfLetters(Widget(row->current), kLettersOfTitle), line, 1);
     grid->addWidget(OfLetters(Widget(row->change), kLettersOfTitle), line, 2);
   }
   return Widget(titles.panel,

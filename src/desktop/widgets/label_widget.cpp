@@ -45,6 +45,19 @@ QFont SampleFont(const forms::Font& font) {
   return sample;
 }
 
+// A user's name may be one word without end: it can be broken where it is very long.
+QString WithBreaks(QString text) {
+  constexpr int kLongestWord = 24;  // letters
+  int letters = 0;
+  for (int i = 0; i < text.size(); ++i) {
+    letters = text[i].isSpace() ? 0 : letters + 1;
+    if (letters <= kLongestWord) continue;
+    text.insert(i++, QChar(0x200B));
+    letters = 1;
+  }
+  return text;
+}
+
 }  // namespace
 
 QWidget* Widget(forms::Label& label) {
@@ -52,7 +65,8 @@ QWidget* Widget(forms::Label& label) {
   widget->setTextFormat(Qt::PlainText);
   widget->setFont(FontOf(label.role()));
   auto* binding = new Binding(widget, label, [widget, &label] {
-    widget->setText(FromCore(label.caption()));
+    const QString text = FromCore(label.caption());
+    widget->setText(widget->wordWrap() ? WithBreaks(text) : text);
     if (label.font()) widget->setFont(SampleFont(*label.font()));
     if (!label.caption().empty()) widget->setAccessibleName(FromCore(label.caption()));
   });
