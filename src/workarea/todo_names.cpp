@@ -22,14 +22,16 @@ void ToDoNames::Read(storage::ProgramFolder& folder) {
   fault_ = list.fault;
 }
 
-bool ToDoNames::Has(std::string_view name) const {
+const std::string* ToDoNames::Find(std::string_view name) const {
   const std::string folded = Folded(name);
-  return std::ranges::any_of(names_, [&](auto& known) { return Folded(known) == folded; });
+  const auto found =
+      std::ranges::find_if(names_, [&](auto& known) { return Folded(known) == folded; });
+  return found == names_.end() ? nullptr : &*found;
 }
 
 bool ToDoNames::Add(std::string_view name) {
   if (!is_readable() || names_.size() >= kMostToDoNames) return false;
-  if (text::Trim(name).empty() || Has(name)) return false;
+  if (text::Trim(name).empty() || Find(name)) return false;
   names_.emplace_back(name);
   return true;
 }
@@ -48,7 +50,7 @@ bool ToDoNames::Correct(std::string_view name, std::string_view corrected) {
   const auto found =
       std::ranges::find_if(names_, [&](auto& known) { return Folded(known) == folded; });
   if (found == names_.end()) return false;
-  if (folded != Folded(corrected) && Has(corrected)) {
+  if (folded != Folded(corrected) && Find(corrected)) {
     names_.erase(found);
   } else {
     *found = corrected;

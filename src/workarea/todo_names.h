@@ -24,7 +24,8 @@ class ToDoNames {
   bool is_readable() const { return fault_ == storage::Fault::kNone; }
 
   const std::vector<std::string>& names() const { return names_; }
-  bool Has(std::string_view name) const;
+  // The name as it is kept; nullptr where it isn't.
+  const std::string* Find(std::string_view name) const;
 
   // Behind the last one. False for a blank name, one that is there, one more than kMostToDoNames,
   // and in a list that can't be read. It isn't on the disk before Write.

@@ -140,7 +140,8 @@ parts::SaveResult ToDoPane::Save(SaveKind kind) {
 void ToDoPane::AddName() {
   const std::string name = text::Trim(names.text());
   if (name.empty()) return names.Focus();
-  if (sheet.Add(name)) return;
+  const std::string* known = names_.Find(name);
+  if (sheet.Add(known ? std::string(*known) : name)) return;
   hub_.Message({"Item Grid", "There is no empty row left in the grid!", forms::Icon::kInformation});
 }
 

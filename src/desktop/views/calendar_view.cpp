@@ -43,9 +43,10 @@ QWidget* View(planner::Calendar& form, PictureStore& pictures) {
                                                             Widget(form.guide_lines.option(1))})));
   QWidget* sheet = Column({Grow(Widget(form.preview, pictures)), guide_lines,
                            Row({Widget(form.zoom), Widget(form.auto_size), Spring()})});
-  return Widget(form.page, Row({Beside(form.preview, Selection(form)),
-                                Grow(Beside(form.preview, Day(form)), 2), Grow(sheet, 3)},
-                               kWideSpace));
+  return Padded(Widget(form.page, Row({Beside(form.preview, Selection(form)),
+                                       Grow(Beside(form.preview, Day(form)), 2), Grow(sheet, 3)},
+                                      kWideSpace)),
+                kSpace);
 }
 
 }  // namespace tarnwell::desktop

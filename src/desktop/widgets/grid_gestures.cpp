@@ -91,6 +91,7 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
 }
 
 bool GridView::EndEdit() {
+  if (model_.HasGone()) return true;
   if (grid_.typed()) on_end_edit();
   if (grid_.typed()) return false;
   CloseEditor();
@@ -103,7 +104,7 @@ void GridView::CloseEditor() {
 
 // Qt closes an editor wherever the keys go; here an edit ends when the grid says so.
 void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-  if (!grid_.typed()) QTableView::closeEditor(editor, hint);
+  if (model_.HasGone() || !grid_.typed()) QTableView::closeEditor(editor, hint);
 }
 
 void GridView::Step(forms::GridStep step) {

@@ -28,7 +28,8 @@ int AlignmentOf(forms::GridAlign align) {
 
 }  // namespace
 
-GridModel::GridModel(forms::Grid& grid) : grid_(grid), bold_(ScaledFont(TextSize::kStrong)) {
+GridModel::GridModel(forms::Grid& grid)
+    : grid_(grid), alive_(grid.OnChanged([] {})), bold_(ScaledFont(TextSize::kStrong)) {
   Follow({.columns = true});
 }
 
@@ -83,7 +84,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {
-  if (index.column() >= grid_.columns()) return {};
+  if (HasGone() || index.column() >= grid_.columns()) return {};
   const int row = GridRow(index);
   switch (role) {
     case Qt::DisplayRole:
@@ -103,14 +104,16 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || section >= grid_.columns()) return {};
+  if (HasGone() || orientation != Qt::Horizontal || section >= grid_.columns()) return {};
   if (role == Qt::DisplayRole) return FromCore(grid_.column(section).title);
   if (role == Qt::TextAlignmentRole) return AlignmentOf(grid_.column(section).align);
   return {};
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
-  if (!index.isValid() || index.column() < grid_.fixed_columns()) return Qt::ItemIsEnabled;
+  if (HasGone() || !index.isValid() || index.column() < grid_.fixed_columns()) {
+    return Qt::ItemIsEnabled;
+  }
   const auto selectable = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
   return grid_.column(index.column()).editable ? selectable | Qt::ItemIsEditable : selectable;
 }

@@ -7,12 +7,13 @@
 
 namespace tarnwell::desktop {
 
-// The cells of a grid below its heading row, which is the header. Needs the grid to stay as long as
-// it is asked.
+// The cells of a grid below its heading row, which is the header. They are empty once the grid has
+// gone: a window on its way out still asks.
 class GridModel : public QAbstractTableModel {
  public:
   explicit GridModel(forms::Grid& grid);
 
+  bool HasGone() const { return !alive_.Connected(); }
   // Tells the views of what has changed. Selection and editors hold unless the columns are others.
   void Follow(const forms::GridChange& change);
 
@@ -27,6 +28,7 @@ class GridModel : public QAbstractTableModel {
   void TellCells(forms::GridArea area);
 
   forms::Grid& grid_;
+  forms::Subscription alive_;
   int rows_ = 0;  // told to the views
   int columns_ = 0;
   QFont bold_;

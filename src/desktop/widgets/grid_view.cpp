@@ -148,6 +148,7 @@ void GridView::ShowLook() {
 }
 
 void GridView::ShareWidth() {
+  if (model_.HasGone()) return;
   const QScopedValueRollback showing(is_showing_, true);
   const int width = viewport()->width();
   for (int i = 0; i < header_->count(); ++i) {
@@ -165,7 +166,7 @@ void GridView::resizeEvent(QResizeEvent* event) {
 }
 
 void GridView::Report() {
-  if (is_showing_ || is_acting_) return;
+  if (is_showing_ || is_acting_ || model_.HasGone()) return;
   const forms::GridPlace place = PlaceOf(currentIndex());
   if (grid_.selection() == forms::GridSelection::kRows) {
     const std::vector<int> rows = MarkedRows();
