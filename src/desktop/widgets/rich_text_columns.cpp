@@ -17,7 +17,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kReach = 4;  // pixels from a border
+constexpr double kReach = 2.5;  // pixels from a border
 
 }  // namespace
 
