@@ -42,6 +42,13 @@ class Editor {
   double Wait() {
     return Time([] { QApplication::processEvents(QEventLoop::AllEvents, 0); });
   }
+  // Of a table changed as a whole: one of its columns gets wider and narrower.
+  double ChangeTable(int paragraph, int from, int to) {
+    return Time([&] {
+      box_.MoveColumnEdge(paragraph, from, to);
+      QApplication::processEvents();
+    });
+  }
   template <typename Work>
   static double Time(Work work) {
     const auto start = std::chrono::steady_clock::now();

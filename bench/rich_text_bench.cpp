@@ -106,6 +106,19 @@ bool MeasureKeys(Editor& editor, const std::string& bytes) {
   return Judge("A key in 300 pages", std::move(times), kLongestKey);
 }
 
+bool MeasureTable(Editor& editor, const std::string& bytes) {
+  std::vector<double> times;
+  editor.Open(bytes);
+  editor.GoTo(kPages * kParagraphsPerPage);
+  // The first table, behind 25 paragraphs.
+  editor.GoTo(25);
+  for (int i = 0; i < kKeys; ++i) {
+    const bool back = i % 2 != 0;
+    times.push_back(editor.ChangeTable(25, back ? 5000 : 4320, back ? 4320 : 5000));
+  }
+  return Judge("A table changed in 300 pages", std::move(times), kLongestKey);
+}
+
 bool MeasureBold(Editor& editor, const std::string& bytes) {
   std::vector<double> times;
   for (int i = 0; i < kOpenings; ++i) {
@@ -152,7 +165,8 @@ int Run(const std::string& parent) {
   Check(read == 6 * bytes.size(), "read the document");
   const richtext::StoredForm stored = richtext::StoredFormOf(bytes, editor.document());
   bool is_quick = true;
-  for (const auto& measure : {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureBold}) {
+  for (const auto& measure : 
+       {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable, MeasureBold}) {
     is_quick = measure(editor, bytes) && is_quick;
   }
   table.Measure(

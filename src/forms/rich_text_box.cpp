@@ -87,12 +87,6 @@ void RichTextBox::SetBackground(std::optional<Color> color) {
   Changed();
 }
 
-void RichTextBox::SetShowsPages(bool shows) {
-  if (shows_pages_ == shows) return;
-  shows_pages_ = shows;
-  Changed();
-}
-
 int RichTextBox::paragraph_count() const { return richtext::CountParagraphs(document_); }
 
 std::string RichTextBox::ParagraphText(int paragraph) const {

@@ -88,6 +88,8 @@ class RichTextBox : public Control {
   void Backspace(richtext::Position back_to);
   // In the place of the selection.
   void Paste(const richtext::RichDocument& fragment);
+  // The border of a table's column; see Editor.
+  void MoveColumnEdge(int paragraph, int from, int to);
   void MoveText(richtext::Range range, richtext::Position to);
   void ToggleBold();
   void ToggleItalic();
@@ -96,6 +98,8 @@ class RichTextBox : public Control {
   void Redo();
 
   std::function<void()> on_change;     // a person changed the text or its look
+  // What was typed or pasted has no room in a document, which stays as it is; see limits.h.
+  std::function<void()> on_too_much;
   std::function<void()> on_selection;  // the selection or the cursor moved, or its format changed
 
   // For the view: each edit adds what it changed. A view that knows the first `known` of all spans

@@ -6,6 +6,7 @@
 #include "richtext/editor.h"
 #include "richtext/fragment.h"
 #include "richtext/paragraphs.h"
+#include "richtext/room.h"
 #include "richtext/selection.h"
 
 namespace tarnwell::forms {
@@ -47,6 +48,7 @@ void RichTextBox::MoveSelection(Range range) {
 
 void RichTextBox::Type(std::string_view utf8) {
   if (!CanEdit() || utf8.empty()) return;
+  if (!richtext::HasRoomFor(document_, utf8)) return Run(on_too_much);
   const Position start = richtext::SelectedBy(document_, selection_).begin();
   richtext::Typing typing =
       richtext::TypingAt(richtext::ParagraphAt(document_, start.paragraph), start.offset);
@@ -88,6 +90,7 @@ void RichTextBox::Backspace(Position back_to) {
 
 void RichTextBox::Paste(const richtext::RichDocument& fragment) {
   if (!CanEdit() || fragment.blocks.empty()) return;
+  if (!richtext::HasRoomFor(document_, fragment)) return Run(on_too_much);
   richtext::RichDocument part = fragment;
   richtext::Detach(part);
   richtext::PartLong(part);

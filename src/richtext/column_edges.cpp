@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cstdlib>
 #include <limits>
+#include <variant>
+
+#include "richtext/editor.h"
+#include "richtext/paragraphs.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -41,6 +45,25 @@ Table WithEdgeMoved(const Table& table, int from, int to) {
     }
   }
   return moved;
+}
+
+void Editor::MoveColumnEdge(int paragraph, int from, int to) {
+  const Place place = FindPlace(document_, paragraph);
+  if (!place.in_table) return;
+  const auto is_table = [this](std::size_t block) {
+    return block < document_.blocks.size() &&
+           std::holds_alternative<Table>(document_.blocks[block]);
+  };
+  std::size_t first = place.block;
+  while (first > 0 && is_table(first - 1)) --first;
+  std::vector<const Table*> tables;
+  for (std::size_t i = first; is_table(i); ++i) {
+    tables.push_back(&std::get<Table>(document_.blocks[i]));
+  }
+  to = NearestEdge(tables, from, to);
+  for (std::size_t i = first; is_table(i); ++i) {
+    Replace({i}, 1, {WithEdgeMoved(std::get<Table>(document_.blocks[i]), from, to)});
+  }
 }
 
 }  // namespace tarnwell::richtext

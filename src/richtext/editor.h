@@ -59,6 +59,10 @@ class Editor {
   // Of every paragraph that the range touches.
   void ReformatParagraphs(const Range& range, const std::function<void(ParagraphFormat&)>& change);
 
+  // The edges of cells at `from` go to `to`, or as near as their tables have room: those that touch
+  // the paragraph's own. Twips from the page's left margin.
+  void MoveColumnEdge(int paragraph, int from, int to);
+
   // In the order in which they were made.
   const std::vector<Change>& changes() const { return changes_; }
   const std::vector<ChangedSpan>& spans() const { return spans_; }

@@ -27,6 +27,12 @@ void DocumentView::ConnectCommands() {
     question_.SetUnsaved(true);
     tools.FollowEdit();
   };
+  text.on_too_much = [this] {
+    panel.form().Message({"Document",
+                          "The clipboard holds more than a document has room for. Nothing was "
+                          "inserted.",
+                          forms::Icon::kExclamation});
+  };
   tools.on_change = [this] { question_.SetUnsaved(true); };
   views.on_pick = [this](int option) { owner_->PickView(option); };
   status.on_pick = [this] { owner_->PickStatus(); };

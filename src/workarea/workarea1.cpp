@@ -112,6 +112,12 @@ void WorkArea1::BuildMenus() {
   add("mOS", "&Save");
   add("mORATitle", "&Add/Edit/Delete Button Titles");
   options.AddSeparator();
+  forms::MenuItem& pages = options.AddEntry(
+      "mOPages", "Page &View",
+      {[this] { document.text.SetShowsPages(!document.text.shows_pages()); }, {&document.text}});
+  pages.SetCheckable();
+  options.on_open = [this, &pages] { pages.SetChecked(document.text.shows_pages()); };
+  options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
   add("mOGB", "&Grid Background");

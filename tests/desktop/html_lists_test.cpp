@@ -50,6 +50,17 @@ TEST(HtmlLists, AShortPageStaysAsItIs) {
   }
 }
 
+TEST(HtmlLists, ListsGoOnlySoDeep) {
+  const int depth = 10 * kDeepestList;
+  const QString deep = QStringLiteral("<ul><li>a").repeated(depth) +
+                       QStringLiteral("</ul>").repeated(depth) + QStringLiteral("<p>end");
+  const QString shown = WithShortLists(deep);
+  EXPECT_EQ(shown.count(QLatin1String("<ul>")), kDeepestList);
+  EXPECT_EQ(shown.count(QLatin1String("</ul>")), kDeepestList);
+  EXPECT_EQ(shown.count(QLatin1String("<li>a")), depth);
+  EXPECT_TRUE(shown.endsWith(QLatin1String("<p>end")));
+}
+
 TEST(HtmlLists, ALongOneCountsOnWithoutAGap) {
   QMimeData mime;
   mime.setHtml(QStringLiteral("<ol style=\"color:#ff0000\">") +

@@ -127,7 +127,7 @@ TEST_F(RichTextShownTest, ASignStandsForWhatIsKept) {
     Key(Qt::Key_Backspace);
     Key(Qt::Key_Delete);
     EXPECT_EQ(box_.ParagraphText(0), "abd");
-    Key(Qt::Key_Z, Qt::ControlModifier);
+    while (box_.CanUndo()) Key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(richtext::WriteRichText(box_.document()), kept);
   }
 }
@@ -185,8 +185,8 @@ TEST_F(RichTextShownTest, ATableInsideACellIsShownAndKept) {
 }
 
 TEST_F(RichTextShownTest, HeadersStandOnEachPageAndPagesHaveTheirOwnSize) {
-  std::string body = "{\\header\\pard\\cf1 Head\\par}\\pard first\\par";
-  for (int i = 0; i < 60; ++i) body += "line\\par";
+  std::string body = "{\\header\\pard\\cf1 Head\\par}\\pard first\\par ";
+  for (int i = 0; i < 60; ++i) body += "line\\par ";
   Show(body + "\\pagebb last\\par");
   QTest::qWait(50);
   const double plain = view_->document()->documentLayout()->documentSize().height();
@@ -208,9 +208,37 @@ TEST_F(RichTextShownTest, TheSheetIsAsWideWithALongTextAsWithAShortOne) {
   Show("\\pard short\\par");
   const int width = view_->viewport()->width();
   std::string body = "\\pard ";
-  for (int i = 0; i < 200; ++i) body += "line\\par";
+  for (int i = 0; i < 200; ++i) body += "line\\par ";
   Show(body);
   EXPECT_EQ(view_->viewport()->width(), width);
+}
+
+TEST_F(RichTextShownTest, TheBorderOfAColumnIsDragged) {
+  const std::string cell = kBorders;
+  Show("\\trowd\\trgaph100" + cell + "\\cellx2000" + cell +
+       "\\cellx4000\\pard\\intbl a\\cell b\\cell\\row\\pard c\\par");
+  const auto edges = [this] {
+    const auto& cells = std::get<richtext::Table>(box_.document().blocks[0]).rows[0].cells;
+    return std::pair(cells[0].right_edge, cells[1].right_edge);
+  };
+  const double twip = 2000 / (PlaceOf(2).left() - PlaceOf(1).left());
+  const QPoint border(PlaceOf(2).left() - static_cast<int>(100 / twip), PlaceOf(2).center().y());
+  const auto drag = [&](int by) {
+    QTest::mousePress(view_->viewport(), Qt::LeftButton, {}, border);
+    QTest::mouseMove(view_->viewport(), border + QPoint(by, 0));
+    QTest::mouseRelease(view_->viewport(), Qt::LeftButton, {}, border + QPoint(by, 0));
+  };
+  drag(20);
+  EXPECT_NEAR(edges().first, 2000 + 20 * twip, 3 * twip);
+  EXPECT_EQ(edges().second, 4000);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(edges(), (std::pair{2000, 4000}));
+  drag(1000);
+  EXPECT_EQ(edges(), (std::pair{4000 - 240, 4000}));
+  box_.SetLocked(true);
+  const auto before = edges();
+  drag(-20);
+  EXPECT_EQ(edges(), before);
 }
 
 // A change to a table is shown without showing the document anew.
@@ -222,7 +250,7 @@ TEST_F(RichTextShownTest, AChangedTableIsShownInItsPlace) {
   QTest::qWait(100);
   const QTextBlock first = view_->document()->begin();
   const int blocks = view_->document()->blockCount();
-  const int row_start = 6;
+  const int row_start = 7;
   box_.Select({{row_start, 0}, {row_start + 3, 1}});
   Key(Qt::Key_Delete);
   box_.MoveSelection({{row_start - 1, 0}, {row_start + 4, 4}});

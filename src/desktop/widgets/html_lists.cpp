@@ -84,17 +84,30 @@ class Cutter {
   };
 
   void Take(const Tag& tag, qsizetype at) {
-    if (Is(tag.name, "ul") || Is(tag.name, "ol")) {
+    const bool opens = Is(tag.name, "ul") || Is(tag.name, "ol");
+    const bool closes = Is(tag.name, "/ul") || Is(tag.name, "/ol");
+    if (opens && lists_.size() == kDeepestList) {
+      ++too_deep_;
+      Drop(tag, at);
+    } else if (closes && too_deep_ > 0) {
+      --too_deep_;
+      Drop(tag, at);
+    } else if (opens) {
       lists_.push_back({tag});
     } else if (lists_.empty()) {
       return;
-    } else if (Is(tag.name, "/ul") || Is(tag.name, "/ol")) {
+    } else if (closes) {
       lists_.pop_back();
     } else if (Is(tag.name, "li")) {
       OpenList& list = lists_.back();
       if (list.items > 0 && list.items % kMostItemsInOne == 0) GoOnInAnother(list, at);
       ++list.items;
     }
+  }
+
+  void Drop(const Tag& tag, qsizetype at) {
+    out_ += html_.mid(copied_, at - copied_);
+    copied_ = at + 1 + tag.name.size() + tag.rest.size();
   }
 
   void GoOnInAnother(const OpenList& list, qsizetype at) {
@@ -110,6 +123,7 @@ class Cutter {
   QString out_;
   qsizetype copied_ = 0;
   std::vector<OpenList> lists_;
+  int too_deep_ = 0;  // open lists that were left out
 };
 
 }  // namespace

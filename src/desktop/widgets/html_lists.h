@@ -11,6 +11,9 @@ namespace tarnwell::desktop {
 // A list of more items goes on in another of the same look, which remembers how many there were.
 inline constexpr int kMostItemsInOne = 200;
 
+// In lists that are nested deeper, all items stand at this level: a document has fewer.
+inline constexpr int kDeepestList = 16;
+
 QString WithShortLists(const QString& html);
 
 // How many items of the page's list stand in others before `list`; 0 for one that was whole.

@@ -54,6 +54,7 @@ void RichTextView::paintEvent(QPaintEvent* event) {
     }
   }
   if (shows_pages()) PaintSheets(painter, top, bottom);
+  PaintDraggedEdge(painter);
   PaintFurniture(painter, top, bottom);
 }
 

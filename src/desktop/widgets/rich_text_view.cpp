@@ -23,7 +23,7 @@ namespace {
 
 // Work of the renderer.
 constexpr std::size_t kFirstWork = 400;   // the first screens
-constexpr std::size_t kMoreWork = 100;    // no longer than a frame of the screen
+constexpr std::size_t kMoreWork = 60;     // no longer than a frame of the screen
 constexpr std::size_t kWaitedFor = 5000;  // hardly more than a second
 // Of a change: more comes sooner in steps, as a document does.
 constexpr std::size_t kMostAtOnce = 1000;         // paragraphs

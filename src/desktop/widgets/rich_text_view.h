@@ -34,6 +34,9 @@ class RichTextView : public QTextEdit {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   bool viewportEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
   bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -92,6 +95,15 @@ class RichTextView : public QTextEdit {
   void CopySelection();
   void CutSelection();
 
+  // The border of a column: twips from the page's left margin, and pixels of the text.
+  struct ColumnEdge {
+    int paragraph = 0;  // of the table
+    int place = 0;
+    double x = 0;
+  };
+  std::optional<ColumnEdge> EdgeAt(QPoint place) const;
+  void PaintDraggedEdge(QPainter& painter);
+
   QPixmap PictureNamed(const QString& name);
   void PaintSheets(QPainter& painter, double top, double bottom);
   void PaintFurniture(QPainter& painter, double top, double bottom);
@@ -104,6 +116,8 @@ class RichTextView : public QTextEdit {
   RichTextRenderer renderer_;
   KeptObjects kept_{renderer_};
   RichTextFurniture furniture_{[this] { viewport()->update(); }};
+  std::optional<ColumnEdge> dragged_edge_;
+  double dragged_to_ = 0;
   bool shows_pages_ = false;
   bool makes_room_ = false;
   int own_range_ = 0;  // of the scroll bar, for Qt's text alone
