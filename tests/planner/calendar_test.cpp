@@ -18,6 +18,9 @@ using ::testing::Contains;
 constexpr const char* kTitle = "Save Option";
 constexpr const char* kQuestion = "Save changes made to data before next action?";
 
+const forms::MessageBox kDeleteMonth{kTitle, "Delete March 2026 calendar entries and file?",
+                                     forms::Icon::kQuestion, forms::Buttons::kYesNo, 2};
+
 std::string TrimText(const char* begin) {
   return std::string(begin) +
          "Appointment/Activity entry from the Daily Planner\n"
@@ -43,6 +46,11 @@ class CalendarTest : public ::testing::Test {
   }
   void PickDay(unsigned day, unsigned month = 3) {
     form().picker.SelectDay(text::MakeDate(2026, month, day));
+  }
+  void ExpectTrimQuestion(const char* begin, Answer answer) {
+    rig.dialogs.Expect({"Import Selection", TrimText(begin), forms::Icon::kInformation,
+                        forms::Buttons::kYesNoCancel},
+                       answer);
   }
   std::vector<std::string> Drawn() {
     return testing::TextsOf(form().preview.document()->pages.at(0));
@@ -77,22 +85,22 @@ TEST_F(CalendarTest, WhatIsTypedIsDrawnAtOnceAndWrittenBySave) {
 
 TEST_F(CalendarTest, LeavingTypedLinesAsks) {
   form().lines[0].Type("dropped");
-  rig.dialogs.Expect(kTitle, kQuestion, Answer::kNo);
+  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kNo);
   PickDay(10);
   EXPECT_FALSE(form().unsaved());
   PickDay(9);
   EXPECT_EQ(form().lines[0].text(), "");
   form().lines[0].Type("kept");
-  rig.dialogs.Expect(kTitle, kQuestion, Answer::kYes);
+  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kYes);
   PickDay(1, 4);
   EXPECT_EQ(Stored(9)[0], "kept");
   EXPECT_EQ(form().lines[0].text(), "");
   EXPECT_THAT(Drawn(), Contains("April 2026"));
   form().lines[0].Type("still here");
-  rig.dialogs.Expect(kTitle, kQuestion, Answer::kCancel);
+  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kCancel);
   form().exit.Click();
   EXPECT_EQ(rig.top(), "Calendar");
-  rig.dialogs.Expect(kTitle, kQuestion, Answer::kNo);
+  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kNo);
   rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
 }
@@ -109,11 +117,11 @@ TEST_F(CalendarTest, TheListOffersThePickedDayAndMonth) {
 TEST_F(CalendarTest, AMonthOfThePlannerIsImportedOnceAndStaysUnsaved) {
   Plan(9, {"9:00 AM", "Dentist"});
   Plan(31, {"", std::string(50, 'W')});
-  rig.dialogs.Expect("Import Selection", TrimText("Time plus "), Answer::kCancel);
+  ExpectTrimQuestion("Time plus ", Answer::kCancel);
   form().imports.Pick(2);
   EXPECT_FALSE(form().unsaved());
   for (int time = 0; time < 2; ++time) {
-    rig.dialogs.Expect("Import Selection", TrimText("Time plus "), Answer::kYes);
+    ExpectTrimQuestion("Time plus ", Answer::kYes);
     form().imports.Pick(2);
     EXPECT_EQ(form().lines[0].text(), "9:00 AM Dentist");
     EXPECT_EQ(form().lines[1].text(), "");
@@ -127,24 +135,24 @@ TEST_F(CalendarTest, AMonthOfThePlannerIsImportedOnceAndStaysUnsaved) {
   form().save.Click();
   EXPECT_EQ(Stored(9)[0], "9:00 AM Dentist");
   PickDay(10);
-  rig.dialogs.Expect("Import Selection", TrimText(""), Answer::kNo);
-  rig.dialogs.Expect("Import Daily Planner Appointments",
-                     "No enteries were found for Import from Daily Planner function!");
+  ExpectTrimQuestion("", Answer::kNo);
+  rig.dialogs.ExpectNote("Import Daily Planner Appointments",
+                         "No enteries were found for Import from Daily Planner function!");
   form().imports.Pick(1);
   PickDay(9);
-  rig.dialogs.Expect("Import Selection", TrimText(""), Answer::kNo);
+  ExpectTrimQuestion("", Answer::kNo);
   form().imports.Pick(1);
   EXPECT_FALSE(form().unsaved());
 }
 
 TEST_F(CalendarTest, ToDoItemsOfTheMonthAreEnteredAndSaved) {
-  rig.dialogs.Expect("Import To Do List Items",
-                     "No To Do List Items for this month have been found!");
+  rig.dialogs.ExpectNote("Import To Do List Items",
+                         "No To Do List Items for this month have been found!");
   form().imports.Pick(4);
   storage::WriteNameList(rig.folder, "TODOActv.FIL", {"Pay rent", "Thu - Mar 12, 26", "", "", ""});
   for (int time = 0; time < 2; ++time) {
-    rig.dialogs.Expect("Import To Do List Items",
-                       "To Do List Items for this month have been found, entered and saved!");
+    rig.dialogs.ExpectNote("Import To Do List Items",
+                           "To Do List Items for this month have been found, entered and saved!");
     form().imports.Pick(4);
     EXPECT_EQ(Stored(12)[0], "Pay rent");
     EXPECT_EQ(Stored(12)[1], "");
@@ -155,7 +163,8 @@ TEST_F(CalendarTest, TheSheetIsPrintedCopiedAndShownOnThePaperChosen) {
   form().print.Click();
   EXPECT_EQ(rig.pages.printed.back().title, "Calendar March 2026");
   EXPECT_TRUE(rig.pages.printed.back().setup.landscape);
-  rig.dialogs.Expect("Copy Option", "Current Calendar has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option",
+                         "Current Calendar has been copied to the Windows Clipboard.");
   rig.ClickMenu("mOCopy");
   EXPECT_THAT(testing::TextsOf(rig.pages.copied), Contains("March 2026"));
   rig.pages.setup.emplace();
@@ -182,11 +191,10 @@ TEST_F(CalendarTest, AMonthIsDeletedOnlyOnYes) {
   form().lines[0].Type("x");
   form().save.Click();
   for (const Answer answer : {Answer::kNo, Answer::kYes}) {
-    rig.dialogs.Expect(kTitle, "Delete March 2026 calendar entries and file?", answer);
+    rig.dialogs.Expect(kDeleteMonth, answer);
     rig.ClickMenu("mODel");
     EXPECT_EQ(rig.folder.Exists("202603.Fil"), answer == Answer::kNo);
   }
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   EXPECT_EQ(form().lines[0].text(), "");
 }
 
@@ -202,25 +210,26 @@ TEST_F(CalendarTest, WhatTheDiskRefusesOrCantReadIsKeptAndTold) {
   calendar.lines[0].Type("new");
   files.AllowBytes(100);
   const auto refusal = [&] {
-    full.dialogs.Expect("Not Saved",
-                        "The calendar of March 2026 could not be saved: the disk is full.\n"
-                        "It is still on the screen.");
+    full.dialogs.ExpectError("Not Saved",
+                             "The calendar of March 2026 could not be saved: the disk is full.\n"
+                             "It is still on the screen.");
   };
   refusal();
   calendar.save.Click();
-  full.dialogs.Expect(kTitle, kQuestion, Answer::kYes);
+  full.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kYes);
   refusal();
-  full.dialogs.Expect("Not Saved", "Leave without saving?", Answer::kNo);
+  full.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   calendar.picker.SelectDay(text::MakeDate(2026, 5, 1));
   EXPECT_EQ(calendar.picker.date(), text::MakeDate(2026, 3, 9));
   EXPECT_EQ(calendar.lines[0].text(), "new");
   EXPECT_TRUE(calendar.unsaved());
   EXPECT_EQ(full.temporary.Read("202603.Fil"), old);
   files.MakeReadOnly();
-  full.dialogs.Expect(kTitle, "Delete March 2026 calendar entries and file?", Answer::kYes);
-  full.dialogs.Expect("Not Deleted",
-                      "The calendar of March 2026 could not be deleted: the disk is read-only.\n"
-                      "It stays as it is.");
+  full.dialogs.Expect(kDeleteMonth, Answer::kYes);
+  full.dialogs.ExpectError(
+      "Not Deleted",
+      "The calendar of March 2026 could not be deleted: the disk is read-only.\n"
+      "It stays as it is.");
   full.ClickMenu("mODel");
   EXPECT_EQ(calendar.lines[0].text(), "new");
 
@@ -229,13 +238,14 @@ TEST_F(CalendarTest, WhatTheDiskRefusesOrCantReadIsKeptAndTold) {
     std::filesystem::create_directory(rig.temporary.path() + "/" + name);
   }
   const auto expect_unreadable = [&](const char* what) {
-    rig.dialogs.Expect("Can't Be Read", std::string(what) +
-                                            " can't be read: something else has the name of its "
-                                            "file.\nNothing will be written over it.");
+    rig.dialogs.ExpectError("Can't Be Read",
+                            std::string(what) +
+                                " can't be read: something else has the name of its "
+                                "file.\nNothing will be written over it.");
   };
   expect_unreadable("The To Do list");
   form().imports.Pick(4);
-  rig.dialogs.Expect("Import Selection", TrimText("Time plus "), Answer::kNo);
+  ExpectTrimQuestion("Time plus ", Answer::kNo);
   expect_unreadable("The Daily Planner");
   form().imports.Pick(2);
   PickDay(1, 4);

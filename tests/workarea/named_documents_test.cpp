@@ -33,20 +33,27 @@ class NamedDocumentsTest : public WorkAreaTest {
     Press("SSCommand11(" + std::to_string(area) + ")");
   }
   void BeginBlank(const std::string& name, const std::string& words) {
-    rig.dialogs.Expect(kBegin, kJobReminder);
+    rig.dialogs.ExpectNote(kBegin, kJobReminder);
     names().new_blank.Click();
     names().name.Type(name);
     view().text.Type(words);
   }
   void ExpectFile(const std::string& done, const std::string& name) {
-    rig.dialogs.Expect("Save File Action", "This File [ " + name + " ] Has Been " + done + "!");
+    rig.dialogs.ExpectNote("Save File Action", "This File [ " + name + " ] Has Been " + done + "!");
+  }
+  void ExpectDeletion(const std::string& name, Answer answer) {
+    rig.dialogs.Expect({"Delete File!", "Are you sure you want to delete file [ " + name + " ]?",
+                        forms::Icon::kCritical, forms::Buttons::kYesNo, 2},
+                       answer);
   }
   void ExpectArchiveQuestion(const std::string& name, Answer answer) {
-    rig.dialogs.Expect(kArchiveQuestion, "Make Archive Copy of [ " + name + " ]?", answer);
+    rig.dialogs.Expect({kArchiveQuestion, "Make Archive Copy of [ " + name + " ]?",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
+                       answer);
   }
   void ExpectArchived(const std::string& name) {
     ExpectArchiveQuestion(name, Answer::kYes);
-    rig.dialogs.Expect("Archive File Save", "Archived File Has Been Created.");
+    rig.dialogs.ExpectNote("Archive File Save", "Archived File Has Been Created.");
   }
   void Archive(const char* button) {
     Press(button);
@@ -94,23 +101,20 @@ TEST_F(ReportsTest, ReportsAreMadeListedUpdatedAndDeleted) {
   EXPECT_EQ(names().name.text(), "");
 
   names().list.Pick(0);
-  rig.dialogs.Expect("Delete File!",
-                     "Are you sure you want to delete file [ Welder / 03/09/2026 ]?", Answer::kNo);
+  ExpectDeletion("Welder / 03/09/2026", Answer::kNo);
   names().remove.Click();
   EXPECT_EQ(Shown(), "He Welds");
   for (const char* name : {"Welder / 03/09/2026", "Zo\xEB Ash"}) {
     names().list.Pick(0);
-    rig.dialogs.Expect("Delete File!",
-                       std::string("Are you sure you want to delete file [ ") + name + " ]?",
-                       Answer::kYes);
+    ExpectDeletion(name, Answer::kYes);
     names().remove.Click();
   }
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   EXPECT_FALSE(rig.folder.Exists("Welder - 03-09-2026.Fl5"));
   EXPECT_FALSE(rig.folder.Exists("JobHold.Fl5"));
-  rig.dialogs.Expect(kBegin,
-                     "There are currently no Existing/Saved Company Job Descriptions - Prepare, "
-                     "Store or Review!");
+  rig.dialogs.ExpectNote(
+      kBegin,
+      "There are currently no Existing/Saved Company Job Descriptions - Prepare, "
+      "Store or Review!");
   names().select.Click();
 }
 
@@ -120,8 +124,9 @@ TEST_F(ReportsTest, ANameThatReachesAnothersFileReplacesItOnlyOnYes) {
   OpenReports();
   BeginBlank("a - b", "New");
   const auto expect_question = [&](Answer answer) {
-    rig.dialogs.Expect("Save Changes to Existing File?",
-                       "File by Name [ a - b ] already Exists!\nDo you want to Replace it?",
+    rig.dialogs.Expect({"Save Changes to Existing File?",
+                        "File by Name [ a - b ] already Exists!\nDo you want to Replace it?",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNo, 2},
                        answer);
   };
   expect_question(Answer::kNo);
@@ -129,7 +134,7 @@ TEST_F(ReportsTest, ANameThatReachesAnothersFileReplacesItOnlyOnYes) {
   EXPECT_TRUE(view().unsaved());
   EXPECT_EQ(Stored("A - B.Fl5"), "Old");
   expect_question(Answer::kYes);
-  rig.dialogs.Expect(kSaved, "File Has Been Saved/Updated!");
+  rig.dialogs.ExpectNote(kSaved, "File Has Been Saved/Updated!");
   view().save.Click();
   EXPECT_EQ(Stored("A - B.Fl5"), "New");
   EXPECT_EQ(rig.temporary.Read("JobHold.Fl5"), "\"A / B\"\r\n");
@@ -151,18 +156,18 @@ TEST_F(ReportsTest, WithoutANameOrATextNothingIsSaved) {
   };
   for (const auto& c : cases) {
     OpenReports(c.area);
-    rig.dialogs.Expect(kBegin, c.reminder);
+    rig.dialogs.ExpectNote(kBegin, c.reminder);
     names().new_blank.Click();
-    rig.dialogs.Expect(kSaved, c.name_missing);
+    rig.dialogs.ExpectNote(kSaved, c.name_missing);
     view().save.Click();
     names().name.Type("  ");
     view().text.Type("Words");
-    rig.dialogs.Expect(kSaved, c.name_missing);
+    rig.dialogs.ExpectNote(kSaved, c.name_missing);
     view().save.Click();
     EXPECT_TRUE(view().unsaved());
     names().name.Type("Ann");
     view().text.Erase({{0, 0}, {0, 5}});
-    rig.dialogs.Expect(kSaved, c.text_missing);
+    rig.dialogs.ExpectNote(kSaved, c.text_missing);
     view().save.Click();
   }
   EXPECT_THAT(rig.temporary.Names(), Not(Contains("Ann.Fl5")));
@@ -188,7 +193,7 @@ TEST_F(ReportsTest, TheTemplateIsTheSuppliedOneOrTheUsersOwn) {
             ? kJobReminder
             : "Please enter Employee Name and Date of Action Prior to Saving!";
     OpenReports(c.area);
-    rig.dialogs.Expect(kBegin, reminder);
+    rig.dialogs.ExpectNote(kBegin, reminder);
     names().new_report.Click();
     EXPECT_EQ(Shown(), "Supplied");
     EXPECT_TRUE(view().unsaved());
@@ -196,14 +201,16 @@ TEST_F(ReportsTest, TheTemplateIsTheSuppliedOneOrTheUsersOwn) {
     rig.temporary.Write(stem + ".Fl2", Rtf("Mine"));
     for (const auto& [answer, words] :
          {std::pair{Answer::kNo, "Supplied"}, {Answer::kYes, "Mine"}}) {
-      rig.dialogs.Expect(kBegin, "Save Current Document, etc. before inserting a new Template?",
-                         Answer::kNo);
-      rig.dialogs.Expect(kBegin, c.question, answer);
-      rig.dialogs.Expect(kBegin, reminder);
+      rig.dialogs.ExpectYesNoCancel(
+          kBegin, "Save Current Document, etc. before inserting a new Template?", Answer::kNo);
+      rig.dialogs.Expect({kBegin, c.question, forms::Icon::kQuestion, forms::Buttons::kYesNo, 2},
+                         answer);
+      rig.dialogs.ExpectNote(kBegin, reminder);
       names().new_report.Click();
       EXPECT_EQ(Shown(), words);
     }
-    rig.dialogs.Expect(kBegin, "Save Current Document, etc. before this Action?", Answer::kCancel);
+    rig.dialogs.ExpectYesNoCancel(kBegin, "Save Current Document, etc. before this Action?",
+                                  Answer::kCancel);
     names().new_blank.Click();
     EXPECT_EQ(Shown(), "Mine");
   }
@@ -216,8 +223,7 @@ TEST_F(ReportsTest, AnEntryWhoseDocumentIsGoneIsToldAndCanBeDeleted) {
   names().list.Pick(0);
   EXPECT_EQ(Shown(), "");
   EXPECT_EQ(hub().status(), "The document of this name isn't there any more.");
-  rig.dialogs.Expect("Delete File!", "Are you sure you want to delete file [ Gone ]?",
-                     Answer::kYes);
+  ExpectDeletion("Gone", Answer::kYes);
   names().remove.Click();
   EXPECT_THAT(Listed(), ElementsAre("Here"));
 }
@@ -235,13 +241,13 @@ TEST_F(ReportsTest, OnABadDiskTheTextStaysUnsavedAndTheListAsItWas) {
     failing.Get<shell::Startfrm>("Startfrm").begin.Click();
     auto& form = failing.Get<WorkArea1>("WorkArea1");
     dynamic_cast<forms::Command&>(*form.Find("SSCommand11(9)")).Click();
-    failing.dialogs.Expect(kBegin, kJobReminder);
+    failing.dialogs.ExpectNote(kBegin, kJobReminder);
     form.names.new_blank.Click();
     form.names.name.Type("Bob");
     form.document.text.Type("Precious");
     text_size = form.document.Bytes().size();
     begin();
-    failing.dialogs.Expect("Not Saved", told + "\nIt is still on the screen.");
+    failing.dialogs.ExpectError("Not Saved", told + "\nIt is still on the screen.");
     form.document.save.Click();
     EXPECT_TRUE(form.document.unsaved());
     EXPECT_EQ(richtext::PlainText(form.document.text.document()), "Precious");
@@ -300,9 +306,7 @@ TEST_F(ArchiveTest, CopiesAreFrozenDatedListedAndDeleted) {
 
   for (int left : {1, 0}) {
     names().list.Pick(0);
-    rig.dialogs.Expect("Delete File!",
-                       "Are you sure you want to delete file [ " + names().list.text() + " ]?",
-                       Answer::kYes);
+    ExpectDeletion(names().list.text(), Answer::kYes);
     names().remove.Click();
     EXPECT_EQ(Listed().size(), static_cast<std::size_t>(left));
   }
@@ -322,11 +326,12 @@ TEST_F(ArchiveTest, ACopyOfTheSameNameIsReplacedOnlyOnYes) {
   const auto archive = [&](Answer answer) {
     ExpectArchiveQuestion(name, Answer::kYes);
     rig.dialogs.Expect(
-        "Replace Existing Archive File?",
-        "File by Same Name and Date [ " + name + " ] already Exists!\nDo you want to Replace it?",
+        {"Replace Existing Archive File?",
+         "File by Same Name and Date [ " + name + " ] already Exists!\nDo you want to Replace it?",
+         forms::Icon::kQuestion, forms::Buttons::kYesNo, 2},
         answer);
     if (answer == Answer::kYes) {
-      rig.dialogs.Expect("Archive File Save", "Archived File Has Been Created.");
+      rig.dialogs.ExpectNote("Archive File Save", "Archived File Has Been Created.");
     }
     rig.ClickMenu("mOArchive");
   };
@@ -348,7 +353,7 @@ TEST_F(ArchiveTest, ACopyOfTheSameNameIsReplacedOnlyOnYes) {
 TEST_F(ArchiveTest, WhatHasNoTextOrNoNameIsNotArchived) {
   Open();
   Press("SSCommand14(0)");
-  rig.dialogs.Expect(
+  rig.dialogs.ExpectWarning(
       "Archive Select",
       "Appropriate Document (Document, Form, Policy, etc.) Is NOT Currently Displayed!");
   rig.ClickMenu("mOArchive");
@@ -358,7 +363,7 @@ TEST_F(ArchiveTest, WhatHasNoTextOrNoNameIsNotArchived) {
   ExpectSaveQuestion(Answer::kNo);
   Press("SSCommand11(9)");
   BeginBlank("", "Words");
-  rig.dialogs.Expect("Archive Select", "Appropriate Form Name is Missing!");
+  rig.dialogs.ExpectWarning("Archive Select", "Appropriate Form Name is Missing!");
   rig.ClickMenu("mOArchive");
   EXPECT_THAT(rig.temporary.Names(), Not(Contains("ArchiveHold.Fla")));
 }

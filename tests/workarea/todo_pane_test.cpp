@@ -59,12 +59,12 @@ TEST_F(ToDoPaneTest, AnItemWithADateIsSavedAndItsNameKeptAtOnce) {
   EXPECT_TRUE(pane().unsaved());
   EXPECT_FALSE(rig.folder.Exists("TODOActv.FIL"));
 
-  rig.dialogs.Expect("File Save Command", kListSaved);
+  rig.dialogs.ExpectNote("File Save Command", kListSaved);
   pane().save.Click();
   pane().save.Click();  // nothing is unsaved
   EXPECT_FALSE(rig.folder.Exists("TODOActv.Fl2"));
   Enter(2, "second");
-  rig.dialogs.Expect("File Save Command", kListSaved);
+  rig.dialogs.ExpectNote("File Save Command", kListSaved);
   rig.ClickMenu("mOS");
   EXPECT_EQ(rig.temporary.Read("TODOActv.Fl2"), rig.temporary.Read("TODOActv.FIL"));
   Open(kToDoList);
@@ -97,7 +97,7 @@ TEST_F(ToDoPaneTest, TheCalendarStandsBesideTheCellAndOnItsDate) {
   pane().names.Focus();
   EXPECT_FALSE(pane().sheet.calendar.visible());
 
-  rig.dialogs.Expect("Item Grid", "Please, enter an Item before any dates.");
+  rig.dialogs.ExpectNote("Item Grid", "Please, enter an Item before any dates.");
   grid().SelectCell(7, ToDoSheet::kReview);
   EXPECT_EQ(grid().current(), (forms::GridPlace{2, ToDoSheet::kItem}));
   EXPECT_FALSE(pane().sheet.calendar.visible());
@@ -117,7 +117,7 @@ TEST_F(ToDoPaneTest, NamesCompleteGoIntoTheGridAndAreDeleted) {
   EXPECT_EQ(rig.temporary.Read("TODONAME.FIL"), "\"Order paper\"\r\n\"first\"\r\n");
   for (int row = 3; row <= 500; ++row) grid().SetText(row, ToDoSheet::kItem, "x");
   pane().names.Pick(0);
-  rig.dialogs.Expect("Item Grid", "There is no empty row left in the grid!");
+  rig.dialogs.ExpectNote("Item Grid", "There is no empty row left in the grid!");
   pane().add.Click();
 }
 
@@ -134,25 +134,29 @@ TEST_F(ToDoPaneTest, RowsAreDeletedClearedInsertedAndSorted) {
   rig.ClickMenu("mOIns");
   EXPECT_EQ(grid().text(3, ToDoSheet::kItem), "a");
   for (const Answer answer : {Answer::kNo, Answer::kCancel, Answer::kYes}) {
-    rig.dialogs.Expect("Delete Row", "Delete This Row?", answer);
+    rig.dialogs.Expect(
+        {"Delete Row", "Delete This Row?", forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
+        answer);
     pane().delete_row.Click();
   }
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   grid().SelectCell(1, ToDoSheet::kItem);
-  rig.dialogs.Expect("Delete Row", "Delete Activity and Dates for - \nb, Mon - Mar 9, 26?",
+  rig.dialogs.Expect({"Delete Row", "Delete Activity and Dates for - \nb, Mon - Mar 9, 26?",
+                      forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
                      Answer::kYes);
   rig.ClickMenu("mODel");
   EXPECT_THAT(Items(), ElementsAre("a"));
   EXPECT_EQ(grid().rows(), 501);
   for (const Answer answer : {Answer::kNo, Answer::kYes}) {
-    rig.dialogs.Expect("Clear Grid", "Do you really want To Clear the Grid?", answer);
+    rig.dialogs.Expect({"Clear Grid", "Do you really want To Clear the Grid?",
+                        forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
+                       answer);
     rig.ClickMenu("mOClear");
   }
   EXPECT_THAT(Items(), ElementsAre());
   EXPECT_EQ(grid().text(500, 0), "500");
   grid().SetText(500, ToDoSheet::kItem, "last");
-  rig.dialogs.Expect("Insert Row",
-                     "The last row of the grid is filled and would be lost. Delete a row first.");
+  rig.dialogs.ExpectWarning(
+      "Insert Row", "The last row of the grid is filled and would be lost. Delete a row first.");
   rig.ClickMenu("mOIns");
 }
 
@@ -168,18 +172,18 @@ TEST_F(ToDoPaneTest, EveryWayOutOfAnUnsavedListAsksAndCanBeTakenBack) {
     Open(kToDoList);
     grid().SelectCell(number, ToDoSheet::kItem);
     grid().TypeInCell("still being typed");
-    rig.dialogs.Expect(kLeaveTitle, kLeaveText, Answer::kCancel);
+    rig.dialogs.ExpectYesNoCancel(kLeaveTitle, kLeaveText, Answer::kCancel);
     leave();
     EXPECT_TRUE(pane().panel.visible());
     EXPECT_TRUE(pane().unsaved());
-    rig.dialogs.Expect(kLeaveTitle, kLeaveText, Answer::kYes);
-    rig.dialogs.Expect("File Save Command", kListSaved);
+    rig.dialogs.ExpectYesNoCancel(kLeaveTitle, kLeaveText, Answer::kYes);
+    rig.dialogs.ExpectNote("File Save Command", kListSaved);
     leave();
     EXPECT_EQ(StoredItems().size(), static_cast<std::size_t>(number));
   }
   Open(kToDoList);
   Enter(1, "dropped");
-  rig.dialogs.Expect(kLeaveTitle, kLeaveText, Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel(kLeaveTitle, kLeaveText, Answer::kNo);
   Press("SSCommand11(2)");
   EXPECT_FALSE(pane().panel.visible());
   EXPECT_TRUE(hub().document.panel.visible());
@@ -189,9 +193,9 @@ TEST_F(ToDoPaneTest, EveryWayOutOfAnUnsavedListAsksAndCanBeTakenBack) {
 
 TEST_F(ToDoPaneTest, TheFilledRowsArePrintedExportedAndCopied) {
   const auto open_print = [&] { pane().print_options.Click(); };
-  rig.dialogs.Expect("Print", "There are currently No Entries to Print!");
+  rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
   open_print();
-  rig.dialogs.Expect("Copy", "There are currently No Entries to Copy!");
+  rig.dialogs.ExpectNote("Copy", "There are currently No Entries to Copy!");
   rig.ClickMenu("mOClip");
   Enter(1, "Pay rent");
   grid().SetText(3, ToDoSheet::kReview, "later");
@@ -210,7 +214,7 @@ TEST_F(ToDoPaneTest, TheFilledRowsArePrintedExportedAndCopied) {
   EXPECT_GT(rig.pages.printed.back().pages.at(0).size(), marks);
   print.close.Click();
 
-  rig.dialogs.Expect("Copy Option", "A copy has been copied to the Windows Clipboard.");
+  rig.dialogs.ExpectNote("Copy Option", "A copy has been copied to the Windows Clipboard.");
   rig.ClickMenu("mOClip");
   EXPECT_EQ(rig.clipboard.text,
             "To Do Item\tTo Do Date\tActual Date\tNext Review Date\r\n"
@@ -218,7 +222,7 @@ TEST_F(ToDoPaneTest, TheFilledRowsArePrintedExportedAndCopied) {
 
   rig.ClickMenu("mUExport");
   EXPECT_FALSE(hub().areas.visible());
-  rig.dialogs.Expect("Export Function", "Export Completed to selected location!");
+  rig.dialogs.ExpectNote("Export Function", "Export Completed to selected location!");
   pane().exporting.save.Click();
   const std::string exported = rig.folders.written["/home/ann/Tarnwell/Timeline.xls"];
   EXPECT_EQ(std::ranges::count(exported, '\n'), 501);
@@ -230,14 +234,14 @@ TEST_F(ToDoPaneTest, ACheckedItemTakesItsNameAlong) {
   Enter(1, "Cal teh bank");
   Enter(2, "fine");
   rig.speller.misspelled = {{"teh", {}}};
-  rig.dialogs.Expect("Spell Check",
-                     "Spell Check has been canceled or has reached the end of your entries");
+  rig.dialogs.ExpectNote("Spell Check",
+                         "Spell Check has been canceled or has reached the end of your entries");
   pane().spelling.Click();
   EXPECT_THAT(Items(), ElementsAre("Cal the bank", "fine"));
   EXPECT_EQ(rig.temporary.Read("TODONAME.FIL"), "\"Cal the bank\"\r\n\"fine\"\r\n");
   EXPECT_EQ(hub().status(), "1 word corrected");
-  rig.dialogs.Expect("Spell Check",
-                     "Spell Check did not change or did not find any misspelled words!");
+  rig.dialogs.ExpectNote("Spell Check",
+                         "Spell Check did not change or did not find any misspelled words!");
   pane().spelling.Click();
 }
 
@@ -265,14 +269,14 @@ TEST_F(ToDoPaneTest, WhatTheDiskRefusesStaysUnsavedOnTheScreen) {
   full.Get<shell::Startfrm>("Startfrm").begin.Click();
   ToDoPane& list = full.Get<WorkArea1>("WorkArea1").to_do;
   files.MakeReadOnly();
-  full.dialogs.Expect("Not Saved",
-                      "The list of names could not be saved: the disk is read-only.\n"
-                      "It holds for now.");
+  full.dialogs.ExpectError("Not Saved",
+                           "The list of names could not be saved: the disk is read-only.\n"
+                           "It holds for now.");
   list.sheet.grid.EditCell(2, ToDoSheet::kItem, "new");
   EXPECT_EQ(list.names.items().size(), 1u);
-  full.dialogs.Expect("Not Saved",
-                      "The list of names could not be saved: the disk is read-only.\n"
-                      "The item stays in it.");
+  full.dialogs.ExpectError("Not Saved",
+                           "The list of names could not be saved: the disk is read-only.\n"
+                           "The item stays in it.");
   list.names.Pick(0);
   list.delete_name.Click();
   EXPECT_EQ(list.names.items().size(), 1u);
@@ -281,16 +285,16 @@ TEST_F(ToDoPaneTest, WhatTheDiskRefusesStaysUnsavedOnTheScreen) {
     for (const char* way : {"mOS", "button"}) {
       SCOPED_TRACE(std::string(way) + " " + std::to_string(call));
       files.FailFrom(files.calls() + call);
-      full.dialogs.Expect("Not Saved",
-                          "The To Do list could not be saved: the disk reported an error.\n"
-                          "It is still on the screen.");
+      full.dialogs.ExpectError("Not Saved",
+                               "The To Do list could not be saved: the disk reported an error.\n"
+                               "It is still on the screen.");
       std::string(way) == "mOS" ? full.ClickMenu(way) : list.save.Click();
       files.Recover();
       EXPECT_TRUE(list.unsaved());
       EXPECT_EQ(full.temporary.Read("TODOActv.FIL"), "\"old\"\r\n");
     }
   }
-  full.dialogs.Expect("File Save Command", kListSaved);
+  full.dialogs.ExpectNote("File Save Command", kListSaved);
   list.save.Click();
   EXPECT_THAT(full.temporary.Read("TODOActv.FIL"), HasSubstr("\"new\""));
 }

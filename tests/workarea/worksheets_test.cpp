@@ -80,15 +80,16 @@ TEST_F(WorksheetsTest, AWorksheetIsStartedSavedGivenAStatusAndFoundAgain) {
   OpenArea();
   Press("SSCommand12(1)");
   EXPECT_EQ(view().status.text(), "Partial");
-  rig.dialogs.Expect("New Worksheet", "Fire Safety worksheet!\nNew Worksheet?", Answer::kNo);
+  rig.dialogs.Expect({"New Worksheet", "Fire Safety worksheet!\nNew Worksheet?",
+                      forms::Icon::kExclamation, forms::Buttons::kYesNoCancel, 2},
+                     Answer::kNo);
   view().insert_template.Click();
-  EXPECT_EQ(rig.dialogs.last.default_button, 2);
   EXPECT_FALSE(view().unsaved());
 
   view().text.Erase({{0, 0}, {0, 5}});
-  rig.dialogs.Expect(kSaved,
-                     "An empty worksheet is not written: what was saved before stays. Its "
-                     "compliance status has been cleared.");
+  rig.dialogs.ExpectNote(kSaved,
+                         "An empty worksheet is not written: what was saved before stays. Its "
+                         "compliance status has been cleared.");
   view().save.Click();
   EXPECT_EQ(Stored("EmployWksht1.Fl2"), "Risks");
   EXPECT_EQ(rig.temporary.Read("Stat1.Fil").substr(48 * 20, 2), std::string(2, '\0'));
@@ -159,7 +160,7 @@ TEST_F(WorksheetsTest, TheFirstBoxOfThePrintPanelFollowsWhatIsOnShow) {
   const auto refuse = [&](const char* title, const char* text) {
     view().print_options.Click();
     EXPECT_TRUE(printing.texts[0].visible());
-    rig.dialogs.Expect(title, text);
+    rig.dialogs.ExpectWarning(title, text);
     printing.first.Check(true);
     EXPECT_FALSE(printing.first.checked());
     printing.print.close.Click();
@@ -211,9 +212,9 @@ TEST_F(WorksheetsTest, OnABadDiskTitlesAndTextsStayOnTheScreen) {
   form.document.text.Type("Precious");
   files.MakeReadOnly();
   const auto expect_refusal = [&](const char* what) {
-    failing.dialogs.Expect("Not Saved", std::string(what) +
-                                            " could not be saved: the disk is read-only.\n"
-                                            "It is still on the screen.");
+    failing.dialogs.ExpectError("Not Saved", std::string(what) +
+                                                 " could not be saved: the disk is read-only.\n"
+                                                 "It is still on the screen.");
   };
   expect_refusal("The text");
   form.document.save.Click();
