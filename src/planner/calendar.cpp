@@ -66,7 +66,6 @@ void Calendar::ConnectControls() {
 void Calendar::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   const std::vector<forms::Control*> with_sheet{&save};
-  options.AddCommand("mOS", "&Save", save);
   options.AddCommand("mOprint", "&Print", print);
   options.AddEntry("mOPrtSet", "Printer &Setup", [this] { ChooseSetup(); });
   options.AddEntry("mOCopy", "&Copy", {[this] { Copy(); }, with_sheet});

@@ -9,6 +9,12 @@
 namespace tarnwell::planner {
 namespace {
 
+// Without a copy: a month has thousands of these comparisons.
+std::string_view Trimmed(std::string_view line) {
+  const std::size_t begin = std::min(line.find_first_not_of(' '), line.size());
+  return line.substr(begin, line.find_last_not_of(' ') + 1 - begin);
+}
+
 // Its last words.
 bool EndsWith(std::string_view line, std::string_view ending) {
   if (ending.empty() || line.size() <= ending.size() || !line.ends_with(ending)) return false;
@@ -36,7 +42,7 @@ Placed PlaceEntry(DayLines& lines, std::string_view entry, std::string_view fitt
   std::string* shorter = nullptr;
   std::string* blank = nullptr;
   for (std::string& line : lines) {
-    const std::string known = text::Trim(line);
+    const std::string_view known = Trimmed(line);
     for (const std::string_view form : {entry, fitted}) {
       if (known == form || EndsWith(known, form)) return Placed::kFound;
     }

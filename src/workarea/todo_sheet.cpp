@@ -115,6 +115,7 @@ void ToDoSheet::PickDay() {
 }
 
 void ToDoSheet::Edited(int row, int column) {
+  CloseCalendar();
   on_change();
   if (column == kItem) on_item(grid.text(row, column));
 }

@@ -150,6 +150,17 @@ TEST(SheetImportTest, APlannerDayComesWithOrWithoutItsTimesAndOnlyOnce) {
   EXPECT_FALSE(ImportRows(narrow, {}, {}).found);
 }
 
+TEST(SheetImportTest, AToDoDateIsOfTheCenturyThatItsWeekdaySays) {
+  storage::SequentialReader list(
+      std::string("\"a\",\"Sun - Jan 5, 31\",\"\"\r\n"
+                  "\"b\",\"Wed - Sep 10, 31\",\"\"\r\n"
+                  "\"c\",\"1/5/31\",\"\"\r\n"));
+  std::vector<text::Date> dates;
+  for (const ToDoItem& item : ReadToDoItems(list)) dates.push_back(item.date);
+  EXPECT_THAT(dates, ElementsAre(text::MakeDate(2031, 1, 5), text::MakeDate(2031, 9, 10),
+                                 text::MakeDate(1931, 1, 5)));
+}
+
 TEST(SheetImportTest, ItemsOfTheMonthComeOnTheirDays) {
   MonthSheet sheet;
   const std::vector<ToDoItem> items{{text::MakeDate(2026, 3, 31), "Report"},

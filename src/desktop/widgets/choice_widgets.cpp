@@ -66,15 +66,14 @@ class DropDown : public QComboBox {
   bool entered_ = false;
 };
 
-// A long list isn't measured text by text.
-void FitWidth(QComboBox* box, const forms::ComboBox& combo) {
-  const bool is_long = combo.items().size() > kMostMeasured;
+}  // namespace
+
+void FitWidth(QComboBox* box, std::size_t items) {
+  const bool is_long = items > kMostMeasured;
   box->setSizeAdjustPolicy(is_long ? QComboBox::AdjustToMinimumContentsLengthWithIcon
                                    : QComboBox::AdjustToContents);
   box->setMinimumContentsLength(is_long ? kLettersOfLong : 0);
 }
-
-}  // namespace
 
 bool ShowItems(QComboBox* box, const std::vector<std::string>& items) {
   QStringList wanted;
@@ -117,11 +116,11 @@ QWidget* Widget(forms::ComboBox& combo) {
   auto* box = new DropDown;
   box->setMaxVisibleItems(16);
   auto* model = new ItemModel(combo, box);
-  FitWidth(box, combo);
+  FitWidth(box, combo.items().size());
   box->setModel(model);
   if (auto* list = qobject_cast<QListView*>(box->view())) list->setUniformItemSizes(true);
   auto* binding = new Binding(box, combo, [box, model, &combo] {
-    if (combo.change() == forms::ListChange::kItems) FitWidth(box, combo);
+    if (combo.change() == forms::ListChange::kItems) FitWidth(box, combo.items().size());
     model->Follow();
     box->setCurrentIndex(combo.selected());
   });

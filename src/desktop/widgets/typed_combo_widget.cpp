@@ -33,6 +33,7 @@ class TypedDropDown : public QComboBox {
     const int cursor = line_->cursorPosition();
     const int begin = line_->selectionStart();
     const int length = line_->selectionLength();
+    FitWidth(this, combo.items().size());
     if (!ShowItems(this, combo.items()) && currentIndex() == combo.selected()) return;
     // Qt puts the item into the line.
     setCurrentIndex(combo.selected());
