@@ -10,6 +10,7 @@
 #include "forms/dialogs.h"
 #include "forms/folder_browser.h"
 #include "forms/pages.h"
+#include "forms/pictures.h"
 #include "forms/services.h"
 
 namespace tarnwell::bench {
@@ -50,6 +51,10 @@ class IdleSpeller : public forms::Speller {
 class IdleThesaurus : public forms::Thesaurus {
   bool available() override { return false; }
   std::vector<forms::Meaning> LookUp(std::string_view) override { return {}; }
+};
+
+class IdlePictures : public forms::Pictures {
+  forms::LoadedPicture Load(const std::string&, int, int) override { return {}; }
 };
 
 class IdleFolders : public forms::FolderBrowser {

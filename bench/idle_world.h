@@ -12,8 +12,8 @@ namespace tarnwell::bench {
 template <typename ClockClass = IdleClock, typename LoopClass = IdleLoop>
 struct IdleWorld {
   explicit IdleWorld(storage::ProgramFolder& folder)
-      : context{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders, speller,
-                 thesaurus},
+      : context{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders, pictures,
+                 speller, thesaurus},
                 variables,
                 navigator} {
     navigator.SetContext(context);
@@ -27,6 +27,7 @@ struct IdleWorld {
   IdleClipboard clipboard;
   IdlePages pages;
   IdleFolders folders;
+  IdlePictures pictures;
   IdleSpeller speller;
   IdleThesaurus thesaurus;
   forms::ProgramVariables variables;

@@ -11,16 +11,16 @@ Desktop::Desktop(const Folders& folders)
     : folder_(storage::RealFileSystem(), folders.user.toStdString(),
               folders.supplied.toStdString()),
       help_(folders.supplied.isEmpty() ? QString() : folders.supplied + QStringLiteral("/help")),
-      pictures_([this](std::string_view name) {
+      picture_store_([this](std::string_view name) {
         return QByteArray::fromStdString(folder_.ReadWhole(name).value_or(std::string()));
       }),
-      pages_(pictures_),
+      pages_(picture_store_),
       folders_(folders.user),
       speller_(DictionaryFolders(folders)),
       thesaurus_(ThesaurusFolders(folders), speller_),
-      window_([this](forms::Form& form) { return LookOf(form, pictures_); }, help_),
+      window_([this](forms::Form& form) { return LookOf(form, picture_store_); }, help_),
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
-                speller_, thesaurus_}) {
+                pictures_, speller_, thesaurus_}) {
   window_.Follow(program_.navigator());
   // The program has done what it was asked, and waits.
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,

@@ -12,6 +12,7 @@
 #include "desktop/services/qt_event_loop.h"
 #include "desktop/services/qt_folder_browser.h"
 #include "desktop/services/qt_pages.h"
+#include "desktop/services/qt_pictures.h"
 #include "desktop/services/system_clock.h"
 #include "desktop/widgets/pictures.h"
 #include "program/program.h"
@@ -37,10 +38,11 @@ class Desktop {
   MessageDialogs dialogs_;
   QtEventLoop loop_;
   HtmlHelpViewer help_;
-  PictureStore pictures_;
+  PictureStore picture_store_;
   QtClipboard clipboard_;
   QtPages pages_;
   QtFolderBrowser folders_;
+  QtPictures pictures_;
   HunspellSpeller speller_;
   MythesThesaurus thesaurus_;
   MainWindow window_;

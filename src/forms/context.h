@@ -3,6 +3,7 @@
 #include "forms/dialogs.h"
 #include "forms/folder_browser.h"
 #include "forms/pages.h"
+#include "forms/pictures.h"
 #include "forms/program_variables.h"
 #include "forms/services.h"
 #include "storage/program_folder.h"
@@ -23,6 +24,7 @@ struct Services {
   Clipboard& clipboard;
   Pages& pages;
   FolderBrowser& folders;
+  Pictures& pictures;
   Speller& speller;
   Thesaurus& thesaurus;
 };

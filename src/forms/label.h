@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/clickable.h"
 #include "forms/page.h"
@@ -37,15 +39,26 @@ class Label : public Clickable {
   std::optional<Font> font_;
 };
 
-// A picture, by its file name in the program's folder or among the supplied files; empty for none.
+// A picture: a file in the program's folder or among the supplied ones, or one in hand.
 class Picture : public Clickable {
  public:
   Picture(Container& parent, std::string_view name, std::string_view file)
       : Clickable(parent, name), file_(file) {}
 
+  // By its name; empty for none.
   const std::string& file() const { return file_; }
   void SetFile(std::string_view file) {
     file_ = file;
+    content_.reset();
+    Changed();
+  }
+
+  // A PNG or JPEG file, such as Pictures loads from anywhere on the machine; null for none. It
+  // takes the place of the file in the folder.
+  const std::shared_ptr<const std::string>& content() const { return content_; }
+  void SetContent(std::shared_ptr<const std::string> content) {
+    content_ = std::move(content);
+    file_.clear();
     Changed();
   }
 
@@ -59,6 +72,7 @@ class Picture : public Clickable {
 
  private:
   std::string file_;
+  std::shared_ptr<const std::string> content_;
   bool marked_ = false;
 };
 

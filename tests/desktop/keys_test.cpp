@@ -124,10 +124,11 @@ class KeyWorld {
   testing::FakeThesaurus thesaurus;
   MisspelledText text;
   proofing::SpellingSession session{speller, folder, text};
-  PictureStore pictures{[](std::string_view) { return QByteArray(); }};
-  MainWindow window{[this](forms::Form& form) { return LookOf(form, pictures); }, help};
-  program::Program program{
-      {folder, clock, dialogs, loop, window, help, clipboard, pages, folders, speller, thesaurus}};
+  testing::FakePictures pictures;
+  PictureStore store{[](std::string_view) { return QByteArray(); }};
+  MainWindow window{[this](forms::Form& form) { return LookOf(form, store); }, help};
+  program::Program program{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders,
+                            pictures, speller, thesaurus}};
 };
 
 // How a person gets from the form to what is on show: names of commands, options and menu entries.

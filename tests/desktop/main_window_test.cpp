@@ -64,14 +64,15 @@ class MainWindowTest : public ::testing::Test {
   testing::FakeClipboard clipboard_;
   testing::FakePages pages_;
   testing::FakeFolders folders_;
+  testing::FakePictures pictures_;
   testing::FakeSpeller speller_;
   testing::FakeThesaurus thesaurus_;
   forms::ProgramVariables variables_;
   MainWindow window_{SampleLook, help_};
   forms::Navigator navigator_;
-  forms::Context context_{folder_,    clock_,     dialogs_,  loop_,    window_,
-                          help_,      clipboard_, pages_,    folders_, speller_,
-                          thesaurus_, variables_, navigator_};
+  forms::Context context_{folder_,  clock_,     dialogs_,   loop_,     window_,
+                          help_,    clipboard_, pages_,     folders_,  pictures_,
+                          speller_, thesaurus_, variables_, navigator_};
 };
 
 TEST_F(MainWindowTest, TheTopFormLendsItsTitleMenusAndStatus) {

@@ -143,6 +143,18 @@ class FakePages : public forms::Pages {
   std::optional<forms::PageSetup> setup;
 };
 
+// The pictures at some paths; there is nothing elsewhere.
+class FakePictures : public forms::Pictures {
+ public:
+  forms::LoadedPicture Load(const std::string& path, int, int) override {
+    const auto found = at.find(path);
+    if (found != at.end()) return found->second;
+    return {nullptr, storage::Fault::kMissing};
+  }
+
+  std::map<std::string, forms::LoadedPicture> at;
+};
+
 // Knows every word but the misspelled ones that it is told of, with what to suggest for them.
 class FakeSpeller : public forms::Speller {
  public:
@@ -179,12 +191,13 @@ struct FakeWorld {
   FakeClipboard clipboard;
   FakePages pages;
   FakeFolders folders;
+  FakePictures pictures;
   FakeSpeller speller;
   FakeThesaurus thesaurus;
 
   forms::Services Lend(storage::ProgramFolder& folder) {
-    return {folder,    clock, dialogs, loop,    window,   help,
-            clipboard, pages, folders, speller, thesaurus};
+    return {folder,    clock, dialogs, loop,     window,  help,
+            clipboard, pages, folders, pictures, speller, thesaurus};
   }
 };
 

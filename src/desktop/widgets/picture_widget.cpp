@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -23,12 +24,14 @@ class PictureWidget : public QWidget {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   }
 
-  void ShowFile(const std::string& file) {
-    if (file == file_) return;
-    file_ = file;
-    const QByteArray content = pictures_.Read(file);
+  void Show(const forms::Picture& picture) {
+    if (picture.file() == file_ && picture.content() == content_) return;
+    file_ = picture.file();
+    content_ = picture.content();
+    const QByteArray content =
+        content_ ? QByteArray::fromStdString(*content_) : pictures_.Read(file_);
     photograph_ = {};
-    if (!drawing_.load(content)) photograph_ = Decoded(content);
+    if (content_ || !drawing_.load(content)) photograph_ = Decoded(content);
     updateGeometry();
     update();
   }
@@ -89,6 +92,7 @@ class PictureWidget : public QWidget {
 
   const PictureStore& pictures_;
   std::string file_;
+  std::shared_ptr<const std::string> content_;
   bool marked_ = false;
   std::function<void()> on_click_;
   QSvgRenderer drawing_;
@@ -100,7 +104,7 @@ class PictureWidget : public QWidget {
 QWidget* Widget(forms::Picture& picture, PictureStore& pictures) {
   auto* widget = new PictureWidget(pictures);
   auto* binding = new Binding(widget, picture, [widget, &picture] {
-    widget->ShowFile(picture.file());
+    widget->Show(picture);
     widget->SetMarked(picture.marked());
   });
   if (picture.on_click) widget->SetClick(binding->Forward([&picture] { picture.Click(); }));
