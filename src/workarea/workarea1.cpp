@@ -55,25 +55,26 @@ void WorkArea1::BuildMenus() {
   for (const auto& [index, caption] : main_entries) {
     options.AddCommand("mOTab(" + std::to_string(index) + ")", caption, main_buttons[index]);
   }
-  const auto add = [&](const char* name, const char* caption) {
-    pane_entries_.push_back(&options.AddEntry(name, caption, forms::MenuAction{}));
+  const auto add = [&](const char* name, const char* caption, const char* key = "") {
+    pane_entries_.push_back(&options.AddEntry(name, caption, forms::MenuAction{}).SetKey(key));
   };
   options.AddSeparator();
   add("mOClip", "&Copy to Clipboard");
   add("mOFont", "&Font Select");
-  add("mOSpell", "&Spell Check");
+  add("mOSpell", "&Spell Check", "F7");
   add("mOThes", "&Thesaurus");
-  add("mOP", "&Print Options");
+  add("mOP", "&Print Options", "Ctrl+P");
   options.AddEntry("mOPAll", "Print &All Current Policies/Docs Only",
                    [this] { PrintAll(DocumentPrinting::Breaks::kNone); });
   options.AddEntry("mOPAllB", "Print All Current Policies/Docs Only - &With Page Breaks",
                    [this] { PrintAll(DocumentPrinting::Breaks::kPages); });
-  add("mOS", "&Save");
+  add("mOS", "&Save", "Ctrl+S");
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
   options.LiveWith({&areas});
   SetPopupMenu(options);
+  document.AddMenu(menus());
 }
 
 void WorkArea1::Load() {

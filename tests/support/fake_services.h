@@ -83,6 +83,19 @@ class ScriptedDialogs : public forms::Dialogs {
     return chosen;
   }
 
+  void ExpectPicture(std::optional<forms::ChosenPicture> chosen) {
+    pictures_.push_back(std::move(chosen));
+  }
+  std::optional<forms::ChosenPicture> ChoosePicture() override {
+    if (pictures_.empty()) {
+      ADD_FAILURE() << "unexpected file dialogue";
+      return std::nullopt;
+    }
+    auto chosen = std::move(pictures_.front());
+    pictures_.pop_front();
+    return chosen;
+  }
+
   // `answer` is what a person types, as far as the box takes it; none cancels the box.
   void ExpectInput(std::string title, std::string prompt, std::optional<std::string> answer) {
     inputs_.push_back({std::move(title), std::move(prompt), std::move(answer)});
@@ -117,6 +130,7 @@ class ScriptedDialogs : public forms::Dialogs {
   std::deque<ExpectedInput> inputs_;
   std::deque<std::optional<forms::Color>> colors_;
   std::deque<std::optional<forms::FontParts>> fonts_;
+  std::deque<std::optional<forms::ChosenPicture>> pictures_;
 };
 
 // Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.
@@ -215,6 +229,7 @@ class FakeFolders : public forms::FolderBrowser {
 class FakePages : public forms::Pages {
  public:
   forms::TextMetrics& metrics() override { return fixed_metrics; }
+  std::vector<std::string> FontNames() override { return {"Arial", "Times New Roman"}; }
   forms::PrintResult Print(const forms::Document& document) override {
     printed.push_back(document);
     return result;

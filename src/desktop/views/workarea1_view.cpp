@@ -1,3 +1,4 @@
+#include "desktop/views/format_bar_view.h"
 #include "desktop/views/main_screen.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/views.h"
@@ -44,6 +45,8 @@ QWidget* Document(workarea::DocumentView& view) {
       Column({
           Flow({Widget(view.heading), Row({Widget(view.status_label), Widget(view.status)})}),
           Inline(Widget(view.actions, Views(view.views))),
+          FormatBarView(view.format),
+          FindBarView(view.find),
           Grow(Widget(view.text)),
           Flow({Primary(Widget(view.save)), WithIcon("next-mark", Widget(view.tools.find_mark)),
                 Widget(view.insert_template), Widget(view.tools.font), Alignment(view.tools),

@@ -26,6 +26,7 @@ QPushButton:focus { border: 2px solid #1F5FBF; padding: 4px 12px; }
 QPushButton:disabled { background: #F1F2F4; color: #5F6974; border-color: #D3D8DD; }
 QPushButton[compact="true"] { padding: 3px 6px; }
 QPushButton[compact="true"]:focus { padding: 2px 5px; }
+QPushButton[compact="true"][selected="true"] { background: #CFE0F7; border-color: #1F5FBF; }
 QPushButton[listed="true"] { text-align: left; padding: 3px 8px; min-height: 1.2em; }
 QPushButton[listed="true"]:focus { padding: 2px 7px; }
 QPushButton[primary="true"] { background: #1F5FBF; color: #FFFFFF; border-color: #1F5FBF; }

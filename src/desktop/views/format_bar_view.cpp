@@ -1,0 +1,57 @@
+#include "desktop/views/format_bar_view.h"
+
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+using parts::FormatCommand;
+
+constexpr int kLettersOfFont = 20;
+constexpr int kLettersOfSize = 5;
+constexpr int kLettersOfWords = 18;
+
+QWidget* Compact(QWidget* button) {
+  SetMark(button, "compact", true);
+  return button;
+}
+
+}  // namespace
+
+QWidget* FormatBarView(parts::FormatBar& bar) {
+  const auto button = [&bar](const char* icon, FormatCommand command) {
+    return IconOnly(icon, Widget(bar[command]));
+  };
+  const auto toggle = [&bar](const char* icon, FormatCommand command) {
+    return Toggle(icon, Widget(bar[command]));
+  };
+  return Widget(
+      bar.panel,
+      Flow({button("undo", FormatCommand::kUndo), button("redo", FormatCommand::kRedo),
+            OfLetters(Widget(bar.font), kLettersOfFont),
+            OfLetters(Widget(bar.size), kLettersOfSize), toggle("bold", FormatCommand::kBold),
+            toggle("italic", FormatCommand::kItalic),
+            toggle("underline", FormatCommand::kUnderline), button("color", FormatCommand::kColor),
+            toggle("highlight", FormatCommand::kHighlight), toggle("left", FormatCommand::kLeft),
+            toggle("center", FormatCommand::kCenter), toggle("right", FormatCommand::kRight),
+            toggle("justify", FormatCommand::kJustify),
+            toggle("bullets", FormatCommand::kBullets), toggle("numbers", FormatCommand::kNumbers),
+            button("outdent", FormatCommand::kOutdent), button("indent", FormatCommand::kIndent),
+            WithMenu(button("table", FormatCommand::kTable), bar.tables.popup),
+            button("picture", FormatCommand::kPicture), button("link", FormatCommand::kLink)},
+           kHairSpace));
+}
+
+QWidget* FindBarView(parts::FindBar& bar) {
+  return Widget(
+      bar.panel,
+      Flow({Row({Widget(bar.find_label), OfLetters(Widget(bar.find), kLettersOfWords)}),
+            Compact(Widget(bar.previous)), Compact(Widget(bar.next)), Widget(bar.whole_words),
+            Widget(bar.match_capitals),
+            Row({Widget(bar.replace_label), OfLetters(Widget(bar.replace), kLettersOfWords)}),
+            Compact(Widget(bar.replace_one)), Compact(Widget(bar.replace_all)), Compact(Widget(bar.close))},
+           kTightSpace));
+}
+
+}  // namespace tarnwell::desktop
