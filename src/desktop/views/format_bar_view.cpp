@@ -1,5 +1,7 @@
 #include "desktop/views/format_bar_view.h"
 
+#include <QComboBox>
+
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
 
@@ -8,9 +10,17 @@ namespace {
 
 using parts::FormatCommand;
 
-constexpr int kLettersOfFont = 20;
-constexpr int kLettersOfSize = 5;
+constexpr int kLettersOfFont = 13;
+constexpr int kLettersOfSize = 3;
 constexpr int kLettersOfWords = 18;
+
+// However long the texts of its list are.
+QWidget* ComboOf(int letters, QWidget* combo) {
+  auto* box = qobject_cast<QComboBox*>(combo);
+  box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  box->setMinimumContentsLength(letters);
+  return combo;
+}
 
 QWidget* Compact(QWidget* button) {
   SetMark(button, "compact", true);
@@ -26,21 +36,27 @@ QWidget* FormatBarView(parts::FormatBar& bar) {
   const auto toggle = [&bar](const char* icon, FormatCommand command) {
     return Toggle(icon, Widget(bar[command]));
   };
-  return Widget(
-      bar.panel,
-      Flow({button("undo", FormatCommand::kUndo), button("redo", FormatCommand::kRedo),
-            OfLetters(Widget(bar.font), kLettersOfFont),
-            OfLetters(Widget(bar.size), kLettersOfSize), toggle("bold", FormatCommand::kBold),
-            toggle("italic", FormatCommand::kItalic),
-            toggle("underline", FormatCommand::kUnderline), button("color", FormatCommand::kColor),
-            toggle("highlight", FormatCommand::kHighlight), toggle("left", FormatCommand::kLeft),
-            toggle("center", FormatCommand::kCenter), toggle("right", FormatCommand::kRight),
-            toggle("justify", FormatCommand::kJustify),
-            toggle("bullets", FormatCommand::kBullets), toggle("numbers", FormatCommand::kNumbers),
-            button("outdent", FormatCommand::kOutdent), button("indent", FormatCommand::kIndent),
-            WithMenu(button("table", FormatCommand::kTable), bar.tables.popup),
-            button("picture", FormatCommand::kPicture), button("link", FormatCommand::kLink)},
-           kHairSpace));
+  return Widget(bar.panel, Flow({button("undo", FormatCommand::kUndo),
+                                 button("redo", FormatCommand::kRedo),
+                                 ComboOf(kLettersOfFont, Widget(bar.font)),
+                                 ComboOf(kLettersOfSize, Widget(bar.size)),
+                                 toggle("bold", FormatCommand::kBold),
+                                 toggle("italic", FormatCommand::kItalic),
+                                 toggle("underline", FormatCommand::kUnderline),
+                                 button("color", FormatCommand::kColor),
+                                 toggle("highlight", FormatCommand::kHighlight),
+                                 toggle("left", FormatCommand::kLeft),
+                                 toggle("center", FormatCommand::kCenter),
+                                 toggle("right", FormatCommand::kRight),
+                                 toggle("justify", FormatCommand::kJustify),
+                                 toggle("bullets", FormatCommand::kBullets),
+                                 toggle("numbers", FormatCommand::kNumbers),
+                                 button("outdent", FormatCommand::kOutdent),
+                                 button("indent", FormatCommand::kIndent),
+                                 WithMenu(button("table", FormatCommand::kTable), bar.tables.popup),
+                                 button("picture", FormatCommand::kPicture),
+                                 button("link", FormatCommand::kLink)},
+                                kHairSpace));
 }
 
 QWidget* FindBarView(parts::FindBar& bar) {
@@ -50,7 +66,8 @@ QWidget* FindBarView(parts::FindBar& bar) {
             Compact(Widget(bar.previous)), Compact(Widget(bar.next)), Widget(bar.whole_words),
             Widget(bar.match_capitals),
             Row({Widget(bar.replace_label), OfLetters(Widget(bar.replace), kLettersOfWords)}),
-            Compact(Widget(bar.replace_one)), Compact(Widget(bar.replace_all)), Compact(Widget(bar.close))},
+            Compact(Widget(bar.replace_one)), Compact(Widget(bar.replace_all)),
+            Compact(Widget(bar.close))},
            kTightSpace));
 }
 
