@@ -20,6 +20,7 @@ DocumentView::DocumentView(forms::Container& parent, forms::Context& context)
   views.Add(actions, "SSOption3", "Disclaimer and How To Use");
   views.Add(actions, "SSOption4", "Comments/Notes");
   views.Add(actions, "SSOption5", "View Document/Policy Etc.");
+  find.panel.Cover({&actions});  // the text needs the room
   save.SetToolTip("Save (Ctrl+S)");
   print_options.SetToolTip("Print Options (Ctrl+P)");
   ConnectCommands();

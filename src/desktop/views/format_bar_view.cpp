@@ -22,24 +22,25 @@ QWidget* ComboOf(int letters, QWidget* combo) {
   return combo;
 }
 
-QWidget* Compact(QWidget* button) {
-  SetMark(button, "compact", true);
-  return button;
+// Lower than elsewhere: the text needs the room.
+QWidget* Low(QWidget* widget) {
+  SetMark(widget, "tool", true);
+  return widget;
 }
 
 }  // namespace
 
 QWidget* FormatBarView(parts::FormatBar& bar) {
   const auto button = [&bar](const char* icon, FormatCommand command) {
-    return IconOnly(icon, Widget(bar[command]));
+    return Low(IconOnly(icon, Widget(bar[command])));
   };
   const auto toggle = [&bar](const char* icon, FormatCommand command) {
-    return Toggle(icon, Widget(bar[command]));
+    return Low(Toggle(icon, Widget(bar[command])));
   };
   return Widget(bar.panel, Flow({button("undo", FormatCommand::kUndo),
                                  button("redo", FormatCommand::kRedo),
-                                 ComboOf(kLettersOfFont, Widget(bar.font)),
-                                 ComboOf(kLettersOfSize, Widget(bar.size)),
+                                 ComboOf(kLettersOfFont, Low(Widget(bar.font))),
+                                 ComboOf(kLettersOfSize, Low(Widget(bar.size))),
                                  toggle("bold", FormatCommand::kBold),
                                  toggle("italic", FormatCommand::kItalic),
                                  toggle("underline", FormatCommand::kUnderline),
@@ -62,12 +63,11 @@ QWidget* FormatBarView(parts::FormatBar& bar) {
 QWidget* FindBarView(parts::FindBar& bar) {
   return Widget(
       bar.panel,
-      Flow({Row({Widget(bar.find_label), OfLetters(Widget(bar.find), kLettersOfWords)}),
-            Compact(Widget(bar.previous)), Compact(Widget(bar.next)), Widget(bar.whole_words),
+      Flow({Row({Widget(bar.find_label), OfLetters(Low(Widget(bar.find)), kLettersOfWords)}),
+            Low(Widget(bar.previous)), Low(Widget(bar.next)), Widget(bar.whole_words),
             Widget(bar.match_capitals),
-            Row({Widget(bar.replace_label), OfLetters(Widget(bar.replace), kLettersOfWords)}),
-            Compact(Widget(bar.replace_one)), Compact(Widget(bar.replace_all)),
-            Compact(Widget(bar.close))},
+            Row({Widget(bar.replace_label), OfLetters(Low(Widget(bar.replace)), kLettersOfWords)}),
+            Low(Widget(bar.replace_one)), Low(Widget(bar.replace_all)), Low(Widget(bar.close))},
            kTightSpace));
 }
 

@@ -45,6 +45,10 @@ QLineEdit, QComboBox {
   selection-color: #FFFFFF;
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
+QPushButton[tool="true"] { padding: 2px 4px; min-height: 0; }
+QPushButton[tool="true"]:focus { padding: 1px 3px; }
+QLineEdit[tool="true"], QComboBox[tool="true"] { padding: 1px 4px; min-height: 1.1em; }
+QLineEdit[tool="true"]:focus, QComboBox[tool="true"]:focus { padding: 0px 3px; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
 QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
 QComboBox:disabled { color: #5F6974; }
