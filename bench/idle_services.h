@@ -32,6 +32,7 @@ class IdleClipboard : public forms::Clipboard {
 
 class IdlePages : public forms::Pages, private forms::TextMetrics {
   forms::TextMetrics& metrics() override { return *this; }
+  std::vector<std::string> FontNames() override { return {}; }
   int Width(const forms::Font&, std::string_view) override { return 0; }
   double Utf8Width(const forms::Font&, std::string_view) override { return 0; }
   int LineHeight(const forms::Font&) override { return 0; }
@@ -73,6 +74,7 @@ class YesDialogs : public forms::Dialogs {
   std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
+  std::optional<forms::ChosenPicture> ChoosePicture() override { return {}; }
 };
 
 class IdleWindow : public forms::Window {

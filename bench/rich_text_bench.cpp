@@ -28,6 +28,7 @@ constexpr int kOpenings = 9;
 constexpr double kLongestKey = 16;  // milliseconds, a frame of the screen
 constexpr double kLongestOpening = 40;
 constexpr double kLongestOfAll = 300;
+constexpr double kLongestLook = 1;  // likewise, beside all else that a key does
 // The bare read only copies memory; ours reads a language and lays out the first screens.
 constexpr double kMostOpening = 500;
 
@@ -129,6 +130,18 @@ bool MeasureBold(Editor& editor, const std::string& bytes) {
   return Judge("Select all of 300 pages and make it bold", std::move(times), kLongestOfAll);
 }
 
+// What the bar above a document asks at each move of the cursor, and for a selection of everything.
+bool MeasureLook(Editor& editor, const std::string& bytes) {
+  editor.Open(bytes);
+  const int last = kPages * kParagraphsPerPage - 2;
+  std::vector<double> times;
+  for (const richtext::Range& place :
+       {richtext::Range{{1, 3}, {1, 3}}, {{last, 3}, {last, 3}}, {{0, 0}, {last, 3}}}) {
+    times.push_back(editor.TimeOfLook(place));
+  }
+  return Judge("The state at the cursor in 300 pages", std::move(times), kLongestLook);
+}
+
 std::string ReadBare(const std::string& path, std::size_t size) {
   std::string bytes(size, '\0');
   const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -165,8 +178,8 @@ int Run(const std::string& parent) {
   Check(read == 6 * bytes.size(), "read the document");
   const richtext::StoredForm stored = richtext::StoredFormOf(bytes, editor.document());
   bool is_quick = true;
-  for (const auto& measure : 
-       {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable, MeasureBold}) {
+  for (const auto& measure : {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable,
+                              MeasureBold, MeasureLook}) {
     is_quick = measure(editor, bytes) && is_quick;
   }
   table.Measure(

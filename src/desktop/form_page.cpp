@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/grid_view.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/menus.h"
@@ -50,8 +51,14 @@ bool FormPage::TakeKey(const QKeyEvent& event) {
     case Qt::Key_Enter:
       return form_.PressEnter();
     default:
-      return false;
+      return TakeMenuKey(KeyName(event));
   }
+}
+
+bool FormPage::TakeMenuKey(const std::string& key) {
+  if (!form_.menus().FindKey(key)) return false;
+  if (EndEditUnderKeys()) form_.PressKey(key);
+  return true;
 }
 
 void FormPage::keyPressEvent(QKeyEvent* event) {

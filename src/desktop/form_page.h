@@ -36,6 +36,7 @@ class FormPage : public QWidget {
 
  private:
   void ShowBackground();
+  bool TakeMenuKey(const std::string& key);
 
   forms::Form& form_;
   std::vector<std::unique_ptr<QMenu>> menus_;

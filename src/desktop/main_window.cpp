@@ -142,7 +142,8 @@ void MainWindow::ShowChrome(FormPage& page) {
   if (FormDialog* dialog = DialogOf(page)) {
     return dialog->setWindowTitle(FromCore(page.form().caption()));
   }
-  setWindowTitle(FromCore(page.form().caption()));
+  const QString mark = page.form().unsaved() ? QStringLiteral("* ") : QString();
+  setWindowTitle(mark + FromCore(page.form().caption()));
   status_->setText(FromCore(page.form().status()));
   QList<QAction*> actions;
   for (const auto& menu : page.menus()) actions << menu->menuAction();

@@ -8,6 +8,7 @@
 
 #include "forms/color.h"
 #include "forms/page.h"
+#include "storage/fault.h"
 
 namespace tarnwell::forms {
 
@@ -32,6 +33,13 @@ struct InputBox {
   std::size_t max_length = 255;  // characters
 };
 
+// A picture file from anywhere on the machine.
+struct ChosenPicture {
+  std::string bytes;
+  storage::Fault fault = storage::Fault::kNone;  // why it can't be read
+};
+inline constexpr std::size_t kLargestPicture = 16u << 20;  // bytes; a larger one is kTooLarge
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -46,6 +54,8 @@ class Dialogs {
   // A printer's font with its size, style and colour: the parts that a person chose, whatever the
   // start is open in. Empty when it was cancelled.
   virtual std::optional<FontParts> ChooseFont(const FontParts& start) = 0;
+  // Empty when it was cancelled.
+  virtual std::optional<ChosenPicture> ChoosePicture() = 0;
 };
 
 }  // namespace tarnwell::forms

@@ -70,6 +70,19 @@ bool Form::PressEscape() { return PressFirst(AllControls(), &Command::cancel); }
 
 bool Form::PressEnter() { return PressFirst(AllControls(), &Command::is_default); }
 
+void Form::SetUnsaved(bool unsaved) {
+  if (unsaved_ == unsaved) return;
+  unsaved_ = unsaved;
+  changed_.Notify();
+}
+
+bool Form::PressKey(std::string_view key) {
+  MenuItem* const entry = Reachable() ? menus_.FindKey(key) : nullptr;
+  if (entry == nullptr) return false;
+  entry->Click();
+  return true;
+}
+
 forms::Answer Form::Message(const MessageBox& box) { return ShowMessage(context_, box); }
 
 // A panel around a free control has to be free too.

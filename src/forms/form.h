@@ -36,6 +36,9 @@ class Form : public Container {
   void SetCaption(std::string_view caption);
   const std::string& status() const { return status_; }  // panel 1 of the status bar
   void SetStatus(std::string_view status);
+  // Holds something that isn't on the disk; the window's title says so.
+  bool unsaved() const { return unsaved_; }
+  void SetUnsaved(bool unsaved);
   const std::optional<Color>& background() const { return background_; }
   void SetBackground(std::optional<Color> color);
 
@@ -54,6 +57,9 @@ class Form : public Container {
   // Both press the command for that key that a person can reach. False where there is none.
   bool PressEscape();
   bool PressEnter();
+  // Chooses the menu entry that has the key, such as "Ctrl+S". False where a person can choose
+  // none.
+  bool PressKey(std::string_view key);
 
   // A long run is under way: the menus are dead, the form can't be closed, and a person can use
   // only the controls that the run names.
@@ -62,7 +68,7 @@ class Form : public Container {
   Form& form() override { return *this; }
   bool Reachable() const override { return on_top_; }
 
-  // Caption, status, background or focus changed.
+  // Caption, status, the unsaved mark, background or focus changed.
   [[nodiscard]] Subscription OnChanged(Notifier::Listener listener) {
     return changed_.Subscribe(std::move(listener));
   }
@@ -108,6 +114,7 @@ class Form : public Container {
   std::string name_;
   std::string caption_;
   std::string status_;
+  bool unsaved_ = false;
   std::optional<Color> background_;
   MenuItem menus_{"", ""};
   MenuItem* popup_menu_ = nullptr;

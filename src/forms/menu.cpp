@@ -46,6 +46,11 @@ MenuItem& MenuItem::AddSubmenu(std::string_view name, std::string_view caption) 
 
 void MenuItem::AddSeparator() { AddSubmenu({}, {}); }
 
+MenuItem& MenuItem::SetKey(std::string_view key) {
+  key_ = key;
+  return *this;
+}
+
 void MenuItem::SetAction(MenuAction action) {
   action_.run = std::move(action.run);
   LiveWith(std::move(action.lives_with));
@@ -106,6 +111,15 @@ MenuItem* MenuItem::Find(std::string_view name) {
   for (auto& item : items_) {
     if (item->name() == name) return item.get();
     if (MenuItem* found = item->Find(name)) return found;
+  }
+  return nullptr;
+}
+
+MenuItem* MenuItem::FindKey(std::string_view key) {
+  if (key.empty()) return nullptr;
+  for (auto& item : items_) {
+    if (item->key_ == key && item->Reachable()) return item.get();
+    if (MenuItem* found = item->FindKey(key)) return found;
   }
   return nullptr;
 }

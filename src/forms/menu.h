@@ -49,6 +49,11 @@ class MenuItem {
   bool submenu() const { return !is_entry_; }
   const std::vector<std::unique_ptr<MenuItem>>& items() const { return items_; }
 
+  // The key that chooses the entry, such as "Ctrl+Shift+Z" or "F7"; empty for none. The menu shows
+  // it.
+  const std::string& key() const { return key_; }
+  MenuItem& SetKey(std::string_view key);
+
   // Of an entry that others work with, from now on.
   void SetAction(MenuAction action);
   // A submenu too can live with controls.
@@ -74,6 +79,8 @@ class MenuItem {
 
   // The entry of that name below this one, or nullptr.
   MenuItem* Find(std::string_view name);
+  // Likewise the one that the key chooses, if a person can choose it.
+  MenuItem* FindKey(std::string_view key);
 
   [[nodiscard]] Subscription OnChanged(Notifier::Listener listener) {
     return changed_.Subscribe(std::move(listener));
@@ -82,6 +89,7 @@ class MenuItem {
  private:
   std::string name_;
   std::string caption_;
+  std::string key_;
   bool is_entry_ = false;
   MenuAction action_;
   Clickable* command_ = nullptr;             // that the entry is, where it is one

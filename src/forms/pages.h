@@ -1,7 +1,9 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/page.h"
 
@@ -33,6 +35,8 @@ class Pages {
  public:
   virtual ~Pages() = default;
   virtual TextMetrics& metrics() = 0;
+  // Of the fonts that there are, sorted.
+  virtual std::vector<std::string> FontNames() = 0;
   // All pages, or those that a person asks for. Nothing is done with no pages.
   virtual PrintResult Print(const Document& document) = 0;
   // One page, counted from 0, onto the clipboard.

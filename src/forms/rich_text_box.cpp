@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "forms/rich_color.h"
 #include "richtext/editor.h"
 #include "richtext/fragment.h"
 #include "richtext/limits.h"
@@ -23,15 +24,7 @@ using richtext::StepKind;
 using richtext::Typing;
 
 constexpr std::size_t kMostSpans = 1000;
-
-Color FromRich(const richtext::Color& color) {
-  return color.red | color.green << 8 | color.blue << 16;
-}
-
-richtext::Color ToRich(Color color) {
-  const auto part = [color](int shift) { return static_cast<std::uint8_t>(color >> shift & 0xFF); };
-  return {part(0), part(8), part(16)};
-}
+constexpr int kMostLookedAt = 1000;  // changes of format
 
 // The selection's kind of underline stays where it is underlined already.
 void SetUnderline(bool underlined, CharacterFormat& format) {
@@ -193,16 +186,21 @@ Font RichTextBox::FontOf(const CharacterFormat& format) const {
 FontParts RichTextBox::SelectionFont() const {
   if (typing_format_ || selection_.empty()) return FontOf(StartFormat());
   std::optional<FontParts> common;
+  int looked_at = 0;
   richtext::ForEachFormat(document_, selection_, [&](const CharacterFormat& format) {
     const FontParts font = FontOf(format);
     common ? KeepCommon(font, *common) : void(common = font);
+    return ++looked_at < kMostLookedAt && *common != FontParts();
   });
   return common.value_or(FontOf(StartFormat()));
 }
 
 void RichTextBox::SetSelectionFont(const FontParts& parts) {
-  if (locked() || parts == FontParts()) return;
-  ReformatSelection([&](CharacterFormat& format) {
+  if (!locked() && parts != FontParts()) ReformatSelection(ChangeTo(parts));
+}
+
+RichTextBox::Reformatting RichTextBox::ChangeTo(const FontParts& parts) {
+  return [parts](CharacterFormat& format) {
     if (parts.name) format.font = *parts.name;
     if (parts.size) {
       format.half_points = std::clamp(static_cast<int>(std::lround(*parts.size * 2)), 1,
@@ -213,7 +211,7 @@ void RichTextBox::SetSelectionFont(const FontParts& parts) {
     if (parts.underline) SetUnderline(*parts.underline, format);
     format.strike = parts.strike.value_or(format.strike);
     if (parts.color) format.color = ToRich(*parts.color);
-  });
+  };
 }
 
 bool RichTextBox::ReformatSelection(const Reformatting& change) {

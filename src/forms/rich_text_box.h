@@ -13,13 +13,26 @@
 #include "forms/page.h"
 #include "richtext/change.h"
 #include "richtext/history.h"
+#include "richtext/list_kind.h"
 #include "richtext/position.h"
 #include "richtext/rich_document.h"
+#include "richtext/search.h"
 
 namespace tarnwell::forms {
 
+class MenuItem;
+
 struct RichTextBoxStyle {
   std::string_view spoken_name;
+};
+
+// How the text looks at the selection.
+struct TextLook {
+  FontParts font;                  // as SelectionFont() has it
+  std::optional<Color> highlight;  // this and the rest at its start
+  richtext::Alignment alignment = richtext::Alignment::kLeft;
+  richtext::ListKind list = richtext::ListKind::kNone;
+  bool in_table = false;
 };
 
 // A formatted document that a person edits. Texts are UTF-8. Positions and ranges that don't exist
@@ -62,19 +75,24 @@ class RichTextBox : public Control {
   void Select(richtext::Range range);
   // The first place from there on with exactly this text, within one paragraph.
   std::optional<richtext::Range> Find(std::string_view utf8, richtext::Position from) const;
+  // What a right-click offers besides; nullptr for nothing.
+  MenuItem* popup_menu() const { return popup_menu_; }
+  void SetPopupMenu(MenuItem* menu) { popup_menu_ = menu; }
 
   // Edits by the program or by a command of the form. Each is one step of undo and runs no
   // `on_change`. They do nothing while the box is locked.
 
   // Keeps the format of the range's first character; the cursor stands behind the new text.
   void Replace(richtext::Range range, std::string_view utf8);
-  // What all letters of the selection have in common; without a selection, of what is typed next.
+  // What all letters of the selection have in common, as far as its first thousand changes of
+  // format tell; without a selection, of what is typed next.
   FontParts SelectionFont() const;
   // Nothing but these parts; what else the letters have stays.
   void SetSelectionFont(const FontParts& parts);
   // At the start of the selection.
   richtext::Alignment SelectionAlignment() const;
   void SetSelectionAlignment(richtext::Alignment alignment);
+  TextLook SelectionLook() const;
   bool CanUndo() const { return !locked() && history_.CanUndo(); }
   bool CanRedo() const { return !locked() && history_.CanRedo(); }
 
@@ -94,6 +112,24 @@ class RichTextBox : public Control {
   void ToggleBold();
   void ToggleItalic();
   void ToggleUnderline();
+  void ChangeFont(const FontParts& parts);
+  void Highlight(std::optional<Color> color);
+  void Align(richtext::Alignment alignment);
+  void SetList(richtext::ListKind kind);
+  // By so many steps, outwards below 0.
+  void Indent(int steps);
+  // Outside tables, of empty cells; the cursor stands in the first.
+  void InsertTable(int rows, int columns);
+  void EditTable(richtext::TableEdit edit);
+  // In a table, selects what the next cell holds, or the one before. A row is added behind the
+  // last.
+  void TabToCell(bool forward);
+  // Of the web or of mail; it becomes a link of the selection, or where nothing is selected of
+  // itself. False if it can't be one, or over the end of a paragraph.
+  bool Link(std::string_view address);
+  void InsertPicture(richtext::Picture picture);
+  // Every place that the search finds, as one step; how many they were.
+  int ReplaceAll(const richtext::Search& search, std::string_view utf8);
   void Undo();
   void Redo();
 
@@ -118,7 +154,11 @@ class RichTextBox : public Control {
   void Keep(const std::vector<richtext::ChangedSpan>& spans);
   using Reformatting = std::function<void(richtext::CharacterFormat&)>;
   bool ReformatSelection(const Reformatting& change);
+  // Gives what changes a format as the parts say.
+  static Reformatting ChangeTo(const FontParts& parts);
   void Toggle(const Reformatting& change);
+  void EditTableAt(const richtext::Range& range, richtext::TableEdit edit);
+  void ChangeParagraphs(const std::function<void(richtext::Editor&)>& change);
   void Finish(const std::optional<richtext::History::Outcome>& outcome);
   // Runs the handlers of a person's edit.
   void Tell(bool changed);
@@ -141,6 +181,7 @@ class RichTextBox : public Control {
   std::deque<richtext::ChangedSpan> spans_;
   std::size_t spans_made_ = 0;
   int scroll_requests_ = 0;
+  MenuItem* popup_menu_ = nullptr;
 };
 
 }  // namespace tarnwell::forms

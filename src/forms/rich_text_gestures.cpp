@@ -12,7 +12,6 @@
 namespace tarnwell::forms {
 namespace {
 
-using richtext::CharacterFormat;
 using richtext::Editor;
 using richtext::Position;
 using richtext::Range;
@@ -122,25 +121,6 @@ void RichTextBox::MoveText(Range range, Position to) {
     const Range& erased = selected.parts.front();
     return Range{Moved(to, erased, gone), Moved(end, erased, gone)};
   }));
-}
-
-void RichTextBox::ToggleBold() {
-  Toggle([bold = !StartFormat().bold](CharacterFormat& format) { format.bold = bold; });
-}
-
-void RichTextBox::ToggleItalic() {
-  Toggle([italic = !StartFormat().italic](CharacterFormat& format) { format.italic = italic; });
-}
-
-void RichTextBox::ToggleUnderline() {
-  using richtext::Underline;
-  const bool is_underlined = StartFormat().underline != Underline::kNone;
-  Toggle([underline = is_underlined ? Underline::kNone : Underline::kSingle](
-             CharacterFormat& format) { format.underline = underline; });
-}
-
-void RichTextBox::Toggle(const Reformatting& change) {
-  if (CanEdit()) Tell(ReformatSelection(change));
 }
 
 void RichTextBox::Undo() {

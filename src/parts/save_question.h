@@ -30,7 +30,12 @@ class SaveQuestion {
 
   // A person's changes are on the screen and not on the disk. The screen says so.
   bool unsaved() const { return unsaved_; }
-  void SetUnsaved(bool unsaved) { unsaved_ = unsaved; }
+  void SetUnsaved(bool unsaved) {
+    if (unsaved_ == unsaved) return;
+    unsaved_ = unsaved;
+    if (on_change) on_change();
+  }
+  std::function<void()> on_change;  // of unsaved()
 
   // Offers to save what is unsaved, and says what came of it: kSaved where nothing is unsaved.
   // `save`, where there is one, is this offer's own way to do it.

@@ -37,6 +37,7 @@ Zcalandar1::Zcalandar1(forms::Context& context)
       colors(context, settings::PanelColor::kPlanner),
       todo_import(*this, context),
       question_(context, [this] { return Save(); }) {
+  question_.on_change = [this] { SetUnsaved(question_.unsaved()); };
   exit.SetCancel(true);
   picker.on_pick = [this] { PickDay(); };
   timer.on_tick = [this] {

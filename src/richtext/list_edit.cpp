@@ -13,11 +13,8 @@ constexpr int kDeepest = 8;
 constexpr int kLeastRoom = 1440;  // twips that text keeps of its line
 constexpr const char* kBullet = "\u2022";
 
-// What the first item of a list begins with on a level.
-std::string FirstMarker(bool numbered, int level) {
-  if (!numbered) return kBullet;
-  return level % 2 == 0 ? "1." : "a.";
-}
+// What the first item of a list begins with, on any level: so other programs count them.
+std::string FirstMarker(bool numbered) { return numbered ? "1." : kBullet; }
 
 void MakeItem(ListKind kind, const ParagraphFormat* above, ParagraphFormat& format) {
   if (ListKindOf(format) == kind) return;
@@ -29,7 +26,7 @@ void MakeItem(ListKind kind, const ParagraphFormat* above, ParagraphFormat& form
     format.left_indent = above->left_indent;
     format.first_line_indent = above->first_line_indent;
   } else {
-    item.marker = FirstMarker(item.numbered, item.level);
+    item.marker = FirstMarker(item.numbered);
     format.left_indent = (item.level + 2) * kListStep;
     format.first_line_indent = -kListStep;
   }
@@ -50,7 +47,7 @@ void IndentItem(int steps, ParagraphFormat& format) {
   if (level == item.level) return;
   format.left_indent = std::max(format.left_indent + (level - item.level) * kListStep, kListStep);
   item.level = level;
-  item.marker = FirstMarker(item.numbered, level);
+  if (item.numbered) item.marker = FirstMarker(true);
 }
 
 }  // namespace

@@ -118,24 +118,25 @@ std::string SelectedText(const RichDocument& document, const Range& range) {
 }
 
 void ForEachFormat(const RichDocument& document, const Range& range,
-                   const std::function<void(const CharacterFormat&)>& visit) {
+                   const std::function<bool(const CharacterFormat&)>& visit) {
   const std::vector<Range> parts = SelectedBy(document, range).parts;
   auto part = parts.begin();
   int next = 0;
+  bool goes_on = true;
   ForEachParagraph(document, [&](const Paragraph& paragraph) {
     const int number = next++;
     while (part != parts.end() && part->to.paragraph < number) ++part;
-    if (part == parts.end() || number < part->from.paragraph) return;
+    if (!goes_on || part == parts.end() || number < part->from.paragraph) return;
     const bool is_first = number == part->from.paragraph;
     const bool is_last = number == part->to.paragraph;
     const int length = ShownLength(paragraph);
-    if (length == 0 && (is_first || !is_last)) visit(paragraph.mark);
+    if (length == 0 && (is_first || !is_last)) goes_on = visit(paragraph.mark);
     const int from = is_first ? part->from.offset : 0;
     const int to = is_last ? part->to.offset : length;
     int begin = 0;
     for (const Run& run : paragraph.runs) {
       const int end = begin + static_cast<int>(ShownText(run).size());
-      if (std::max(begin, from) < std::min(end, to)) visit(run.format);
+      if (std::max(begin, from) < std::min(end, to)) goes_on = goes_on && visit(run.format);
       begin = end;
     }
   });

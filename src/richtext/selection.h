@@ -42,8 +42,9 @@ std::vector<RowPart> CellsBetween(const Table& table, const Place& first, const 
 // What the range shows, in UTF-8, a line feed between two paragraphs.
 std::string SelectedText(const RichDocument& document, const Range& range);
 
-// The formats of the characters, and those of paragraphs that are empty.
+// The formats of the characters, and those of paragraphs that are empty, until `visit` has seen
+// enough and says false.
 void ForEachFormat(const RichDocument& document, const Range& range,
-                   const std::function<void(const CharacterFormat&)>& visit);
+                   const std::function<bool(const CharacterFormat&)>& visit);
 
 }  // namespace tarnwell::richtext

@@ -12,17 +12,29 @@ namespace tarnwell::workarea {
 
 DocumentView::DocumentView(forms::Container& parent, forms::Context& context)
     : panel(parent, "SSPanel2"),
+      format(panel, context, text),
+      find(panel, text),
       tools(panel, context, text),
       context_(context),
       question_(context, [this] { return Save(); }) {
   views.Add(actions, "SSOption3", "Disclaimer and How To Use");
   views.Add(actions, "SSOption4", "Comments/Notes");
   views.Add(actions, "SSOption5", "View Document/Policy Etc.");
+  find.panel.Cover({&actions});  // the text needs the room
+  save.SetToolTip("Save (Ctrl+S)");
+  print_options.SetToolTip("Print Options (Ctrl+P)");
   ConnectCommands();
   SetAccess(Access::kNone);
 }
 
+void DocumentView::AddMenu(forms::MenuItem& menus) {
+  forms::MenuItem& menu = format.AddMenu(menus);
+  find.AddTo(menu);
+  menu.AddCommand("mFM", "Find Next In&sertion Point", tools.find_mark).SetKey("F8");
+}
+
 void DocumentView::ConnectCommands() {
+  question_.on_change = [this] { panel.form().SetUnsaved(question_.unsaved()); };
   text.on_change = [this] {
     question_.SetUnsaved(true);
     tools.FollowEdit();
@@ -55,6 +67,7 @@ void DocumentView::SetAccess(Access access) {
   const bool edit = access == Access::kEdit;
   text.SetLocked(!edit);
   tools.Enable(is_readable(), edit);
+  find.Enable(is_readable());
   print_options.SetEnabled(is_readable());
   exit.SetEnabled(access != Access::kNone);
   for (forms::Command* command : {&save, &insert_template}) command->SetEnabled(edit);

@@ -11,6 +11,8 @@
 #include "forms/label.h"
 #include "forms/panel.h"
 #include "forms/rich_text_box.h"
+#include "parts/find_bar.h"
+#include "parts/format_bar.h"
 #include "parts/save_question.h"
 #include "richtext/rich_text_writer.h"
 #include "workarea/document_printing.h"
@@ -48,6 +50,8 @@ class DocumentView {
   forms::Panel actions{panel, "SSFrame1", "Actions"};
   forms::OptionGroup views;
   forms::RichTextBox text{panel, "Rtext1", {.spoken_name = "Document"}};
+  parts::FormatBar format;
+  parts::FindBar find;
   forms::Command insert_template{panel, "SSCommand2", "&Insert Template"};
   TextTools tools;
   forms::Command print_options{panel, "SSCommand5", "&Print Options"};
@@ -98,6 +102,8 @@ class DocumentView {
   bool Settle(const parts::SaveWords& words = {}) { return question_.Settle(words); }
 
   void CopyToClipboard();
+  // "Format", with the keys of all that is done to the text.
+  void AddMenu(forms::MenuItem& menus);
 
   std::function<void()> on_saved;
   std::function<void(PrintedDocument)> on_print;

@@ -51,19 +51,20 @@ TextTools::TextTools(forms::Container& parent, forms::Context& context, forms::R
       alignment(alignment_frame, "SSOption1", {"Left", "Center", "Right"}),
       context_(context),
       text_(text) {
+  spelling.SetToolTip("Spell Check (F7)");
+  find_mark.SetToolTip("Find Next Insertion Point (F8)");
   font.on_click = [this] { ChooseFont(); };
   spelling.on_click = [this] { CheckSpelling(); };
   thesaurus.on_click = [this] { LookUp(); };
   find_mark.on_click = [this] { FindMark(); };
   alignment.on_pick = [this](int option) { Align(option); };
-  text_.on_selection = [this] { ShowAlignment(); };
+  subscription_ = text_.OnChanged([this] { ShowAlignment(); });
 }
 
 void TextTools::StartSearch(std::string_view mark) {
   mark_ = mark;
   SearchFrom({});
   if (std::exchange(has_noted_, false)) text_.form().SetStatus({});  // that was the text before
-  ShowAlignment();
 }
 
 void TextTools::Enable(bool search, bool change) {
@@ -95,7 +96,7 @@ void TextTools::ShowAlignment() {
   for (int i = 0; i < alignment.size(); ++i) {
     if (kAlignments[i] == shown) option = i;
   }
-  alignment.Choose(option);
+  if (option != alignment.chosen()) alignment.Choose(option);
 }
 
 void TextTools::CheckSpelling() {

@@ -56,6 +56,7 @@ class TextTools {
   std::string head_;
   std::string rest_;
   int paragraphs_ = 0;
+  forms::Subscription subscription_;
   bool has_noted_ = false;  // the status bar says how many words were corrected
   std::size_t spans_known_ = 0;
 };

@@ -90,26 +90,29 @@ void WorkArea1::BuildMenus() {
   for (const auto& [index, caption] : main_entries) {
     options.AddCommand("mOTab(" + std::to_string(index) + ")", caption, main_buttons[index]);
   }
-  const auto add_to = [&](forms::MenuItem& menu, const char* name, const char* caption) {
-    pane_entries_.push_back(&menu.AddEntry(name, caption, forms::MenuAction{}));
+  const auto add_to = [&](forms::MenuItem& menu, const char* name, const char* caption,
+                          const char* key = "") {
+    pane_entries_.push_back(&menu.AddEntry(name, caption, forms::MenuAction{}).SetKey(key));
   };
-  const auto add = [&](const char* name, const char* caption) { add_to(options, name, caption); };
+  const auto add = [&](const char* name, const char* caption, const char* key = "") {
+    add_to(options, name, caption, key);
+  };
   options.AddSeparator();
   add("mOClip", "&Copy to Clipboard");
   add("mOArchive", "Create Archive of Policy, etc.");
   add("mOArchiveV", "View Archived Policies, etc.");
   add("mOFont", "&Font Select");
-  add("mOSpell", "&Spell Check");
+  add("mOSpell", "&Spell Check", "F7");
   add("mOThes", "&Thesaurus");
   add("mODel", "&Delete Item from Grid");
   add("mOClear", "&Clear Grid");
   add("mOIns", "&Insert Row");
-  add("mOP", "&Print Options");
+  add("mOP", "&Print Options", "Ctrl+P");
   options.AddEntry("mOPAll", "Print &All Current Policies/Docs Only",
                    [this] { PrintAll(DocumentPrinting::Breaks::kNone); });
   options.AddEntry("mOPAllB", "Print All Current Policies/Docs Only - &With Page Breaks",
                    [this] { PrintAll(DocumentPrinting::Breaks::kPages); });
-  add("mOS", "&Save");
+  add("mOS", "&Save", "Ctrl+S");
   add("mORATitle", "&Add/Edit/Delete Button Titles");
   options.AddSeparator();
   forms::MenuItem& pages = options.AddEntry(
@@ -126,6 +129,7 @@ void WorkArea1::BuildMenus() {
   add_to(utilities, "mUExport", "Export File in Excel/Spreadsheet Format");
   utilities.LiveWith({&areas});
   SetPopupMenu(options);
+  document.AddMenu(menus());
 }
 
 void WorkArea1::Load() {

@@ -58,6 +58,7 @@ class CautiousDialogs : public forms::Dialogs {
   std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
   std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
+  std::optional<forms::ChosenPicture> ChoosePicture() override { return {}; }
 };
 
 // Leaves each modal form as soon as it is there, or lets it stand and comes back.

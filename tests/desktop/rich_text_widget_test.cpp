@@ -130,7 +130,7 @@ TEST_F(RichTextWidgetTest, KeysWriteEraseAndMove) {
        "axb"},
       {"next cell", "[a,b]|c", {0, 0}, {{Qt::Key_Tab, {}}, {Qt::Key_X, {}}}, "[a,x]|c"},
       {"cell before", "[a,b]|c", {1, 0}, {{Qt::Key_Backtab, shift}, {Qt::Key_X, {}}}, "[x,b]|c"},
-      {"behind a table", "[a,b]", {1, 1}, {{Qt::Key_Tab, {}}, {Qt::Key_X, {}}}, "[a,b]|x"},
+      {"new row", "[a,b]", {1, 1}, {{Qt::Key_Tab, {}}, {Qt::Key_X, {}}}, "[a,b;x,]"},
       {"in a cell", "[a,b]", {0, 1}, {{Qt::Key_Return, {}}, {Qt::Key_X, {}}}, "[a/x,b]"},
       {"at a table's edge", "a|[b]|c", {1, 0}, {{Qt::Key_Backspace, {}}}, "a|[b]|c"},
       {"the end of a list", "1.>a|2.>", {1, 0}, {{Qt::Key_Backspace, {}}}, "1.>a|"},

@@ -33,7 +33,7 @@ TEST(Lists, BeginGoOnAndEnd) {
 TEST(Lists, AnItemGoesALevelInAndOutAndIsCountedThere) {
   RichDocument document = FromSketch("1.>a|2.>b|3.>c|4.>d");
   Editor(document).Indent({{1, 0}, {2, 0}}, 1);
-  EXPECT_EQ(Sketch(document), "1.>a|a.>b|b.>c|2.>d");
+  EXPECT_EQ(Sketch(document), "1.>a|1.>b|2.>c|2.>d");
   EXPECT_EQ(ParagraphAt(document, 1).format.list->level, 1);
   Editor(document).Indent({{1, 0}, {2, 0}}, -1);
   EXPECT_EQ(Sketch(document), "1.>a|2.>b|3.>c|4.>d");

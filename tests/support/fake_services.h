@@ -121,6 +121,7 @@ class FakeFolders : public forms::FolderBrowser {
 class FakePages : public forms::Pages {
  public:
   forms::TextMetrics& metrics() override { return fixed_metrics; }
+  std::vector<std::string> FontNames() override { return {"Arial", "Times New Roman"}; }
   forms::PrintResult Print(const forms::Document& document) override {
     printed.push_back(document);
     return result;

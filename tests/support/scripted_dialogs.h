@@ -103,6 +103,19 @@ class ScriptedDialogs : public forms::Dialogs {
     return chosen;
   }
 
+  void ExpectPicture(std::optional<forms::ChosenPicture> chosen) {
+    pictures_.push_back(std::move(chosen));
+  }
+  std::optional<forms::ChosenPicture> ChoosePicture() override {
+    if (pictures_.empty()) {
+      ADD_FAILURE() << "unexpected file dialogue";
+      return std::nullopt;
+    }
+    auto chosen = std::move(pictures_.front());
+    pictures_.pop_front();
+    return chosen;
+  }
+
   // `answer` is what a person types, as far as the box takes it; none cancels the box.
   void ExpectInput(std::string title, std::string prompt, std::optional<std::string> answer) {
     inputs_.push_back({std::move(title), std::move(prompt), std::move(answer)});
@@ -140,6 +153,7 @@ class ScriptedDialogs : public forms::Dialogs {
   std::deque<ExpectedInput> inputs_;
   std::deque<std::optional<forms::Color>> colors_;
   std::deque<std::optional<forms::FontParts>> fonts_;
+  std::deque<std::optional<forms::ChosenPicture>> pictures_;
 };
 
 }  // namespace tarnwell::testing

@@ -3,11 +3,15 @@
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <vector>
@@ -125,6 +129,23 @@ forms::Answer AnswerOf(int button) {
   }
 }
 
+forms::ChosenPicture PictureFileOf(const QString& name) {
+  // A pipe or a device would never end.
+  if (!QFileInfo(name).isFile()) return {{}, storage::Fault::kNotPlain};
+  QFile file(name);
+  if (!file.open(QIODevice::ReadOnly)) {
+    const bool is_forbidden =
+        file.error() == QFileDevice::PermissionsError || !QFileInfo(name).isReadable();
+    return {{}, is_forbidden ? storage::Fault::kNotPermitted : storage::Fault::kBroken};
+  }
+  const QByteArray bytes = file.read(static_cast<qint64>(forms::kLargestPicture) + 1);
+  if (file.error() != QFileDevice::NoError) return {{}, storage::Fault::kBroken};
+  if (bytes.size() > static_cast<qsizetype>(forms::kLargestPicture)) {
+    return {{}, storage::Fault::kTooLarge};
+  }
+  return {bytes.toStdString(), storage::Fault::kNone};
+}
+
 }  // namespace
 
 forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
@@ -163,6 +184,16 @@ std::optional<forms::FontParts> MessageDialogs::ChooseFont(const forms::FontPart
   FontDialog dialog(start, question.asker());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.changes();
+}
+
+std::optional<forms::ChosenPicture> MessageDialogs::ChoosePicture() {
+  const ModalQuestion question;
+  const QString name = QFileDialog::getOpenFileName(
+      question.asker(), QStringLiteral("Insert Picture"),
+      QStandardPaths::writableLocation(QStandardPaths::PicturesLocation),
+      QStringLiteral("Pictures (*.png *.jpg *.jpeg *.PNG *.JPG *.JPEG)"));
+  if (name.isEmpty()) return std::nullopt;
+  return PictureFileOf(name);
 }
 
 }  // namespace tarnwell::desktop

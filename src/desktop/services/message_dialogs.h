@@ -13,6 +13,7 @@ class MessageDialogs : public forms::Dialogs {
   std::optional<std::string> Input(const forms::InputBox& box) override;
   std::optional<forms::Color> ChooseColor(forms::Color start) override;
   std::optional<forms::FontParts> ChooseFont(const forms::FontParts& start) override;
+  std::optional<forms::ChosenPicture> ChoosePicture() override;
 };
 
 }  // namespace tarnwell::desktop

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPageSetupDialog>
@@ -103,6 +104,14 @@ forms::Margins QtPages::Reach() {
   const QMarginsF edges = QPrinter(info).pageLayout().minimumMargins();
   const auto twips = [](double points) { return static_cast<int>(std::ceil(points * 20)); };
   return {twips(edges.left()), twips(edges.top()), twips(edges.right()), twips(edges.bottom())};
+}
+
+std::vector<std::string> QtPages::FontNames() {
+  std::vector<std::string> names;
+  for (const QString& family : QFontDatabase::families()) {
+    if (!QFontDatabase::isPrivateFamily(family)) names.push_back(ToCore(family));
+  }
+  return names;
 }
 
 std::optional<forms::PageSetup> QtPages::ChooseSetup(const forms::PageSetup& start) {

@@ -12,6 +12,7 @@ class QtPages : public forms::Pages {
   explicit QtPages(const PictureStore& pictures) : pictures_(pictures) {}
 
   forms::TextMetrics& metrics() override { return metrics_; }
+  std::vector<std::string> FontNames() override;
   forms::PrintResult Print(const forms::Document& document) override;
   // As a picture and as text.
   void CopyPage(const forms::Document& document, int page) override;

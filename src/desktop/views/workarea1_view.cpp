@@ -1,3 +1,4 @@
+#include "desktop/views/format_bar_view.h"
 #include "desktop/views/grid_background_view.h"
 #include "desktop/views/main_screen.h"
 #include "desktop/views/print_view.h"
@@ -61,6 +62,8 @@ QWidget* Document(workarea::DocumentView& view, workarea::WorksheetsPane& worksh
                Widget(worksheets.terms)}),
           Inline(Widget(view.actions, Views(view.views))),
           Inline(Widget(worksheets.references.frame, Views(worksheets.references.views))),
+          FormatBarView(view.format),
+          FindBarView(view.find),
           Grow(Widget(view.text)),
           Flow({Primary(Widget(view.save)), WithIcon("next-mark", Widget(view.tools.find_mark)),
                 Widget(view.insert_template), Widget(view.tools.font), Alignment(view.tools),

@@ -12,6 +12,7 @@
 #include "forms/grid.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
+#include "forms/menu.h"
 #include "forms/page_preview.h"
 #include "forms/panel.h"
 #include "forms/progress_bar.h"
@@ -60,6 +61,10 @@ QWidget* Listed(QWidget* button);
 QWidget* WithIcon(const char* icon, QWidget* button);
 // Likewise for a command without a caption.
 QWidget* IconOnly(const char* icon, QWidget* button);
+// Likewise for one that stays down while it is selected.
+QWidget* Toggle(const char* icon, QWidget* button);
+// A command below which a menu drops down.
+QWidget* WithMenu(QWidget* button, forms::MenuItem& menu);
 // A label that breaks its lines at the width it is given.
 QWidget* Wrapped(QWidget* label);
 

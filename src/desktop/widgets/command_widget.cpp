@@ -6,6 +6,7 @@
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/menus.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -31,6 +32,7 @@ QWidget* Widget(forms::Command& command) {
     button->setText(FromCore(command.caption()));
     NameForScreenReader(button, command, command.caption());
     SetMark(button, "selected", command.selected());
+    if (button->isCheckable()) button->setChecked(command.selected());
     button->setCursor(command.no_drop() ? Qt::ForbiddenCursor : Qt::ArrowCursor);
   });
   QObject::connect(button, &QPushButton::clicked, binding,
@@ -59,6 +61,20 @@ QWidget* WithIcon(const char* icon, QWidget* button) {
 QWidget* IconOnly(const char* icon, QWidget* button) {
   SetMark(button, "compact", true);
   return WithIcon(icon, button);
+}
+
+QWidget* WithMenu(QWidget* button, forms::MenuItem& menu) {
+  QMenu* const shown = MakeMenu(menu, button);
+  QObject::connect(qobject_cast<QPushButton*>(button), &QPushButton::clicked, shown,
+                   [=] { shown->popup(button->mapToGlobal(button->rect().bottomLeft())); });
+  return button;
+}
+
+QWidget* Toggle(const char* icon, QWidget* button) {
+  auto* push_button = qobject_cast<QPushButton*>(button);
+  push_button->setCheckable(true);
+  push_button->setChecked(button->property("selected").toBool());
+  return IconOnly(icon, button);
 }
 
 }  // namespace tarnwell::desktop

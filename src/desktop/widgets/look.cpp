@@ -26,6 +26,7 @@ QPushButton:focus { border: 2px solid #1F5FBF; padding: 4px 12px; }
 QPushButton:disabled { background: #F1F2F4; color: #5F6974; border-color: #D3D8DD; }
 QPushButton[compact="true"] { padding: 3px 6px; }
 QPushButton[compact="true"]:focus { padding: 2px 5px; }
+QPushButton[compact="true"][selected="true"] { background: #CFE0F7; border-color: #1F5FBF; }
 QPushButton[listed="true"] { text-align: left; padding: 3px 8px; min-height: 1.2em; }
 QPushButton[listed="true"]:focus { padding: 2px 7px; }
 QPushButton[primary="true"] { background: #1F5FBF; color: #FFFFFF; border-color: #1F5FBF; }
@@ -44,6 +45,10 @@ QLineEdit, QComboBox {
   selection-color: #FFFFFF;
 }
 QLineEdit:focus, QComboBox:focus { border: 2px solid #1F5FBF; padding: 2px 5px; }
+QPushButton[tool="true"] { padding: 2px 4px; min-height: 0; }
+QPushButton[tool="true"]:focus { padding: 1px 3px; }
+QLineEdit[tool="true"], QComboBox[tool="true"] { padding: 1px 4px; min-height: 1.1em; }
+QLineEdit[tool="true"]:focus, QComboBox[tool="true"]:focus { padding: 0px 3px; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
 QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
 QComboBox:disabled { color: #5F6974; }

@@ -23,17 +23,15 @@ void Bind(QAction* action, forms::MenuItem& item) {
   show();
 }
 
-void Fill(QMenu* menu, forms::MenuItem& item);
-
 void AddItem(QMenu* menu, forms::MenuItem& item) {
   if (item.separator()) {
     menu->addSeparator();
   } else if (item.submenu()) {
-    auto* submenu = new QMenu(FromCore(item.caption()), menu);
-    Fill(submenu, item);
-    menu->addMenu(submenu);
+    menu->addMenu(MakeMenu(item, menu));
   } else {
-    QAction* action = menu->addAction(FromCore(item.caption()));
+    // The page takes the key, after the widget that has the focus; the menu only names it.
+    const QString key = item.key().empty() ? QString() : QLatin1Char('\t') + FromCore(item.key());
+    QAction* action = menu->addAction(FromCore(item.caption()) + key);
     action->setObjectName(FromCore(item.name()));
     Bind(action, item);
   }
@@ -49,10 +47,14 @@ void Fill(QMenu* menu, forms::MenuItem& item) {
 
 }  // namespace
 
-std::unique_ptr<QMenu> MakeMenu(forms::MenuItem& item) {
-  auto menu = std::make_unique<QMenu>(FromCore(item.caption()));
-  Fill(menu.get(), item);
+QMenu* MakeMenu(forms::MenuItem& item, QWidget* owner) {
+  auto* menu = new QMenu(FromCore(item.caption()), owner);
+  Fill(menu, item);
   return menu;
+}
+
+std::unique_ptr<QMenu> MakeMenu(forms::MenuItem& item) {
+  return std::unique_ptr<QMenu>(MakeMenu(item, nullptr));
 }
 
 }  // namespace tarnwell::desktop

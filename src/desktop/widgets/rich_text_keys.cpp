@@ -14,8 +14,12 @@
 #include <algorithm>
 #include <limits>
 
+#include "desktop/widgets/menus.h"
 #include "desktop/widgets/rich_text_mime.h"
 #include "desktop/widgets/rich_text_view.h"
+#include "desktop/widgets/text.h"
+#include "forms/form.h"
+#include "richtext/selection.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -67,6 +71,9 @@ bool Matches(const QKeyEvent& event, QKeySequence::StandardKey key) {
   return const_cast<QKeyEvent&>(event).matches(key);
 }
 
+// Both keys, whichever of them this system has.
+bool IsRedo(const std::string& key) { return key == "Ctrl+Y" || key == "Ctrl+Shift+Z"; }
+
 // Ctrl and Alt together are how some keyboards reach their third letters.
 bool IsText(const QKeyEvent& event) {
   const QString text = event.text();
@@ -82,6 +89,8 @@ bool IsText(const QKeyEvent& event) {
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   if (!box_is_there_.Connected()) return;
+  // What the screen has a key for is done by its menu, where Qt would move or erase.
+  if (box_.form().menus().FindKey(KeyName(*event))) return event->ignore();
   // Nothing waits for the rest of a long document that doesn't come near it.
   const bool moves = MovesCursor(*event);
   const bool goes_far = event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp;
@@ -120,7 +129,7 @@ void RichTextView::StepOverBreak(const QKeyEvent& event) {
 
 bool RichTextView::PressCommandKey(const QKeyEvent& event) {
   if (Matches(event, QKeySequence::Undo)) return box_.Undo(), true;
-  if (Matches(event, QKeySequence::Redo)) return box_.Redo(), true;
+  if (Matches(event, QKeySequence::Redo) || IsRedo(KeyName(event))) return box_.Redo(), true;
   if (Matches(event, QKeySequence::Copy)) return CopySelection(), true;
   if (Matches(event, QKeySequence::Cut)) return CutSelection(), true;
   if (Matches(event, QKeySequence::Paste)) return paste(), true;
@@ -174,44 +183,9 @@ bool RichTextView::PressTab(const QKeyEvent& event) {
   if (box_.locked() || (event.modifiers() & Qt::ControlModifier)) {
     return QAbstractScrollArea::focusNextPrevChild(forward), true;
   }
-  if (textCursor().currentTable() != nullptr) return MoveToCell(forward), true;
+  if (textCursor().currentTable() != nullptr) return box_.TabToCell(forward), true;
   if (forward) return box_.Type("\t"), true;
   return QAbstractScrollArea::focusNextPrevChild(false), true;
-}
-
-void RichTextView::MoveToCell(bool forward) {
-  QTextCursor cursor = textCursor();
-  const QTextTable* const table = cursor.currentTable();
-  const QTextTableCell cell = table->cellAt(cursor);
-  int row = cell.row();
-  int column = cell.column();
-  // A place under a merged cell belongs to that.
-  do {
-    column += forward ? 1 : -1;
-    if (column == table->columns()) {
-      ++row;
-      column = 0;
-    } else if (column < 0) {
-      --row;
-      column = table->columns() - 1;
-    }
-  } while (row >= 0 && row < table->rows() &&
-           (table->cellAt(row, column).row() != row || table->cellAt(row, column).column() != column));
-  if (row < 0) {
-    const QTextBlock before = document()->findBlock(table->firstPosition() - 1);
-    // Between two parts of one table.
-    if (!renderer_.IsFiller(before) || !before.previous().isValid()) return;
-    cursor.setPosition(BehindFiller(before));
-    return setTextCursor(cursor);
-  }
-  if (row == table->rows()) {
-    cursor.setPosition(table->lastPosition() + 1);
-    return setTextCursor(cursor);
-  }
-  const QTextTableCell next = table->cellAt(row, column);
-  cursor.setPosition(next.firstPosition());
-  cursor.setPosition(next.lastPosition(), QTextCursor::KeepAnchor);
-  setTextCursor(cursor);
 }
 
 void RichTextView::SelectToEnd(richtext::Position from) {
@@ -314,8 +288,17 @@ void RichTextView::dropEvent(QDropEvent* event) {
   event->accept();
 }
 
+// What the menu does is meant for what was clicked on, unless that is selected.
+void RichTextView::MoveUnderPointer(QPoint place) {
+  const richtext::Position to = PositionOf(cursorForPosition(place).position());
+  if (!richtext::SelectedBy(box_.document(), box_.selection()).Holds(to)) {
+    box_.MoveSelection({to, to});
+  }
+}
+
 void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
   if (!box_is_there_.Connected()) return;
+  MoveUnderPointer(event->pos());
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [this, menu](const char* caption, QKeySequence::StandardKey key, bool enabled,
@@ -336,6 +319,11 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
   add("&Paste", QKeySequence::Paste, canPaste(), [this] { paste(); });
   menu->addSeparator();
   add("Select &All", QKeySequence::SelectAll, !document()->isEmpty(), [this] { SelectToEnd({}); });
+  forms::MenuItem* const more = box_.popup_menu();
+  if (more != nullptr && more->AnyReachable()) {
+    menu->addSeparator();
+    menu->addMenu(MakeMenu(*more, menu));
+  }
   menu->popup(event->globalPos());
   event->accept();
 }

@@ -90,7 +90,7 @@ class RichTextView : public QTextEdit {
   void EraseTo(QTextCursor::MoveOperation operation);
   void Backspace();
   void TypeText(const QString& text);
-  void MoveToCell(bool forward);
+  void MoveUnderPointer(QPoint place);
   void SelectToEnd(richtext::Position from);
   void CopySelection();
   void CutSelection();

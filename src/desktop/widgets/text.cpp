@@ -1,5 +1,8 @@
 #include "desktop/widgets/text.h"
 
+#include <QKeyEvent>
+#include <QKeySequence>
+
 #include "text/code_page_1252.h"
 
 namespace tarnwell::desktop {
@@ -17,6 +20,13 @@ QString Spoken(std::string_view caption) {
     spoken += caption[i];
   }
   return FromCore(spoken).trimmed();
+}
+
+std::string KeyName(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
+  return QKeySequence(static_cast<int>(modifiers) | event.key())
+      .toString(QKeySequence::PortableText)
+      .toStdString();
 }
 
 }  // namespace tarnwell::desktop

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class QKeyEvent;
+
 namespace tarnwell::desktop {
 
 QString FromCore(std::string_view text);
@@ -15,5 +17,8 @@ std::string ToCore(const QString& text);
 
 // A caption as it is spoken: without the marks of its mnemonic, "&&" as one ampersand.
 QString Spoken(std::string_view caption);
+
+// The name of a key with those held down beside it, as menus have it: "Ctrl+Shift+Z".
+std::string KeyName(const QKeyEvent& event);
 
 }  // namespace tarnwell::desktop
