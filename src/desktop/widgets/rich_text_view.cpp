@@ -161,6 +161,7 @@ void RichTextView::ShowAll() {
   PlaceSheet();
   moveCursor(QTextCursor::Start);
   if (!renderer_.is_done()) next_part_.start();
+  described_ = -1;
   DescribeKept();
 }
 
@@ -262,6 +263,8 @@ int RichTextView::RoomForSheet() const {
 double RichTextView::FittingZoom() const {
   const double sheet = RichTextFormats(*viewport(), 1, richtext::RichDocument()).Pixels(SheetWidth());
   const double room = RoomForSheet() - kTableEdge;
+  // A page is seen in its whole width.
+  if (shows_pages()) return std::clamp(room / sheet, kLeastZoom, 1.0);
   const double zoom = std::floor(room / sheet * kFittingZooms) / kFittingZooms;
   return std::clamp(zoom, kLeastFittingZoom, 1.0);
 }
