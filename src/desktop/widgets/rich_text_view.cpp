@@ -152,9 +152,10 @@ void RichTextView::ShowAll() {
   if (!is_zoomed_) zoom_ = FittingZoom();
   const RichTextFormats formats = Formats();
   const richtext::Page& page = box_.document().page;
-  furniture_.Show(box_.document(), formats,
-                  formats.Pixels(std::max(page.width - page.left_margin - page.right_margin,
-                                          2 * kSheetMargin)));
+  furniture_.Show(
+      box_.document(), formats,
+      kTableEdge + formats.Pixels(std::max(page.width - page.left_margin - page.right_margin,
+                                           2 * kSheetMargin)));
   kept_.SetSource(furniture_.source());
   renderer_.Start(box_.document(), formats);
   renderer_.RenderMore(box_.document(), Formats(), kFirstWork);
