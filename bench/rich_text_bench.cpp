@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kPages = 300;
 constexpr int kParagraphsPerPage = 10;
-constexpr int kKeys = 300;          // at each place
+constexpr int kKeys = 300;  // at each place
 constexpr int kOpenings = 9;
 constexpr double kLongestKey = 16;  // milliseconds, a frame of the screen
 constexpr double kLongestOpening = 40;
@@ -165,7 +165,7 @@ int Run(const std::string& parent) {
   Check(read == 6 * bytes.size(), "read the document");
   const richtext::StoredForm stored = richtext::StoredFormOf(bytes, editor.document());
   bool is_quick = true;
-  for (const auto& measure : 
+  for (const auto& measure :
        {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable, MeasureBold}) {
     is_quick = measure(editor, bytes) && is_quick;
   }
