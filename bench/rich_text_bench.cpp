@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kPages = 300;
 constexpr int kParagraphsPerPage = 10;
-constexpr int kKeys = 300;          // at each place
+constexpr int kKeys = 300;  // at each place
 constexpr int kOpenings = 9;
 constexpr double kLongestKey = 16;  // milliseconds, a frame of the screen
 constexpr double kLongestOpening = 40;

@@ -47,7 +47,7 @@ void FindBar::Open() {
   if (!panel.enabled()) return;
   const std::string selected = text_.SelectedText();
   const bool is_a_line = selected.find('\n') == std::string::npos;
-  if (!selected.empty() && is_a_line) find.SetText(text::FromUtf8(selected));
+  if (!selected.empty() && is_a_line) find.SetText(text::FromUtf8(text::Utf8(selected)));
   panel.SetVisible(true);
   find.Focus();
   find.SelectAll();
@@ -60,7 +60,7 @@ void FindBar::Close() {
 }
 
 richtext::Search FindBar::Wanted() const {
-  return {text::ToUtf8(find.text()), whole_words.checked(), match_capitals.checked()};
+  return {text::ToUtf8(find.text()).bytes(), whole_words.checked(), match_capitals.checked()};
 }
 
 void FindBar::Next() {
@@ -86,7 +86,7 @@ void FindBar::Replace() {
   if (find.text().empty()) return;
   const richtext::Range selected = text_.selection();
   if (richtext::FindNext(text_.document(), Wanted(), selected.from) == selected) {
-    const std::string words = text::ToUtf8(replace.text());
+    const std::string words = text::ToUtf8(replace.text()).bytes();
     words.empty() ? text_.Erase(selected) : text_.Type(words);
   }
   Next();
@@ -94,7 +94,7 @@ void FindBar::Replace() {
 
 void FindBar::ReplaceAll() {
   if (find.text().empty()) return;
-  const int count = text_.ReplaceAll(Wanted(), text::ToUtf8(replace.text()));
+  const int count = text_.ReplaceAll(Wanted(), text::ToUtf8(replace.text()).bytes());
   Note(count == 0   ? "\"" + find.text() + "\" was not found."
        : count == 1 ? "1 place was replaced."
                     : std::to_string(count) + " places were replaced.");

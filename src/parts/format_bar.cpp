@@ -234,7 +234,7 @@ void FormatBar::InsertPicture() {
 void FormatBar::InsertLink() {
   const auto address = context_.dialogs.Input(
       {"Link", "Address of a web page (https://...) or of mail (mailto:...):"});
-  if (!address || text_.Link(text::ToUtf8(text::Trim(*address)))) return;
+  if (!address || text_.Link(text::ToUtf8(text::Trim(*address)).bytes())) return;
   forms::ShowMessage(context_, {"Link", "Nothing was linked. An address begins with http://, "
                                         "https:// or mailto: and has no blank in it; what is "
                                         "linked stands in one paragraph."});

@@ -27,9 +27,10 @@ int NearestEdge(const std::vector<const Table*>& tables, int from, int to) {
         if (!StandsAt(row.cells[i], from)) continue;
         has_edge = true;
         const int left = i == 0 ? row.left_edge : row.cells[i - 1].right_edge;
-        least = std::max(least, left + kNarrowestColumn);
+        // A column that is narrower already gets no wider by itself.
+        least = std::max(least, std::min(left + kNarrowestColumn, from));
         if (i + 1 < row.cells.size()) {
-          most = std::min(most, row.cells[i + 1].right_edge - kNarrowestColumn);
+          most = std::min(most, std::max(row.cells[i + 1].right_edge - kNarrowestColumn, from));
         }
       }
     }

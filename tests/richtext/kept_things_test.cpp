@@ -24,7 +24,7 @@ TEST(KeptThings, AreWhatAPersonWouldSee) {
       {"{\\field{\\*\\fldinst PAGE}{\\fldrslt}}", {KeptKind::kPageNumber}, ""},
       {"{\\*\\annotation\\pard So?}", {KeptKind::kComment}, "So?"},
       {"hidden", {KeptKind::kHiddenText}, "hidden"},
-      {"{\\shp{\\*\\shpinst{\\shptxt", {KeptKind::kTextBox}, ""},
+      {"{\\shp{\\*\\shpinst{\\shptxt", {KeptKind::kDrawing}, ""},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.rtf);

@@ -39,14 +39,20 @@ std::optional<RichTextView::ColumnEdge> RichTextView::EdgeAt(QPoint place) const
   }
   const richtext::TableGrid grid = richtext::GridOf(TablesAt(box_.document(), block).rows);
   const QTextTableCell cell = table->cellAt(cursor);
-  const RichTextFormats formats = Formats();
+  const auto left_of = [this](const QTextTableCell& of) {
+    const QTextBlock first = of.firstCursorPosition().block();
+    return document()->documentLayout()->blockBoundingRect(first).left() -
+           of.format().toTableCellFormat().leftPadding();
+  };
   int edge = grid.left_edge;
-  for (int column = 0; column < static_cast<int>(grid.widths.size()); ++column) {
-    edge += grid.widths[static_cast<std::size_t>(column)];
-    const bool is_of_cell =
-        column + 1 == cell.column() || column + 1 == cell.column() + cell.columnSpan();
-    const double border = frame.left() + formats.Pixels(edge);
-    if (is_of_cell && std::abs(x - border) <= kReach) return ColumnEdge{paragraph, edge, border};
+  for (int column = 1; column <= static_cast<int>(grid.widths.size()); ++column) {
+    edge += grid.widths[static_cast<std::size_t>(column) - 1];
+    const bool is_left = column == cell.column();
+    if (!is_left && column != cell.column() + cell.columnSpan()) continue;
+    const double border = column == table->columns() ? frame.right()
+                          : is_left ? left_of(cell)
+                                    : left_of(table->cellAt(cell.row(), column));
+    if (std::abs(x - border) <= kReach) return ColumnEdge{paragraph, edge, border};
   }
   return std::nullopt;
 }

@@ -61,7 +61,7 @@ void RichTextView::paintEvent(QPaintEvent* event) {
 void RichTextView::PaintPageBreaks(QPainter& painter, const QTextBlock& block, QPointF origin) {
   painter.setPen(QPen(kBreakColor, 1, Qt::DashLine));
   const double margin = document()->rootFrame()->frameFormat().leftMargin() / 2;
-  const double right = document()->size().width() - margin;
+  const double right = document()->pageSize().width() - margin;
   const auto draw = [&](double y) { painter.drawLine(QPointF(margin, y), QPointF(right, y)); };
   const QTextLayout& layout = *block.layout();
   const QRectF lines = layout.boundingRect().translated(origin);

@@ -9,6 +9,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/rich_text_view.h"
@@ -81,7 +82,11 @@ void RichTextView::PlaceSheet() {
     format.setBottomMargin(margins.bottom());
     document()->rootFrame()->setFrameFormat(format);
   }
-  const QSizeF page(viewport()->width(), shows_pages() ? PageStep() : -1);
+  // Pages keep their width where the view is too narrow.
+  const LineWrapMode wrap = shows_pages() ? FixedPixelWidth : WidgetWidth;
+  if (lineWrapMode() != wrap) setLineWrapMode(wrap);
+  if (shows_pages() && lineWrapColumnOrWidth() != sheet) setLineWrapColumnOrWidth(sheet);
+  const QSizeF page(shows_pages() ? sheet : viewport()->width(), shows_pages() ? PageStep() : -1);
   if (document()->pageSize() != page) document()->setPageSize(page);
   MakeRoomBelow();
 }
@@ -92,7 +97,11 @@ double RichTextView::FurnitureHeight() {
   if (RichTextPart* const notes = furniture_.Notes()) {
     height += 2 * kNotesGap + notes->size().height();
   }
-  if (shows_pages()) return height > 0 ? height + kPageGap : 0;
+  if (shows_pages()) {
+    // The last page is a whole one.
+    const double end = EndOfText();
+    return std::max(height, std::ceil(end / PageStep()) * PageStep() - end);
+  }
   if (RichTextPart* const footer = furniture_.Footer(0, 0, 0)) {
     height += 2 * kNotesGap + footer->size().height();
   }
@@ -117,7 +126,7 @@ double RichTextView::EndOfText() const {
 
 void RichTextView::PaintSheets(QPainter& painter, double top, double bottom) {
   const double step = PageStep();
-  const double width = viewport()->width();
+  const double width = document()->pageSize().width();
   const QColor desk = palette().color(QPalette::Window);
   for (double y = std::floor(top / step) * step; y <= bottom; y += step) {
     painter.fillRect(QRectF(0, y, width, kPageGap), desk);
@@ -135,7 +144,7 @@ void RichTextView::PaintFurniture(QPainter& painter, double top, double bottom) 
   }
   const QMarginsF margins = SheetMargins();
   const double left = margins.left();
-  const double right = viewport()->width() - margins.right();
+  const double right = document()->pageSize().width() - margins.right();
   const auto draw = [&](double y) {
     painter.setPen(kRuleColor);
     painter.drawLine(QLineF(left, y, right, y));
@@ -202,6 +211,7 @@ bool RichTextView::viewportEvent(QEvent* event) {
 
 // For those who don't see the signs.
 void RichTextView::DescribeKept() {
+  if (std::exchange(described_, renderer_.kept().size()) == renderer_.kept().size()) return;
   QStringList tips;
   for (const richtext::KeptThing& thing : renderer_.kept()) {
     if (tips.size() == kMostDescribed) break;

@@ -152,15 +152,17 @@ void RichTextView::ShowAll() {
   if (!is_zoomed_) zoom_ = FittingZoom();
   const RichTextFormats formats = Formats();
   const richtext::Page& page = box_.document().page;
-  furniture_.Show(box_.document(), formats,
-                  formats.Pixels(std::max(page.width - page.left_margin - page.right_margin,
-                                          2 * kSheetMargin)));
+  furniture_.Show(
+      box_.document(), formats,
+      kTableEdge + formats.Pixels(std::max(page.width - page.left_margin - page.right_margin,
+                                           2 * kSheetMargin)));
   kept_.SetSource(furniture_.source());
   renderer_.Start(box_.document(), formats);
   renderer_.RenderMore(box_.document(), Formats(), kFirstWork);
   PlaceSheet();
   moveCursor(QTextCursor::Start);
   if (!renderer_.is_done()) next_part_.start();
+  described_ = -1;
   DescribeKept();
 }
 
@@ -262,6 +264,8 @@ int RichTextView::RoomForSheet() const {
 double RichTextView::FittingZoom() const {
   const double sheet = RichTextFormats(*viewport(), 1, richtext::RichDocument()).Pixels(SheetWidth());
   const double room = RoomForSheet() - kTableEdge;
+  // A page is seen in its whole width.
+  if (shows_pages()) return std::clamp(room / sheet, kLeastZoom, 1.0);
   const double zoom = std::floor(room / sheet * kFittingZooms) / kFittingZooms;
   return std::clamp(zoom, kLeastFittingZoom, 1.0);
 }
