@@ -47,7 +47,8 @@ class WritingBars : public ::testing::Test {
 
 TEST_F(WritingBars, ShowTheTextAtTheCursorAtOnce) {
   text.SetDocument(richtext::ReadRichText(
-      "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}}{\\colortbl;\\red255\\green255\\blue0;}\\f0\\fs28"
+      "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 "
+      "Times;}}{\\colortbl;\\red255\\green255\\blue0;}\\f0\\fs28"
       "\\pard\\qc {\\b Bold} plain\\par\\pard\\qj{\\f1\\i\\ul\\highlight1 All}\\par"
       "\\pard{\\pntext 1.\\tab}Item\\par}"));
   EXPECT_EQ(Down(), "Bold Center ");
@@ -67,9 +68,8 @@ TEST_F(WritingBars, ShowTheTextAtTheCursorAtOnce) {
 
 TEST_F(WritingBars, EachButtonIsOneStepAndATextThatIsOnlyReadHasNone) {
   const std::pair<FormatCommand, const char*> cases[] = {
-      {kBold, "*ab*|c"},        {kCenter, "ab|c"},  {kBullets, "\u2022>ab|c"},
-      {kNumbers, "1.>ab|c"},    {kIndent, "ab|c"},  {kHighlight, "ab|c"},
-      {kUnderline, "ab|c"},     {kJustify, "ab|c"},
+      {kBold, "*ab*|c"}, {kCenter, "ab|c"},    {kBullets, "\u2022>ab|c"}, {kNumbers, "1.>ab|c"},
+      {kIndent, "ab|c"}, {kHighlight, "ab|c"}, {kUnderline, "ab|c"},      {kJustify, "ab|c"},
   };
   for (const auto& [command, after] : cases) {
     Show("ab|c", {{0, 0}, {0, 2}});
