@@ -50,8 +50,7 @@ bool RichTextBox::Link(std::string_view address) {
   const richtext::Paragraph& paragraph = richtext::ParagraphAt(document_, range.from.paragraph);
   const richtext::Typing typing = richtext::TypingAt(paragraph, range.from.offset);
   Tell(Do(StepKind::kOther, [&](Editor& editor) {
-    const Position end =
-        range.empty() ? editor.InsertText(range.from, address, typing) : range.to;
+    const Position end = range.empty() ? editor.InsertText(range.from, address, typing) : range.to;
     editor.Link({range.from, end}, address);
     return Range{end, end};
   }));

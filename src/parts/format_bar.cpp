@@ -66,7 +66,8 @@ std::optional<double> SizeOf(const std::string& text) {
   double points = 0;
   const char* const last = text.data() + text.size();
   const auto end = std::from_chars(text.data(), last, points);
-  if (end.ec != std::errc() || end.ptr != last || points < kLeastSize || points > kLargestSize) return std::nullopt;
+  const bool is_number = end.ec == std::errc() && end.ptr == last;
+  if (!is_number || points < kLeastSize || points > kLargestSize) return std::nullopt;
   return points;
 }
 
@@ -106,8 +107,8 @@ FormatBar::FormatBar(forms::Container& parent, forms::Context& context, forms::R
 void FormatBar::ConnectFont() {
   font.SetToolTip("Font");
   size.SetToolTip("Font size in points");
-  size.SetItems({"8", "9", "10", "10.5", "11", "12", "14", "16", "18", "20", "24", "28", "36",
-                 "48", "72"});
+  size.SetItems(
+      {"8", "9", "10", "10.5", "11", "12", "14", "16", "18", "20", "24", "28", "36", "48", "72"});
   font.on_focus = [this] { OfferFonts(); };
   font.on_open = [this] { return OfferFonts(), true; };
   font.on_take = [this] {
@@ -227,17 +228,19 @@ void FormatBar::InsertPicture() {
                                            page.width - page.left_margin - page.right_margin,
                                            page.height - page.top_margin - page.bottom_margin);
   if (picture) return text_.InsertPicture(std::move(*picture));
-  forms::ShowMessage(context_, {"Insert Picture", "Only pictures of the kinds PNG and JPEG can "
-                                                  "stand in a document."});
+  forms::ShowMessage(context_, {"Insert Picture",
+                                "Only pictures of the kinds PNG and JPEG can "
+                                "stand in a document."});
 }
 
 void FormatBar::InsertLink() {
   const auto address = context_.dialogs.Input(
       {"Link", "Address of a web page (https://...) or of mail (mailto:...):"});
   if (!address || text_.Link(text::ToUtf8(text::Trim(*address)).bytes())) return;
-  forms::ShowMessage(context_, {"Link", "Nothing was linked. An address begins with http://, "
-                                        "https:// or mailto: and has no blank in it; what is "
-                                        "linked stands in one paragraph."});
+  forms::ShowMessage(context_, {"Link",
+                                "Nothing was linked. An address begins with http://, "
+                                "https:// or mailto: and has no blank in it; what is "
+                                "linked stands in one paragraph."});
 }
 
 void FormatBar::ToggleList(ListKind kind) {

@@ -86,10 +86,10 @@ void TableMenu::Insert() {
     if (const auto size = SizeOf(*typed)) {
       text_.InsertTable(size->first, size->second);
     } else {
-      forms::ShowMessage(context_,
-                         {kTitle, "A table has 1 to " + std::to_string(richtext::kMostTableRows) +
-                                      " rows and 1 to " +
-                                      std::to_string(richtext::kMostTableColumns) + " columns."});
+      forms::ShowMessage(
+          context_, {kTitle, "A table has 1 to " + std::to_string(richtext::kMostTableRows) +
+                                 " rows and 1 to " + std::to_string(richtext::kMostTableColumns) +
+                                 " columns."});
     }
   }
   text_.Focus();

@@ -17,8 +17,8 @@
 namespace tarnwell::richtext {
 
 // Ranges and positions are Clamped() ones of the document; selection.h says what a range takes in.
-// What isn't shown stays, unless whole paragraphs go with it. No edit but EditTable changes the grid
-// of a table, and none makes two tables meet.
+// What isn't shown stays, unless whole paragraphs go with it. No edit but EditTable changes the
+// grid of a table, and none makes two tables meet.
 class Editor {
  public:
   explicit Editor(RichDocument& document)
@@ -91,8 +91,8 @@ class Editor {
   Position InsertBlocks(const Place& place, Position at, std::vector<Block> inserted);
   void TakeFields(RichDocument& fragment);
   void ReformatIn(int number, const Range& range, const std::function<void(Paragraph&)>& change);
-  // Of the paragraphs that the range touches, as many at one go as stand behind each other; `change`
-  // is told what stands above them.
+  // Of the paragraphs that the range touches, as many at one go as stand behind each other;
+  // `change` is told what stands above them.
   using Rewriting = std::function<void(const std::vector<Block>& above, std::vector<Block>&)>;
   void Rewrite(const Range& range, const Rewriting& change);
   // How many paragraphs stand behind each other from there on, at most `most`.

@@ -42,9 +42,9 @@ std::string AddressOf(std::string_view instruction_rtf) {
 
 bool IsLinkAddress(std::string_view address) {
   const bool is_bare = address.ends_with("://") || address.ends_with(':');
-  return IsSafe(address) && !is_bare &&
-         std::ranges::all_of(address, [](char c) {
-           return c > ' ' && c < 0x7F && std::string_view("\"\\{}").find(c) == std::string_view::npos;
+  return IsSafe(address) && !is_bare && std::ranges::all_of(address, [](char c) {
+           return c > ' ' && c < 0x7F &&
+                  std::string_view("\"\\{}").find(c) == std::string_view::npos;
          });
 }
 

@@ -31,8 +31,8 @@ Pixels PixelsOfJpeg(std::string_view bytes) {
   for (std::size_t at = 2; at + 4 <= bytes.size();) {
     if (bytes[at] != '\xFF') return {};
     const long long marker = NumberAt(bytes, at + 1, 1);
-    const bool is_frame = marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 &&
-                          marker != 0xCC;
+    const bool is_frame =
+        marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
     if (is_frame) return {NumberAt(bytes, at + 7, 2), NumberAt(bytes, at + 5, 2)};
     at += marker == 0xFF ? 1 : 2 + static_cast<std::size_t>(NumberAt(bytes, at + 2, 2));
   }

@@ -7,8 +7,8 @@
 
 namespace tarnwell::richtext {
 
-// A PNG or JPEG file as a picture of its own size, at 96 pixels an inch, or smaller so that it is no
-// wider and no higher than that, in twips. Empty for any other file, and for one beyond
+// A PNG or JPEG file as a picture of its own size, at 96 pixels an inch, or smaller so that it is
+// no wider and no higher than that, in twips. Empty for any other file, and for one beyond
 // kMostPixels.
 std::optional<Picture> PictureFromFile(std::string bytes, int most_width, int most_height);
 

@@ -30,8 +30,7 @@ bool BeginsWithWord(std::string_view text) { return !text.empty() && IsOfWord(te
 class Searcher {
  public:
   explicit Searcher(const Search& search)
-      : search_(search),
-        words_(search.match_capitals ? search.utf8 : Capitals(search.utf8)) {}
+      : search_(search), words_(search.match_capitals ? search.utf8 : Capitals(search.utf8)) {}
 
   bool LooksForNothing() const { return words_.empty(); }
   std::size_t size() const { return words_.size(); }
@@ -105,8 +104,7 @@ std::optional<Range> FindPrevious(const RichDocument& document, const Search& se
   const auto last = static_cast<std::size_t>(before.paragraph);
   for (std::size_t i = std::min(last + 1, paragraphs.size()); i-- > 0;) {
     searcher.Enter(*paragraphs[i]);
-    const std::size_t end =
-        i == last ? static_cast<std::size_t>(before.offset) : searcher.length();
+    const std::size_t end = i == last ? static_cast<std::size_t>(before.offset) : searcher.length();
     if (const std::size_t at = searcher.Previous(end); at != kNone) {
       return RangeAt(i, at, searcher.size());
     }
@@ -121,8 +119,7 @@ std::vector<Range> FindAll(const RichDocument& document, const Search& search) {
   std::size_t number = 0;
   ForEachParagraph(document, [&](const Paragraph& paragraph) {
     searcher.Enter(paragraph);
-    for (std::size_t at = searcher.Next(0); at != kNone;
-         at = searcher.Next(at + searcher.size())) {
+    for (std::size_t at = searcher.Next(0); at != kNone; at = searcher.Next(at + searcher.size())) {
       places.push_back(RangeAt(number, at, searcher.size()));
     }
     ++number;

@@ -90,9 +90,9 @@ Position Editor::InsertTable(Position at, int rows, int columns) {
   const Place place = FindPlace(document_, at.paragraph);
   if (place.in_table) return at;
   Paragraph paragraph = CopyAt(place);
-  Table table = EmptyTable(std::clamp(rows, 1, kMostTableRows),
-                           std::clamp(columns, 1, kMostTableColumns), TextWidth(document_),
-                           paragraph);
+  Table table =
+      EmptyTable(std::clamp(rows, 1, kMostTableRows), std::clamp(columns, 1, kMostTableColumns),
+                 TextWidth(document_), paragraph);
   const bool meets = place.block > 0 && IsTable(document_, place.block - 1);
   const bool is_instead = paragraph.runs.empty() && !meets;
   const Position cell{at.paragraph + (is_instead ? 0 : 1), 0};
@@ -121,13 +121,12 @@ Position Editor::EditTable(const Range& range, TableEdit edit) {
   if (edit == TableEdit::kDeleteTable) {
     table.rows.clear();
   } else {
-    cursor = Reshape(table, {{from.row, from.cell}, {to.row, to.cell}}, edit,
-                     TextWidth(document_));
+    cursor = Reshape(table, {{from.row, from.cell}, {to.row, to.cell}}, edit, TextWidth(document_));
   }
   const Place block{from.block};
   if (table.rows.empty()) {
-    const bool meet = from.block > 0 && IsTable(document_, from.block - 1) &&
-                      IsTable(document_, from.block + 1);
+    const bool meet =
+        from.block > 0 && IsTable(document_, from.block - 1) && IsTable(document_, from.block + 1);
     Replace(block, 1, meet ? std::vector<Block>{Paragraph()} : std::vector<Block>{});
     return {FirstParagraphOf(document_, from.block), 0};
   }

@@ -81,8 +81,7 @@ class Reshaping {
       if (!goes_on) RemoveKept("clvmrg", cell.other);
       row.cells[i] = std::move(cell);
     }
-    const bool is_head =
-        at < table_.rows.size() && HoldsKept("trhdr", table_.rows[at].other);
+    const bool is_head = at < table_.rows.size() && HoldsKept("trhdr", table_.rows[at].other);
     if (!is_head) RemoveKept("trhdr", row.other);
     for (const char* number : {"irow", "irowband"}) RemoveKept(number, row.other);
     if (at == table_.rows.size()) RemoveKept("lastrow", table_.rows.back().other);

@@ -40,6 +40,11 @@ class RichTextShownTest : public ::testing::Test {
   void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(view_, static_cast<Qt::Key>(key), modifiers);
   }
+  // The rest of a long document is shown a little later.
+  bool IsShownWhole() {
+    return QTest::qWaitFor(
+        [this] { return view_->document()->blockCount() >= box_.paragraph_count(); });
+  }
   QImage Image() { return view_->viewport()->grab().toImage(); }
   // How many points of the picture have exactly this colour.
   static int Count(const QImage& image, QColor color, QRect place) {
@@ -188,12 +193,11 @@ TEST_F(RichTextShownTest, HeadersStandOnEachPageAndPagesHaveTheirOwnSize) {
   std::string body = "{\\header\\pard\\cf1 Head\\par}\\pard first\\par ";
   for (int i = 0; i < 60; ++i) body += "line\\par ";
   Show(body + "\\pagebb last\\par");
-  QTest::qWait(50);
+  ASSERT_TRUE(IsShownWhole());
   const double plain = view_->document()->documentLayout()->documentSize().height();
   const int width = view_->viewport()->width();
   box_.SetShowsPages(true);
-  QTest::qWait(50);
-  EXPECT_GT(view_->document()->pageCount(), 4);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return view_->document()->pageCount() > 4; }));
   EXPECT_GT(view_->document()->documentLayout()->documentSize().height(), plain);
   EXPECT_NE(view_->viewport()->width(), width);
   const double page = view_->document()->pageSize().height();
@@ -247,7 +251,7 @@ TEST_F(RichTextShownTest, AChangedTableIsShownInItsPlace) {
   const std::string row = "\\trowd\\cellx2000\\cellx4000\\pard\\intbl x\\cell y\\cell\\row";
   for (int i = 0; i < 40; ++i) body += "\\pard line\\par" + row + row;
   Show(body + "\\pard last\\par");
-  QTest::qWait(100);
+  ASSERT_TRUE(IsShownWhole());
   const QTextBlock first = view_->document()->begin();
   const int blocks = view_->document()->blockCount();
   const int row_start = 7;

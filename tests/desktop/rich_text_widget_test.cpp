@@ -353,7 +353,8 @@ TEST_F(RichTextWidgetTest, ALongDocumentIsShownInPartsAndWholeForAKey) {
   Key(Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(box_.selection().to, (Position{box_.paragraph_count() - 1, 0}));
   EXPECT_TRUE(view_->textCursor().hasSelection());
-  QTest::qWait(300);
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return view_->document()->blockCount() >= box_.paragraph_count(); }));
   EXPECT_EQ(view_->textCursor().selectionEnd(), view_->document()->characterCount() - 1);
   const QStringList shown = Shown(*view_->document());
   box_.SetDocument(FromSketch(("x" + sketch.substr(5)).c_str()));

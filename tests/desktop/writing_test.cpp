@@ -51,8 +51,8 @@ class Writing : public ::testing::Test {
   std::string shown() { return richtext::Sketch(hub().document.text.document()); }
 
   const testing::TemporaryFolder folder_;
-  Desktop desktop_{{QString::fromStdString(folder_.path()),
-                    QStringLiteral(TARNWELL_SOURCE_DIR "/data")}};
+  Desktop desktop_{
+      {QString::fromStdString(folder_.path()), QStringLiteral(TARNWELL_SOURCE_DIR "/data")}};
 };
 
 TEST_F(Writing, KeysWorkWhereverTheSystemHasAnotherUseForThem) {
@@ -71,8 +71,10 @@ TEST_F(Writing, KeysWorkWhereverTheSystemHasAnotherUseForThem) {
     EXPECT_EQ(shown(), "*one two*");
   }
   const std::pair<Qt::Key, richtext::Alignment> places[] = {
-      {Qt::Key_E, richtext::Alignment::kCenter}, {Qt::Key_R, richtext::Alignment::kRight},
-      {Qt::Key_J, richtext::Alignment::kJustify}, {Qt::Key_L, richtext::Alignment::kLeft}};
+      {Qt::Key_E, richtext::Alignment::kCenter},
+      {Qt::Key_R, richtext::Alignment::kRight},
+      {Qt::Key_J, richtext::Alignment::kJustify},
+      {Qt::Key_L, richtext::Alignment::kLeft}};
   for (const auto& [key, place] : places) {
     Key(key, control);
     EXPECT_EQ(hub().document.text.SelectionAlignment(), place);

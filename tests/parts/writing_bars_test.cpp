@@ -47,7 +47,8 @@ class WritingBars : public ::testing::Test {
 
 TEST_F(WritingBars, ShowTheTextAtTheCursorAtOnce) {
   text.SetDocument(richtext::ReadRichText(
-      "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Times;}}{\\colortbl;\\red255\\green255\\blue0;}\\f0\\fs28"
+      "{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 "
+      "Times;}}{\\colortbl;\\red255\\green255\\blue0;}\\f0\\fs28"
       "\\pard\\qc {\\b Bold} plain\\par\\pard\\qj{\\f1\\i\\ul\\highlight1 All}\\par"
       "\\pard{\\pntext 1.\\tab}Item\\par}"));
   EXPECT_EQ(Down(), "Bold Center ");
@@ -67,9 +68,8 @@ TEST_F(WritingBars, ShowTheTextAtTheCursorAtOnce) {
 
 TEST_F(WritingBars, EachButtonIsOneStepAndATextThatIsOnlyReadHasNone) {
   const std::pair<FormatCommand, const char*> cases[] = {
-      {kBold, "*ab*|c"},        {kCenter, "ab|c"},  {kBullets, "\u2022>ab|c"},
-      {kNumbers, "1.>ab|c"},    {kIndent, "ab|c"},  {kHighlight, "ab|c"},
-      {kUnderline, "ab|c"},     {kJustify, "ab|c"},
+      {kBold, "*ab*|c"}, {kCenter, "ab|c"},    {kBullets, "\u2022>ab|c"}, {kNumbers, "1.>ab|c"},
+      {kIndent, "ab|c"}, {kHighlight, "ab|c"}, {kUnderline, "ab|c"},      {kJustify, "ab|c"},
   };
   for (const auto& [command, after] : cases) {
     Show("ab|c", {{0, 0}, {0, 2}});
@@ -128,7 +128,7 @@ TEST_F(WritingBars, TablesAreMadeAndChangedFromTheirMenu) {
   Show("a|b", {{1, 0}, {1, 0}});
   for (const char* size : {"2 x", "0 x 2", "3 x 99", "two"}) {
     rig.dialogs.ExpectInput("Insert Table", "Rows and columns, such as 3 x 4:", size);
-    rig.dialogs.Expect("Insert Table", "A table has 1 to 500 rows and 1 to 32 columns.");
+    rig.dialogs.ExpectNote("Insert Table", "A table has 1 to 500 rows and 1 to 32 columns.");
     click("mTI");
   }
   EXPECT_EQ(changes, 0);
@@ -160,7 +160,7 @@ TEST_F(WritingBars, ALinkIsOfTheWebOrOfMail) {
   Show("see us", {{0, 4}, {0, 6}});
   for (const char* address : {"javascript:x", "file:///etc", "https://", "http://a b", "us"}) {
     rig.dialogs.ExpectInput("Link", kPrompt, address);
-    rig.dialogs.Expect("Link",
+    rig.dialogs.ExpectNote("Link",
                        "Nothing was linked. An address begins with http://, https:// or mailto: "
                        "and has no blank in it; what is linked stands in one paragraph.");
     bar[kLink].Click();
@@ -182,7 +182,7 @@ TEST_F(WritingBars, ALinkIsOfTheWebOrOfMail) {
 TEST_F(WritingBars, APictureThatCantBeOneIsSaid) {
   Show("a", {{0, 1}, {0, 1}});
   rig.dialogs.ExpectPicture(forms::ChosenPicture{"GIF89a", storage::Fault::kNone});
-  rig.dialogs.Expect("Insert Picture",
+  rig.dialogs.ExpectNote("Insert Picture",
                      "Only pictures of the kinds PNG and JPEG can stand in a document.");
   bar[kPicture].Click();
   rig.dialogs.ExpectPicture(std::nullopt);

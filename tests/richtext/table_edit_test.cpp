@@ -107,8 +107,9 @@ TEST(TableEdits, MergedCellsStayWhole) {
 }
 
 TEST(TableEdits, AHeadRowIsRepeatedOnlyWithWhatStandsAboveIt) {
-  const std::string rtf = "{\\rtf1\\trowd\\trhdr\\clwWidth1000\\cellx1000\\pard\\intbl "
-                          "H\\cell\\row\\trowd\\cellx1000\\pard\\intbl a\\cell\\row\\pard}";
+  const std::string rtf =
+      "{\\rtf1\\trowd\\trhdr\\clwWidth1000\\cellx1000\\pard\\intbl "
+      "H\\cell\\row\\trowd\\cellx1000\\pard\\intbl a\\cell\\row\\pard}";
   const std::pair<TableEdit, std::vector<bool>> cases[] = {{kRowAbove, {true, true, false}},
                                                            {kRowBelow, {true, false, false}}};
   for (const auto& [edit, heads] : cases) {
@@ -128,10 +129,8 @@ TEST(TableEdits, ANewTableStandsWhereTheCursorIs) {
     const char* after;
     Position cursor;
   } cases[] = {
-      {"", {0, 0}, "[,;,]|", {0, 0}},
-      {"a||b", {1, 0}, "a|[,;,]||b", {1, 0}},
-      {"abc", {0, 1}, "a|[,;,]|bc", {1, 0}},
-      {"[x]|", {1, 0}, "[x]||[,;,]|", {2, 0}},
+      {"", {0, 0}, "[,;,]|", {0, 0}},        {"a||b", {1, 0}, "a|[,;,]||b", {1, 0}},
+      {"abc", {0, 1}, "a|[,;,]|bc", {1, 0}}, {"[x]|", {1, 0}, "[x]||[,;,]|", {2, 0}},
       {"[x]", {0, 0}, "[x]", {0, 0}},
   };
   for (const auto& c : cases) {

@@ -22,7 +22,8 @@ std::string NameOf(const QWidget& widget) {
 std::vector<std::string> ChromeFaults(desktop::MainWindow& window, desktop::FormPage& page) {
   std::vector<std::string> faults;
   forms::Form& form = page.form();
-  if (page.window()->windowTitle() != FromCore(form.caption())) {
+  const QString mark = form.unsaved() ? QStringLiteral("* ") : QString();
+  if (page.window()->windowTitle() != mark + FromCore(form.caption())) {
     faults.push_back("the title isn't that of " + form.name());
   }
   if (page.window() != &window) return faults;
