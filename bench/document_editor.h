@@ -8,14 +8,15 @@
 #include <string>
 
 #include "desktop/widgets/rich_text_view.h"
-#include "idle_form.h"
+#include "forms/form.h"
+#include "idle_world.h"
 #include "richtext/rich_text_reader.h"
 
 namespace tarnwell::bench {
 
 class Editor {
  public:
-  explicit Editor(storage::ProgramFolder& folder) : desk_(folder) {
+  explicit Editor(storage::ProgramFolder& folder) : world_(folder), form_(world_.ShowBlank()) {
     view_.resize(800, 700);
     view_.show();
   }
@@ -64,8 +65,9 @@ class Editor {
   }
 
  private:
-  IdleForm desk_;
-  forms::RichTextBox box_{desk_.form(), "RichTextBox1", {}};
+  IdleWorld<> world_;
+  forms::Form& form_;
+  forms::RichTextBox box_{form_, "RichTextBox1", {}};
   desktop::RichTextView view_{box_};
   int looks_in_tables_ = 0;  // so that no look is left out
   forms::Subscription shown_ = box_.OnChanged([this] { view_.Show(); });

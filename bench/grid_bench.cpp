@@ -197,11 +197,7 @@ int Run(const std::string& parent) {
   const BenchFolder disk(parent);
   storage::ProgramFolder folder(storage::RealFileSystem(), disk.path());
   IdleWorld<> world(folder);
-  world.navigator.Register("Blank", [](forms::Context& context) {
-    return std::make_unique<forms::Form>(context, "Blank", "Blank");
-  });
-  world.navigator.Show("Blank");
-  forms::Form& form = *world.navigator.top();
+  forms::Form& form = world.ShowBlank();
   const Texts texts = MakeTexts();
   bool is_good = MeasureMemory(form, texts);
   Sheet sheet(form);

@@ -2,7 +2,10 @@
 
 #pragma once
 
+#include <memory>
+
 #include "forms/context.h"
+#include "forms/form.h"
 #include "forms/navigator.h"
 #include "idle_services.h"
 
@@ -17,6 +20,15 @@ struct IdleWorld {
                 variables,
                 navigator} {
     navigator.SetContext(context);
+  }
+
+  // A form without anything on it, in the window.
+  forms::Form& ShowBlank() {
+    navigator.Register("Blank", [](forms::Context& lent) {
+      return std::make_unique<forms::Form>(lent, "Blank", "Blank");
+    });
+    navigator.Show("Blank");
+    return *navigator.top();
   }
 
   ClockClass clock;
