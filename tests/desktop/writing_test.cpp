@@ -31,7 +31,9 @@ class Writing : public ::testing::Test {
   Writing() {
     desktop_.program().variables().SplashShown = 99;
     desktop_.navigator().Show("WorkArea1");
-    dynamic_cast<forms::Command&>(*hub().Find("SSCommand14(0)")).Click();
+    for (const char* button : {"SSCommand11(2)", "SSCommand14(0)"}) {
+      dynamic_cast<forms::Command&>(*hub().Find(button)).Click();
+    }
     Focus("Rtext1");
   }
   workarea::WorkArea1& hub() {
@@ -130,7 +132,9 @@ TEST(WritingOnPaper, AContractHasItsFootersAndPageNumbers) {
   rig.Start();
   rig.Get<shell::Startfrm>("Startfrm").begin.Click();
   auto& hub = rig.Get<workarea::WorkArea1>("WorkArea1");
-  dynamic_cast<forms::Command&>(*hub.Find("SSCommand14(5)")).Click();
+  for (const char* button : {"SSCommand11(2)", "SSCommand14(5)"}) {
+    dynamic_cast<forms::Command&>(*hub.Find(button)).Click();
+  }
   hub.document.insert_template.Click();
   hub.PressKey("F8");
   hub.document.text.Type("November 23, 2026");
