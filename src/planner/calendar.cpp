@@ -46,6 +46,7 @@ Calendar::Calendar(forms::Context& context)
 }
 
 void Calendar::ConnectControls() {
+  question_.on_change = [this] { SetUnsaved(question_.unsaved()); };
   picker.on_pick = [this] { PickDay(); };
   imports.on_pick = [this] { Import(); };
   numbers.on_pick = [this](int) { Redraw(); };

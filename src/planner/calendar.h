@@ -49,8 +49,6 @@ class Calendar : public forms::Form {
   forms::Command auto_size{page, "SSCommand2", "Auto Size"};
   parts::ColorChoice colors;
 
-  bool unsaved() const { return question_.unsaved(); }
-
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
 

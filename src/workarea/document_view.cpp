@@ -31,6 +31,7 @@ void DocumentView::AddMenu(forms::MenuItem& menus) {
   forms::MenuItem& menu = format.AddMenu(menus);
   find.AddTo(menu);
   menu.AddCommand("mFM", "Find Next In&sertion Point", tools.find_mark).SetKey("F8");
+  menu.LiveWith({&panel});
 }
 
 void DocumentView::ConnectCommands() {

@@ -33,6 +33,7 @@ ToDoPane::ToDoPane(forms::Form& hub, forms::Container& areas, forms::Context& co
 }
 
 void ToDoPane::ConnectCommands() {
+  question_.on_change = [this] { panel.form().SetUnsaved(question_.unsaved()); };
   sheet.on_change = [this] { question_.SetUnsaved(true); };
   sheet.on_item = [this](const std::string& item) { TakeItem(item); };
   add.on_click = [this] { AddName(); };

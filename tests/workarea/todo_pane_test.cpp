@@ -56,7 +56,8 @@ TEST_F(ToDoPaneTest, AnItemWithADateIsSavedAndItsNameKeptAtOnce) {
   pane().sheet.calendar.SelectDay(text::MakeDate(2026, 3, 12));
   EXPECT_FALSE(pane().sheet.calendar.visible());
   EXPECT_EQ(grid().text(1, ToDoSheet::kToDo), "Thu - Mar 12, 26");
-  EXPECT_TRUE(pane().unsaved());
+  EXPECT_TRUE(pane().unsaved() && hub().unsaved());
+  EXPECT_FALSE(hub().menus().Find("mF")->enabled());  // there is no document
   EXPECT_FALSE(rig.folder.Exists("TODOActv.FIL"));
 
   rig.dialogs.ExpectNote("File Save Command", kListSaved);
