@@ -25,6 +25,24 @@ int CountParagraphs(const richtext::TableRow& row) {
   return static_cast<int>(count);
 }
 
+// Calls visit(rows, block, paragraph) for all tables that nothing stands between, with the numbers
+// of their first block and their first paragraph.
+template <typename Visit>
+void ForEachTable(const richtext::RichDocument& document, Visit visit) {
+  int paragraph = 0;
+  for (std::size_t block = 0; block < document.blocks.size();) {
+    if (std::holds_alternative<richtext::Paragraph>(document.blocks[block])) {
+      ++paragraph;
+      ++block;
+      continue;
+    }
+    const AdjacentTables tables = TablesAt(document, block);
+    visit(tables.rows, block, paragraph);
+    for (const richtext::TableRow* const row : tables.rows) paragraph += CountParagraphs(*row);
+    block = tables.end;
+  }
+}
+
 }  // namespace
 
 CellSpans SpansOfPart(const TableRows& rows, const TableGrid& grid, std::size_t first,
@@ -60,24 +78,16 @@ std::size_t EndOfPart(const TableRows& rows, std::size_t first) {
 
 std::vector<int> FillersIn(const richtext::RichDocument& document) {
   std::vector<int> fillers;
-  int paragraph = 0;
-  for (std::size_t block = 0; block < document.blocks.size();) {
-    if (std::holds_alternative<richtext::Paragraph>(document.blocks[block])) {
-      ++paragraph;
-      ++block;
-      continue;
-    }
-    const AdjacentTables tables = TablesAt(document, block);
-    std::size_t next_part = block == 0 ? 0 : EndOfPart(tables.rows, 0);
-    for (std::size_t row = 0; row < tables.rows.size(); ++row) {
+  ForEachTable(document, [&fillers](const TableRows& rows, std::size_t block, int paragraph) {
+    std::size_t next_part = block == 0 ? 0 : EndOfPart(rows, 0);
+    for (std::size_t row = 0; row < rows.size(); ++row) {
       if (row == next_part) {
         fillers.push_back(paragraph);
-        next_part = EndOfPart(tables.rows, row);
+        next_part = EndOfPart(rows, row);
       }
-      paragraph += CountParagraphs(*tables.rows[row]);
+      paragraph += CountParagraphs(*rows[row]);
     }
-    block = tables.end;
-  }
+  });
   return fillers;
 }
 
@@ -91,31 +101,23 @@ bool HasMergedCells(std::span<const richtext::TableRow* const> rows) {
 
 std::vector<int> CoveredIn(const richtext::RichDocument& document) {
   std::vector<int> covered;
-  int paragraph = 0;
-  for (std::size_t block = 0; block < document.blocks.size();) {
-    if (std::holds_alternative<richtext::Paragraph>(document.blocks[block])) {
-      ++paragraph;
-      ++block;
-      continue;
-    }
-    const AdjacentTables tables = TablesAt(document, block);
-    const bool has_merged = HasMergedCells(tables.rows);
-    const richtext::TableGrid grid = has_merged ? richtext::GridOf(tables.rows) : TableGrid();
-    for (std::size_t first = 0; first < tables.rows.size();) {
-      const std::size_t end = EndOfPart(tables.rows, first);
-      const auto spans = has_merged ? SpansOfPart(tables.rows, grid, first, end) : CellSpans();
+  ForEachTable(document, [&covered](const TableRows& rows, std::size_t, int paragraph) {
+    if (!HasMergedCells(rows)) return;
+    const TableGrid grid = richtext::GridOf(rows);
+    for (std::size_t first = 0; first < rows.size();) {
+      const std::size_t end = EndOfPart(rows, first);
+      const CellSpans spans = SpansOfPart(rows, grid, first, end);
       for (std::size_t row = first; row < end; ++row) {
-        for (std::size_t i = 0; i < tables.rows[row]->cells.size(); ++i) {
-          const int count = static_cast<int>(tables.rows[row]->cells[i].paragraphs.size());
-          const bool is_covered = has_merged && spans[row - first][i].is_covered;
-          for (int n = 0; is_covered && n < count; ++n) covered.push_back(paragraph + n);
-          paragraph += count;
+        for (std::size_t i = 0; i < rows[row]->cells.size(); ++i) {
+          const int behind = paragraph + static_cast<int>(rows[row]->cells[i].paragraphs.size());
+          for (; paragraph < behind; ++paragraph) {
+            if (spans[row - first][i].is_covered) covered.push_back(paragraph);
+          }
         }
       }
       first = end;
     }
-    block = tables.end;
-  }
+  });
   return covered;
 }
 
