@@ -67,7 +67,7 @@ void Calendar::ConnectControls() {
 void Calendar::BuildMenus() {
   forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
   const std::vector<forms::Control*> with_sheet{&save};
-  options.AddCommand("mOprint", "&Print", print);
+  options.AddCommand("mOprint", "&Print", print).SetKey("Ctrl+P");
   options.AddEntry("mOPrtSet", "Printer &Setup", [this] { ChooseSetup(); });
   options.AddEntry("mOCopy", "&Copy", {[this] { Copy(); }, with_sheet});
   options.AddEntry("mODel", "&Delete this Month's Entries and File",

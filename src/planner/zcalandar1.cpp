@@ -86,11 +86,11 @@ void Zcalandar1::BuildMenus() {
   const auto copy = [this] { Copy(); };
   const std::vector<forms::Control*> copied{&view_month,
                                             &pages.month.grid};  // the day or the month
-  options.AddCommand("mOS", "&Save", save);
+  options.AddCommand("mOS", "&Save", save).SetKey("Ctrl+S");
   options.AddCommand("mOClr", "Clear &Entries", clear_entries);
   options.AddCommand("mOV", "&View Entire Month", view_month);
-  options.AddCommand("mOP", "&Print Options", print_options);
-  options.AddCommand("mOSpell", "Spelling Chec&k", check_spelling);
+  options.AddCommand("mOP", "&Print Options", print_options).SetKey("Ctrl+P");
+  options.AddCommand("mOSpell", "Spelling Chec&k", check_spelling).SetKey("F7");
   options.AddEntry("mOCopy", "&Copy", {copy, copied});
   options.AddEntry("mOCal", "Calendar &Display Options",
                    {[this] { calendar_options.panel.SetVisible(true); }, {&day}});

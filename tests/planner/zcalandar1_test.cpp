@@ -63,6 +63,18 @@ TEST_F(Zcalandar1Test, ASavedDayIsSortedOnTheScreenAndOnTheDisk) {
   EXPECT_EQ(rig.top(), "Startfrm");
 }
 
+TEST_F(Zcalandar1Test, TheMenusKeysSaveAndPrintTheDay) {
+  Type(0, "9:30 AM", "Dentist");
+  EXPECT_TRUE(form().unsaved());
+  ExpectSaved();
+  EXPECT_TRUE(form().PressKey("Ctrl+S"));
+  EXPECT_TRUE(ReadDay(rig.folder, today)->saved);
+  EXPECT_FALSE(form().unsaved());
+  EXPECT_TRUE(form().PressKey("Ctrl+P"));
+  EXPECT_TRUE(form().pages.print.panel.visible());
+  EXPECT_FALSE(form().PressKey("Ctrl+S"));  // the day is covered
+}
+
 TEST_F(Zcalandar1Test, SavingNothingAsksFirst) {
   const forms::MessageBox box{"Save", "There are currently No Entries to Save!\nSave anyway?",
                               forms::Icon::kQuestion, forms::Buttons::kYesNo, 2};
