@@ -116,6 +116,7 @@ std::vector<RedoNote::Unfinished> RedoNote::Read() {
 }
 
 void RedoNote::Settle(const std::function<bool(const Write&)>& settle) {
+  Close();  // the file goes: a note that is still open would be written to nowhere
   std::vector<std::uint64_t> settled;
   for (Unfinished& noted : Read()) {
     if (settle(noted.write)) {

@@ -147,6 +147,22 @@ TEST(RedoNoteTest, WhatIsNoNoteOfOursIsRemovedUnread) {
   }
 }
 
+TEST(RedoNoteTest, WhatIsNotedBehindASettlingIsFoundByTheNext) {
+  TemporaryFolder disk;
+  const std::string path = disk.path() + "/.tarnwell-redo";
+  RedoNote note(RealFileSystem(), path);
+  for (const char* file : {"one.fil", "two.fil"}) {
+    ASSERT_TRUE(note.Set(file, 4090, "across the pages"));
+    std::vector<std::string> found;
+    RedoNote(RealFileSystem(), path).Settle([&](const RedoNote::Write& write) {
+      found.push_back(write.file);
+      return false;
+    });
+    EXPECT_EQ(found, std::vector<std::string>{file});
+    note.Settle([](const auto&) { return true; });
+  }
+}
+
 TEST(RedoNoteTest, TheNoteIsClosedBeforeTheNextGesture) {
   TemporaryFolder disk;
   ProgramFolder folder(RealFileSystem(), disk.path());
