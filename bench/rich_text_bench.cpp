@@ -178,8 +178,8 @@ int Run(const std::string& parent) {
   Check(read == 6 * bytes.size(), "read the document");
   const richtext::StoredForm stored = richtext::StoredFormOf(bytes, editor.document());
   bool is_quick = true;
-  for (const auto& measure : {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable,
-                              MeasureBold, MeasureLook}) {
+  for (const auto& measure :
+       {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable, MeasureBold, MeasureLook}) {
     is_quick = measure(editor, bytes) && is_quick;
   }
   table.Measure(

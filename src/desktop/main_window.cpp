@@ -86,7 +86,8 @@ void MainWindow::FormLoaded(forms::Form& form, bool modal) {
   };
   pages_.push_back(page);
   if (modal) {
-    new FormDialog(this, page, look.frameless, [this, &form] { navigator_->Close(form, forms::UnloadCause::kCloseBox); });
+    new FormDialog(this, page, look.frameless,
+                   [this, &form] { navigator_->Close(form, forms::UnloadCause::kCloseBox); });
   } else {
     stack_->addWidget(page);
   }

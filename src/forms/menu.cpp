@@ -18,7 +18,9 @@ bool CouldBeUsed(const Control* control) {
 
 }  // namespace
 
-MenuAction ActionOf(Clickable& command) { return {[&command] { command.Click(); }, {&command}}; }
+MenuAction ActionOf(Clickable& command) {
+  return {[&command] { command.Click(); }, {&command}};
+}
 
 MenuItem& MenuItem::AddEntry(std::string_view name, std::string_view caption, MenuAction action) {
   MenuItem& entry = AddSubmenu(name, caption);

@@ -9,8 +9,8 @@ namespace tarnwell::forms {
 
 struct LoadedPicture {
   // A PNG file of the picture; null for none. `fault` says why the file couldn't be read, kTooLarge
-  // for one of more bytes or pixels than are read; kNone where it was read and isn't a picture, or a
-  // damaged one.
+  // for one of more bytes or pixels than are read; kNone where it was read and isn't a picture, or
+  // a damaged one.
   std::shared_ptr<const std::string> png;
   storage::Fault fault = storage::Fault::kNone;
   // Of the whole picture as a person sees it, in pixels; 0 for none.
@@ -23,10 +23,10 @@ class Pictures {
  public:
   virtual ~Pictures() = default;
 
-  // The picture at an absolute path (code page 1252), as large as it is or as fits into `most_width`
-  // by `most_height` pixels, in its own proportions. One that the camera took on its side is turned
-  // upright. BMP, GIF (the first of a moving one), ICO, JPEG, PNG, TIFF and WebP are read, known by
-  // their first bytes and not by their names.
+  // The picture at an absolute path (code page 1252), as large as it is or as fits into
+  // `most_width` by `most_height` pixels, in its own proportions. One that the camera took on its
+  // side is turned upright. BMP, GIF (the first of a moving one), ICO, JPEG, PNG, TIFF and WebP are
+  // read, known by their first bytes and not by their names.
   virtual LoadedPicture Load(const std::string& path, int most_width, int most_height) = 0;
 };
 

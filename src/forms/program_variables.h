@@ -37,8 +37,8 @@ struct ProgramVariables {
   bool PrintFontStrike = false;
   Color PrintFontColor = kBlack;
   std::optional<PageSetup> DocumentSetup;  // chosen in place of the documents' own paper
-  std::int16_t NoAsOfDate = 0;        // 1 leaves the "As of" line out
-  std::int16_t GridLinesOnPrint = 0;  // 1 prints the grid lines on each page
+  std::int16_t NoAsOfDate = 0;             // 1 leaves the "As of" line out
+  std::int16_t GridLinesOnPrint = 0;       // 1 prints the grid lines on each page
 
   Font PrintFont() const {
     return {PrintFontName,      PrintFontSize,   PrintFontBold, PrintFontItalic,

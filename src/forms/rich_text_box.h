@@ -133,7 +133,7 @@ class RichTextBox : public Control {
   void Undo();
   void Redo();
 
-  std::function<void()> on_change;     // a person changed the text or its look
+  std::function<void()> on_change;  // a person changed the text or its look
   // What was typed or pasted has no room in a document, which stays as it is; see limits.h.
   std::function<void()> on_too_much;
   std::function<void()> on_selection;  // the selection or the cursor moved, or its format changed

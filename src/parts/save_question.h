@@ -1,4 +1,5 @@
-// What a screen holds that isn't on the disk yet, and the question before something takes its place.
+// What a screen holds that isn't on the disk yet, and the question before something takes its
+// place.
 
 #pragma once
 

@@ -49,8 +49,8 @@ bool Zcalandar1::LeaveLoadedDay() {
 }
 
 bool Zcalandar1::QueryUnload(forms::UnloadCause cause) {
-  const auto buttons = cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel
-                                                             : forms::Buttons::kYesNo;
+  const auto buttons =
+      cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel : forms::Buttons::kYesNo;
   return question_.Settle({kTitle, "Save changes/entries before exiting?", buttons}) &&
          colors.Leave(buttons);
 }

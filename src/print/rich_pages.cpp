@@ -8,7 +8,7 @@ namespace {
 constexpr int kLeastPaper = 1440;
 constexpr int kMostPaper = 44 * 1440;
 constexpr std::size_t kMostBlocks = 100;  // of a header or a footer
-constexpr int kLeastText = 720;  // twips each way, that margins leave
+constexpr int kLeastText = 720;           // twips each way, that margins leave
 
 // Margins that leave no text any room are made narrower.
 void Bound(int size, int& first, int& second) {

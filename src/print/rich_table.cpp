@@ -8,7 +8,7 @@
 namespace tarnwell::print {
 namespace {
 
-constexpr int kPaperEdge = 100;  // twips that a table keeps off the edge of the sheet
+constexpr int kPaperEdge = 100;             // twips that a table keeps off the edge of the sheet
 constexpr std::size_t kMostTogether = 100;  // rows that cells reach over
 
 }  // namespace

@@ -20,7 +20,7 @@ struct FormatState {
   CharacterFormat character;
   ParagraphFormat paragraph;
   int paragraph_version = 0;  // another one wherever a word has changed `paragraph`
-  TabStop next_tab;  // what the words before a tab's position said
+  TabStop next_tab;           // what the words before a tab's position said
   int text_code_page = 1252;
   int unicode_skip = 1;  // bytes behind a \u that stand for it in older readers
   int field = kNoField;

@@ -100,7 +100,8 @@ class FontReader {
     decoder_.Flush(font.name);
     std::erase(font.name, '\t');
     font.name.erase(0, std::min(font.name.find_first_not_of(' '), font.name.size()));
-    if (font.name.size() > kLongestName) font.name.resize(text::CharacterStart(font.name, kLongestName));
+    if (font.name.size() > kLongestName)
+      font.name.resize(text::CharacterStart(font.name, kLongestName));
     const bool is_known = std::any_of(fonts_.begin(), fonts_.end(), [&font](const Font& other) {
       return other.number == font.number;
     });

@@ -104,7 +104,8 @@ std::string TextOfPart(std::string_view rtf, std::size_t most) {
     text += ShownText(paragraph);
   });
   text.resize(text::CharacterStart(text, std::min(text.size(), most)));
-  std::ranges::replace_if(text, [](char c) { return c == '\n' || c == '\t' || c == '\f'; }, ' ');
+  std::ranges::replace_if(
+      text, [](char c) { return c == '\n' || c == '\t' || c == '\f'; }, ' ');
   text.erase(text.find_last_not_of(' ') + 1);
   return text;
 }

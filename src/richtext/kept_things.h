@@ -25,7 +25,7 @@ enum class KeptKind {
 
 struct KeptThing {
   KeptKind kind = KeptKind::kDrawing;
-  std::string rtf;  // the text in it, for a PartReader; of a nested table the whole
+  std::string rtf;   // the text in it, for a PartReader; of a nested table the whole
   std::string name;  // the author of a comment, the first word of a field; may be empty
 };
 

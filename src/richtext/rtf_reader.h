@@ -101,7 +101,7 @@ class RtfReader {
   std::size_t defaults_depth_ = 0;
   std::size_t defaults_runs_ = 0;
   bool in_character_border_ = false;  // the border words that follow are of characters
-  bool tables_broken_ = false;  // a nested table had no end: don't look for one again
+  bool tables_broken_ = false;        // a nested table had no end: don't look for one again
 };
 
 }  // namespace tarnwell::richtext

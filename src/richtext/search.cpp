@@ -24,7 +24,9 @@ bool EndsInWord(std::string_view text) {
   return IsOfWord(text::TakeUtf8(last));
 }
 
-bool BeginsWithWord(std::string_view text) { return !text.empty() && IsOfWord(text::TakeUtf8(text)); }
+bool BeginsWithWord(std::string_view text) {
+  return !text.empty() && IsOfWord(text::TakeUtf8(text));
+}
 
 // Looks through one paragraph after another. Capitals are as long as their small letters.
 class Searcher {

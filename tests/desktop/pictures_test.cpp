@@ -50,8 +50,8 @@ class QtPicturesTest : public ::testing::Test {
 };
 
 TEST_F(QtPicturesTest, EachFormatIsReadAtTheSizeThatIsNeeded) {
-  const QByteArray gif = QByteArray::fromHex(
-      "47494638396101000100800000ff0000ffffff2c00000000010001000002024401003b");
+  const QByteArray gif =
+      QByteArray::fromHex("47494638396101000100800000ff0000ffffff2c00000000010001000002024401003b");
   EXPECT_EQ(Shown(Load(gif)).pixelColor(0, 0), QColor(Qt::red));
   for (const char* type : {"png", "jpeg", "bmp", "ico", "tiff", "webp"}) {
     SCOPED_TRACE(type);

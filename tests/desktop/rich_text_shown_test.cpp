@@ -19,8 +19,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr const char* kBorders =
-    "\\clbrdrt\\brdrs\\clbrdrl\\brdrs\\clbrdrb\\brdrs\\clbrdrr\\brdrs";
+constexpr const char* kBorders = "\\clbrdrt\\brdrs\\clbrdrl\\brdrs\\clbrdrb\\brdrs\\clbrdrr\\brdrs";
 
 class RichTextShownTest : public ::testing::Test {
  protected:
@@ -160,8 +159,7 @@ TEST_F(RichTextShownTest, MergedCellsAreOneAndTheCoveredOnesAreSteppedOver) {
   ASSERT_NE(table, nullptr);
   EXPECT_EQ(table->cellAt(0, 0).rowSpan(), 2);
   EXPECT_EQ(table->cellAt(0, 1).columnSpan(), 2);
-  for (const auto& [paragraph, text] :
-       std::initializer_list<std::pair<int, const char*>>{
+  for (const auto& [paragraph, text] : std::initializer_list<std::pair<int, const char*>>{
            {0, "a"}, {1, "b"}, {2, "c"}, {5, "d"}, {6, "e"}, {7, "f"}}) {
     box_.Select({{paragraph, 0}, {paragraph, 1}});
     EXPECT_EQ(view_->textCursor().selectedText().toStdString(), text);
@@ -177,8 +175,11 @@ TEST_F(RichTextShownTest, MergedCellsAreOneAndTheCoveredOnesAreSteppedOver) {
 
 TEST_F(RichTextShownTest, ATableInsideACellIsShownAndKept) {
   const std::string cell = kBorders;
-  Show("\\trowd" + cell + "\\cellx4000\\pard\\intbl a\\par\\pard\\intbl\\itap2 in\\nestcell"
-       "{\\*\\nesttableprops\\trowd" + cell + "\\cellx2000\\nestrow}\\pard\\intbl\\itap1 b\\cell"
+  Show("\\trowd" + cell +
+       "\\cellx4000\\pard\\intbl a\\par\\pard\\intbl\\itap2 in\\nestcell"
+       "{\\*\\nesttableprops\\trowd" +
+       cell +
+       "\\cellx2000\\nestrow}\\pard\\intbl\\itap1 b\\cell"
        "\\row\\pard c\\par");
   EXPECT_EQ(view_->accessibleDescription(), QStringLiteral("Table, kept"));
   const QAbstractTextDocumentLayout& layout = *view_->document()->documentLayout();

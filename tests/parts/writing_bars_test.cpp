@@ -160,9 +160,10 @@ TEST_F(WritingBars, ALinkIsOfTheWebOrOfMail) {
   Show("see us", {{0, 4}, {0, 6}});
   for (const char* address : {"javascript:x", "file:///etc", "https://", "http://a b", "us"}) {
     rig.dialogs.ExpectInput("Link", kPrompt, address);
-    rig.dialogs.ExpectNote("Link",
-                       "Nothing was linked. An address begins with http://, https:// or mailto: "
-                       "and has no blank in it; what is linked stands in one paragraph.");
+    rig.dialogs.ExpectNote(
+        "Link",
+        "Nothing was linked. An address begins with http://, https:// or mailto: "
+        "and has no blank in it; what is linked stands in one paragraph.");
     bar[kLink].Click();
   }
   EXPECT_TRUE(text.document().fields.empty());
@@ -183,7 +184,7 @@ TEST_F(WritingBars, APictureThatCantBeOneIsSaid) {
   Show("a", {{0, 1}, {0, 1}});
   rig.dialogs.ExpectPicture(forms::ChosenPicture{"GIF89a", storage::Fault::kNone});
   rig.dialogs.ExpectNote("Insert Picture",
-                     "Only pictures of the kinds PNG and JPEG can stand in a document.");
+                         "Only pictures of the kinds PNG and JPEG can stand in a document.");
   bar[kPicture].Click();
   rig.dialogs.ExpectPicture(std::nullopt);
   bar[kPicture].Click();

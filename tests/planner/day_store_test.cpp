@@ -32,7 +32,8 @@ TEST_F(DayStoreTest, EveryDateHasARecordOfItsOwn) {
   for (const auto& c : cases) EXPECT_EQ(DayRecordNumber(c.month, c.day), c.record);
 
   std::set<int> used;
-  for (auto date = MakeDate(2024, 1, 1); text::YearOf(date) == 2024; date = text::AddDays(date, 1)) {
+  for (auto date = MakeDate(2024, 1, 1); text::YearOf(date) == 2024;
+       date = text::AddDays(date, 1)) {
     EXPECT_TRUE(used.insert(DayRecordNumber(text::MonthOf(date), text::DayOf(date))).second);
   }
   EXPECT_EQ(used.size(), 366u);

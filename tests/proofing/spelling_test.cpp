@@ -171,7 +171,9 @@ TEST_F(SpellingTest, AnIgnoredWordIsAskedAboutAgainAndAnAddedOneNeverMore) {
 TEST_F(SpellingTest, EscapeAndTheCloseBoxKeepWhatWasChangedSoFar) {
   rig.speller.misspelled = {{"aaa", {"abc"}}, {"teh", {}}};
   for (const auto& leave : {std::function([](VSSpell1& form) { form.PressEscape(); }),
-                            std::function([this](VSSpell1& form) { rig.navigator.Close(form, forms::UnloadCause::kCloseBox); })}) {
+                            std::function([this](VSSpell1& form) {
+                              rig.navigator.Close(form, forms::UnloadCause::kCloseBox);
+                            })}) {
     MemoryText text({"teh aaa teh aaa teh"});
     const SpellingResult result = Check(text, {[](VSSpell1& form) { form.change.Click(); }, leave});
     EXPECT_THAT(text.content, ElementsAre("the abc the aaa teh"));

@@ -85,10 +85,10 @@ QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) 
 QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   QWidget* areas = Widget(
       form.areas,
-      Narrowable(Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents),
-                               Names(form.names), WorksheetButtons(form.worksheets)})),
-                 Column({Document(form.document, form.worksheets), ToDoView(form.to_do, pictures)},
-                        0)));
+      Narrowable(
+          Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents),
+                        Names(form.names), WorksheetButtons(form.worksheets)})),
+          Column({Document(form.document, form.worksheets), ToDoView(form.to_do, pictures)}, 0)));
   QWidget* all =
       Widget(form.printing.all_panel,
              Column({Wrapped(Widget(form.printing.all_note)), Widget(form.printing.all_progress)}));

@@ -55,10 +55,9 @@ void KeptObjects::SetSource(PartSource* source) {
 
 QString KeptObjects::NumberAt(const QTextDocument& document, int place,
                               const QTextFormat& format) const {
-  const QString number =
-      number_of ? number_of(renderer_.ParagraphOf(document.findBlock(place)),
-                            format.intProperty(kNoteProperty))
-                : QString();
+  const QString number = number_of ? number_of(renderer_.ParagraphOf(document.findBlock(place)),
+                                               format.intProperty(kNoteProperty))
+                                   : QString();
   return number.isEmpty() ? QStringLiteral("*") : number;
 }
 
@@ -105,9 +104,8 @@ void KeptObjects::drawObject(QPainter* painter, const QRectF& rect, QTextDocumen
         format.toCharFormat().verticalAlignment() == QTextCharFormat::AlignSuperScript;
     const double base = is_raised ? rect.top() + QFontMetricsF(font).ascent() : rect.bottom();
     painter->drawText(QPointF(rect.left(), base), NumberAt(*document, place, format));
-  } else if (RichTextPart* const table = thing->kind == richtext::KeptKind::kNestedTable
-                                             ? TableOf(format)
-                                             : nullptr) {
+  } else if (RichTextPart* const table =
+                 thing->kind == richtext::KeptKind::kNestedTable ? TableOf(format) : nullptr) {
     table->Paint(*painter, rect.topLeft());
   } else {
     painter->setRenderHint(QPainter::Antialiasing);

@@ -33,8 +33,7 @@ std::optional<RichTextView::ColumnEdge> RichTextView::EdgeAt(QPoint place) const
   if (y < frame.top() || y > frame.bottom()) return std::nullopt;
   const int paragraph = renderer_.ParagraphOf(cursor.block());
   std::size_t block = richtext::FindPlace(box_.document(), paragraph).block;
-  while (block > 0 &&
-         std::holds_alternative<richtext::Table>(box_.document().blocks[block - 1])) {
+  while (block > 0 && std::holds_alternative<richtext::Table>(box_.document().blocks[block - 1])) {
     --block;
   }
   const richtext::TableGrid grid = richtext::GridOf(TablesAt(box_.document(), block).rows);
@@ -50,8 +49,8 @@ std::optional<RichTextView::ColumnEdge> RichTextView::EdgeAt(QPoint place) const
     const bool is_left = column == cell.column();
     if (!is_left && column != cell.column() + cell.columnSpan()) continue;
     const double border = column == table->columns() ? frame.right()
-                          : is_left ? left_of(cell)
-                                    : left_of(table->cellAt(cell.row(), column));
+                          : is_left                  ? left_of(cell)
+                                                     : left_of(table->cellAt(cell.row(), column));
     if (std::abs(x - border) <= kReach) return ColumnEdge{paragraph, edge, border};
   }
   return std::nullopt;

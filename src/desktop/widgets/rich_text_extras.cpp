@@ -154,8 +154,8 @@ RichTextExtras::Framed RichTextExtras::FrameOf(const QTextBlock& block) const {
   const QTextLine first = text.lineAt(0);
   double begin = first.x();
   if (block.blockFormat().hasProperty(kMarkerProperty)) {
-    begin += block.blockFormat().doubleProperty(kMarkerPlaceProperty) -
-             block.blockFormat().textIndent();
+    begin +=
+        block.blockFormat().doubleProperty(kMarkerPlaceProperty) - block.blockFormat().textIndent();
   }
   if (text.lineCount() > 1) begin = std::min(begin, text.lineAt(1).x());
   const QRectF lines = text.boundingRect().translated(OriginOf(block));
@@ -208,8 +208,7 @@ void RichTextExtras::PaintMarker(QPainter& painter, const QTextBlock& block,
   const QTextLine line = block.layout()->lineAt(0);
   const double offset = format.doubleProperty(kMarkerPlaceProperty) - format.textIndent();
   const double shift = line.naturalTextRect().left() - line.x();
-  painter.drawText(OriginOf(block) +
-                       QPointF(line.x() + shift + offset, line.y() + line.ascent()),
+  painter.drawText(OriginOf(block) + QPointF(line.x() + shift + offset, line.y() + line.ascent()),
                    format.stringProperty(kMarkerProperty));
 }
 

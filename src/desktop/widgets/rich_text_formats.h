@@ -24,12 +24,12 @@ enum RichTextProperty {
   kPageBreakBehindProperty,                         // of a block
   kPageBreakProperty,                               // of a line break that ends a page
   kUnderlineProperty,                               // of text: a richtext::Underline
-  kLeadersProperty,  // of a block: the places of its tab stops from the line's beginning, in
-                     // pixels, each with its richtext::TabStop::Leader behind it
-  kFrameProperty,    // of a block: see ShownFrame
-  kKeptProperty,     // of a kKeptObject: its name in the renderer
+  kLeadersProperty,    // of a block: the places of its tab stops from the line's beginning, in
+                       // pixels, each with its richtext::TabStop::Leader behind it
+  kFrameProperty,      // of a block: see ShownFrame
+  kKeptProperty,       // of a kKeptObject: its name in the renderer
   kKeptWidthProperty,  // likewise: the room of its cell, in pixels
-  kNoteProperty,     // of a kKeptObject: which of its paragraph's notes it numbers, from 0
+  kNoteProperty,       // of a kKeptObject: which of its paragraph's notes it numbers, from 0
 };
 
 // Stands in Qt's text for what the document only keeps.

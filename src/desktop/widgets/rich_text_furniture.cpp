@@ -7,9 +7,9 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr std::size_t kMostBlocks = 100;   // of a header or a footer
-constexpr std::size_t kMostNotes = 500;    // that are shown
-constexpr std::size_t kMostParts = 50;     // that are kept
+constexpr std::size_t kMostBlocks = 100;  // of a header or a footer
+constexpr std::size_t kMostNotes = 500;   // that are shown
+constexpr std::size_t kMostParts = 50;    // that are kept
 
 bool IsSame(const print::FoundNote& a, const print::FoundNote& b) {
   return a.rtf == b.rtf && a.number == b.number && a.is_endnote == b.is_endnote;
@@ -17,8 +17,8 @@ bool IsSame(const print::FoundNote& a, const print::FoundNote& b) {
 
 }  // namespace
 
-void RichTextFurniture::Show(const richtext::RichDocument& document,
-                             const RichTextFormats& formats, double width) {
+void RichTextFurniture::Show(const richtext::RichDocument& document, const RichTextFormats& formats,
+                             double width) {
   source_.emplace(document, formats, on_ready_);
   width_ = width;
   parts_.clear();
@@ -89,7 +89,8 @@ RichTextPart* RichTextFurniture::Notes() {
 
 RichTextPart* RichTextFurniture::PartOf(bool is_header, std::size_t block, int number, int pages) {
   if (!source_) return nullptr;
-  const auto behind = std::ranges::upper_bound(sections_, block, {}, &richtext::Section::first_block);
+  const auto behind =
+      std::ranges::upper_bound(sections_, block, {}, &richtext::Section::first_block);
   const richtext::Section& section = behind == sections_.begin() ? sections_.front() : behind[-1];
   const int counted = std::max(number, 1);
   const Rtf rtf = richtext::FurnitureOf(is_header ? section.header : section.footer, section,
@@ -101,8 +102,8 @@ RichTextPart* RichTextFurniture::PartOf(bool is_header, std::size_t block, int n
     richtext::RichDocument text = source_->Read(*rtf);
     text.blocks.resize(std::min(text.blocks.size(), kMostBlocks));
     if (number > 0) {
-      print::SetPageNumbers(
-          {number, richtext::PageNumberText(number, section.numbers), pages}, text);
+      print::SetPageNumbers({number, richtext::PageNumberText(number, section.numbers), pages},
+                            text);
     }
     part = std::make_unique<RichTextPart>(std::move(text), *source_, width_);
   }

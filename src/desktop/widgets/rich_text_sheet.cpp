@@ -19,11 +19,11 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kPageGap = 12;      // pixels between two pages
-constexpr double kNotesGap = 20;     // above and below the line over the notes
+constexpr double kPageGap = 12;   // pixels between two pages
+constexpr double kNotesGap = 20;  // above and below the line over the notes
 constexpr int kLongestNotesLine = 200;
-constexpr int kMostDescribed = 20;   // signs
-constexpr double kPaleness = 0.55;   // of what can't be edited
+constexpr int kMostDescribed = 20;  // signs
+constexpr double kPaleness = 0.55;  // of what can't be edited
 const QColor kRuleColor{0x8A, 0x94, 0x9E};
 
 }  // namespace
@@ -60,8 +60,7 @@ QMarginsF RichTextView::SheetMargins() {
     return std::clamp(needed, margin, std::max(margin, formats.Pixels(page.height) / 3));
   };
   margins.setTop(grow(header, section.header_distance, margins.top()) + kPageGap);
-  margins.setBottom(
-      grow(furniture_.Footer(0, 1, 1), section.footer_distance, margins.bottom()));
+  margins.setBottom(grow(furniture_.Footer(0, 1, 1), section.footer_distance, margins.bottom()));
   return margins;
 }
 
@@ -175,8 +174,8 @@ void RichTextView::PaintPageFurniture(QPainter& painter, int page, int pages) {
   const double left = document()->rootFrame()->frameFormat().leftMargin();
   std::size_t block = 0;
   if (furniture_.section_count() > 1) {
-    const QPointF begin(left + 1, page * PageStep() +
-                                      document()->rootFrame()->frameFormat().topMargin() + 2);
+    const QPointF begin(left + 1,
+                        page * PageStep() + document()->rootFrame()->frameFormat().topMargin() + 2);
     const int place = document()->documentLayout()->hitTest(begin, Qt::FuzzyHit);
     const int paragraph = renderer_.ParagraphOf(document()->findBlock(std::max(place, 0)));
     block = richtext::FindPlace(box_.document(), paragraph).block;

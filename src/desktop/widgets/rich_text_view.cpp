@@ -118,9 +118,7 @@ RichTextView::RichTextView(forms::RichTextBox& box)
   connect(this, &QTextEdit::selectionChanged, this, [this] { TakeSelection(); });
 }
 
-RichTextFormats RichTextView::Formats() const {
-  return {*viewport(), zoom_, box_.document()};
-}
+RichTextFormats RichTextView::Formats() const { return {*viewport(), zoom_, box_.document()}; }
 
 void RichTextView::Show() {
   const QScopedValueRollback<bool> showing(is_showing_, true);
@@ -137,8 +135,7 @@ void RichTextView::Show() {
   } else if (!spans->empty()) {
     const int place = verticalScrollBar()->value();
     scroll_requests_ = -1;
-    if (IsMuch(box_.document(), *spans) ||
-        !renderer_.Update(box_.document(), Formats(), *spans)) {
+    if (IsMuch(box_.document(), *spans) || !renderer_.Update(box_.document(), Formats(), *spans)) {
       ShowAll();
     } else {
       verticalScrollBar()->setValue(place);
@@ -262,7 +259,8 @@ int RichTextView::RoomForSheet() const {
 
 // Small enough for the whole width of the sheet, as long as that can be read.
 double RichTextView::FittingZoom() const {
-  const double sheet = RichTextFormats(*viewport(), 1, richtext::RichDocument()).Pixels(SheetWidth());
+  const double sheet =
+      RichTextFormats(*viewport(), 1, richtext::RichDocument()).Pixels(SheetWidth());
   const double room = RoomForSheet() - kTableEdge;
   // A page is seen in its whole width.
   if (shows_pages()) return std::clamp(room / sheet, kLeastZoom, 1.0);
@@ -292,8 +290,8 @@ richtext::Position RichTextView::PositionOf(int qt_position) const {
 
 int RichTextView::QtPositionOf(richtext::Position position) const {
   const QTextBlock block = renderer_.BlockOf(position.paragraph);
-  const int offset = ToUtf16Offset(box_.ParagraphText(position.paragraph), position.offset,
-                                   SignsIn(block));
+  const int offset =
+      ToUtf16Offset(box_.ParagraphText(position.paragraph), position.offset, SignsIn(block));
   return block.position() + std::min(offset, block.length() - 1);
 }
 

@@ -121,7 +121,7 @@ class RichTextView : public QTextEdit {
   bool shows_pages_ = false;
   bool makes_room_ = false;
   qsizetype described_ = -1;  // signs of the renderer
-  int own_range_ = 0;  // of the scroll bar, for Qt's text alone
+  int own_range_ = 0;         // of the scroll bar, for Qt's text alone
   QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown
   int scroll_requests_ = 0;
