@@ -1,18 +1,12 @@
 // What a document's view shows beyond plain formatted text.
 
-#include <gtest/gtest.h>
-
 #include <QHelpEvent>
 #include <QScrollBar>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextTable>
 #include <QToolTip>
 
-#include "desktop/sample_form.h"
-#include "desktop/widgets/bound_widgets.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/rich_text_view.h"
+#include "desktop/rich_text_rig.h"
 #include "richtext/rich_text_reader.h"
 #include "richtext/rich_text_writer.h"
 
@@ -21,28 +15,15 @@ namespace {
 
 constexpr const char* kBorders = "\\clbrdrt\\brdrs\\clbrdrl\\brdrs\\clbrdrb\\brdrs\\clbrdrr\\brdrs";
 
-class RichTextShownTest : public ::testing::Test {
+class RichTextShownTest : public testing::RichTextRig {
  protected:
-  RichTextShownTest() { page_->resize(900, 700); }
+  RichTextShownTest() : RichTextRig({900, 700}) {}
 
-  void SetUp() override {
-    page_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(page_.get()));
-    view_->setFocus();
-  }
   void Show(const std::string& body) {
     box_.SetDocument(richtext::ReadRichText(
         "{\\rtf1\\ansi{\\fonttbl{\\f0 Liberation Serif;}}{\\colortbl;\\red255\\green0\\blue0;}"
         "\\paperh6000\\paperw9000\\margl1000\\margr1000\\margt1000\\margb1000 " +
         body + "}"));
-  }
-  void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(view_, static_cast<Qt::Key>(key), modifiers);
-  }
-  // The rest of a long document is shown a little later.
-  bool IsShownWhole() {
-    return QTest::qWaitFor(
-        [this] { return view_->document()->blockCount() >= box_.paragraph_count(); });
   }
   QImage Image() { return view_->viewport()->grab().toImage(); }
   // How many points of the picture have exactly this colour.
@@ -60,12 +41,6 @@ class RichTextShownTest : public ::testing::Test {
     const QAbstractTextDocumentLayout& layout = *view_->document()->documentLayout();
     return layout.blockBoundingRect(view_->document()->findBlockByNumber(block)).toRect();
   }
-
-  testing::SampleWorld world_;
-  testing::SampleForm& form_ = world_.Show();
-  forms::RichTextBox box_{form_, "RichTextBox1", {.spoken_name = "Document"}};
-  std::unique_ptr<QWidget> page_{Column({Widget(box_), Widget(form_.save)})};
-  RichTextView* view_ = dynamic_cast<RichTextView*>(page_->findChild<QTextEdit*>("RichTextBox1"));
 };
 
 TEST_F(RichTextShownTest, LooksThatQtHasNoWordForArePainted) {
