@@ -270,6 +270,16 @@ TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {
   EXPECT_FALSE(enabled("mOS"));
 }
 
+TEST_F(WorkArea1Test, WithoutAnAreaThereIsNothingToChoose) {
+  for (const Area area : {kToDoList, kRecoveryPlan}) {
+    Open(area);
+    area == kToDoList ? hub().to_do.exit.Click() : hub().document.exit.Click();
+    hub().document.views.Pick(kCommentsText);
+    hub().document.status.Pick(0);
+    EXPECT_FALSE(hub().document.actions.visible() || hub().document.status.visible());
+  }
+}
+
 TEST_F(WorkArea1Test, TheWholeDocumentIsCopiedAsRichText) {
   rig.temporary.Write("EmployPolicy0.Fl2", Rtf("All {\\b of} it"));
   Open();
