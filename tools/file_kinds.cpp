@@ -168,13 +168,13 @@ constexpr FileKind kKinds[] = {
     {"Photobk4.Fil", "names of document images", kRecords, {}, 60, kNameIndex},
     {"Photobk3.ZY+", "backup of document images", kFields, {}, 300, {}, kImage},
 
-    {"####.Sl1", "sick leave year", kRows, {}, 0, {}, {}, kLeaveColumns},
+    {"####.Sl1", "sick leave year", kRows, "leave-year.md", 0, {}, {}, kLeaveColumns},
     {"####.Sp1", "backup of a sick leave year", kRows, {}, 0, {}, {}, kLeaveColumns},
-    {"####.Sl2", "row count of a sick leave year", kValues},
+    {"####.Sl2", "row count of a sick leave year", kValues, "leave-year.md"},
     {"####.Sp2", "backup of a sick leave row count", kValues},
-    {"####.Vl1", "vacation year", kRows, {}, 0, {}, {}, kLeaveColumns},
+    {"####.Vl1", "vacation year", kRows, "leave-year.md", 0, {}, {}, kLeaveColumns},
     {"####.Vp1", "backup of a vacation year", kRows, {}, 0, {}, {}, kLeaveColumns},
-    {"####.Vl2", "row count of a vacation year", kValues},
+    {"####.Vl2", "row count of a vacation year", kValues, "leave-year.md"},
     {"####.Vp2", "backup of a vacation row count", kValues},
 
     {"CarMnt1.Fil", "vehicle slots", kRecords, {}, 150, kVehicleSlots},

@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "forms/form_names.h"
+#include "leave/leave_sheet.h"
 #include "planner/calendar.h"
 #include "planner/zcalandar1.h"
 #include "proofing/vsspell1.h"
@@ -30,6 +31,8 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kToolsandInfo1, Make<reference::ToolsandInfo1>);
   navigator.Register(kZcalandar1, Make<planner::Zcalandar1>);
   navigator.Register(kCalendar, Make<planner::Calendar>);
+  navigator.Register(kSickLeave1, Make<leave::SICKLEAVE1>);
+  navigator.Register(kVacation1, Make<leave::Vacation1>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

@@ -17,6 +17,7 @@ RecordPlace PlaceOf(GridBackground function) {
     case GridBackground::kWorkArea:
       return {kGColor1, 42};
     case GridBackground::kPlanner:
+    case GridBackground::kLeave:
       break;
   }
   return {};
@@ -31,7 +32,7 @@ StoredColor ReadGridBackground(storage::ProgramFolder& folder, GridBackground fu
 
 storage::Outcome WriteGridBackground(storage::ProgramFolder& folder, GridBackground function,
                                      const StoredColor& background) {
-  if (function == GridBackground::kPlanner) return {};
+  if (function != GridBackground::kWorkArea && HoldsForTheRun(function)) return {};
   return WriteText(folder, PlaceOf(function), background.Text());
 }
 

@@ -11,11 +11,13 @@ enum class GridBackground {
   kDisplayGrids,  // contacts and employees, who share one
   kWorkArea,      // written only: each run starts with the default background
   kPlanner,       // has no record: likewise
+  kLeave,         // nor has this one
 };
 
 // Whether a choice holds until the program ends instead of being read back.
 constexpr bool HoldsForTheRun(GridBackground function) {
-  return function == GridBackground::kWorkArea || function == GridBackground::kPlanner;
+  return function == GridBackground::kWorkArea || function == GridBackground::kPlanner ||
+         function == GridBackground::kLeave;
 }
 
 // Nothing where a choice holds for the run, whatever is stored.

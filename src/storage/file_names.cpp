@@ -60,6 +60,8 @@ std::string CalendarSheet(int year, unsigned month) {
   return Numbered("", year * 100 + static_cast<int>(month), ".Fil");
 }
 
+std::string Replaced(std::string_view year_file) { return std::string(year_file) + ".old"; }
+
 std::string VehicleSheet(int slot) { return Numbered("ACar", slot, ".Fil"); }
 std::string VehicleMaintenance(int slot) { return Numbered("MCar", slot, ".Fil"); }
 std::string VehicleRepairs(int slot) { return Numbered("RCar", slot, ".Fil"); }

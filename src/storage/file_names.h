@@ -98,6 +98,8 @@ std::string SickLeaveRows(int year);
 std::string Vacation(int year);
 std::string VacationRows(int year);
 std::string CalendarSheet(int year, unsigned month);
+// Where the year file of that name is kept that a copy from the year before replaced.
+std::string Replaced(std::string_view year_file);
 
 // The files of the vehicle in a slot, from 1.
 std::string VehicleSheet(int slot);

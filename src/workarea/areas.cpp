@@ -1,5 +1,9 @@
 #include "workarea/areas.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "forms/form_names.h"
 #include "text/letters.h"
 
 namespace tarnwell::workarea {
@@ -19,6 +23,10 @@ constexpr AreaButton kAreas[] = {
     {kDisciplinaryActions, "Employee Displinary Actions", "Employee Displinary Actions",
      parts::kEmployeeData},
     {kEvaluations, "Employee Evaluations", "Employee Evaluations", parts::kEmployeeData},
+    {kSickLeave, "Employee Sick Leave Tracker", "  Employee Evaluations  ", parts::kEmployeeData,
+     forms::form_names::kSickLeave1},
+    {kVacation, "Employee Vacation Tracker", "  Employee Evaluations  ", parts::kEmployeeData,
+     forms::form_names::kVacation1},
 };
 
 constexpr DocumentButton kAgreementButtons[] = {
@@ -77,6 +85,12 @@ constexpr DocumentGroup kGroups[] = {
 }  // namespace
 
 std::span<const AreaButton> AreaButtons() { return kAreas; }
+
+std::string_view FormOf(Area area) {
+  const auto* button = std::ranges::find(kAreas, area, &AreaButton::area);
+  return button == std::end(kAreas) ? std::string_view() : button->form;
+}
+
 std::span<const DocumentGroup> DocumentGroups() { return kGroups; }
 
 std::string TitleOf(int number) {

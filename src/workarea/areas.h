@@ -22,6 +22,8 @@ enum Area : int {
   kJobDescriptions = 9,
   kDisciplinaryActions = 10,
   kEvaluations = 11,
+  kSickLeave = 14,
+  kVacation = 15,
   kArchive = 99,  // has no button: the menu leads to it
 };
 
@@ -29,11 +31,14 @@ struct AreaButton {
   Area area;
   std::string_view caption;
   std::string_view tool_tip;
-  parts::MainArea under;  // kCompanyData or kEmployeeData
+  parts::MainArea under;       // kCompanyData or kEmployeeData
+  std::string_view form = {};  // the screen that it shows, instead of an area of the hub
 };
 
 // In the order in which they stand under each other.
 std::span<const AreaButton> AreaButtons();
+// The name of the screen that the area's button shows; empty for an area of the hub.
+std::string_view FormOf(Area area);
 
 struct DocumentButton {
   int index;  // the document's number is that of the group plus this

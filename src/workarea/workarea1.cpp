@@ -207,6 +207,7 @@ Pane* WorkArea1::PaneOf(Area area) {
 
 void WorkArea1::ChooseArea(Area area) {
   if (area == area_ || (pane_ && !pane_->Settle())) return;
+  if (!FormOf(area).empty()) return context_.navigator.Show(FormOf(area));
   LeaveArea();
   EnterArea(area);
 }

@@ -20,6 +20,7 @@ const std::vector<std::set<std::string>> kFloors = {
     {"forms"},
     {"print", "proofing"},
     {"parts"},
+    {"year_sheet"},
     {"shell", "workarea", "planner", "budget", "contacts", "employees", "images", "leave",
      "vehicles", "backup", "reference"},
     {"program"},

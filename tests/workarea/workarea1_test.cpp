@@ -270,6 +270,19 @@ TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {
   EXPECT_FALSE(enabled("mOS"));
 }
 
+TEST_F(WorkArea1Test, AButtonOfAScreenLeavesTheAreaAsItIs) {
+  hub().main_buttons[parts::kEmployeeData].Click();
+  const std::pair<const char*, const char*> screens[] = {{"SSCommand11(14)", "SICKLEAVE1"},
+                                                         {"SSCommand11(15)", "Vacation1"}};
+  for (const auto& [button, screen] : screens) {
+    Button(button).Click();
+    EXPECT_EQ(rig.top(), screen);
+    EXPECT_TRUE(rig.CloseWindow());
+    EXPECT_EQ(rig.top(), "WorkArea1");
+    EXPECT_TRUE(Button("SSCommand11(3)").selected() && !Button(button).selected());
+  }
+}
+
 TEST_F(WorkArea1Test, TheWholeDocumentIsCopiedAsRichText) {
   rig.temporary.Write("EmployPolicy0.Fl2", Rtf("All {\\b of} it"));
   Open();

@@ -70,6 +70,24 @@ void WriteReport(Traveller& person) {
       QMessageBox::Cancel, [&] { person.ChooseFromMenu("mOArchive"); }, "archive-question");
 }
 
+void TrackLeave(Traveller& person) {
+  person.Click("SSCommand11(15)");
+  person.ExpectTop("Vacation1");
+  person.Type(QStringLiteral("Ann Lee"));
+  for (int i = 0; i < 3; ++i) {
+    person.Press(Qt::Key_Tab);
+    person.Type(QStringLiteral("1.5"));
+  }
+  person.Press(Qt::Key_Return);
+  person.ChooseFromMenu("mOS");
+  person.TakePicture("vacation");
+  person.Click("Command2");
+  person.TakePicture("vacation-print");
+  person.Click("SSCommand80(2)");
+  person.Click("Command3");
+  person.ExpectTop("WorkArea1");
+}
+
 void FillInWorksheet(Traveller& person) {
   person.Click("SSCommand4(0)");
   person.Click("SSCommand11(7)");
@@ -184,6 +202,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   WriteAgreement(person);
   LookAtOtherDocuments(person);
   WriteReport(person);
+  TrackLeave(person);
   FillInWorksheet(person);
   GoToPlanner(person);
   WriteAppointment(person);

@@ -5,6 +5,7 @@
 
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
+#include "leave/leave_sheet.h"
 #include "planner/calendar.h"
 #include "planner/zcalandar1.h"
 #include "proofing/vsspell1.h"
@@ -39,6 +40,8 @@ constexpr Entry kViews[] = {
     {forms::form_names::kToolsandInfo1, Make<reference::ToolsandInfo1>},
     {forms::form_names::kZcalandar1, Make<planner::Zcalandar1>},
     {forms::form_names::kCalendar, Make<planner::Calendar>},
+    {forms::form_names::kSickLeave1, Make<leave::LeaveSheet>},
+    {forms::form_names::kVacation1, Make<leave::LeaveSheet>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

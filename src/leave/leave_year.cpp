@@ -1,0 +1,60 @@
+#include "leave/leave_year.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "storage/sequential_file.h"
+#include "text/leading_number.h"
+#include "year_sheet/year_copy.h"
+
+namespace tarnwell::leave {
+namespace {
+
+constexpr int kCells = kBalance;  // of a row
+constexpr int kHeadings = 1;      // a count of rows has the heading in it
+
+}  // namespace
+
+LeaveYear ReadLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year) {
+  storage::SequentialReader count(folder, files.row_count(year));
+  storage::SequentialReader sheet(folder, files.sheet(year));
+  const double counted = text::LeadingNumber(count.Next()) - kHeadings;
+  const int rows = static_cast<int>(std::clamp(counted, double{kLeastRows}, double{kMostRows}));
+  LeaveYear read{year_sheet::ReadRows(sheet, rows, kCells)};
+  if (count.is_unreadable()) read.fault = count.fault();
+  if (sheet.is_unreadable()) read.fault = sheet.fault();
+  return read;
+}
+
+storage::Outcome WriteRowCount(storage::ProgramFolder& folder, const LeaveFiles& files, int year,
+                               int rows) {
+  storage::SequentialWriter file;
+  file.WriteText(std::to_string(rows + kHeadings));
+  return file.Save(folder, files.row_count(year));
+}
+
+storage::Outcome WriteLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year,
+                                const year_sheet::Rows& rows) {
+  storage::SequentialWriter file;
+  year_sheet::WriteRows(file, rows);
+  if (const auto written = file.Save(folder, files.sheet(year)); !written) return written;
+  return WriteRowCount(folder, files, year, static_cast<int>(rows.size()));
+}
+
+storage::Outcome WriteNamesOfNextYear(storage::ProgramFolder& folder, const LeaveFiles& files,
+                                      int year, const year_sheet::Rows& rows) {
+  const std::string next = files.sheet(year + 1);
+  if (const auto kept = year_sheet::KeepReplaced(folder, next); !kept) return kept;
+  year_sheet::Rows names(rows.size() + 1, year_sheet::Row(kCells));  // a blank row more, as ever
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (const std::size_t column : {kName, kAuthorized}) {
+      names[i][column - kName] = rows[i][column - kName];
+    }
+  }
+  storage::SequentialWriter file;
+  year_sheet::WriteRows(file, names);
+  if (const auto written = file.Save(folder, next); !written) return written;
+  return WriteRowCount(folder, files, year, static_cast<int>(rows.size()));
+}
+
+}  // namespace tarnwell::leave

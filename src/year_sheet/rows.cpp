@@ -1,0 +1,24 @@
+#include "year_sheet/rows.h"
+
+#include <cstddef>
+
+namespace tarnwell::year_sheet {
+
+Rows ReadRows(storage::SequentialReader& file, int rows, int columns) {
+  Rows read(static_cast<std::size_t>(rows), Row(static_cast<std::size_t>(columns)));
+  for (Row& row : read) {
+    for (std::string& cell : row) {
+      if (file.AtEnd()) return read;
+      cell = file.Next();
+    }
+  }
+  return read;
+}
+
+void WriteRows(storage::SequentialWriter& file, const Rows& rows) {
+  for (const Row& row : rows) {
+    for (const std::string& cell : row) file.WriteText(cell);
+  }
+}
+
+}  // namespace tarnwell::year_sheet
