@@ -88,6 +88,38 @@ void TrackLeave(Traveller& person) {
   person.ExpectTop("WorkArea1");
 }
 
+void KeepBudget(Traveller& person) {
+  person.Click("SSCommand11(5)");
+  person.ExpectTop("Budget1a");
+  const std::pair<const char*, const char*> items[] = {
+      {"Rent", "1200"}, {"Wages", "5400"}, {"Insurance", "310.50"}};
+  for (const auto& [item, amount] : items) {
+    person.Type(QLatin1String(item));
+    person.Press(Qt::Key_Down);
+  }
+  person.Press(Qt::Key_Up);
+  person.Press(Qt::Key_Tab);
+  for (int i = 2; i >= 0; --i) {
+    person.Type(QLatin1String(items[i].second));
+    if (i > 0) person.Press(Qt::Key_Up);
+  }
+  person.Press(Qt::Key_Return);
+  person.FillIn(QStringLiteral("Total Income"), QStringLiteral("8000"),
+                [&] { person.Click("Label5(11)"); });
+  person.ChooseFromMenu("mOS");
+  person.TakePicture("budget");
+  person.Click("Command8");
+  person.TakePicture("budget-totals");
+  person.Click("SSOption1(1)");
+  person.TakePicture("budget-pie");
+  person.ChooseFromMenu("mOPrt");
+  person.TakePicture("budget-totals-print");
+  person.Click("SSCommand80(2)");
+  person.Click("Command9");
+  person.Click("Command3");
+  person.ExpectTop("WorkArea1");
+}
+
 void FillInWorksheet(Traveller& person) {
   person.Click("SSCommand4(0)");
   person.Click("SSCommand11(7)");
@@ -204,6 +236,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   WriteReport(person);
   TrackLeave(person);
   FillInWorksheet(person);
+  KeepBudget(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);
