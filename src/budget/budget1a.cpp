@@ -54,6 +54,9 @@ Budget1a::Budget1a(forms::Context& context) : YearSheet(context, kBudget) {
     income[month].on_click = [this, month] { EnterIncome(month); };
     income[month].SetToolTip("Enter the Total Income of " + std::string(kMonthNames[month]));
   }
+  preparing.SetVisible(false);
+  preparing.Cover({&sheet, &year_totals.panel, &print.panel});
+  cancel_print.on_click = [this] { is_cancelled_ = true; };
   print_graph.SetChecked(true);
   print_graph.on_change = [this] { print.Rebuild(); };
   ConnectTotals();
@@ -177,9 +180,33 @@ PrintedYear Budget1a::Shown() const { return {shown_year(), ShownRows(), months_
 
 print::PrintJob Budget1a::Report() {
   print_graph.SetVisible(year_totals.is_open());
-  if (year_totals.is_open()) return TotalsReport();
-  print::PrintJob job;
+  print::PrintJob job = year_totals.is_open() ? TotalsReport() : YearReport();
   job.printed_line = false;
+  // Later builds, after a change of font or paper, leave a person where they are.
+  job.build = [this, is_first = true,
+               build = std::move(job.build)](print::PageEngine& engine) mutable {
+    if (!std::exchange(is_first, false)) return build(engine);
+    Prepare([&] { build(engine); });
+  };
+  return job;
+}
+
+// A person may break it off before the pages are made, or have the panel closed behind them.
+void Budget1a::Prepare(const std::function<void()>& build) {
+  is_cancelled_ = false;
+  preparing.SetVisible(true);
+  {
+    const BusyScope busy(*this, {&preparing});
+    context_.loop.Yield();
+    if (!is_cancelled_) build();
+    context_.loop.Yield();
+  }
+  preparing.SetVisible(false);
+  if (is_cancelled_) print.Close();
+}
+
+print::PrintJob Budget1a::YearReport() {
+  print::PrintJob job;
   job.title = "Budget For " + std::to_string(shown_year());
   job.page_head = [this](print::PageEngine& engine) {
     BudgetHead(engine, context_.variables, shown_year(), context_.clock.Today());
@@ -192,7 +219,6 @@ print::PrintJob Budget1a::Report() {
 
 print::PrintJob Budget1a::TotalsReport() {
   print::PrintJob job;
-  job.printed_line = false;
   job.title = "Company Budget TOTALS FOR " + std::to_string(shown_year());
   job.page_head = [this](print::PageEngine& engine) {
     TotalsHead(engine, shown_year(), context_.clock.Today());

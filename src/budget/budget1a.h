@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "budget/budget_report.h"
 #include "budget/budget_year.h"
 #include "budget/totals_panel.h"
@@ -25,6 +27,8 @@ class Budget1a : public year_sheet::YearSheet {
   forms::ControlArray<forms::Label, kMonths> balance{sheet, "Label7", std::string_view(),
                                                      forms::LabelRole::kNote};
   TotalsPanel year_totals{*this};
+  forms::Panel preparing{*this, "Panel3D2", " Preparing Printer Output. . ."};
+  forms::Command cancel_print{preparing, "Command13", "&Cancel Print", {.cancel = true}};
   forms::CheckBox print_graph{print.options_frame, "SSCheck1", "Print Graph"};
 
  protected:
@@ -41,11 +45,14 @@ class Budget1a : public year_sheet::YearSheet {
  private:
   void ConnectTotals();
   void EnterIncome(std::size_t month);
+  print::PrintJob YearReport();
   print::PrintJob TotalsReport();
+  void Prepare(const std::function<void()>& build);
   PrintedYear Shown() const;
 
   MonthTotals months_;
   year_sheet::Row rest_;  // of a file that holds more than a budget
+  bool is_cancelled_ = false;
 };
 
 }  // namespace tarnwell::budget

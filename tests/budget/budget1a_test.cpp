@@ -249,6 +249,21 @@ TEST_F(Budget1aTest, TheYearIsPrintedWithItsHeadOnEachPage) {
   }
 }
 
+TEST_F(Budget1aTest, APrintIsBrokenOffWhileItIsPrepared) {
+  Enter(1, "Rent", "300");
+  rig_.loop.on_yield = [&] {
+    EXPECT_TRUE(form().preparing.visible());
+    EXPECT_FALSE(form().save.Reachable());
+    form().cancel_print.Click();
+  };
+  form().print_options.Click();
+  rig_.loop.on_yield = nullptr;
+  EXPECT_FALSE(form().print.is_open());
+  EXPECT_TRUE(form().save.Reachable());
+  form().print_options.Click();
+  EXPECT_EQ(Printed().pages.size(), 1U);
+}
+
 TEST_F(Budget1aTest, TheClipboardGetsItemsAndTotals) {
   Enter(1, "Rent", "300");
   Enter(2, "", "5");

@@ -10,7 +10,11 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kTitleShare = 4;  // of the months' width, as in the grid above
+// As in the grid above, whose last column takes what is left.
+constexpr int kTitleShare = 24;
+constexpr int kMonthShare = 6;
+constexpr int kLastMonthShare = 10;
+constexpr int kScrollBar = 14;
 constexpr int kLettersOfItems = 60;
 
 void AppendRow(QGridLayout& rows, forms::Label& title,
@@ -26,14 +30,16 @@ void AppendRow(QGridLayout& rows, forms::Label& title,
 QWidget* Months(budget::Budget1a& form) {
   auto* table = new QWidget;
   auto* rows = new QGridLayout(table);
-  rows->setContentsMargins({});
-  rows->setHorizontalSpacing(kTightSpace);
+  rows->setContentsMargins(0, 0, kScrollBar, 0);
+  rows->setHorizontalSpacing(0);
   rows->setVerticalSpacing(kHairSpace);
   AppendRow(*rows, form.expenses_title, form.expenses);
   AppendRow(*rows, form.income_title, form.income);
   AppendRow(*rows, form.balance_title, form.balance);
   rows->setColumnStretch(0, kTitleShare);
-  for (int i = 1; i <= static_cast<int>(budget::kMonths); ++i) rows->setColumnStretch(i, 1);
+  const int last = static_cast<int>(budget::kMonths);
+  for (int i = 1; i < last; ++i) rows->setColumnStretch(i, kMonthShare);
+  rows->setColumnStretch(last, kLastMonthShare);
   return Card(table, kTightSpace);
 }
 
@@ -66,7 +72,8 @@ QWidget* Totals(budget::TotalsPanel& panel, PictureStore& pictures) {
 QWidget* View(budget::Budget1a& form, PictureStore& pictures) {
   return YearSheetPage(form, pictures, YearSheetView(form, pictures, Months(form)),
                        PrintView(form.print, pictures, {Widget(form.print_graph)}),
-                       {Totals(form.year_totals, pictures)});
+                       {Totals(form.year_totals, pictures),
+                        Widget(form.preparing, Row({Widget(form.cancel_print), Spring()}))});
 }
 
 }  // namespace tarnwell::desktop

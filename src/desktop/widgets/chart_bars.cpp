@@ -114,14 +114,19 @@ QAbstractBarSeries* ChartDrawing::AddBars(const Axes& axes, const QList<QBarSet*
   return series;
 }
 
+double ChartDrawing::RoomOfNames(const Axes& axes, const std::vector<ChartLabels::Label>& names,
+                                 const ChartLabels& labels) const {
+  const double widest = labels.WidthOf(names, size_.width());
+  if (axes.horizontal) return std::min(widest, size_.width() * kNameShare);
+  const bool fits_level = widest <= size_.width() * (1 - kNameShare) / axes.points;
+  return fits_level ? labels.line_height() + kGap : std::min(widest, size_.height() * kNameShare);
+}
+
 // One set for each look, so that only one bar of each place isn't empty.
 void ChartDrawing::DrawBars(const forms::ChartPicture& picture, ChartLabels& labels) {
   Axes axes{QRectF({}, size_), forms::ScaleOf(picture), picture.horizontal,
             static_cast<int>(picture.points.size())};
-  const double most = (axes.horizontal ? size_.width() : size_.height()) * kNameShare;
-  const double names_room = axes.horizontal
-                                ? labels.WidthOf(Names(picture, 1), most)
-                                : std::min(most, labels.WidthOf(Names(picture, 1), most));
+  const double names_room = RoomOfNames(axes, Names(picture, 1), labels);
   axes.horizontal ? axes.plot.adjust(names_room, 0, 0, 0) : axes.plot.adjust(0, 0, 0, -names_room);
   WriteAmounts(axes, labels);
   const double side = axes.horizontal ? axes.plot.height() : axes.plot.width();

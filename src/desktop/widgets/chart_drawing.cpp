@@ -20,7 +20,6 @@ constexpr int kLetters = 12;        // units of a scene for paper
 constexpr double kLeastSide = 40;   // of a scene that is drawn at all
 constexpr double kNameShare = 0.3;  // of the width, at most, on either side of a pie
 constexpr double kPieShare = 0.8;   // of its place; the rest is for the slice that stands out
-constexpr double kLeader = 1.06;    // radii from the middle to the end of a leader
 
 }  // namespace
 
@@ -84,7 +83,7 @@ void ChartDrawing::DrawPie(const forms::ChartPicture& picture, ChartLabels& labe
   for (const ChartLabels::Label& name : names) {
     const double angle = middles[static_cast<std::size_t>(name.at)];
     const QPointF way(std::sin(angle), -std::cos(angle));
-    const QPointF end = place.center() + way * radius * (name.strong ? 1 : kLeader * kPieShare);
+    const QPointF end = place.center() + way * radius;  // behind the slice that stands out
     if (name.weight <= 0 || !labels.Around(name, end, place.center(), width)) continue;
     scene_.addLine(QLineF(place.center() + way * radius * kPieShare, end), QPen(kChartInk, 1));
   }

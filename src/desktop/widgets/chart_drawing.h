@@ -7,7 +7,9 @@
 #include <QPainter>
 #include <QRectF>
 #include <functional>
+#include <vector>
 
+#include "desktop/widgets/chart_labels.h"
 #include "forms/chart_picture.h"
 
 class QAbstractBarSeries;
@@ -15,8 +17,6 @@ class QBarSet;
 class QChart;
 
 namespace tarnwell::desktop {
-
-class ChartLabels;
 
 // Colours differ in brightness too, so that neighbours can be told apart on grey paper and by eyes
 // that don't see all of them.
@@ -47,6 +47,9 @@ class ChartDrawing {
   };
 
   void DrawBars(const forms::ChartPicture& picture, ChartLabels& labels);
+  // Beside or below the bars.
+  double RoomOfNames(const Axes& axes, const std::vector<ChartLabels::Label>& names,
+                     const ChartLabels& labels) const;
   void DrawStack(const forms::ChartPicture& picture, ChartLabels& labels);
   void DrawPie(const forms::ChartPicture& picture, ChartLabels& labels);
   // Takes the edge of the amounts off the plot and writes the amounts.

@@ -49,10 +49,6 @@ bool ChartLabels::AllFitLevel(const std::vector<Label>& labels) const {
   return true;
 }
 
-double ChartLabels::HeightBelow(const std::vector<Label>& labels, double most) const {
-  return AllFitLevel(labels) ? line_height() + kGap : WidthOf(labels, most);
-}
-
 void ChartLabels::Left(const std::vector<Label>& labels, double edge, double width) {
   Beside(labels, edge, width, true);
 }

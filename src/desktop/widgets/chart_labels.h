@@ -39,8 +39,6 @@ class ChartLabels {
   // One text whose nearest edge or corner is at `point`, as seen from the middle of a pie; false
   // where there is no room.
   bool Around(const Label& label, const QPointF& point, const QPointF& middle, double width);
-  // The level labels below an edge need so much height; upright ones more.
-  double HeightBelow(const std::vector<Label>& labels, double most) const;
 
  private:
   bool AllFitLevel(const std::vector<Label>& labels) const;
