@@ -79,16 +79,11 @@ INSTANTIATE_TEST_SUITE_P(
                     true}));
 
 TEST(BudgetIncome, IsRoundedAndLimited) {
-  struct Case {
-    const char* typed;
-    const char* text;
-    bool too_large;
-  };
-  for (const Case& one : {Case{"1200", "1200.00", false}, Case{"99999.99", "99999.99", false},
-                          Case{"100000", "99999.99", true}, Case{"99999.996", "99999.99", true},
-                          Case{"abc", ".00", false}, Case{".5", ".50", false}}) {
-    EXPECT_EQ(IncomeOf(one.typed).text, one.text);
-    EXPECT_EQ(IncomeOf(one.typed).was_too_large, one.too_large) << one.typed;
+  EXPECT_EQ(IncomeOf("99999.99").text, "99999.99");
+  EXPECT_FALSE(IncomeOf("99999.99").was_too_large);
+  for (const char* typed : {"100000", "99999.996"}) {
+    EXPECT_EQ(IncomeOf(typed).text, "99999.99");
+    EXPECT_TRUE(IncomeOf(typed).was_too_large) << typed;
   }
 }
 
