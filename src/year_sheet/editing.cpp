@@ -15,14 +15,12 @@ constexpr std::size_t kLongestAmount = 20;  // characters that can be typed
 constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                    "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 constexpr double kNumberShare = 0.04;
-constexpr double kNameShare = 0.2;
-constexpr double kMonthShare = 0.06;
+constexpr double kNameShare = 0.16;  // the amounts part the rest
 
 }  // namespace
 
 forms::GridColumn AmountColumn(std::string_view title, bool editable) {
   return {.title = std::string(title),
-          .share = kMonthShare,
           .align = forms::GridAlign::kRight,
           .editable = editable,
           .numeric = true,
@@ -35,6 +33,10 @@ void YearSheet::BuildGrid() {
       {.title = std::string(style_.name_title), .share = kNameShare, .editable = true}};
   for (const char* month : kMonths) columns.push_back(AmountColumn(month, true));
   for (forms::GridColumn& column : MoreColumns()) columns.push_back(std::move(column));
+  const double rest = 1 - kNumberShare - kNameShare;
+  for (std::size_t i = kFirstMonth; i < columns.size(); ++i) {
+    columns[i].share = rest / static_cast<double>(columns.size() - kFirstMonth);
+  }
   grid.SetColumns(std::move(columns), 1, 2);
 }
 

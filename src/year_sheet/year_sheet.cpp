@@ -79,6 +79,7 @@ void YearSheet::ConnectCommands() {
   spelling.on_click = ended(&YearSheet::CheckSpelling);
   print_options.on_click = ended(&YearSheet::OpenPrint);
   exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
+  print.on_close = exporting.on_close = background.on_close = [this] { grid.Focus(); };
   background.on_apply = [this](const forms::GridLook& look) { grid.SetLook(look); };
   colors.on_change = [this] {
     for (forms::Panel* panel : {&sheet, &print.panel, &exporting.panel, &background.panel}) {
@@ -249,6 +250,7 @@ void YearSheet::OpenPrint() {
   }
   if (!has_entries) return print::ReportNothingToPrint(context_);
   print::PrintJob job = Report();
+  job.as_of_line = true;
   job.guide_lines = settings::GuideLines::kYearSheets;
   job.font = settings::PrinterFont::kYearSheets;
   print.Open(std::move(job));

@@ -8,7 +8,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kLettersOfYear = 7;
+constexpr int kLettersOfYear = 9;
 constexpr int kLettersOfBox = 40;
 constexpr int kLettersOfLocation = 9;
 constexpr int kLettersOfPanel = 150;
@@ -24,8 +24,8 @@ QWidget* YearSheetView(year_sheet::YearSheet& form, PictureStore& pictures, QWid
   });
   if (below) Append(column, below);
   Append(column,
-         Flow({Primary(WithIcon("save", Widget(form.save))), Widget(form.copy_right),
-               Widget(form.delete_row), Widget(form.copy_year), Widget(form.totals),
+         Flow({Primary(Widget(form.save)), Widget(form.copy_right), Widget(form.delete_row),
+               Widget(form.copy_year), Widget(form.totals),
                WithIcon("spelling", Widget(form.spelling)),
                WithIcon("print", Widget(form.print_options)), WithIcon("exit", Widget(form.exit))},
               kTightSpace));
