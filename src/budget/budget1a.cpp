@@ -44,7 +44,7 @@ const year_sheet::YearSheetStyle kBudget{
     .panel_color = settings::PanelColor::kBudget,
     .field_color = settings::FieldColor::kBudget,
     .background = settings::GridBackground::kBudget,
-    .print = {.as_of_caption = {}, .grid_lines_caption = "Print Grid Lines on each page"},
+    .print = {.grid_lines_caption = "Print Grid Lines on each page"},
     .help = kBudgetHelp};
 
 }  // namespace

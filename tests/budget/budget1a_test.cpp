@@ -203,10 +203,11 @@ TEST_F(WithTotals, ThePageHasTheChartWhereItBelongs) {
     return std::nullopt;
   };
   EXPECT_THAT(TextsOf(Printed().pages[0]),
-              ElementsAre("Company Budget TOTALS FOR 2026", "Printed: March 9, 2026", "Item",
-                          "Total", "Percentage", "Rent", "300.00", "30.00%", "Idle", "Wages",
-                          "500.00", "50.00%", "Total Expenses: ", "800.00", "80.00%",
-                          "Total Income: ", "1000.00", "100.00%", "Balance: ", "200.00", "20.00%"));
+              ElementsAre("As of  March 09, 2026", "Company Budget TOTALS FOR 2026",
+                          "Printed: March 9, 2026", "Item", "Total", "Percentage", "Rent", "300.00",
+                          "30.00%", "Idle", "Wages", "500.00", "50.00%",
+                          "Total Expenses: ", "800.00", "80.00%", "Total Income: ", "1000.00",
+                          "100.00%", "Balance: ", "200.00", "20.00%"));
   ASSERT_TRUE(chart());
   EXPECT_EQ(*chart()->picture, totals().chart.picture());
   EXPECT_EQ(std::tuple(chart()->x, chart()->y, chart()->width, chart()->height),
@@ -228,8 +229,9 @@ TEST_F(Budget1aTest, TheYearIsPrintedWithItsHeadOnEachPage) {
   form().print_options.Click();
   ASSERT_GE(Printed().pages.size(), 2U);
   const std::vector<std::string> first = TextsOf(Printed().pages[0]);
-  EXPECT_THAT(std::vector(first.begin(), first.begin() + 5),
-              ElementsAre(" Budget For 2026", "Printed: March 9, 2026", "Item", "Jan", "Feb"));
+  EXPECT_THAT(std::vector(first.begin(), first.begin() + 6),
+              ElementsAre("As of  March 09, 2026", " Budget For 2026", "Printed: March 9, 2026",
+                          "Item", "Jan", "Feb"));
   EXPECT_THAT(TextsOf(Printed().pages[1]),
               AllOf(Contains(" Budget For 2026 (Continued)"), Contains("Dec")));
   const std::vector<std::string> last = TextsOf(Printed().pages.back());

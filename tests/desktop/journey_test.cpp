@@ -37,7 +37,7 @@ TEST(Journey, AnAppointmentIsWrittenSavedAndComesBackAsAReminder) {
   EXPECT_EQ(bytes.substr(OffsetOf(today), expected.size()), expected);
 
   const auto names = pictures.Names();
-  EXPECT_EQ(names.size(), 38u);
+  EXPECT_EQ(names.size(), 44u);
   for (const std::string& name : names) {
     EXPECT_EQ(QImage(QString::fromStdString(pictures.path() + "/" + name)).size(), QSize(1024, 768))
         << name;

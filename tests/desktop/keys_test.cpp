@@ -157,6 +157,9 @@ const Way kWays[] = {
     {"PlannerOptions", "Zcalandar1", {"mOCal"}},
     {"PlannerRecurrence", "Zcalandar1", {"Option2(0)"}},
     {"Calendar", "Calendar", {}},
+    {"Budget", "Budget1a", {}},
+    {"SickLeave", "SICKLEAVE1", {}},
+    {"Vacation", "Vacation1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

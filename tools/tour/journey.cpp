@@ -95,15 +95,12 @@ void KeepBudget(Traveller& person) {
       {"Rent", "1200"}, {"Wages", "5400"}, {"Insurance", "310.50"}};
   for (const auto& [item, amount] : items) {
     person.Type(QLatin1String(item));
+    person.Press(Qt::Key_Tab);
+    person.Type(QLatin1String(amount));
+    person.Press(Qt::Key_Return);
+    person.Press(Qt::Key_Left);
     person.Press(Qt::Key_Down);
   }
-  person.Press(Qt::Key_Up);
-  person.Press(Qt::Key_Tab);
-  for (int i = 2; i >= 0; --i) {
-    person.Type(QLatin1String(items[i].second));
-    if (i > 0) person.Press(Qt::Key_Up);
-  }
-  person.Press(Qt::Key_Return);
   person.FillIn(QStringLiteral("Total Income"), QStringLiteral("8000"),
                 [&] { person.Click("Label5(11)"); });
   person.ChooseFromMenu("mOS");

@@ -10,10 +10,9 @@
 namespace tarnwell::desktop {
 namespace {
 
-// As in the grid above, whose last column takes what is left.
-constexpr int kTitleShare = 24;
-constexpr int kMonthShare = 6;
-constexpr int kLastMonthShare = 10;
+// As in the grid above.
+constexpr int kTitleShare = 3;
+constexpr int kMonthShare = 1;
 constexpr int kScrollBar = 14;
 constexpr int kLettersOfItems = 60;
 
@@ -37,9 +36,9 @@ QWidget* Months(budget::Budget1a& form) {
   AppendRow(*rows, form.income_title, form.income);
   AppendRow(*rows, form.balance_title, form.balance);
   rows->setColumnStretch(0, kTitleShare);
-  const int last = static_cast<int>(budget::kMonths);
-  for (int i = 1; i < last; ++i) rows->setColumnStretch(i, kMonthShare);
-  rows->setColumnStretch(last, kLastMonthShare);
+  for (int i = 1; i <= static_cast<int>(budget::kMonths); ++i) {
+    rows->setColumnStretch(i, kMonthShare);
+  }
   return Card(table, kTightSpace);
 }
 
