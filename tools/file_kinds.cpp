@@ -150,8 +150,16 @@ constexpr FileKind kKinds[] = {
     {"CalOpt.fil", "calendar display options", kRecords, "calopt.md", 20, kCalendarOptions},
     {"######.Fil", "calendar sheet", kRows, "calendar-sheet.md", 0, {}, {}, kSheetColumns, 31},
 
-    {"####.Fil", "budget year", kRows, {}, 0, {}, {}, kBudgetColumns, 500},
-    {"####.Bup", "backup of a budget year", kRows, {}, 0, {}, {}, kBudgetColumns, 500},
+    {"####.Fil", "budget year", kRows, "budget-year.md", 0, {}, {}, kBudgetColumns, 500},
+    {"####.Bup",
+     "backup of a budget year",
+     kRows,
+     "budget-year.md",
+     0,
+     {},
+     {},
+     kBudgetColumns,
+     500},
 
     {"ADDBK1.Fil", "business contacts", kFields, {}, 1190, {}, kContact},
     {"ADDBK2.Fil", "names of business contacts", kRecords, {}, 60, kNameIndex},

@@ -12,6 +12,7 @@ inline constexpr const char* kInfoAdv = "InfoAdv";
 inline constexpr const char* kToolsandInfo1 = "ToolsandInfo1";
 inline constexpr const char* kZcalandar1 = "Zcalandar1";
 inline constexpr const char* kCalendar = "Calendar";
+inline constexpr const char* kBudget1a = "Budget1a";
 inline constexpr const char* kSickLeave1 = "SICKLEAVE1";
 inline constexpr const char* kVacation1 = "Vacation1";
 inline constexpr const char* kVSSpell1 = "VSSpell1";

@@ -32,11 +32,19 @@ class Label : public Clickable {
     font_ = font;
     Changed();
   }
+  // Of the letters, on a white ground; empty for the look's own.
+  const std::optional<Color>& color() const { return color_; }
+  void SetColor(std::optional<Color> color) {
+    if (color_ == color) return;
+    color_ = color;
+    Changed();
+  }
 
  private:
   std::string caption_;
   LabelRole role_;
   std::optional<Font> font_;
+  std::optional<Color> color_;
 };
 
 // A picture: a file in the program's folder or among the supplied ones, or one in hand.

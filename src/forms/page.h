@@ -10,6 +10,7 @@
 #include <variant>
 #include <vector>
 
+#include "forms/chart_picture.h"
 #include "forms/color.h"
 
 namespace tarnwell::forms {
@@ -143,8 +144,20 @@ struct PlacedImage {
   friend bool operator==(const PlacedImage&, const PlacedImage&) = default;
 };
 
+// A chart, drawn in lines and letters, so that it is as sharp as its paper.
+struct PlacedChart {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  std::shared_ptr<const ChartPicture> picture;
+
+  friend bool operator==(const PlacedChart&, const PlacedChart&) = default;
+};
+
 // What is listed later lies above what is listed before.
-using Mark = std::variant<PlacedText, PlacedLine, PlacedBox, PlacedPicture, PlacedImage>;
+using Mark =
+    std::variant<PlacedText, PlacedLine, PlacedBox, PlacedPicture, PlacedImage, PlacedChart>;
 using Page = std::vector<Mark>;
 
 struct Document {

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "budget/budget1a.h"
 #include "forms/form_names.h"
 #include "leave/leave_sheet.h"
 #include "planner/calendar.h"
@@ -31,6 +32,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kToolsandInfo1, Make<reference::ToolsandInfo1>);
   navigator.Register(kZcalandar1, Make<planner::Zcalandar1>);
   navigator.Register(kCalendar, Make<planner::Calendar>);
+  navigator.Register(kBudget1a, Make<budget::Budget1a>);
   navigator.Register(kSickLeave1, Make<leave::SICKLEAVE1>);
   navigator.Register(kVacation1, Make<leave::Vacation1>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);

@@ -14,6 +14,8 @@ constexpr AreaButton kAreas[] = {
     {kAgreements, "Company Agreements/Docs", " Company Agreements and Documents ",
      parts::kCompanyData},
     {kPolicies, "Company Policies", "  Comapany Policies  ", parts::kCompanyData},
+    {kBudget, "Company Budget Form", "  Daily Planner  ", parts::kCompanyData,
+     forms::form_names::kBudget1a},
     {kWorksheets, "Company - Additional Docs.",
      "  Company - Additional Documents, Forms and Policies  ", parts::kCompanyData},
     {kRecoveryPlan, "Company Disaster Recovery Plan", "  Disaster Recovery Plan  ",

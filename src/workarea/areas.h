@@ -17,6 +17,7 @@ enum Area : int {
   kAgreements = 2,
   kEmployeeDocuments = 3,
   kPolicies = 4,
+  kBudget = 5,
   kWorksheets = 7,
   kRecoveryPlan = 8,
   kJobDescriptions = 9,

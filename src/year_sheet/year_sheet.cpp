@@ -97,8 +97,8 @@ void YearSheet::BuildMenus() {
   options.AddEntry(style_.insert_entry, "&Insert New Row", {[this] { Insert(); }, with_grid});
   options.AddCommand("mOT", "&Totals For Year", totals);
   options.AddCommand("mOSpell", "Spelling Chec&k", spelling).SetKey("F7");
-  options.AddCommand("mOPrt", "&Print", print_options).SetKey("Ctrl+P");
-  options.AddEntry("mOCopy", "&Copy", {copy, with_grid});
+  options.AddCommand("mOPrt", style_.print_entry, print_options).SetKey("Ctrl+P");
+  options.AddEntry("mOCopy", style_.copy_entry, {copy, with_grid});
   options.AddSeparator();
   options.AddEntry("mOC", "Panel C&olor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
   options.AddEntry("mOGB", "&Grid Background", {[this] { background.Open(); }, with_grid});

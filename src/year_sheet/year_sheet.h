@@ -39,6 +39,8 @@ struct YearSheetStyle {
   AmountStyle amounts;
   std::string_view copy_year_caption;
   std::string_view insert_entry;  // the menu entry's fixed name
+  std::string_view print_entry = "&Print";  // captions of menu entries
+  std::string_view copy_entry = "&Copy";
   std::string_view export_stem;   // of the exported file; the year and ".xls" follow
   bool supply_extension = false;  // of the exported file
   settings::PanelColor panel_color{};
@@ -121,6 +123,7 @@ class YearSheet : public forms::Form {
   bool HasFileOfNextYear() { return context_.folder.Exists(FileOf(shown_year_ + 1)); }
   // Back to the first cell, with nothing picked.
   void GoToStart();
+  void OpenPrint();
 
  private:
   void ConnectCommands();
@@ -144,7 +147,6 @@ class YearSheet : public forms::Form {
   void Remove();
   void Sort(int column);
   void CheckSpelling();
-  void OpenPrint();
   void Copy();
 
   YearSheetStyle style_;

@@ -157,6 +157,7 @@ const Way kWays[] = {
     {"PlannerOptions", "Zcalandar1", {"mOCal"}},
     {"PlannerRecurrence", "Zcalandar1", {"Option2(0)"}},
     {"Calendar", "Calendar", {}},
+    {"Budget", "Budget1a", {}},
     {"Leave", "SICKLEAVE1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},

@@ -123,6 +123,9 @@ TEST(DumpTest, PrintsTheExamplesOfThePagesInWords) {
       {"TODOActv.FIL", "todoactv.md",
        "TODOActv.FIL: company To Do list, 43 bytes\n"
        "row 1: item \"Pay rent\", to do date \"Mon - Mar 9, 26\"\n"},
+      {"2026.Fil", "budget-year.md",
+       "2026.Fil: budget year, 26 bytes\n"
+       "row 1: item \"Rent\", Jan \"1200.00\", Feb \".50\"\n"},
       {"RAList.Fl2", "ralist.md",
        "RAList.Fl2: titles of worksheets, 43 bytes\n"
        "record 1 (worksheet button): \"Fire Safety\"\n"

@@ -94,6 +94,35 @@ void TrackLeave(Traveller& person) {
   person.ExpectTop("WorkArea1");
 }
 
+void KeepBudget(Traveller& person) {
+  person.Click("SSCommand11(5)");
+  person.ExpectTop("Budget1a");
+  const std::pair<const char*, const char*> items[] = {
+      {"Rent", "1200"}, {"Wages", "5400"}, {"Insurance", "310.50"}};
+  for (const auto& [item, amount] : items) {
+    person.Type(QLatin1String(item));
+    person.Press(Qt::Key_Tab);
+    person.Type(QLatin1String(amount));
+    person.Press(Qt::Key_Return);
+    person.Press(Qt::Key_Left);
+    person.Press(Qt::Key_Down);
+  }
+  person.FillIn(QStringLiteral("Total Income"), QStringLiteral("8000"),
+                [&] { person.Click("Label5(11)"); });
+  person.ChooseFromMenu("mOS");
+  person.TakePicture("budget");
+  person.Click("Command8");
+  person.TakePicture("budget-totals");
+  person.Click("SSOption1(1)");
+  person.TakePicture("budget-pie");
+  person.ChooseFromMenu("mOPrt");
+  person.TakePicture("budget-totals-print");
+  person.Click("SSCommand80(2)");
+  person.Click("Command9");
+  person.Click("Command3");
+  person.ExpectTop("WorkArea1");
+}
+
 void FillInWorksheet(Traveller& person) {
   person.Click("SSCommand4(0)");
   person.Click("SSCommand11(7)");
@@ -210,6 +239,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   WriteReport(person);
   TrackLeave(person);
   FillInWorksheet(person);
+  KeepBudget(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

@@ -119,6 +119,23 @@ void Traveller::AnswerAll(const std::vector<Box>& boxes, const std::function<voi
   }
 }
 
+void Traveller::FillIn(const QString& title, const QString& text,
+                       const std::function<void()>& act) {
+  bool filled = false;
+  QTimer look;
+  look.callOnTimeout([&] {
+    QWidget* box = QApplication::activeModalWidget();
+    auto* line = box ? box->findChild<QLineEdit*>() : nullptr;
+    if (!line || filled || box->windowTitle() != title) return;
+    filled = true;
+    QTest::keyClicks(line, text);
+    QTest::keyClick(line, Qt::Key_Return);
+  });
+  look.start(kLookForBoxMs);
+  act();
+  if (!filled) Note(QStringLiteral("no line ") + title);
+}
+
 void Traveller::Meet(const char* form, const std::function<void()>& act,
                      const std::function<void()>& in_form) {
   bool met = false;

@@ -38,6 +38,8 @@ class Traveller {
   };
   void AnswerAll(const std::vector<Box>& boxes, const std::function<void()>& act,
                  const char* picture = nullptr);
+  // Does `act`, which brings a box of that title with a line to type in, and fills it in.
+  void FillIn(const QString& title, const QString& text, const std::function<void()>& act);
   // Does `act`, which brings that modal form, and `in_form` when it is there.
   void Meet(const char* form, const std::function<void()>& act,
             const std::function<void()>& in_form);

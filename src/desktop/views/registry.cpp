@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "budget/budget1a.h"
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
 #include "leave/leave_sheet.h"
@@ -40,6 +41,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kToolsandInfo1, Make<reference::ToolsandInfo1>},
     {forms::form_names::kZcalandar1, Make<planner::Zcalandar1>},
     {forms::form_names::kCalendar, Make<planner::Calendar>},
+    {forms::form_names::kBudget1a, Make<budget::Budget1a>},
     {forms::form_names::kSickLeave1, Make<leave::LeaveSheet>},
     {forms::form_names::kVacation1, Make<leave::LeaveSheet>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},

@@ -16,6 +16,9 @@ namespace tarnwell::reference {
 class InfoAdv;
 class ToolsandInfo1;
 }  // namespace tarnwell::reference
+namespace tarnwell::budget {
+class Budget1a;
+}
 namespace tarnwell::leave {
 class LeaveSheet;
 }
@@ -40,6 +43,7 @@ QWidget* View(reference::InfoAdv& form, PictureStore& pictures);
 QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures);
 QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
 QWidget* View(planner::Calendar& form, PictureStore& pictures);
+QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);

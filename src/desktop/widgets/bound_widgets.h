@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "forms/chart.h"
 #include "forms/choice.h"
 #include "forms/command.h"
 #include "forms/date_picker.h"
@@ -39,6 +40,8 @@ QWidget* Widget(forms::Grid& grid, PictureStore& pictures);
 QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures);
 QWidget* Widget(forms::DatePicker& picker);
 QWidget* Widget(forms::ProgressBar& bar);
+// As large as its place, its letters in the widget's font.
+QWidget* Widget(forms::Chart& chart);
 // A plain text is pasted as rich text where the clipboard has it; Ctrl and the wheel zoom.
 QWidget* Widget(forms::RichTextBox& box);
 // A panel around `content`. With a caption it is a card with a title, else a plain area.

@@ -1,5 +1,7 @@
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <algorithm>
 #include <functional>
 
@@ -16,7 +18,28 @@ class TextLabel : public QLabel {
  public:
   std::function<void()> on_click;
 
+  // The keyboard reaches a label that can be clicked.
+  void SetClickable() {
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+  }
+
  protected:
+  void paintEvent(QPaintEvent* event) override {
+    QLabel::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(QPen(kAccent, 2));
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int key = event->key();
+    const bool clicks = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!on_click || !clicks) return QLabel::keyPressEvent(event);
+    on_click();
+  }
+
   void mouseReleaseEvent(QMouseEvent* event) override {
     QLabel::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && on_click) on_click();
@@ -45,6 +68,12 @@ QFont SampleFont(const forms::Font& font) {
   return sample;
 }
 
+void ShowColor(QLabel& label, const QColor& color) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, color);
+  label.setPalette(palette);
+}
+
 // A user's name may be one word without end: it can be broken where it is very long.
 QString WithBreaks(QString text) {
   constexpr int kLongestWord = 24;  // letters
@@ -68,10 +97,11 @@ QWidget* Widget(forms::Label& label) {
     const QString text = FromCore(label.caption());
     widget->setText(widget->wordWrap() ? WithBreaks(text) : text);
     if (label.font()) widget->setFont(SampleFont(*label.font()));
+    if (label.color()) ShowColor(*widget, ToQColor(*label.color()));
     if (!label.caption().empty()) widget->setAccessibleName(FromCore(label.caption()));
   });
   if (label.on_click) {
-    widget->setCursor(Qt::PointingHandCursor);
+    widget->SetClickable();
     widget->on_click = binding->Forward([&label] { label.Click(); });
   }
   return widget;

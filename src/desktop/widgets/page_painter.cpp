@@ -4,6 +4,7 @@
 #include <QImage>
 
 #include "desktop/widgets/broken_picture.h"
+#include "desktop/widgets/chart_drawing.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/picture_files.h"
@@ -15,6 +16,8 @@ namespace {
 constexpr double kBoxLine = 10;  // twips
 // A PDF file counts finer than any printer prints a picture.
 constexpr double kMostDotsPerTwip = 300.0 / forms::kTwipsPerInch;
+
+constexpr double kChartLetters = 8 * 20;  // twips
 
 constexpr int kWaveHeight = 30;  // twips; half as long as a wave
 
@@ -115,6 +118,12 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture
   // Signs and drawings keep their edges in a PDF; photographs have none to lose.
   painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));
   painter.drawImage(place, image);
+}
+
+void PagePainter::PaintMark(QPainter& painter, const forms::PlacedChart& chart) {
+  if (!chart.picture) return;
+  ChartDrawing::Paint(painter, QRectF(chart.x, chart.y, chart.width, chart.height), *chart.picture,
+                      kChartLetters);
 }
 
 }  // namespace tarnwell::desktop

@@ -33,6 +33,7 @@ class PagePainter {
   void PaintMark(QPainter& painter, const forms::PlacedBox& box);
   void PaintMark(QPainter& painter, const forms::PlacedPicture& picture);
   void PaintMark(QPainter& painter, const forms::PlacedImage& picture);
+  void PaintMark(QPainter& painter, const forms::PlacedChart& chart);
 
   const forms::Document& document_;
   const PictureStore& pictures_;
