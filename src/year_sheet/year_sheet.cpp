@@ -79,7 +79,9 @@ void YearSheet::ConnectCommands() {
   spelling.on_click = ended(&YearSheet::CheckSpelling);
   print_options.on_click = ended(&YearSheet::OpenPrint);
   exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
-  print.on_close = exporting.on_close = background.on_close = [this] { grid.Focus(); };
+  print.on_close = exporting.on_close = background.on_close = [this] {
+    if (grid.Reachable()) grid.Focus();
+  };
   background.on_apply = [this](const forms::GridLook& look) { grid.SetLook(look); };
   colors.on_change = [this] {
     for (forms::Panel* panel : {&sheet, &print.panel, &exporting.panel, &background.panel}) {
