@@ -8,7 +8,6 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kLettersOfYear = 9;
 constexpr int kLettersOfBox = 40;
 constexpr int kLettersOfLocation = 9;
 constexpr int kLettersOfPanel = 150;
@@ -17,8 +16,8 @@ constexpr int kLettersOfPanel = 150;
 
 QWidget* YearSheetView(year_sheet::YearSheet& form, PictureStore& pictures, QWidget* below) {
   QWidget* column = Column({
-      Row({Widget(form.year_label), OfLetters(Widget(form.years), kLettersOfYear),
-           Widget(form.box_label), Grow(AtMost(Widget(form.box), kLettersOfBox)),
+      Row({Widget(form.year_label), Widget(form.years), Widget(form.box_label),
+           Grow(AtMost(Widget(form.box), kLettersOfBox)),
            OfLetters(Widget(form.location), kLettersOfLocation), Spring()}),
       Grow(Widget(form.grid, pictures)),
   });
