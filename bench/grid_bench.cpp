@@ -6,20 +6,18 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "bench_folder.h"
 #include "desktop/widgets/bound_widgets.h"
-#include "desktop/widgets/look.h"
 #include "desktop/widgets/pictures.h"
 #include "held_memory.h"
 #include "idle_world.h"
 #include "ratio_table.h"
+#include "windows.h"
 
 namespace tarnwell::bench {
 namespace {
@@ -76,13 +74,6 @@ class Sheet {
 
   forms::Grid grid;
 };
-
-double Milliseconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
-}
 
 bool Tell(const char* title, std::vector<double> times, double aim, const char* unit = "ms") {
   std::ranges::sort(times);
@@ -212,8 +203,5 @@ int Run(const std::string& parent) {
 }  // namespace tarnwell::bench
 
 int main(int count, char** arguments) {
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(count, arguments);
-  tarnwell::desktop::ApplyLook(application);
-  return tarnwell::bench::Run(count > 1 ? arguments[1] : ".");
+  return tarnwell::bench::RunInWindows(count, arguments, tarnwell::bench::Run);
 }

@@ -3,13 +3,11 @@
 // memory a page takes in a report of four times as many. Runs where QT_QPA_PLATFORM says,
 // "offscreen" if nothing does.
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QPdfWriter>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -21,6 +19,7 @@
 #include "print/rich_text.h"
 #include "print/table.h"
 #include "ratio_table.h"
+#include "windows.h"
 
 namespace tarnwell::bench {
 namespace {
@@ -179,7 +178,5 @@ int Run(const std::string& parent) {
 }  // namespace tarnwell::bench
 
 int main(int count, char** arguments) {
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(count, arguments);
-  return tarnwell::bench::Run(count > 1 ? arguments[1] : ".");
+  return tarnwell::bench::RunInWindows(count, arguments, tarnwell::bench::Run);
 }

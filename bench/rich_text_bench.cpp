@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -17,6 +16,7 @@
 #include "ratio_table.h"
 #include "richtext/rich_text_writer.h"
 #include "storage/program_folder.h"
+#include "windows.h"
 
 namespace tarnwell::bench {
 namespace {
@@ -196,7 +196,5 @@ int Run(const std::string& parent) {
 }  // namespace tarnwell::bench
 
 int main(int count, char** arguments) {
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(count, arguments);
-  return tarnwell::bench::Run(count > 1 ? arguments[1] : ".");
+  return tarnwell::bench::RunInWindows(count, arguments, tarnwell::bench::Run);
 }

@@ -9,21 +9,18 @@
 #include <QApplication>
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdio>
-#include <cstdlib>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "bench_folder.h"
 #include "desktop/desktop.h"
-#include "desktop/widgets/look.h"
 #include "forms/form_names.h"
 #include "planner/calendar.h"
 #include "planner/day_store.h"
 #include "ratio_table.h"
 #include "storage/sequential_file.h"
+#include "windows.h"
 #include "workarea/workarea1.h"
 
 namespace tarnwell::bench {
@@ -35,13 +32,6 @@ constexpr double kMostLonger = 30;      // milliseconds
 constexpr double kLongestPainted = 16;  // milliseconds, a frame of the screen
 constexpr int kRecordLength = 900;
 const text::Date kMonth = text::MakeDate(2026, 8, 1);
-
-double Milliseconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
-}
 
 double Median(std::vector<double> times) {
   std::ranges::sort(times);
@@ -169,8 +159,5 @@ int Run(const std::string& parent) {
 }  // namespace tarnwell::bench
 
 int main(int count, char** arguments) {
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(count, arguments);
-  tarnwell::desktop::ApplyLook(application);
-  return tarnwell::bench::Run(count > 1 ? arguments[1] : ".");
+  return tarnwell::bench::RunInWindows(count, arguments, tarnwell::bench::Run);
 }

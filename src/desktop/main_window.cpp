@@ -250,10 +250,11 @@ void MainWindow::MeetFrame() {
 }
 
 // Where no window manager answers, a maximised window has to find its size itself. Past the widget,
-// which would take the size for the end of being maximised.
+// which would take the size for the end of being maximised; a manager would take it so too.
 void MainWindow::FillScreenUnmanaged() {
   const QRect available = QMainWindow::screen()->availableGeometry();
-  if (Frame().isNull() && geometry() != available) windowHandle()->setGeometry(available);
+  const bool has_frame = frameSize() != QMainWindow::size();
+  if (!has_frame && geometry() != available) windowHandle()->setGeometry(available);
 }
 
 void MainWindow::CenterOnScreen() {

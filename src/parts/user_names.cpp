@@ -11,6 +11,12 @@ namespace {
 
 std::string PlainKey(std::string_view name) { return text::UpperCase(text::Trim(name)); }
 
+storage::NameList ReadNames(storage::ProgramFolder& folder, std::string_view file) {
+  storage::NameList list = storage::ReadNameList(folder, file);
+  std::erase_if(list.names, [](const std::string& name) { return text::Trim(name).empty(); });
+  return list;
+}
+
 }  // namespace
 
 UserNames::UserNames(storage::ProgramFolder& folder, UserNamesStyle style)
@@ -19,7 +25,7 @@ UserNames::UserNames(storage::ProgramFolder& folder, UserNamesStyle style)
 }
 
 storage::Outcome UserNames::Read() {
-  storage::NameList read = storage::ReadNameList(folder_, style_.file);
+  storage::NameList read = ReadNames(folder_, style_.file);
   names_ = std::move(read.names);
   return read.fault;
 }
@@ -61,7 +67,7 @@ std::string UserNames::AsListed(std::string_view name) {
 
 // What can't be read leaves what was.
 storage::Outcome UserNames::Refresh() {
-  storage::NameList read = storage::ReadNameList(folder_, style_.file);
+  storage::NameList read = ReadNames(folder_, style_.file);
   if (read.fault == storage::Fault::kNone) names_ = std::move(read.names);
   return read.fault;
 }

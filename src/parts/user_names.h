@@ -31,7 +31,8 @@ class UserNames {
 
   UserNames(storage::ProgramFolder& folder, UserNamesStyle style);
 
-  // A missing file gives no names, and so does one that can't be read: the outcome tells.
+  // A missing file gives no names, and so does one that can't be read: the outcome tells. Blank
+  // lines are no names.
   storage::Outcome Read();
 
   const std::vector<std::string>& names() const { return names_; }

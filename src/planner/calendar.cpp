@@ -17,7 +17,8 @@ namespace tarnwell::planner {
 namespace {
 
 constexpr const char* kSaveTitle = "Save Option";
-constexpr const char* kSaveText = "Save changes made to data before next action?";
+constexpr parts::SaveWords kLeaving{kSaveTitle, "Save changes made to data before next action?",
+                                    forms::Buttons::kYesNoCancel};
 
 std::string TitleOf(text::Date month) {
   return MonthTitle(text::YearOf(month), text::MonthOf(month));
@@ -114,7 +115,7 @@ void Calendar::PickDay() {
   const text::Date day = *picker.date();
   if (day == loaded_) return;
   const bool is_other_month = MonthOfSheet(day) != MonthOfSheet(loaded_);
-  if ((is_other_month || is_typed_) && !question_.Settle({kSaveTitle, kSaveText})) {
+  if ((is_other_month || is_typed_) && !question_.Settle(kLeaving)) {
     return picker.SetDate(loaded_);
   }
   if (is_other_month) return LoadMonth(day);
@@ -249,9 +250,9 @@ void Calendar::StoreSortTime(int option) {
 }
 
 bool Calendar::QueryUnload(forms::UnloadCause cause) {
-  const auto buttons =
-      cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel : forms::Buttons::kYesNo;
-  return question_.Settle({kSaveTitle, kSaveText, buttons}) && colors.Leave(buttons);
+  return question_.Settle(kLeaving) &&
+         colors.Leave(cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel
+                                                            : forms::Buttons::kYesNo);
 }
 
 }  // namespace tarnwell::planner

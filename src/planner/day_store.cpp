@@ -78,6 +78,7 @@ std::optional<std::vector<PlannerDay>> ReadMonth(storage::ProgramFolder& folder,
       text::MakeDate(month == 12 ? kLeapYear + 1 : kLeapYear, month % 12 + 1, 1), -1));
   auto file = OpenYear(folder, text::MakeDate(year, month, 1));
   std::vector<PlannerDay> days;
+  days.reserve(last);
   for (unsigned day = 1; day <= last; ++day) {
     days.push_back(Unpack(file.GetStructure(DayRecordNumber(month, day), kStoredBytes)));
     if (IsUnreadable(file, fault)) return std::nullopt;

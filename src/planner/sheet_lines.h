@@ -11,6 +11,9 @@
 
 namespace tarnwell::planner {
 
+// The line without the blanks at its ends, and without a copy: a month has thousands of them.
+std::string_view Trimmed(std::string_view line);
+
 enum class Placed {
   kFound,   // a line is the entry, or ends with it
   kPlaced,  // in the place of a line with which the entry ends, or in the first blank line

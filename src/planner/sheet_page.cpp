@@ -15,7 +15,7 @@ constexpr int kPadding = 40;       // twips, between a box and its text
 constexpr double kTitleSize = 20;  // points
 constexpr double kHeadingSize = 11;
 constexpr double kNumberSize = 9;
-constexpr double kSmallestWrapped = 6;  // points: rather than smaller, a line is cut
+constexpr double kSmallestWrapped = 6;  // points: rather than smaller, lines are cut
 constexpr double kSmallest = 1;
 constexpr double kStep = 0.5;
 constexpr std::size_t kMostRemembered = 5000;
@@ -108,13 +108,7 @@ void SheetPage::DrawDay(int day, NumberSide side, const DayLines& lines) {
     font.size -= kStep;
     rows = RowsOf(lines, used, font);
   }
-  if (!FitsIn(rows, font)) {
-    font = FontFor(used);
-    rows.clear();
-    for (int i = 0; i < used; ++i) {
-      rows.push_back(Cut(lines[static_cast<std::size_t>(i)], font, kGoesOn));
-    }
-  }
+  if (!FitsIn(rows, font)) rows = CutRowsOf(lines, used, font);
   engine_.SetFont(font);
   const int pitch = metrics_.LineHeight(font);
   int y = box.y + number_height_;
@@ -145,6 +139,29 @@ std::vector<std::string> SheetPage::RowsOf(const DayLines& lines, int count,
     rows.insert(rows.end(), parts.begin(), parts.end());
   }
   return rows;
+}
+
+// The longest lines give up their ends, until each has one row at least.
+std::vector<std::string> SheetPage::CutRowsOf(const DayLines& lines, int count,
+                                              const forms::Font& font) {
+  std::vector<std::vector<std::string>> parts;
+  std::size_t rows = 0;
+  for (int i = 0; i < count; ++i) {
+    parts.push_back(Wrapped(lines[static_cast<std::size_t>(i)], font));
+    rows += parts.back().size();
+  }
+  const auto room = static_cast<std::size_t>(text_height_ / metrics_.LineHeight(font));
+  for (; rows > room; --rows) {
+    auto& longest = *std::ranges::max_element(parts, {}, &std::vector<std::string>::size);
+    if (longest.size() < 2) break;
+    longest.pop_back();
+    if (!longest.back().ends_with(kGoesOn)) longest.back().append(kGoesOn);
+  }
+  std::vector<std::string> cut;
+  for (const auto& line : parts) {
+    for (const std::string& row : line) cut.push_back(Cut(row, font, kGoesOn));
+  }
+  return cut;
 }
 
 const std::vector<std::string>& SheetPage::Wrapped(const std::string& line,

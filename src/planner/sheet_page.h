@@ -22,8 +22,8 @@ class SheetPage {
 
   // The month on a page of that paper: title, the weekdays' names, a box for each day. Lines are
   // printed in the sheet's font, smaller where a day's wouldn't go into its box otherwise. A line
-  // that is wider than the box goes on below, as long as the box has room for all lines of the day;
-  // else it ends with "…".
+  // that is wider than the box goes on below, as long as the box has room; where it hasn't even in
+  // the smallest letters, the longest lines end with "…".
   void Build(const forms::PageSetup& setup, const MonthSheet& sheet, text::Date month,
              NumberSide side);
   const forms::Document& document() const { return engine_.document(); }
@@ -45,6 +45,7 @@ class SheetPage {
   forms::Font FontFor(int rows) const;
   bool FitsIn(const std::vector<std::string>& rows, const forms::Font& font) const;
   std::vector<std::string> RowsOf(const DayLines& lines, int count, const forms::Font& font);
+  std::vector<std::string> CutRowsOf(const DayLines& lines, int count, const forms::Font& font);
   const std::vector<std::string>& Wrapped(const std::string& line, const forms::Font& font);
   std::string Cut(const std::string& line, const forms::Font& font, std::string_view mark);
 

@@ -5,6 +5,7 @@
 
 #include "richtext/editor.h"
 #include "richtext/list_numbering.h"
+#include "richtext/list_words.h"
 
 namespace tarnwell::richtext {
 namespace {
@@ -13,8 +14,28 @@ constexpr int kDeepest = 8;
 constexpr int kLeastRoom = 1440;  // twips that text keeps of its line
 constexpr const char* kBullet = "\u2022";
 
-// What the first item of a list begins with, on any level: so other programs count them.
-std::string FirstMarker(bool numbered) { return numbered ? "1." : kBullet; }
+// Levels count by numbers and by letters in turn. A list of another program's stays as it counts.
+void BeginCount(ListItem& item) {
+  item.marker = item.numbered ? "1." : kBullet;
+  const std::string letters = LetterListDescription();
+  const bool is_plain = item.description.empty() || item.description == letters ||
+                        item.description == PlainListDescription(true);
+  if (!item.numbered || item.list_number != 0 || !is_plain) return;
+  const bool has_letters = item.level % 2 == 1;
+  if (has_letters) item.marker = "a.";
+  item.description = has_letters ? letters : PlainListDescription(true);
+}
+
+// The item above that counts on that level, as far up as the list goes on; nullptr for none.
+const ListItem* CountedAbove(const std::vector<Block>& above, const ListItem& item) {
+  for (auto block = above.rbegin(); block != above.rend(); ++block) {
+    const auto& list = std::get<Paragraph>(*block).format.list;
+    if (!list || list->level < item.level) return nullptr;
+    const bool is_like = list->level == item.level && list->list_number == item.list_number;
+    if (is_like && list->numbered) return &*list;
+  }
+  return nullptr;
+}
 
 void MakeItem(ListKind kind, const ParagraphFormat* above, ParagraphFormat& format) {
   if (ListKindOf(format) == kind) return;
@@ -26,7 +47,7 @@ void MakeItem(ListKind kind, const ParagraphFormat* above, ParagraphFormat& form
     format.left_indent = above->left_indent;
     format.first_line_indent = above->first_line_indent;
   } else {
-    item.marker = FirstMarker(item.numbered);
+    BeginCount(item);
     format.left_indent = (item.level + 2) * kListStep;
     format.first_line_indent = -kListStep;
   }
@@ -41,13 +62,18 @@ void GoOn(const std::vector<Block>& above, std::vector<Block>& items) {
   std::move(all.begin() + std::ssize(above), all.end(), items.begin());
 }
 
-void IndentItem(int steps, ParagraphFormat& format) {
+void IndentItem(int steps, const std::vector<Block>& above, ParagraphFormat& format) {
   ListItem& item = *format.list;
   const int level = std::clamp(item.level + steps, 0, kDeepest);
   if (level == item.level) return;
   format.left_indent = std::max(format.left_indent + (level - item.level) * kListStep, kListStep);
   item.level = level;
-  if (item.numbered) item.marker = FirstMarker(true);
+  if (!item.numbered) return;
+  BeginCount(item);
+  if (const ListItem* like = CountedAbove(above, item)) {
+    item.marker = like->marker;
+    item.description = like->description;
+  }
 }
 
 }  // namespace
@@ -87,12 +113,15 @@ void Editor::Indent(const Range& range, int steps) {
   const Page& page = document_.page;
   const int most = std::max(page.width - page.left_margin - page.right_margin - kLeastRoom, 0);
   Rewrite(range, [=](const std::vector<Block>& above, std::vector<Block>& paragraphs) {
+    std::vector<Block> before = above;
     for (Block& block : paragraphs) {
       ParagraphFormat& format = std::get<Paragraph>(block).format;
       if (format.list) {
-        IndentItem(steps, format);
+        IndentItem(steps, before, format);
+        before.push_back(block);
         continue;
       }
+      before.clear();
       // What stands farther in or out already stays there.
       const int wanted = format.left_indent + steps * kIndentStep;
       format.left_indent = steps > 0 ? std::max(std::min(wanted, most), format.left_indent)

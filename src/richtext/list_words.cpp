@@ -99,6 +99,10 @@ std::string PlainListDescription(bool numbered) {
                   : "{\\*\\pn\\pnlvlblt\\pnindent360{\\pntxtb\\'b7}}";
 }
 
+std::string LetterListDescription() {
+  return "{\\*\\pn\\pnlvlbody\\pnlcltr\\pnstart1\\pnindent360{\\pntxta .}}";
+}
+
 bool DescribesNumbers(std::string_view description) {
   return description.find("\\pnlvlblt") == std::string_view::npos;
 }

@@ -11,6 +11,8 @@ namespace tarnwell::richtext {
 
 // The description of a plain bullet, or of a plain number with a full stop.
 std::string PlainListDescription(bool numbered);
+// Of a small letter with a full stop.
+std::string LetterListDescription();
 
 // Whether a "{\*\pn …}" group describes numbers or letters, not bullets.
 bool DescribesNumbers(std::string_view description);

@@ -24,6 +24,15 @@ bool IsOwnName(std::string_view name) {
                                  file_names::kOwnPrefix);
 }
 
+// Whether of two pages only one differs from what was there.
+bool ChangesOnePage(std::uint64_t offset, std::string_view before, std::string_view bytes) {
+  const std::size_t first = RedoNote::InFirstPage(offset, bytes.size());
+  const std::string_view rest = bytes.substr(first);
+  if (before.size() > first && before.substr(first) == rest) return true;
+  const bool is_in_next = RedoNote::InFirstPage(offset + first, rest.size()) == rest.size();
+  return is_in_next && before.substr(0, first) == bytes.substr(0, first);
+}
+
 }  // namespace
 
 bool IsPlainFileName(std::string_view name) {
@@ -150,11 +159,18 @@ bool ProgramFolder::WriteAt(File& file, std::string_view name, std::uint64_t off
 }
 
 // A write that the disk breaks off is undone; where the disk refuses that too, its note stays.
+// Where only one of two pages changes, a killed process leaves the whole old or the whole new
+// bytes, and nothing is noted before.
 bool ProgramFolder::WriteAcrossPages(File& file, std::string_view name, std::uint64_t offset,
                                      std::string_view bytes) {
-  std::string before(RedoNote::InFirstPage(offset, bytes.size()), '\0');
-  if (!Worked(file.ReadAt(offset, before) >= 0)) return false;
-  if (!redo_note_.Set(name, offset, bytes) &&
+  const std::size_t first = RedoNote::InFirstPage(offset, bytes.size());
+  std::string before(bytes.size(), '\0');
+  const std::ptrdiff_t count = file.ReadAt(offset, before);
+  if (!Worked(count >= 0)) return false;
+  before.resize(static_cast<std::size_t>(count));
+  const bool can_tear = !ChangesOnePage(offset, before, bytes);
+  before.resize(first, '\0');
+  if (can_tear && !redo_note_.Set(name, offset, bytes) &&
       (files_.fault() == Fault::kFull || files_.fault() == Fault::kBroken)) {
     fault_ = files_.fault();
     redo_note_.Clear();
@@ -164,6 +180,7 @@ bool ProgramFolder::WriteAcrossPages(File& file, std::string_view name, std::uin
   if (is_written || file.WriteAt(offset, before)) {
     redo_note_.Clear();
   } else {
+    if (!can_tear) redo_note_.Set(name, offset, bytes);
     redo_note_.BrokeOff(name, offset, bytes);
   }
   return is_written;

@@ -25,6 +25,12 @@ DocumentView::DocumentView(forms::Container& parent, forms::Context& context)
   print_options.SetToolTip("Print Options (Ctrl+P)");
   ConnectCommands();
   SetAccess(Access::kNone);
+  LendTo(nullptr);
+}
+
+void DocumentView::LendTo(DocumentOwner* owner) {
+  owner_ = owner;
+  if (!owner) ShowChoices(false, false);
 }
 
 void DocumentView::AddMenu(forms::MenuItem& menus) {

@@ -60,8 +60,8 @@ class DocumentView {
 
   // Which choices its documents have: of a status, and among three texts.
   void ShowChoices(bool of_status, bool of_text);
-  // Its commands are the owner's from now on.
-  void LendTo(DocumentOwner* owner) { owner_ = owner; }
+  // Its commands are the owner's from now on. Without one there is nothing to choose.
+  void LendTo(DocumentOwner* owner);
   DocumentOwner* owner() const { return owner_; }
 
   // What can be done: nothing without a document; leaving it alone when it can't be read; reading;

@@ -13,61 +13,48 @@ namespace file_names = storage::file_names;
 
 std::string Folded(std::string_view name) { return text::UpperCase(text::TrimRight(name)); }
 
+auto PlaceOf(std::vector<std::string>& names, std::string_view name) {
+  return std::ranges::find(names, Folded(name), Folded);
+}
+
 }  // namespace
 
-void ToDoNames::Read(storage::ProgramFolder& folder) {
-  storage::NameList list = storage::ReadNameList(folder, file_names::kToDoNames);
-  names_ = std::move(list.names);
-  std::erase_if(names_, [](auto& name) { return text::Trim(name).empty(); });
-  fault_ = list.fault;
-}
+ToDoNames::ToDoNames(storage::ProgramFolder& folder)
+    : folder_(folder),
+      list_(folder, {.file = file_names::kToDoNames, .key = Folded, .most = kMostToDoNames}) {}
 
 const std::string* ToDoNames::Find(std::string_view name) const {
-  const std::string folded = Folded(name);
-  const auto found =
-      std::ranges::find_if(names_, [&](auto& known) { return Folded(known) == folded; });
-  return found == names_.end() ? nullptr : &*found;
+  const int place = list_.Find(name);
+  return place == parts::UserNames::kNone ? nullptr : &names()[static_cast<std::size_t>(place)];
 }
 
-bool ToDoNames::Add(std::string_view name) {
-  if (!is_readable() || names_.size() >= kMostToDoNames) return false;
-  if (text::Trim(name).empty() || Find(name)) return false;
-  names_.emplace_back(name);
-  return true;
+// The marker says nothing of the list, so it doesn't matter whether it could be written.
+storage::Outcome ToDoNames::Add(std::string_view name) {
+  if (!is_readable() || text::Trim(name).empty() || Find(name) || !list_.has_room()) return {};
+  storage::WriteNameList(folder_, file_names::kLocation, {" "});
+  return list_.Add(name);
 }
 
-bool ToDoNames::Remove(std::string_view name) {
-  const std::string folded = text::UpperCase(text::Trim(name));
-  const auto found = std::ranges::find_if(
-      names_, [&](auto& known) { return text::UpperCase(text::Trim(known)) == folded; });
-  if (found == names_.end()) return false;
-  names_.erase(found);
-  return true;
+storage::Outcome ToDoNames::Remove(std::string_view name) {
+  const std::string wanted = text::Trim(name);
+  const auto found = std::ranges::find_if(names(), [&](const std::string& listed) {
+    return text::EqualIgnoringCase(text::Trim(listed), wanted);
+  });
+  return found == names().end() ? storage::Outcome() : list_.Remove(std::string(*found));
 }
 
-bool ToDoNames::Correct(std::string_view name, std::string_view corrected) {
-  const std::string folded = Folded(name);
-  const auto found =
-      std::ranges::find_if(names_, [&](auto& known) { return Folded(known) == folded; });
-  if (found == names_.end()) return false;
-  if (folded != Folded(corrected) && Find(corrected)) {
-    names_.erase(found);
-  } else {
-    *found = corrected;
+storage::Outcome ToDoNames::Correct(const Corrections& corrections) {
+  std::vector<std::string> names = list_.names();
+  for (const auto& [name, corrected] : corrections) {
+    const auto found = PlaceOf(names, name);
+    if (found == names.end()) continue;
+    if (Folded(name) != Folded(corrected) && PlaceOf(names, corrected) != names.end()) {
+      names.erase(found);
+    } else {
+      *found = corrected;
+    }
   }
-  return true;
-}
-
-storage::Outcome ToDoNames::Write(storage::ProgramFolder& folder) const {
-  if (!is_readable()) return fault_;
-  return storage::WriteNameList(folder, file_names::kToDoNames, names_);
-}
-
-storage::Outcome ToDoNames::WriteWithMarker(storage::ProgramFolder& folder) const {
-  if (!is_readable()) return fault_;
-  const auto marked = storage::WriteNameList(folder, file_names::kLocation, {" "});
-  const auto written = Write(folder);
-  return written ? marked : written;
+  return names == list_.names() ? storage::Outcome() : list_.Replace(std::move(names));
 }
 
 }  // namespace tarnwell::workarea

@@ -27,7 +27,8 @@ ToDoPane::ToDoPane(forms::Form& hub, forms::Container& areas, forms::Context& co
       background(hub, context, settings::GridBackground::kWorkArea),
       hub_(hub),
       context_(context),
-      question_(context, [this] { return Save(); }) {
+      question_(context, [this] { return Save(); }),
+      names_(context.folder) {
   panel.SetVisible(false);
   ConnectCommands();
 }
@@ -72,7 +73,7 @@ void ToDoPane::Enter(Area) {
   date.SetCaption("Date: " + text::FormatDate(context_.clock.Today(), "mmmm d, yyyy"));
   background.Load();
   const ToDoList list = ReadToDoList(context_.folder);
-  names_.Read(context_.folder);
+  names_.Read();
   sheet.Fill(list.rows);
   names.SetItems(names_.names());
   names.SetText({});
@@ -148,23 +149,23 @@ void ToDoPane::AddName() {
 
 // A new item's name can be used again.
 void ToDoPane::TakeItem(const std::string& item) {
-  if (!names_.Add(item)) return;
-  names.SetItems(names_.names());
-  if (const auto stored = names_.WriteWithMarker(context_.folder); !stored) {
-    forms::TellHoldsForNow(context_, "The list of names", stored.fault());
+  if (const auto added = names_.Add(item); !added) {
+    return forms::TellRefused(context_, "The list of names", added.fault(),
+                              "The item stands in the grid alone.");
   }
+  names.SetItems(names_.names());
 }
 
 void ToDoPane::DeleteName() {
-  ToDoNames rest = names_;
-  if (!rest.Remove(names.text())) return names.Focus();
-  if (const auto stored = rest.Write(context_.folder); !stored) {
-    return forms::TellRefused(context_, "The list of names", stored.fault(),
+  const std::size_t before = names_.names().size();
+  if (const auto removed = names_.Remove(names.text()); !removed) {
+    return forms::TellRefused(context_, "The list of names", removed.fault(),
                               "The item stays in it.");
   }
-  names_ = std::move(rest);
-  names.SetItems(names_.names());
-  names.SetText({});
+  if (names_.names().size() < before) {
+    names.SetItems(names_.names());
+    names.SetText({});
+  }
   names.Focus();
 }
 
@@ -185,16 +186,14 @@ void ToDoPane::CheckSpelling() {
 }
 
 void ToDoPane::CorrectNames(const std::vector<ToDoRow>& before, const std::vector<ToDoRow>& after) {
-  bool has_corrected = false;
+  ToDoNames::Corrections corrections;
   for (std::size_t i = 0; i < before.size(); ++i) {
-    if (before[i].item == after[i].item) continue;
-    has_corrected |= names_.Correct(before[i].item, after[i].item);
+    if (before[i].item != after[i].item) corrections.emplace_back(before[i].item, after[i].item);
   }
-  if (!has_corrected) return;
+  if (const auto corrected = names_.Correct(corrections); !corrected) {
+    forms::TellRefused(context_, "The list of names", corrected.fault(), "It stays as it was.");
+  }
   names.SetItems(names_.names());
-  if (const auto stored = names_.Write(context_.folder); !stored) {
-    forms::TellHoldsForNow(context_, "The list of names", stored.fault());
-  }
 }
 
 void ToDoPane::Print() {

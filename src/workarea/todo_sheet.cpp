@@ -106,6 +106,13 @@ void ToDoSheet::CloseCalendarUnlessInUse() {
   if (!grid.focused() && !calendar.focused()) CloseCalendar();
 }
 
+bool ToDoSheet::GiveUpCalendar() {
+  if (!calendar.visible()) return false;
+  CloseCalendar();
+  grid.Focus();
+  return true;
+}
+
 void ToDoSheet::PickDay() {
   const auto [row, column] = grid.current();
   const std::string day = ToDoDateText(*calendar.date());

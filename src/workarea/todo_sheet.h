@@ -37,6 +37,8 @@ class ToDoSheet {
   void InsertRow();
 
   void CloseCalendar() { calendar.SetVisible(false); }
+  // A person wants no day of it. False where it isn't open.
+  bool GiveUpCalendar();
 
   // A person changed the rows; and, behind that, wrote this item.
   std::function<void()> on_change;

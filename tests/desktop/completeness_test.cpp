@@ -45,10 +45,10 @@ struct Sight {
   bool may_scroll;
 };
 const Sight kSights[] = {
-    {"DejaVu Sans", 10, kLeastScreen, false},     {"DejaVu Sans", 10, kWideScreen, false},
-    {"DejaVu Sans", 12, kLaptopScreen, false},    {"DejaVu Sans", 12, kLeastScreen, false},
-    {"Liberation Sans", 10, kLeastScreen, false}, {"Noto Sans", 10, kLeastScreen, false},
-    {"Noto Sans", 14, kLaptopScreen, true},
+    {"DejaVu Sans", 10, kLeastScreen, false},  {"DejaVu Sans", 10, kWideScreen, false},
+    {"DejaVu Sans", 10, kLaptopScreen, false}, {"DejaVu Sans", 12, kLaptopScreen, false},
+    {"DejaVu Sans", 12, kLeastScreen, false},  {"Liberation Sans", 10, kLeastScreen, false},
+    {"Noto Sans", 10, kLeastScreen, false},    {"Noto Sans", 14, kLaptopScreen, true},
 };
 
 // Until what the last change asked for has been laid out.

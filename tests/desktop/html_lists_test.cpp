@@ -61,6 +61,34 @@ TEST(HtmlLists, ListsGoOnlySoDeep) {
   EXPECT_TRUE(shown.endsWith(QLatin1String("<p>end")));
 }
 
+TEST(HtmlPages, WhatWouldTakeLongToReadIsRefusedUnread) {
+  const QString sheet = QStringLiteral("<style>%1</style>");
+  const struct {
+    const char* what;
+    QString html;
+    bool is_read;
+  } cases[] = {
+      {"a sheet of 2,000 rows",
+       "<table>" + ("<tr>" + QString("<td>x</td>").repeated(10)).repeated(2000), true},
+      {"a picture", "<p>x<img src=\"data:image/png;base64," + QString(6'000'000, 'A') + "\">",
+       true},
+      {"deep, side by side", ("<b>" + QString("<i>x</i>").repeated(3)).repeated(400), true},
+      {"tags", QString("<b>x</b>").repeated(110'000), false},
+      {"depth", QString("<div>").repeated(100'000), false},
+      {"text", "<p>" + QString("word ").repeated(1'100'000), false},
+      {"styles", sheet.arg(QString("p{color:red}").repeated(100'000)) + "<p>x", false},
+      {"a usual sheet of styles", sheet.arg(QString("p{color:red}").repeated(100)) + "<p>x", true},
+  };
+  for (const auto& c : cases) {
+    QMimeData mime;
+    mime.setHtml(c.html);
+    const auto document = FromMime(mime);
+    ASSERT_TRUE(document) << c.what;
+    EXPECT_FALSE(document->blocks.empty()) << c.what;
+    EXPECT_EQ(!document->is_part, c.is_read) << c.what;
+  }
+}
+
 TEST(HtmlLists, ALongOneCountsOnWithoutAGap) {
   QMimeData mime;
   mime.setHtml(QStringLiteral("<ol style=\"color:#ff0000\">") +

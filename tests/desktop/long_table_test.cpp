@@ -29,17 +29,31 @@ std::string LongTable() {
   return rtf + "\\pard end\\par}";
 }
 
+class PaintCounter : public QObject {
+ public:
+  int count = 0;
+
+ private:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
+
 class LongTableTest : public ::testing::Test {
  protected:
   void SetUp() override {
     view_.resize(700, 500);
     view_.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view_));
+    view_.viewport()->installEventFilter(&paintings_);
     box_.SetDocument(richtext::ReadRichText(LongTable()));
     at_first_ = view_.document()->blockCount();
     ASSERT_TRUE(QTest::qWaitFor(
         [this] { return view_.document()->lastBlock().text() == QLatin1String("end"); }));
   }
 
+  PaintCounter paintings_;
   testing::SampleWorld world_;
   testing::SampleForm& form_ = world_.Show();
   forms::RichTextBox box_{form_, "RichTextBox1", {.spoken_name = "Document"}};
@@ -58,6 +72,10 @@ TEST_F(LongTableTest, ComesInPartsThatAreEachLaidOutAlone) {
     box_.Select({{i, 0}, {i, 9}});
     EXPECT_EQ(view_.textCursor().selectedText().toStdString(), box_.ParagraphText(i)) << i;
   }
+}
+
+TEST_F(LongTableTest, ComesWithoutPaintingWhatIsOnTheScreenEachTime) {
+  EXPECT_LT(paintings_.count, kCells / kPart / 2);
 }
 
 TEST_F(LongTableTest, IsOneTableForTheKeys) {

@@ -143,10 +143,13 @@ TEST(Pages, OnAMachineWithoutAPrinterTheyGoIntoAPdfFile) {
   WhenModal([&file](QWidget* modal) {
     auto* name = modal->findChild<QLineEdit*>(QStringLiteral("filename"));
     ASSERT_NE(name, nullptr);
+    EXPECT_TRUE(name->text().endsWith(QStringLiteral("/Timeline-To Do.pdf")));
     name->setText(file);
     qobject_cast<QDialog*>(modal)->accept();
   });
-  EXPECT_EQ(pages.Print(DayPage(pages.metrics(), 3)), forms::PrintResult::kDone);
+  forms::Document days = DayPage(pages.metrics(), 3);
+  days.title = "Timeline/To Do";
+  EXPECT_EQ(pages.Print(days), forms::PrintResult::kDone);
   EXPECT_THAT(LinesOfPdf(file), ::testing::IsSupersetOf({"No time 1", "No time 2", "No time 3"}));
 }
 

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QStringList>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <filesystem>
 
@@ -68,6 +69,31 @@ TEST(PlannerView, ArrowsMoveBetweenRowsAndANumberBoxIsReplacedByTyping) {
   QTest::keyClicks(box("Text4"), "1");
   EXPECT_EQ(form.recurrence.choice.every_days.text(), "1");
   EXPECT_EQ(form.recurrence.choice.mode(), planner::RecurrenceMode::kDaily);
+}
+
+TEST(PlannerView, F1OnThePrintPanelIsAboutPrinting) {
+  const tarnwell::testing::TemporaryFolder temporary;
+  Desktop desktop(
+      {QString::fromStdString(temporary.path()), QStringLiteral(TARNWELL_SOURCE_DIR "/data")});
+  desktop.navigator().Show(forms::form_names::kZcalandar1);
+  auto& form = dynamic_cast<planner::Zcalandar1&>(*desktop.navigator().top());
+  form.entries[0].Type("Dentist");
+  testing::WhenModal([](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); });
+  form.save.Click();
+  form.print_options.Click();
+  for (const char* place : {"VSP1", "SSCommand80(4)", "Check83"}) {
+    auto* widget = desktop.window().findChild<QWidget*>(QLatin1String(place));
+    ASSERT_NE(widget, nullptr) << place;
+    QTest::keyClick(widget, Qt::Key_F1);
+    const auto windows = QApplication::topLevelWidgets();
+    const QTextBrowser* help = nullptr;
+    for (const QWidget* window : windows) {
+      if (auto* found = window->findChild<QTextBrowser*>()) help = found;
+    }
+    ASSERT_NE(help, nullptr) << place;
+    EXPECT_EQ(help->source().fileName(), QStringLiteral("1014.html")) << place;
+    help->window()->close();
+  }
 }
 
 // Whether this process has the note open that guards writes across two pages.

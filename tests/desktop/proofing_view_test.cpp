@@ -5,9 +5,9 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QTest>
-#include <QTimer>
 
 #include "desktop/desktop.h"
+#include "desktop/when_modal.h"
 #include "forms/form_names.h"
 #include "proofing/spelling_session.h"
 #include "proofing/vsspell1.h"
@@ -39,7 +39,9 @@ class ProofingView : public ::testing::Test {
     desktop.Start();
     proofing::SpellingSession session(speller, folder, text);
     ASSERT_TRUE(session.FindNext());
-    QTimer::singleShot(50, [this, act] {
+    testing::WhenModal([this, act](QWidget* dialogue) {
+      // A field has the focus only in the window that the keys go to.
+      EXPECT_TRUE(QTest::qWaitForWindowActive(dialogue));
       act(*desktop.window().PageOf(*desktop.navigator().top()));
       if (forms::Form* left = desktop.navigator().Find(forms::form_names::kVSSpell1)) {
         ADD_FAILURE() << "the dialogue stayed open";

@@ -71,6 +71,22 @@ TEST(MessageDialogs, ShowTheBoxAsItWasAskedFor) {
             forms::Answer::kNo);
 }
 
+TEST(MessageDialogs, TheBoxIsAsWideAsItsTitleAndItsLines) {
+  MessageDialogs dialogs;
+  const std::string line = "No  - This risk is not currently in reasonable compliance with it.";
+  const std::string title = "Make Archive Copy of Policies, Rish Analysis, Incident Reports";
+  for (const auto& [head, text] : {std::pair{title, std::string("?")}, {"T", line + "\n" + line}}) {
+    WhenModal([](QWidget* modal) {
+      auto* box = qobject_cast<QMessageBox*>(modal);
+      EXPECT_GT(box->width(), box->fontMetrics().horizontalAdvance(box->windowTitle()) + 100);
+      auto* label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+      EXPECT_GE(label->width(), label->fontMetrics().size(0, box->text()).width());
+      box->accept();
+    });
+    dialogs.Message({head, text, forms::Icon::kInformation});
+  }
+}
+
 TEST(MessageDialogs, ClosingTheBoxAnswersWithItsLastButton) {
   const struct {
     forms::Buttons buttons;

@@ -214,10 +214,9 @@ TEST_F(LeaveSheetTest, CopiesTakeTheSavedFileAndKeepWhatTheyReplace) {
 TEST_F(LeaveSheetTest, ADiskThatRefusesIsTold) {
   grid().EditCell(1, kName, "Ann");
   disk.MakeReadOnly();
-  rig.dialogs.ExpectError(
-      "Not Saved",
-      "The 2026 Employee Sick Leave Tracker could not be saved: the disk or the "
-      "folder is read-only.\nIt is still on the screen.");
+  rig.dialogs.ExpectError("Not Saved",
+                          "The 2026 Employee Sick Leave Tracker could not be saved: the disk is "
+                          "read-only.\nIt is still on the screen.");
   form().save.Click();
   EXPECT_TRUE(form().unsaved());
 }

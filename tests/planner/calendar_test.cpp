@@ -85,22 +85,28 @@ TEST_F(CalendarTest, WhatIsTypedIsDrawnAtOnceAndWrittenBySave) {
 
 TEST_F(CalendarTest, LeavingTypedLinesAsks) {
   form().lines[0].Type("dropped");
-  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kNo);
   PickDay(10);
   EXPECT_FALSE(form().unsaved());
   PickDay(9);
   EXPECT_EQ(form().lines[0].text(), "");
   form().lines[0].Type("kept");
-  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kYes);
+  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kYes);
   PickDay(1, 4);
   EXPECT_EQ(Stored(9)[0], "kept");
   EXPECT_EQ(form().lines[0].text(), "");
   EXPECT_THAT(Drawn(), Contains("April 2026"));
   form().lines[0].Type("still here");
-  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kCancel);
-  form().exit.Click();
-  EXPECT_EQ(rig.top(), "Calendar");
-  rig.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kNo);
+  const std::function<void()> ways[] = {[&] { PickDay(2, 4); }, [&] { PickDay(1, 5); },
+                                        [&] { form().exit.Click(); }, [&] { rig.CloseWindow(); }};
+  for (const auto& leave : ways) {
+    rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kCancel);
+    leave();
+    ASSERT_EQ(rig.top(), "Calendar");
+    EXPECT_EQ(form().lines[0].text(), "still here");
+    EXPECT_EQ(form().picker.date(), text::MakeDate(2026, 4, 1));
+  }
+  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kNo);
   rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
 }
@@ -216,7 +222,7 @@ TEST_F(CalendarTest, WhatTheDiskRefusesOrCantReadIsKeptAndTold) {
   };
   refusal();
   calendar.save.Click();
-  full.dialogs.ExpectYesNo(kTitle, kQuestion, Answer::kYes);
+  full.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kYes);
   refusal();
   full.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   calendar.picker.SelectDay(text::MakeDate(2026, 5, 1));

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "richtext/editor.h"
+#include "richtext/rich_text_reader.h"
+#include "richtext/rich_text_writer.h"
 #include "richtext/sketch.h"
 
 namespace tarnwell::richtext {
@@ -33,12 +35,27 @@ TEST(Lists, BeginGoOnAndEnd) {
 TEST(Lists, AnItemGoesALevelInAndOutAndIsCountedThere) {
   RichDocument document = FromSketch("1.>a|2.>b|3.>c|4.>d");
   Editor(document).Indent({{1, 0}, {2, 0}}, 1);
-  EXPECT_EQ(Sketch(document), "1.>a|1.>b|2.>c|2.>d");
+  EXPECT_EQ(Sketch(document), "1.>a|a.>b|b.>c|2.>d");
   EXPECT_EQ(ParagraphAt(document, 1).format.list->level, 1);
+  const std::string rtf = WriteRichText(document);
+  EXPECT_NE(rtf.find("\\pnlcltr"), rtf.npos);
+  document = ReadRichText(rtf);
+  EXPECT_EQ(Sketch(document), "1.>a|a.>b|b.>c|2.>d");
+  Editor(document).Indent({{2, 0}, {2, 0}}, 1);
+  EXPECT_EQ(Sketch(document), "1.>a|a.>b|1.>c|2.>d");
+  Editor(document).Indent({{2, 0}, {2, 0}}, -1);
   Editor(document).Indent({{1, 0}, {2, 0}}, -1);
   EXPECT_EQ(Sketch(document), "1.>a|2.>b|3.>c|4.>d");
   Editor(document).Indent({{0, 0}, {3, 0}}, -1);
   EXPECT_EQ(Sketch(document), "1.>a|2.>b|3.>c|4.>d");
+}
+
+TEST(Lists, ALevelGoesOnAsItCountsAlready) {
+  RichDocument document = FromSketch("1.>a|1.>b|2.>c");
+  std::get<Paragraph>(document.blocks[1]).format.list->level = 1;
+  Editor(document).Indent({{2, 0}, {2, 0}}, 1);
+  EXPECT_EQ(Sketch(document), "1.>a|1.>b|2.>c");
+  EXPECT_EQ(ParagraphAt(document, 2).format.list->level, 1);
 }
 
 TEST(Lists, OtherParagraphsKeepSomeRoomHoweverOftenTheyAreIndented) {

@@ -181,5 +181,28 @@ TEST(RedoNoteTest, ARecordInsideOnePageNeedsNoNote) {
   EXPECT_EQ(disk.Names(), std::vector<std::string>{"day.fil"});
 }
 
+TEST(RedoNoteTest, AWriteThatChangesOneOfTwoPagesNeedsNoNoteEither) {
+  std::string in_first = kOld;
+  std::string in_next = kOld;
+  in_first[kInFirstPage - 1] = in_next[kInFirstPage] = 'n';
+  for (const std::string& changed : {in_first, in_next, kOld}) {
+    for (const std::size_t bytes : {std::size_t{0}, kInFirstPage, kStored}) {
+      TemporaryFolder disk;
+      WriteOnly(disk, 0);
+      ASSERT_EQ(RecordAfterRecovery(disk), kOld);
+      FailingFileSystem files(RealFileSystem());
+      files.AllowBytes(bytes);
+      ProgramFolder killed(files, disk.path());
+      RecordFile(killed, "day.fil", kLength).PutStructure(kRecord, changed);
+      if (bytes == kStored) {
+        EXPECT_EQ(disk.Names(), std::vector<std::string>{"day.fil"});
+      }
+      const std::string left = RecordAfterRecovery(disk);
+      EXPECT_TRUE(left == kOld || left == changed) << bytes;
+      EXPECT_TRUE(bytes < kStored || left == changed);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tarnwell::storage

@@ -65,37 +65,39 @@ TEST_F(ToDoListTest, WhatCantBeReadIsNoEmptyList) {
   }
   EXPECT_EQ(ReadToDoList(folder).fault, storage::Fault::kNotPlain);
   EXPECT_THAT(ReadToDoList(folder).rows, IsEmpty());
-  ToDoNames names;
-  names.Read(folder);
+  ToDoNames names(folder);
+  names.Read();
   EXPECT_FALSE(names.is_readable());
-  EXPECT_FALSE(names.Add("Pay rent"));
-  EXPECT_FALSE(names.Write(folder));
+  EXPECT_TRUE(names.Add("Pay rent"));
+  EXPECT_THAT(names.names(), IsEmpty());
+  EXPECT_TRUE(std::filesystem::is_directory(disk.path() + "/TODONAME.FIL"));
 }
 
 TEST_F(ToDoListTest, NamesAreKeptOnceInTheOrderInWhichTheyCame) {
-  ToDoNames names;
-  names.Read(folder);
-  EXPECT_TRUE(names.Add("Pay rent"));
-  EXPECT_TRUE(names.Add("Order paper"));
-  for (const char* known : {"PAY RENT", "pay rent  ", "", "  "}) EXPECT_FALSE(names.Add(known));
-  ASSERT_TRUE(names.WriteWithMarker(folder));
+  ToDoNames names(folder);
+  names.Read();
+  for (const char* name : {"Pay rent", "Order paper", "PAY RENT", "pay rent  ", "", "  "}) {
+    ASSERT_TRUE(names.Add(name));
+  }
   EXPECT_EQ(disk.Read("TODONAME.FIL"), FileOf(ReadFormatExample("todoname.md")));
   EXPECT_EQ(disk.Read("Location.Fil"), "\" \"\r\n");
 
-  EXPECT_TRUE(names.Add("Order papr"));
-  EXPECT_TRUE(names.Correct("order papr", "Order paper")) << "falls together";
-  EXPECT_TRUE(names.Correct("Pay rent", "Pay Rent"));
+  ASSERT_TRUE(names.Add("Order papr"));
+  ASSERT_TRUE(names.Correct({{"order papr", "Order paper"},  // falls together
+                             {"Pay rent", "Pay Rent"},
+                             {"not there", "there"}}));
   EXPECT_THAT(names.names(), ElementsAre("Pay Rent", "Order paper"));
-  EXPECT_TRUE(names.Remove(" pay rent "));
-  EXPECT_FALSE(names.Remove("pay rent"));
-  EXPECT_THAT(names.names(), ElementsAre("Order paper"));
+  for (int time = 0; time < 2; ++time) ASSERT_TRUE(names.Remove(" pay rent "));
+  EXPECT_EQ(disk.Read("TODONAME.FIL"), "\"Order paper\"\r\n");
 
-  disk.Write("TODONAME.FIL", "\" \"\r\n\"Old\"\r\n");
-  names.Read(folder);
-  EXPECT_THAT(names.names(), ElementsAre("Old"));
-  for (int i = 1; i < 1000; ++i) EXPECT_TRUE(names.Add(std::to_string(i)));
-  EXPECT_FALSE(names.Add("the 1001st"));
+  std::string most = "\" \"\r\n";  // no name
+  for (int i = 1; i < 1000; ++i) most += "\"" + std::to_string(i) + "\"\r\n";
+  disk.Write("TODONAME.FIL", most);
+  names.Read();
+  ASSERT_TRUE(names.Add("the 1000th"));
+  ASSERT_TRUE(names.Add("the 1001st"));
   EXPECT_EQ(names.names().size(), 1000u);
+  EXPECT_EQ(names.names().back(), "the 1000th");
 }
 
 TEST(ToDoDatesTest, ACellsDateStandsBehindItsFirstDash) {

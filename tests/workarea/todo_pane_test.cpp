@@ -266,13 +266,14 @@ TEST_F(ToDoPaneTest, WhatTheDiskRefusesStaysUnsavedOnTheScreen) {
   testing::FailingFileSystem files(storage::RealFileSystem());
   testing::ProgramRig full(files);
   full.temporary.Write("TODOActv.FIL", "\"old\"\r\n");
+  full.temporary.Write("TODONAME.FIL", "\"old\"\r\n");
   full.Start();
   full.Get<shell::Startfrm>("Startfrm").begin.Click();
   ToDoPane& list = full.Get<WorkArea1>("WorkArea1").to_do;
   files.MakeReadOnly();
   full.dialogs.ExpectError("Not Saved",
                            "The list of names could not be saved: the disk is read-only.\n"
-                           "It holds for now.");
+                           "The item stands in the grid alone.");
   list.sheet.grid.EditCell(2, ToDoSheet::kItem, "new");
   EXPECT_EQ(list.names.items().size(), 1u);
   full.dialogs.ExpectError("Not Saved",

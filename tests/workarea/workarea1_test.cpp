@@ -271,6 +271,7 @@ TEST_F(WorkArea1Test, CommandsAndMenusWorkOnlyOnWhatIsOnShow) {
 }
 
 TEST_F(WorkArea1Test, AButtonOfAScreenLeavesTheAreaAsItIs) {
+  Open();
   hub().main_buttons[parts::kEmployeeData].Click();
   const std::pair<const char*, const char*> screens[] = {{"SSCommand11(14)", "SICKLEAVE1"},
                                                          {"SSCommand11(15)", "Vacation1"}};
@@ -280,6 +281,16 @@ TEST_F(WorkArea1Test, AButtonOfAScreenLeavesTheAreaAsItIs) {
     EXPECT_TRUE(rig.CloseWindow());
     EXPECT_EQ(rig.top(), "WorkArea1");
     EXPECT_TRUE(Button("SSCommand11(3)").selected() && !Button(button).selected());
+  }
+}
+
+TEST_F(WorkArea1Test, WithoutAnAreaThereIsNothingToChoose) {
+  for (const Area area : {kToDoList, kRecoveryPlan}) {
+    Open(area);
+    area == kToDoList ? hub().to_do.exit.Click() : hub().document.exit.Click();
+    hub().document.views.Pick(kCommentsText);
+    hub().document.status.Pick(0);
+    EXPECT_FALSE(hub().document.actions.visible() || hub().document.status.visible());
   }
 }
 

@@ -65,9 +65,15 @@ void WriteReport(Traveller& person) {
   person.Answer(QStringLiteral("Save File Action"), QMessageBox::Ok,
                 [&] { person.Click("SSCommand6"); });
   person.TakePicture("evaluation");
-  person.Answer(
-      QStringLiteral("Make Archive Copy of Policies, Rish Analysis, Incident Reports"),
-      QMessageBox::Cancel, [&] { person.ChooseFromMenu("mOArchive"); }, "archive-question");
+  const QString question =
+      QStringLiteral("Make Archive Copy of Policies, Rish Analysis, Incident Reports");
+  person.AnswerAll(
+      {{question, QMessageBox::Yes}, {QStringLiteral("Archive File Save"), QMessageBox::Ok}},
+      [&] { person.ChooseFromMenu("mOArchive"); }, "archive-question");
+  person.ChooseFromMenu("mOArchiveV");
+  person.ExpectText("Label6", QStringLiteral("There is 1 Entry - Archive Documents"));
+  person.TakePicture("archive");
+  person.Click("SSCommand7");
 }
 
 void TrackLeave(Traveller& person) {

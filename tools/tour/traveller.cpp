@@ -98,22 +98,29 @@ void Traveller::ChooseFromMenu(const char* name) {
 
 void Traveller::Answer(const QString& title, QMessageBox::StandardButton button,
                        const std::function<void()>& act, const char* picture) {
-  bool answered = false;
+  AnswerAll({{title, button}}, act, picture);
+}
+
+void Traveller::AnswerAll(const std::vector<Box>& boxes, const std::function<void()>& act,
+                          const char* picture) {
+  std::size_t answered = 0;
   QTimer look;
   look.callOnTimeout([&] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!box || answered) return;
-    answered = true;
-    if (box->windowTitle() != title) Note(QStringLiteral("the box ") + box->windowTitle());
-    if (picture) TakePicture(picture);
-    expects_box_ = false;
-    QTest::mouseClick(box->button(button), Qt::LeftButton);
+    if (!box || answered == boxes.size()) return;
+    const Box& expected = boxes[answered++];
+    if (box->windowTitle() != expected.title) Note(QStringLiteral("the box ") + box->windowTitle());
+    if (picture && answered == 1) TakePicture(picture);
+    expects_box_ = answered < boxes.size();
+    QTest::mouseClick(box->button(expected.button), Qt::LeftButton);
   });
   look.start(kLookForBoxMs);
   expects_box_ = true;
   act();
   expects_box_ = false;
-  if (!answered) Note(QStringLiteral("no box ") + title);
+  for (; answered < boxes.size(); ++answered) {
+    Note(QStringLiteral("no box ") + boxes[answered].title);
+  }
 }
 
 void Traveller::FillIn(const QString& title, const QString& text,

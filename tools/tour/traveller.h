@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QTimer>
 #include <functional>
+#include <vector>
 
 #include "desktop/desktop.h"
 
@@ -30,6 +31,13 @@ class Traveller {
   // Does `act`, which brings a box of that title, and answers it.
   void Answer(const QString& title, QMessageBox::StandardButton button,
               const std::function<void()>& act, const char* picture = nullptr);
+  // Likewise for boxes that come one behind the other.
+  struct Box {
+    QString title;
+    QMessageBox::StandardButton button;
+  };
+  void AnswerAll(const std::vector<Box>& boxes, const std::function<void()>& act,
+                 const char* picture = nullptr);
   // Does `act`, which brings a box of that title with a line to type in, and fills it in.
   void FillIn(const QString& title, const QString& text, const std::function<void()>& act);
   // Does `act`, which brings that modal form, and `in_form` when it is there.

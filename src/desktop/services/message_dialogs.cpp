@@ -6,11 +6,14 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpacerItem>
 #include <QStandardPaths>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -102,6 +105,23 @@ class LineBox : public QDialog {
   QLineEdit* line_ = new QLineEdit;
 };
 
+// Gives the box room for its title, and for the lines of its text as they were broken, where these
+// are of a usual length.
+void Widen(QMessageBox& window) {
+  constexpr int kTitleButtons = 180;  // pixels, and the icon in the title
+  constexpr int kIconAndEdges = 110;
+  constexpr int kLongestLine = 80;  // letters
+  auto* grid = qobject_cast<QGridLayout*>(window.layout());
+  if (!grid) return;
+  window.ensurePolished();
+  const QFontMetrics letters = window.fontMetrics();
+  const int title = letters.horizontalAdvance(window.windowTitle());
+  const int lines = letters.size(0, window.text()).width();
+  const bool is_usual = lines <= kLongestLine * letters.averageCharWidth();
+  const int width = std::max(title + kTitleButtons, is_usual ? lines + kIconAndEdges : 0);
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // In the order that a default button's number counts; the last one answers Esc and the close box
 // where the box may be closed by them.
 std::vector<QMessageBox::StandardButton> ButtonsOf(forms::Buttons buttons) {
@@ -162,6 +182,7 @@ forms::Answer MessageDialogs::Message(const forms::MessageBox& box) {
     if (++number == box.default_button) window.setDefaultButton(made);
     window.setEscapeButton(made);
   }
+  Widen(window);
   return AnswerOf(window.exec());
 }
 

@@ -23,11 +23,12 @@ namespace {
 
 constexpr forms::Margins kUsualReach{360, 360, 360, 360};  // a quarter of an inch
 
-// Beside the user's other documents; what a file's name can't hold is left out.
+// Beside the user's other documents, with "-" for what a file's name can't hold.
 QString PdfNameOf(const QString& title) {
   QString name;
   for (const QChar c : title) {
-    if (!QStringLiteral("/\\:*?\"<>|").contains(c) && c.isPrint()) name += c;
+    if (!c.isPrint()) continue;
+    name += QStringLiteral("/\\:*?\"<>|").contains(c) ? QChar(u'-') : c;
   }
   name = name.simplified();
   if (name.isEmpty() || name.startsWith(QLatin1Char('.'))) name = QStringLiteral("Tarnwell");

@@ -15,8 +15,8 @@ QWidget* MainScreenView(parts::MainButtons& buttons, QWidget* content) {
                             WithIcon("exit", Widget(buttons[parts::kExitProgram])),
                         }),
                         Grow(content)},
-                       kWideSpace),
-                kWideSpace);
+                       kSpace),
+                kSpace);
 }
 
 }  // namespace tarnwell::desktop

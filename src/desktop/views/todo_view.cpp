@@ -1,6 +1,6 @@
 #include "desktop/views/todo_view.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QTableView>
 #include <algorithm>
 
@@ -13,19 +13,25 @@ namespace {
 
 constexpr int kLettersOfName = 46;
 
-// Keeps the calendar over the grid, beside the column in hand and at the height of its cell.
+// Keeps the calendar over the grid, beside the column in hand and at the height of its cell. Esc
+// closes it.
 class CalendarPlace : public QObject {
  public:
   CalendarPlace(QTableView* grid, QWidget* calendar, workarea::ToDoSheet& sheet)
       : QObject(grid), grid_(grid), calendar_(calendar), sheet_(sheet) {
     calendar->setParent(grid);
     grid->installEventFilter(this);
+    calendar->installEventFilter(this);
     subscription_ = sheet.calendar.OnChanged([this] { Place(); });
   }
 
  private:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Resize) Place();
+    if (event->type() == QEvent::Resize && watched == grid_) Place();
+    const bool is_key = event->type() == QEvent::KeyPress;
+    if (is_key && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+      return sheet_.GiveUpCalendar();
+    }
     return QObject::eventFilter(watched, event);
   }
 

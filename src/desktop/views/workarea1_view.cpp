@@ -44,34 +44,50 @@ QWidget* Names(workarea::NamesPanel& names) {
       kLettersOfNames);
 }
 
+// Beside a document every line of text counts: its title and its tools are smaller than elsewhere.
+QWidget* InSize(TextSize size, QWidget* label) {
+  label->setFont(ScaledFont(size));
+  return label;
+}
+
+QWidget* Compact(QWidget* button) {
+  SetMark(button, "compact", true);
+  return button;
+}
+
 QWidget* Views(forms::OptionGroup& views) {
-  return Flow({Widget(views.option(0)), Widget(views.option(1)), Widget(views.option(2))});
+  return Flow({Widget(views.option(0)), Widget(views.option(1)), Widget(views.option(2))},
+              kTightSpace);
 }
 
 QWidget* Alignment(workarea::TextTools& tools) {
   forms::OptionGroup& group = tools.alignment;
-  return Inline(Widget(tools.alignment_frame, Row({Widget(group.option(0)), Widget(group.option(1)),
-                                                   Widget(group.option(2))})));
+  QWidget* options =
+      Row({Widget(group.option(0)), Widget(group.option(1)), Widget(group.option(2))}, kTightSpace);
+  return Inline(Widget(tools.alignment_frame, options));
 }
 
 QWidget* Document(workarea::DocumentView& view, workarea::WorksheetsPane& worksheets) {
   return Widget(
       view.panel,
-      Column({
-          Row({Grow(Wrapped(Widget(view.heading))), Widget(view.status_label), Widget(view.status),
-               Widget(worksheets.terms)}),
-          Inline(Widget(view.actions, Views(view.views))),
-          Inline(Widget(worksheets.references.frame, Views(worksheets.references.views))),
-          FormatBarView(view.format),
-          FindBarView(view.find),
-          Grow(Widget(view.text)),
-          Flow({Primary(Widget(view.save)), WithIcon("next-mark", Widget(view.tools.find_mark)),
-                Widget(view.insert_template), Widget(view.tools.font), Alignment(view.tools),
-                WithIcon("spelling", Widget(view.tools.spelling)),
-                WithIcon("thesaurus", Widget(view.tools.thesaurus)),
-                WithIcon("print", Widget(view.print_options)), Widget(view.exit)},
-               kTightSpace),
-      }));
+      Column(
+          {
+              Row({Grow(InSize(TextSize::kStrong, Wrapped(Widget(view.heading)))),
+                   Widget(view.status_label), Widget(view.status),
+                   Compact(Widget(worksheets.terms))}),
+              Inline(Widget(view.actions, Views(view.views))),
+              Inline(Widget(worksheets.references.frame, Views(worksheets.references.views))),
+              FormatBarView(view.format),
+              FindBarView(view.find),
+              Grow(Widget(view.text)),
+              Flow({Primary(Compact(Widget(view.save))), Compact(Widget(view.tools.find_mark)),
+                    Compact(Widget(view.insert_template)), Compact(Widget(view.tools.font)),
+                    Compact(Widget(view.tools.spelling)), Compact(Widget(view.tools.thesaurus)),
+                    Alignment(view.tools), Compact(Widget(view.print_options)),
+                    Compact(Widget(view.exit))},
+                   kTightSpace),
+          },
+          kTightSpace));
 }
 
 QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) {
@@ -87,7 +103,8 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
       form.areas,
       Narrowable(
           Scrolled(Row({Areas(form.area_buttons), DocumentButtons(form.documents),
-                        Names(form.names), WorksheetButtons(form.worksheets)})),
+                        Names(form.names), WorksheetButtons(form.worksheets)},
+                       kTightSpace)),
           Column({Document(form.document, form.worksheets), ToDoView(form.to_do, pictures)}, 0)));
   QWidget* all =
       Widget(form.printing.all_panel,
@@ -95,9 +112,9 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
   return MainScreenView(
       form.main_buttons,
       Column(
-          {Row({Widget(form.area_title), Spring(), Widget(form.date)}), Grow(areas),
-           AtTop(AtMost(all, kLettersOfNote)), Grow(TitlesView(form.worksheets.titles)),
-           Grow(Printing(form.printing, pictures)),
+          {Row({InSize(TextSize::kHeading, Widget(form.area_title)), Spring(), Widget(form.date)}),
+           Grow(areas), AtTop(AtMost(all, kLettersOfNote)),
+           Grow(TitlesView(form.worksheets.titles)), Grow(Printing(form.printing, pictures)),
            Grow(AtMost(ExportView(form.to_do.exporting), kLettersOfPanel)),
            AtTop(AtMost(GridBackgroundView(form.to_do.background, pictures), kLettersOfPanel))}));
 }

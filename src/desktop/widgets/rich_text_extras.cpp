@@ -121,6 +121,37 @@ void PaintUnderline(QPainter& painter, Underline underline, const QColor& ink, d
   }
 }
 
+// The leader of the stop to which a tab goes that begins `begin` behind the margin. `stops` holds
+// each one's place and leader.
+Leader LeaderAt(const QVariantList& stops, double begin) {
+  qsizetype stop = 0;
+  while (stop + 2 < stops.size() && stops[stop].toDouble() <= begin + 0.5) stop += 2;
+  return static_cast<Leader>(stops[stop + 1].toInt());
+}
+
+// In the painter's pen and font, on the line that begins there.
+void PaintLeader(QPainter& painter, Leader leader, const QPointF& line, double begin, double end) {
+  const QString sign = SignOf(leader);
+  if (sign.isEmpty()) {
+    painter.drawLine(line + QPointF(begin, 2), line + QPointF(end, 2));
+    return;
+  }
+  // The signs stand at multiples of their width, so that they form columns over several lines.
+  const double width = QFontMetricsF(painter.font()).horizontalAdvance(sign);
+  if (width <= 0) return;
+  for (double x = std::ceil(begin / width) * width; x + width <= end; x += width) {
+    painter.drawText(line + QPointF(x, 0), sign);
+  }
+}
+
+// Of the word that `begin` is in, or of the blanks.
+int EndOfWord(const QString& text, int begin, int end) {
+  const bool is_blank = text[begin].isSpace();
+  int next = begin;
+  while (next < end && text[next].isSpace() == is_blank) ++next;
+  return next;
+}
+
 bool HasExtras(const QTextBlock& block) {
   const QTextBlockFormat format = block.blockFormat();
   if (format.hasProperty(kMarkerProperty) || format.hasProperty(kLeadersProperty)) return true;
@@ -217,7 +248,6 @@ void RichTextExtras::PaintLeaders(QPainter& painter, const QTextBlock& block,
                                   const QColor& ink) const {
   const QVariantList stops = block.blockFormat().property(kLeadersProperty).toList();
   if (stops.isEmpty()) return;
-  const QPointF origin = OriginOf(block);
   const QString text = block.text();
   for (qsizetype at = text.indexOf(QLatin1Char('\t')); at >= 0;
        at = text.indexOf(QLatin1Char('\t'), at + 1)) {
@@ -225,30 +255,16 @@ void RichTextExtras::PaintLeaders(QPainter& painter, const QTextBlock& block,
     const QTextLine line = block.layout()->lineForTextPosition(place);
     if (!line.isValid()) continue;
     const double begin = line.cursorToX(place);
-    const double end = line.cursorToX(place + 1);
-    qsizetype stop = 0;
-    const double left = block.blockFormat().leftMargin();
-    while (stop + 2 < stops.size() && stops[stop].toDouble() + left <= begin + 0.5) stop += 2;
-    const auto leader = static_cast<Leader>(stops[stop + 1].toInt());
-    if (leader == Leader::kNone || end - begin < 2) continue;
+    const double length = line.cursorToX(place + 1) - begin;
+    const Leader leader = LeaderAt(stops, begin - block.blockFormat().leftMargin());
+    if (leader == Leader::kNone || length < 2) continue;
     QTextCursor cursor(block);
     cursor.setPosition(block.position() + place + 1);
     const QTextCharFormat look = cursor.charFormat();
     painter.setPen(QPen(InkOf(look, ink), leader == Leader::kThick ? 2 : 1));
-    const QPointF base = origin + QPointF(begin, line.y() + line.ascent());
-    const QString sign = SignOf(leader);
-    if (sign.isEmpty()) {
-      painter.drawLine(base + QPointF(0, 2), base + QPointF(end - begin, 2));
-      continue;
-    }
-    // The signs stand at multiples of their width, so that they form columns over several lines.
-    const QFont font(look.font(), painter.device());
-    painter.setFont(font);
-    const double width = QFontMetricsF(font).horizontalAdvance(sign);
-    if (width <= 0) continue;
-    for (double x = std::ceil(begin / width) * width; x + width <= end; x += width) {
-      painter.drawText(base + QPointF(x - begin, 0), sign);
-    }
+    painter.setFont(QFont(look.font(), painter.device()));
+    const QPointF line_begin = OriginOf(block) + QPointF(0, line.y() + line.ascent());
+    PaintLeader(painter, leader, line_begin, begin, begin + length);
   }
 }
 
@@ -266,24 +282,17 @@ void RichTextExtras::PaintUnderlines(QPainter& painter, const QTextBlock& block,
     const int end = place + fragment.length();
     while (place < end) {
       const QTextLine line = block.layout()->lineForTextPosition(place);
-      if (!line.isValid()) break;
-      int stop = std::min(end, line.textStart() + line.textLength());
-      if (stop <= place) break;
+      const int begin = place;
+      if (line.isValid()) place = std::min(end, line.textStart() + line.textLength());
+      if (place <= begin) break;
       if (underline == Underline::kWords) {
-        const bool is_blank = text[place].isSpace();
-        int next = place;
-        while (next < stop && text[next].isSpace() == is_blank) ++next;
-        stop = next;
-        if (is_blank) {
-          place = stop;
-          continue;
-        }
+        place = EndOfWord(text, begin, place);
+        if (text[begin].isSpace()) continue;
       }
-      const auto [left, right] = std::minmax({line.cursorToX(place), line.cursorToX(stop)});
+      const auto [left, right] = std::minmax({line.cursorToX(begin), line.cursorToX(place)});
       const double y = origin.y() + line.y() + line.ascent() + 2 * scale;
       PaintUnderline(painter, underline, InkOf(look, ink), scale, origin.x() + left,
                      origin.x() + right, y);
-      place = stop;
     }
   }
 }

@@ -4,6 +4,7 @@
 #include <QImage>
 
 #include "desktop/widgets/html_fragment.h"
+#include "desktop/widgets/html_tags.h"
 #include "desktop/widgets/picture_files.h"
 #include "richtext/html.h"
 #include "richtext/plain_text.h"
@@ -52,6 +53,14 @@ QByteArray PictureIn(const QMimeData& mime) {
   return image.isNull() ? QByteArray() : PngOf(image);
 }
 
+// What no document has room for.
+richtext::RichDocument TooMuch() {
+  richtext::RichDocument part;
+  part.is_part = true;
+  part.blocks.emplace_back();
+  return part;
+}
+
 richtext::RichDocument PictureDocument(const QByteArray& file) {
   richtext::Picture picture;
   if (PictureTypeOf(file) == "jpeg") picture.kind = richtext::Picture::Kind::kJpeg;
@@ -82,7 +91,10 @@ std::optional<richtext::RichDocument> FromMime(const QMimeData& mime) {
   if (!rtf.isEmpty()) {
     return richtext::ReadRichText({rtf.constData(), static_cast<std::size_t>(rtf.size())});
   }
-  if (mime.hasHtml()) return HtmlFragment(mime.html());
+  if (mime.hasHtml()) {
+    const QString html = mime.html();
+    return IsReadSoon(html) ? HtmlFragment(html) : TooMuch();
+  }
   if (!mime.hasText()) {
     const QByteArray picture = PictureIn(mime);
     if (!picture.isEmpty()) return PictureDocument(picture);

@@ -15,7 +15,8 @@ std::unique_ptr<QMimeData> ToMime(const richtext::RichDocument& document, const 
 std::unique_ptr<QMimeData> ToMime(const richtext::RichDocument& document);
 
 // Of what another program offers, the form that holds the most. Empty if it is plain text only, or
-// nothing that text can take in.
+// nothing that text can take in. Of a page that would take long to read it only says that it is
+// more than a document has room for.
 std::optional<richtext::RichDocument> FromMime(const QMimeData& mime);
 bool HoldsText(const QMimeData& mime);
 

@@ -33,6 +33,22 @@ void MakeThin(QTextCursor& cursor) {
   cursor.setBlockFormat(format);
 }
 
+QTextTableFormat TableFormatOf(const richtext::TableGrid& grid, const RichTextFormats& formats) {
+  QTextTableFormat format;
+  format.setBorderCollapse(true);
+  format.setBorder(0);
+  format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
+  format.setCellSpacing(0);
+  format.setCellPadding(0);
+  format.setLeftMargin(std::max(0.0, formats.Pixels(grid.left_edge)));
+  QList<QTextLength> widths;
+  for (const int width : grid.widths) {
+    widths.append(QTextLength(QTextLength::FixedLength, formats.Pixels(width)));
+  }
+  format.setColumnWidthConstraints(widths);
+  return format;
+}
+
 // A paragraph of one line and one format is 1; letters and formats take time too.
 constexpr std::size_t kTextOfLine = 100;
 constexpr std::size_t kRunsOfLine = 4;
@@ -323,20 +339,9 @@ void RichTextRenderer::InsertRows(const Progress& progress, std::size_t end, QTe
   const TableRows& rows = progress.tables.rows;
   const richtext::TableGrid& grid = progress.grid;
   if (first == end) return;
-  QTextTableFormat format;
-  format.setBorderCollapse(true);
-  format.setBorder(0);
-  format.setBorderStyle(QTextFrameFormat::BorderStyle_None);
-  format.setCellSpacing(0);
-  format.setCellPadding(0);
-  format.setLeftMargin(std::max(0.0, formats_->Pixels(grid.left_edge)));
-  QList<QTextLength> widths;
-  for (const int width : grid.widths) {
-    widths.append(QTextLength(QTextLength::FixedLength, formats_->Pixels(width)));
-  }
-  format.setColumnWidthConstraints(widths);
   QTextTable* const table =
-      cursor.insertTable(static_cast<int>(end - first), static_cast<int>(widths.size()), format);
+      cursor.insertTable(static_cast<int>(end - first), static_cast<int>(grid.widths.size()),
+                         TableFormatOf(grid, *formats_));
   CellSpans merged;
   if (HasMergedCells(std::span(rows).subspan(first, end - first))) {
     merged = SpansOfPart(rows, grid, first, end);

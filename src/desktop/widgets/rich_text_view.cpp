@@ -173,10 +173,19 @@ void RichTextView::ShowMore(std::size_t work) {
   const QScopedValueRollback<bool> showing(is_showing_, true);
   // A change in the box starts anew; see Show.
   const bool is_current = box_is_there_.Connected() && known_ == box_.spans_made();
-  if (is_current) renderer_.RenderMore(box_.document(), Formats(), work);
+  if (is_current) RenderMore(work);
   if (!is_current || renderer_.is_done()) next_part_.stop();
   if (is_current && selection_waits_) ShowSelection();
   if (is_current && renderer_.is_done()) Follow();
+}
+
+// What comes below the window's end changes nothing in it. Qt would paint all of it anew, which in
+// a table of many columns takes longer than what comes.
+void RichTextView::RenderMore(std::size_t work) {
+  const int below = verticalScrollBar()->maximum() - verticalScrollBar()->value();
+  viewport()->setAttribute(Qt::WA_UpdatesDisabled, below > viewport()->height());
+  renderer_.RenderMore(box_.document(), Formats(), work);
+  viewport()->setAttribute(Qt::WA_UpdatesDisabled, false);
 }
 
 void RichTextView::ShowRest() {

@@ -47,6 +47,7 @@ class RichTextView : public QTextEdit {
   // The first screens at once, the rest while nothing else happens.
   void ShowAll();
   void ShowMore(std::size_t work);
+  void RenderMore(std::size_t work);
   // All of it where that is soon done.
   void ShowRest();
   void ShowState();
