@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench_folder.h"
@@ -102,10 +103,11 @@ bool MeasureScreen(budget::Budget1a& form) {
                              form.totals.Click();
                            })),
                   kLongestPanel);
-  for (const int kind : {2, 1, 0}) {
-    is_good &=
-        Tell("Another kind of chart, painted",
-             MedianOf(1, painted([&](int) { form.year_totals.kind.Pick(kind); })), kLongestPanel);
+  const std::pair<int, const char*> kinds[] = {
+      {2, "Then a stack, painted"}, {1, "Then a pie, painted"}, {0, "Then bars again, painted"}};
+  for (const auto& [kind, title] : kinds) {
+    const auto pick = [&, which = kind](int) { form.year_totals.kind.Pick(which); };
+    is_good &= Tell(title, MedianOf(1, painted(pick)), kLongestPanel);
   }
   return is_good;
 }
