@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench_folder.h"
@@ -100,10 +101,11 @@ bool MeasureChart(budget::Budget1a& form) {
                                  form.totals.Click();
                                })),
                       kLongestPanel);
-  for (const int kind : {2, 1, 0}) {
-    is_good &=
-        Tell("Another kind of chart, painted",
-             MedianOf(1, Painted([&](int) { form.year_totals.kind.Pick(kind); })), kLongestPanel);
+  const std::pair<int, const char*> kinds[] = {
+      {2, "Then a stack, painted"}, {1, "Then a pie, painted"}, {0, "Then bars again, painted"}};
+  for (const auto& [kind, title] : kinds) {
+    const auto pick = [&, which = kind](int) { form.year_totals.kind.Pick(which); };
+    is_good &= Tell(title, MedianOf(1, Painted(pick)), kLongestPanel);
   }
   return is_good;
 }

@@ -97,16 +97,12 @@ void TrackLeave(Traveller& person) {
 void KeepBudget(Traveller& person) {
   person.Click("SSCommand11(5)");
   person.ExpectTop("Budget1a");
-  const std::pair<const char*, const char*> items[] = {
-      {"Rent", "1200"}, {"Wages", "5400"}, {"Insurance", "310.50"}};
-  for (const auto& [item, amount] : items) {
-    person.Type(QLatin1String(item));
+  person.Type(QStringLiteral("Rent"));
+  for (const char* amount : {"1200", "1200", "1310.50"}) {
     person.Press(Qt::Key_Tab);
     person.Type(QLatin1String(amount));
-    person.Press(Qt::Key_Return);
-    person.Press(Qt::Key_Left);
-    person.Press(Qt::Key_Down);
   }
+  person.Press(Qt::Key_Return);
   person.FillIn(QStringLiteral("Total Income"), QStringLiteral("8000"),
                 [&] { person.Click("Label5(11)"); });
   person.ChooseFromMenu("mOS");

@@ -74,8 +74,12 @@ void Traveller::Click(const char* control) {
 }
 
 void Traveller::Type(const QString& text) {
-  QWidget* focus = desktop_->window().focusWidget();
-  focus ? QTest::keyClicks(focus, text) : Note(QStringLiteral("nothing takes the keys"));
+  for (const QChar letter : text) {
+    // The first letter in a cell opens its editor, which takes the others.
+    QWidget* focus = desktop_->window().focusWidget();
+    if (!focus) return Note(QStringLiteral("nothing takes the keys"));
+    QTest::keyClicks(focus, letter);
+  }
 }
 
 void Traveller::Press(Qt::Key key) {

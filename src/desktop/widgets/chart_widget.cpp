@@ -1,6 +1,7 @@
 #include <QGraphicsView>
 #include <QResizeEvent>
 #include <memory>
+#include <utility>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -23,9 +24,9 @@ class ChartView : public QGraphicsView {
   }
 
   void Show(const forms::ChartPicture& picture) {
-    if (drawing_ && picture == picture_) return;
+    if (picture == picture_) return;
     picture_ = picture;
-    Draw();
+    DrawSoon();
   }
 
   std::function<void(int point)> on_point;
@@ -36,16 +37,23 @@ class ChartView : public QGraphicsView {
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QGraphicsView::resizeEvent(event);
-    Draw();
+    DrawSoon();
   }
 
   void changeEvent(QEvent* event) override {
     QGraphicsView::changeEvent(event);
-    if (event->type() == QEvent::FontChange) Draw();
+    if (event->type() == QEvent::FontChange) DrawSoon();
   }
 
  private:
+  // Once for all that changes together.
+  void DrawSoon() {
+    if (std::exchange(is_waiting_, true)) return;
+    QMetaObject::invokeMethod(this, &ChartView::Draw, Qt::QueuedConnection);
+  }
+
   void Draw() {
+    is_waiting_ = false;
     auto drawing = std::make_unique<ChartDrawing>(picture_, QSizeF(viewport()->size()), font());
     // What a click changes draws the chart anew, which the click isn't through with yet.
     drawing->on_point = [this](int point) {
@@ -62,6 +70,7 @@ class ChartView : public QGraphicsView {
 
   forms::ChartPicture picture_;
   std::unique_ptr<ChartDrawing> drawing_;
+  bool is_waiting_ = false;
 };
 
 }  // namespace

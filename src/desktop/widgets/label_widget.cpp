@@ -14,6 +14,8 @@
 namespace tarnwell::desktop {
 namespace {
 
+constexpr int kFocusFrame = 2;  // pixels
+
 class TextLabel : public QLabel {
  public:
   std::function<void()> on_click;
@@ -22,6 +24,7 @@ class TextLabel : public QLabel {
   void SetClickable() {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    setMargin(kFocusFrame);
   }
 
  protected:
@@ -29,7 +32,7 @@ class TextLabel : public QLabel {
     QLabel::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
-    painter.setPen(QPen(kAccent, 2));
+    painter.setPen(QPen(kAccent, kFocusFrame));
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
   }
 
