@@ -143,6 +143,8 @@ void RtfReader::TakeBorderWord(const Token& token, std::string_view source) {
 
 void RtfReader::TakeParagraphWord(const KnownWord& word, const Token& token,
                                   std::string_view source) {
+  // A document may name its first paragraph's style before anything else of its body.
+  if (word.word == Word::kStyle && !styles_.empty()) BeginBody();
   builder_.row_definition().LeaveBorder();
   in_character_border_ = false;
   if (word.word == Word::kNesting) return TakeNestedTable(token.NumberOr(1));
