@@ -29,7 +29,7 @@ const forms::PlacedChart kUpright{518, 1210, 10512, 5976, nullptr};
 
 void Head(print::PageEngine& engine, const std::string& title, text::Date printed) {
   print::TitleLine(engine, title, kLargerTitle);
-  engine.Line("Printed: " + text::FormatDate(printed, "mmmm d, yyyy"), print::Align::kCenter);
+  engine.Line("Printed: " + text::FormatDate(printed, "Long Date"), print::Align::kCenter);
   engine.Skip(kAboveTable);
 }
 

@@ -66,7 +66,7 @@ void LeaveHead(print::PageEngine& engine, std::string_view title, text::Date pri
   engine.Line(title, print::Align::kCenter);
   engine.SetFont(font);
   engine.Line(engine.page_count() == 1
-                  ? "Printed: " + text::FormatDate(printed, "dddd, mmmm d, yyyy")
+                  ? "Printed: " + text::FormatDate(printed, "Long Date")
                   : "   ( Page - " + std::to_string(engine.page_count()) + " )",
               print::Align::kCenter);
   engine.SetFont(Smaller(engine));

@@ -38,7 +38,7 @@ struct YearSheetStyle {
   Years years;
   AmountStyle amounts;
   std::string_view copy_year_caption;
-  std::string_view insert_entry;  // the menu entry's fixed name
+  std::string_view insert_entry;            // the menu entry's fixed name
   std::string_view print_entry = "&Print";  // captions of menu entries
   std::string_view copy_entry = "&Copy";
   std::string_view export_stem;   // of the exported file; the year and ".xls" follow

@@ -204,8 +204,8 @@ TEST_F(WithTotals, ThePageHasTheChartWhereItBelongs) {
   };
   EXPECT_THAT(TextsOf(Printed().pages[0]),
               ElementsAre("As of  March 09, 2026", "Company Budget TOTALS FOR 2026",
-                          "Printed: March 9, 2026", "Item", "Total", "Percentage", "Rent", "300.00",
-                          "30.00%", "Idle", "Wages", "500.00", "50.00%",
+                          "Printed: Monday, March 09, 2026", "Item", "Total", "Percentage", "Rent",
+                          "300.00", "30.00%", "Idle", "Wages", "500.00", "50.00%",
                           "Total Expenses: ", "800.00", "80.00%", "Total Income: ", "1000.00",
                           "100.00%", "Balance: ", "200.00", "20.00%"));
   ASSERT_TRUE(chart());
@@ -230,8 +230,8 @@ TEST_F(Budget1aTest, TheYearIsPrintedWithItsHeadOnEachPage) {
   ASSERT_GE(Printed().pages.size(), 2U);
   const std::vector<std::string> first = TextsOf(Printed().pages[0]);
   EXPECT_THAT(std::vector(first.begin(), first.begin() + 6),
-              ElementsAre("As of  March 09, 2026", " Budget For 2026", "Printed: March 9, 2026",
-                          "Item", "Jan", "Feb"));
+              ElementsAre("As of  March 09, 2026", " Budget For 2026",
+                          "Printed: Monday, March 09, 2026", "Item", "Jan", "Feb"));
   EXPECT_THAT(TextsOf(Printed().pages[1]),
               AllOf(Contains(" Budget For 2026 (Continued)"), Contains("Dec")));
   const std::vector<std::string> last = TextsOf(Printed().pages.back());
@@ -277,7 +277,8 @@ TEST_F(Budget1aTest, TheClipboardGetsItemsAndTotals) {
   };
   EXPECT_EQ(rig_.clipboard.text,
             " Budget2026\r\nItem\tJan\tFeb\tMar\tApr\tMay\tJun\tJul\tAug\tSep\tOct\tNov\tDec\r\n"
-            "Rent\t300.00" + eleven("") + "Total Expenses:\t305.00" + eleven(".00") +
+            "Rent\t300.00" +
+                eleven("") + "Total Expenses:\t305.00" + eleven(".00") +
                 "Total Income:      \t1000.00" + eleven("0.00") + "Balance:          \t695.00" +
                 eleven(".00"));
 }

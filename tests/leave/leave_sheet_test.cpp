@@ -242,7 +242,7 @@ TEST_F(LeaveSheetTest, ReportClipboardAndExport) {
   form().print_options.Click();
   const auto texts = testing::TextsOf(form().print.preview.document()->pages.at(0));
   EXPECT_THAT(texts, Contains(" Employee Sick Leave Tracker For 2026"));
-  EXPECT_THAT(texts, Contains("Printed: Monday, March 9, 2026"));
+  EXPECT_THAT(texts, Contains("Printed: Monday, March 09, 2026"));
   for (const char* text : {"Employee Name", "Bal", "Ann Lee", "2.00", "-1.00"}) {
     EXPECT_THAT(texts, Contains(text));
   }
