@@ -86,11 +86,7 @@ void LeaveRows(print::PageEngine& engine, const year_sheet::Rows& rows) {
   const forms::Font plain = Smaller(engine);
   engine.SetFont(plain);
   for (auto row = rows.begin(); row != last; ++row) {
-    if (engine.y() + engine.LineHeight() > engine.page_height() - kFoot) {
-      engine.SetFont(usual);
-      engine.NewPage();
-      engine.SetFont(plain);
-    }
+    if (engine.y() + engine.LineHeight() > engine.page_height() - kFoot) engine.NewPage();
     engine.TextAt(EdgeOf(engine, 0), engine.y(), (*row)[0]);
     for (std::size_t i = 1; i < row->size(); ++i) {
       if (text::Trim((*row)[i]).empty()) continue;

@@ -148,7 +148,9 @@ void PrintPanel::Rebuild() {
   preview.SetDocument(&engine_.document());
 }
 
+// In the chosen font, whatever the page before it ended in.
 void PrintPanel::HeadPage() {
+  engine_.SetFont(context_.variables.PrintFont());
   if (job_.as_of_line) AsOfLine(engine_, context_.variables, context_.clock.Today());
   if (job_.page_head) job_.page_head(engine_);
 }

@@ -211,6 +211,26 @@ TEST_F(PrintPanelTest, ChecksHoldForTheRunAndChangeThePreview) {
   EXPECT_EQ(builds, 3);
 }
 
+TEST_F(PrintPanelTest, EveryHeadIsInTheChosenFontWhateverThePageBeforeEndedIn) {
+  auto job = Job();
+  job.printed_line = false;
+  job.as_of_line = true;
+  job.build = [](PageEngine& engine) {
+    engine.SetFont({.name = "Arial", .size = 4});
+    engine.NewPage();
+    engine.Line("small");
+  };
+  print.Open(job);
+  const forms::Document& document = *print.preview.document();
+  const auto size_of = [&](std::size_t page, std::size_t mark) {
+    const auto& text = std::get<forms::PlacedText>(document.pages.at(page).at(mark));
+    return document.fonts.at(static_cast<std::size_t>(text.font)).size;
+  };
+  EXPECT_EQ(size_of(0, 0), 8);
+  EXPECT_EQ(size_of(1, 0), 8);
+  EXPECT_EQ(size_of(1, 1), 4);
+}
+
 TEST_F(PrintPanelTest, ThePreviewIsEnlargedAndBroughtBack) {
   print.Open(Job());
   print.zoom.Click();
