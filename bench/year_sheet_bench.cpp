@@ -86,11 +86,15 @@ bool MeasureGestures(year_sheet::YearSheet& form) {
   std::printf("%s, %d rows\n", form.name().c_str(), form.grid.rows() - 1);
   const auto step = [&](int) { form.grid.Step(forms::GridStep::kDown); };
   const auto edit = [&](int i) { form.grid.EditCell(i + 1, 2, std::to_string(i + 7)); };
-  const auto copy = [&](int) { form.copy_right.Click(); };
+  const auto copy = [&](int i) {
+    form.grid.EditCell(i + 1, 2, std::to_string(i + 50));  // else there is nothing new to copy
+    form.copy_right.Click();
+  };
   bool is_good = Tell("An arrow key, painted", MedianOf(kGestures, Painted(step)), kLongestFrame);
   is_good &=
       Tell("An edit with its sums, painted", MedianOf(kGestures, Painted(edit)), kLongestFrame);
-  is_good &= Tell("Copy To Right, painted", MedianOf(kGestures, Painted(copy)), kLongestFrame);
+  is_good &= Tell("An edit copied to the right, painted", MedianOf(kGestures, Painted(copy)),
+                  kLongestFrame);
   return is_good;
 }
 
