@@ -7,6 +7,7 @@
 #include "forms/form_names.h"
 #include "parts/sheet_rows.h"
 #include "storage/file_names.h"
+#include "text/date_names.h"
 #include "text/letters.h"
 
 namespace tarnwell::budget {
@@ -15,9 +16,6 @@ namespace {
 constexpr int kBudgetHelp = 3050;
 constexpr const char* kTooMuch = "Maximum Allowed Entry Exceeded";
 constexpr const char* kNoTotals = "View Totals";
-constexpr const char* kMonthNames[] = {"January",   "February", "March",    "April",
-                                       "May",       "June",     "July",     "August",
-                                       "September", "October",  "November", "December"};
 
 constexpr year_sheet::Years kYears{
     .first = 1990, .last = 2089, .first_typed = 1990, .last_of_2000 = 89};
@@ -52,7 +50,7 @@ const year_sheet::YearSheetStyle kBudget{
 Budget1a::Budget1a(forms::Context& context) : YearSheet(context, kBudget) {
   for (std::size_t month = 0; month < kMonths; ++month) {
     income[month].on_click = [this, month] { EnterIncome(month); };
-    income[month].SetToolTip("Enter the Total Income of " + std::string(kMonthNames[month]));
+    income[month].SetToolTip("Enter the Total Income of " + std::string(text::kMonthNames[month]));
   }
   preparing.SetVisible(false);
   preparing.Cover({&sheet, &year_totals.panel, &print.panel});
@@ -80,6 +78,12 @@ void Budget1a::ConnectTotals() {
   forms::MenuItem& options = *menus().Find("mO");
   options.LiveWith({&sheet, &panel});
   options.Find("mOPrt")->SetAction({[this] { OpenPrint(); }, {&print_options, &panel}});
+}
+
+std::vector<forms::Control*> Budget1a::Editors() {
+  std::vector<forms::Control*> editors = YearSheet::Editors();
+  for (std::size_t month = 0; month < kMonths; ++month) editors.push_back(&income[month]);
+  return editors;
 }
 
 std::string Budget1a::FileOf(int year) const { return storage::file_names::BudgetYear(year); }

@@ -41,6 +41,7 @@ class Budget1a : public year_sheet::YearSheet {
   void ShowTotals() override;
   print::PrintJob Report() override;
   std::string ClipboardText() override;
+  std::vector<forms::Control*> Editors() override;
 
  private:
   void ConnectTotals();

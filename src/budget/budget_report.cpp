@@ -46,10 +46,6 @@ std::string Amount(const std::string& cell) {
   return amount == 0 ? cell : text::FormatNumber(amount, kIncomeMask);
 }
 
-bool IsBlank(const year_sheet::Row& row) {
-  return std::ranges::all_of(row, [](const auto& cell) { return text::Trim(cell).empty(); });
-}
-
 std::vector<print::Cell> TotalsRow(const char* title, const MonthTexts& months,
                                    const std::array<bool, kMonths>& red) {
   std::vector<print::Cell> cells{title};
@@ -92,7 +88,7 @@ void BudgetRows(print::PageEngine& engine, const forms::ProgramVariables& variab
   }
   print::Table table(engine, std::move(columns), Lines(variables));
   for (const year_sheet::Row& row : printed.rows) {
-    if (IsBlank(row)) continue;
+    if (year_sheet::IsBlank(row)) continue;
     std::vector<print::Cell> cells{row[0]};
     for (std::size_t i = 1; i <= kMonths; ++i) cells.emplace_back(Amount(row[i]));
     table.Row(cells);

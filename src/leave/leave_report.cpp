@@ -45,10 +45,6 @@ void Rule(print::PageEngine& engine) {
   engine.Skip(kAroundRule);
 }
 
-bool IsBlank(const year_sheet::Row& row) {
-  return std::ranges::all_of(row, [](const auto& cell) { return text::Trim(cell).empty(); });
-}
-
 std::string Filled(const std::string& cell, int units, forms::TextMetrics& metrics) {
   const forms::Font font;
   std::string filled = cell;
@@ -81,7 +77,7 @@ void LeaveHead(print::PageEngine& engine, std::string_view title, text::Date pri
 }
 
 void LeaveRows(print::PageEngine& engine, const year_sheet::Rows& rows) {
-  const auto last = std::find_if_not(rows.rbegin(), rows.rend(), IsBlank).base();
+  const auto last = std::find_if_not(rows.rbegin(), rows.rend(), year_sheet::IsBlank).base();
   const forms::Font usual = engine.font();
   const forms::Font plain = Smaller(engine);
   engine.SetFont(plain);

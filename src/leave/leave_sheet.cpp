@@ -60,7 +60,6 @@ year_sheet::YearSheetStyle SheetStyleOf(const forms::ProgramVariables& variables
           .export_stem = style.export_stem,
           .panel_color = style.panel_color,
           .background = settings::GridBackground::kLeave,
-          .print = {.auto_size = true},
           .help = kLeaveHelp};
 }
 
@@ -72,7 +71,10 @@ Vacation1::Vacation1(forms::Context& context) : LeaveSheet(context, kVacation) {
 LeaveSheet::LeaveSheet(forms::Context& context, const LeaveStyle& style)
     : YearSheet(context, SheetStyleOf(context.variables, style)), style_(style) {
   forms::MenuItem& options = *menus().Find("mO");
-  options.on_open = [this, &remove = *options.Find("mODel")] {
+  forms::MenuItem& remove = *options.Find("mODel");
+  // Beside the button, which waits for a person to go to a row.
+  remove.SetAction({[this] { RemovePicked(); }, {&grid}});
+  options.on_open = [this, &remove] {
     const auto [row, column] = grid.current();
     remove.SetEnabled(!text::Trim(grid.text(row, column)).empty());
   };
@@ -83,7 +85,7 @@ LeaveSheet::LeaveSheet(forms::Context& context, const LeaveStyle& style)
 }
 
 std::vector<forms::GridColumn> LeaveSheet::MoreColumns() const {
-  constexpr std::size_t kBehindMonths = 13;
+  constexpr std::size_t kBehindMonths = leave::kUsed - leave::kName;
   return {year_sheet::AmountColumn(kTitles[kBehindMonths], false),
           year_sheet::AmountColumn(kTitles[kBehindMonths + 1], true),
           year_sheet::AmountColumn(kTitles[kBehindMonths + 2], false)};

@@ -23,6 +23,7 @@ LeaveYear ReadLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files,
   LeaveYear read{year_sheet::ReadRows(sheet, rows, kCells)};
   if (count.is_unreadable()) read.fault = count.fault();
   if (sheet.is_unreadable()) read.fault = sheet.fault();
+  if (read.fault != storage::Fault::kNone) read.rows.assign(kLeastRows, year_sheet::Row(kCells));
   return read;
 }
 

@@ -4,6 +4,7 @@
 
 #include "parts/sheet_rows.h"
 #include "storage/sequential_file.h"
+#include "text/date_names.h"
 #include "text/letters.h"
 #include "year_sheet/year_sheet.h"
 
@@ -12,8 +13,6 @@ namespace {
 
 constexpr int kRowsWithNames = 20;          // are looked through for one
 constexpr std::size_t kLongestAmount = 20;  // characters that can be typed
-constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
 constexpr double kNumberShare = 0.04;
 constexpr double kNameShare = 0.16;  // the amounts part the rest
 
@@ -31,7 +30,9 @@ void YearSheet::BuildGrid() {
   std::vector<forms::GridColumn> columns{
       {.title = "", .share = kNumberShare, .align = forms::GridAlign::kRight},
       {.title = std::string(style_.name_title), .share = kNameShare, .editable = true}};
-  for (const char* month : kMonths) columns.push_back(AmountColumn(month, true));
+  for (const std::string_view month : text::kMonthNames) {
+    columns.push_back(AmountColumn(month.substr(0, text::kShortNameLength), true));
+  }
   for (forms::GridColumn& column : MoreColumns()) columns.push_back(std::move(column));
   const double rest = 1 - kNumberShare - kNameShare;
   for (std::size_t i = kFirstMonth; i < columns.size(); ++i) {
@@ -154,7 +155,8 @@ void YearSheet::Insert() {
   if (EndEdit()) InsertRow(grid.current().row);
 }
 
-void YearSheet::Remove() {
+void YearSheet::RemovePicked() {
+  if (!EndEdit()) return;
   const int row = grid.current().row;
   grid.SetHighlight(row);
   const bool is_sure = Confirmed({"Delete Row", "Do you really want to delete this row?",

@@ -1,8 +1,15 @@
 #include "year_sheet/rows.h"
 
+#include <algorithm>
 #include <cstddef>
 
+#include "text/letters.h"
+
 namespace tarnwell::year_sheet {
+
+bool IsBlank(const Row& row) {
+  return std::ranges::all_of(row, [](const auto& cell) { return text::Trim(cell).empty(); });
+}
 
 Rows ReadRows(storage::SequentialReader& file, int rows, int columns) {
   Rows read(static_cast<std::size_t>(rows), Row(static_cast<std::size_t>(columns)));

@@ -14,6 +14,8 @@ namespace tarnwell::year_sheet {
 using Row = std::vector<std::string>;
 using Rows = std::vector<Row>;
 
+bool IsBlank(const Row& row);
+
 // The cells of the file's next rows; empty texts where it ends early.
 Rows ReadRows(storage::SequentialReader& file, int rows, int columns);
 void WriteRows(storage::SequentialWriter& file, const Rows& rows);

@@ -73,7 +73,7 @@ void YearSheet::ConnectCommands() {
   };
   save.on_click = [this] { Save(); };
   copy_right.on_click = ended(&YearSheet::CopyRight);
-  delete_row.on_click = ended(&YearSheet::Remove);
+  delete_row.on_click = [this] { RemovePicked(); };
   copy_year.on_click = ended(&YearSheet::CopyYear);
   totals.on_click = ended(&YearSheet::ShowTotals);
   spelling.on_click = ended(&YearSheet::CheckSpelling);

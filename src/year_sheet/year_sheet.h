@@ -121,9 +121,9 @@ class YearSheet : public forms::Form {
   // The box about a copy that the disk refused, or what the copy has replaced, in the status bar.
   void TellCopied(const storage::Outcome& copied, bool has_replaced);
   bool HasFileOfNextYear() { return context_.folder.Exists(FileOf(shown_year_ + 1)); }
-  // Back to the first cell, with nothing picked.
-  void GoToStart();
   void OpenPrint();
+  // Asks first.
+  void RemovePicked();
 
  private:
   void ConnectCommands();
@@ -137,6 +137,8 @@ class YearSheet : public forms::Form {
   void ShowYear(int wanted);
   parts::SaveResult Save();
 
+  // Back to the first cell, with nothing picked.
+  void GoToStart();
   bool TakesCell(int row, int column, std::string& text);
   void Edited(int row);
   void Moved();
@@ -144,7 +146,6 @@ class YearSheet : public forms::Form {
   void TypedInBox();
   void CopyRight();
   void Insert();
-  void Remove();
   void Sort(int column);
   void CheckSpelling();
   void Copy();

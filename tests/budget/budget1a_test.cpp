@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 #include "forms/form_names.h"
 #include "support/program_rig.h"
@@ -62,6 +63,17 @@ class Budget1aTest : public ::testing::Test {
 
   testing::ProgramRig rig_;
 };
+
+TEST_F(Budget1aTest, AYearThatCantBeReadTakesNoIncomeEither) {
+  std::filesystem::create_directory(rig_.temporary.path() + "/2025.Fil");
+  TakeYear("2025");
+  EXPECT_FALSE(grid().enabled() || form().save.enabled());
+  form().income[0].Click();  // an input box would fail the test
+  EXPECT_FALSE(form().unsaved());
+  TakeYear("2026");
+  TypeIncome(11, "5", Answer::kNo);
+  EXPECT_TRUE(form().unsaved());
+}
 
 TEST_F(Budget1aTest, TotalsFollowEveryEntryAndTheIncomeGoesToTheRight) {
   EXPECT_EQ(form().income[0].caption(), "0.00");

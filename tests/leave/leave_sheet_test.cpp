@@ -154,6 +154,8 @@ TEST_F(LeaveSheetTest, RowsAreCountedAtOnceAndSavedLater) {
   EXPECT_EQ(rig.temporary.Read("2026.Sl2"), "\"51\"\r\n");
   EXPECT_FALSE(form().delete_row.enabled());
 
+  options.Open();
+  EXPECT_TRUE(options.Find("mODel")->enabled());  // on Ann, whom nobody has picked yet
   grid().EditCell(3, kName, "Abe");
   grid().ClickHeading(kName);
   EXPECT_EQ(grid().text(1, kName), "Abe");
