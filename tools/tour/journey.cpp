@@ -210,6 +210,26 @@ void LookAtPrint(Traveller& person) {
   person.Click("SSCommand80(2)");
 }
 
+void KeepContact(Traveller& person) {
+  person.Click("SSCommand11(2)");
+  person.ExpectTop("ADDBKVIEW1");
+  person.Type(QStringLiteral("Acme Tools"));
+  person.TakePicture("contact-entry");
+  person.Click("Command1(5)");
+  person.Click("Command4");
+  person.Type(QStringLiteral("acme"));
+  person.Press(Qt::Key_Return);
+  person.TakePicture("contact-view");
+  person.Click("SSCommand3");
+  person.TakePicture("contact-picture");
+  person.Click("SSCommand30(1)");
+  person.ChooseFromMenu("mOW");
+  person.TakePicture("contact-worksheet");
+  person.Click("SSCommand80(2)");
+  person.Click("Command1(0)");
+  person.ExpectTop("ToolsandInfo1");
+}
+
 void MakeCalendar(Traveller& person) {
   person.Click("SSCommand11(6)");
   person.ExpectTop("Calendar");
@@ -244,6 +264,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   LookAtPrint(person);
   person.Press(Qt::Key_Escape);
   person.ExpectTop("ToolsandInfo1");
+  KeepContact(person);
   MakeCalendar(person);
   person.Answer(
       QStringLiteral("Exit"), QMessageBox::Yes, [&] { person.Click("SSCommand4(4)"); }, "exit");
