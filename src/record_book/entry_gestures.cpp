@@ -95,6 +95,7 @@ void EntryScreen::ConnectCommands() {
       panel->SetBackground(colors.panel());
     }
   };
+  print.options_frame.SetVisible(false);  // there are none
   print.on_close = [this] { SetStatus({}); };
 }
 

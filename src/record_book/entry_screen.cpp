@@ -144,7 +144,7 @@ void EntryScreen::ShowPicture(const std::string& path) {
   picture_path_ = path;
   const parts::ShownPicture shown = parts::LoadShown(context_, path, kPictureSide, kPictureSide);
   picture.SetContent(shown.picture.png);
-  picture_note.SetCaption(shown.note);
+  picture_note.SetCaption(path.empty() ? "No picture" : shown.note);
 }
 
 void EntryScreen::SwitchMode() {

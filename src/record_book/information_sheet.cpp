@@ -17,7 +17,7 @@ constexpr int kPictureTop = kInch;
 constexpr int kBelowTitle = 200;        // twips
 constexpr int kBelowPicture = 240;      // twips
 constexpr int kBetweenRows = 60;        // twips
-constexpr double kWorksheetStep = 1.9;  // lines of the font
+constexpr double kWorksheetStep = 2.3;  // lines of the font
 constexpr forms::Color kRuleGray = 0x808080;
 constexpr int kBeforeRule = 80;  // twips between a caption and the line to write on
 
