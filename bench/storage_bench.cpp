@@ -32,7 +32,10 @@ void MeasureScan(RatioTable& table, ProgramFolder& folder) {
       "Scan 20,000 records of 1,190 bytes", 3, 21,
       [&] {
         RecordFile file(folder, "addbk1.fil", kLength);
-        file.Scan(1, [&](int, std::string_view record) { live += !record.starts_with("****"); });
+        file.Scan(1, [&](int, std::string_view record) {
+          live += !record.starts_with("****");
+          return true;
+        });
       },
       [&] {
         const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);

@@ -65,6 +65,7 @@ void Check(std::string_view data) {
     Expect(record == next++ && bytes.size() == length);
     if (record <= 64) ReadWriteRead(file, copy, record, length);
     scanned += bytes;
+    return true;
   });
   Expect(scanned.starts_with(content) && scanned.size() < content.size() + length);
   ReadWriteRead(file, copy, next + 1, length);  // past the end

@@ -144,14 +144,14 @@ void PrintRecords(storage::ProgramFolder& folder, std::string_view name, const F
   const int year = static_cast<int>(text::LeadingNumber(name.substr(0, name.find('.'))));
   storage::RecordFile file(folder, name, kind.record_length);
   file.Scan(1, [&](int record, std::string_view bytes) {
-    switch (kind.layout) {
-      case Layout::kFields:
-        return PrintFields(kind, record, bytes, out);
-      case Layout::kPlannerDays:
-        return PrintDay(year, record, bytes, out);
-      default:
-        return PrintRecord(kind, record, bytes, out);
+    if (kind.layout == Layout::kFields) {
+      PrintFields(kind, record, bytes, out);
+    } else if (kind.layout == Layout::kPlannerDays) {
+      PrintDay(year, record, bytes, out);
+    } else {
+      PrintRecord(kind, record, bytes, out);
     }
+    return true;
   });
 }
 

@@ -85,7 +85,7 @@ bool RecordFile::PutInteger(int record, std::int16_t value) {
 
 bool RecordFile::PutStructure(int record, std::string_view bytes) { return Write(record, bytes); }
 
-void RecordFile::Scan(int first, const std::function<void(int, std::string_view)>& visit) {
+void RecordFile::Scan(int first, const std::function<bool(int, std::string_view)>& visit) {
   if (!file_ || first < 1) return;
   const std::size_t width = Width();
   const std::size_t room = std::max(kScanPiece / width, std::size_t{1}) * width;
@@ -98,7 +98,7 @@ void RecordFile::Scan(int first, const std::function<void(int, std::string_view)
     const std::size_t whole_end = (end + width - 1) / width * width;
     std::fill(piece.get() + end, piece.get() + whole_end, '\0');
     for (std::size_t place = 0; place < whole_end; place += width) {
-      visit(record++, {piece.get() + place, width});
+      if (!visit(record++, {piece.get() + place, width})) return;
     }
     if (end < room) return;
   }

@@ -44,8 +44,9 @@ class RecordFile {
   bool PutStructure(int record, std::string_view bytes);
 
   // Calls `visit` with each record's number and bytes (always record_length of them, zero bytes
-  // where the file ends before) from `first` to the file's end, reading in large pieces.
-  void Scan(int first, const std::function<void(int, std::string_view)>& visit);
+  // where the file ends before) from `first` to the file's end, or until it gives false, reading in
+  // large pieces.
+  void Scan(int first, const std::function<bool(int, std::string_view)>& visit);
 
   // False if the file wasn't open or can't say that all is written. Also closes.
   bool Close();

@@ -20,7 +20,7 @@ const std::vector<std::set<std::string>> kFloors = {
     {"forms"},
     {"print", "proofing"},
     {"parts"},
-    {"year_sheet"},
+    {"year_sheet", "record_book"},
     {"shell", "workarea", "planner", "budget", "contacts", "employees", "images", "leave",
      "vehicles", "backup", "reference"},
     {"program"},

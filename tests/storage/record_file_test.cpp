@@ -27,7 +27,10 @@ TEST_F(RecordFileTest, OpeningMakesAnEmptyFileAndEveryRecordPastTheEndIsEmpty) {
   EXPECT_TRUE(IsEmpty(file.GetTagged(36)));
   EXPECT_EQ(file.GetInteger(1), 0);
   EXPECT_EQ(file.GetStructure(431, 4), "\0\0\0\0"s);
-  file.Scan(1, [](int, std::string_view) { FAIL() << "a record in an empty file"; });
+  file.Scan(1, [](int, std::string_view) {
+    ADD_FAILURE() << "a record in an empty file";
+    return true;
+  });
   EXPECT_TRUE(file.Close());
   EXPECT_THAT(disk_.Names(), ElementsAre("GColor3.Fil"));
   EXPECT_EQ(disk_.Read("GColor3.Fil"), "");
@@ -100,9 +103,13 @@ TEST_F(RecordFileTest, ScanShowsEachRecordOnceAndFillsUpTheLast) {
     EXPECT_EQ(record, next++);
     EXPECT_EQ(bytes.size(), 900u);
     last = bytes;
+    return true;
   });
   EXPECT_EQ(next, 403);
   EXPECT_EQ(last, "tail" + std::string(896, '\0'));
+  int seen = 0;
+  file.Scan(1, [&](int, std::string_view) { return ++seen < 3; });
+  EXPECT_EQ(seen, 3);
 }
 
 TEST_F(RecordFileTest, APutIsOneWriteAndAFailedOneIsTold) {
