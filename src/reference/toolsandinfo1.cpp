@@ -19,6 +19,7 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
     const forms::Hourglass hourglass(context_.window);
     context_.navigator.Show(form);
   };
+  contact_display.on_click = [show] { show(forms::form_names::kContactDisplay); };
   planner.on_click = [show] { show(forms::form_names::kZcalandar1); };
   calendar.on_click = [show] { show(forms::form_names::kCalendar); };
   SetHelpContext(kScreenHelp);

@@ -25,6 +25,8 @@ constexpr AreaButton kAreas[] = {
     {kDisciplinaryActions, "Employee Displinary Actions", "Employee Displinary Actions",
      parts::kEmployeeData},
     {kEvaluations, "Employee Evaluations", "Employee Evaluations", parts::kEmployeeData},
+    {kEmployeeDisplay, "Employee Data Display", "  Employee Evaluations  ", parts::kEmployeeData,
+     forms::form_names::kEmployeeDisplay},
     {kSickLeave, "Employee Sick Leave Tracker", "  Employee Evaluations  ", parts::kEmployeeData,
      forms::form_names::kSickLeave1},
     {kVacation, "Employee Vacation Tracker", "  Employee Evaluations  ", parts::kEmployeeData,

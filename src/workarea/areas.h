@@ -23,6 +23,7 @@ enum Area : int {
   kJobDescriptions = 9,
   kDisciplinaryActions = 10,
   kEvaluations = 11,
+  kEmployeeDisplay = 13,
   kSickLeave = 14,
   kVacation = 15,
   kArchive = 99,  // has no button: the menu leads to it
