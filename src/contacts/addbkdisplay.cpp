@@ -40,6 +40,6 @@ ADDBKDISPLAY::ADDBKDISPLAY(forms::Context& context)
                      .report_title = "Complete Business Contacts Report",
                      .list_date = "mmmm dd, yyyy",
                      .panel_color = settings::PanelColor::kContactDisplay,
-                     .help = 3036}) {}
+                     .help = 3021}) {}
 
 }  // namespace tarnwell::contacts

@@ -37,6 +37,6 @@ FDisplay1::FDisplay1(forms::Context& context)
                               .heading_grid = true,
                               .panel_color = settings::PanelColor::kEmployeeDisplay,
                               .font = settings::PrinterFont::kEmployeeDisplay,
-                              .help = 3038}) {}
+                              .help = 3031}) {}
 
 }  // namespace tarnwell::employees

@@ -43,6 +43,8 @@ struct DisplayStyle {
 
 class DisplayScreen : public forms::Form {
  public:
+  enum Column : int { kName, kValue };  // an address has two more
+
   DisplayScreen(forms::Context& context, const DisplayStyle& style);
 
   forms::Panel sheet{*this, "SSPanel1"};

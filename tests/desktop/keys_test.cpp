@@ -162,6 +162,9 @@ const Way kWays[] = {
     {"Calendar", "Calendar", {}},
     {"Budget", "Budget1a", {}},
     {"Leave", "SICKLEAVE1", {}},
+    {"ContactDisplay", "ADDBKDISPLAY", {}},
+    {"ContactDisplayPrinting", "ADDBKDISPLAY", {"Command6"}},
+    {"EmployeeDisplay", "FDisplay1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

@@ -3,14 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "contacts/addbkdisplay.h"
-#include "contacts/contact_book.h"
-#include "employees/employee_book.h"
-#include "employees/fdisplay1.h"
-#include "record_book/record_store.h"
+#include "record_book/display_rig.h"
 #include "settings/panel_colors.h"
-#include "support/failing_file_system.h"
-#include "support/program_rig.h"
 
 namespace tarnwell::record_book {
 namespace {
@@ -21,87 +15,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-using Entries = std::vector<std::pair<int, std::string>>;
-
-class DisplayScreenTest : public ::testing::Test {
- protected:
-  void Add(const BookLayout& layout, int record, const Entries& entries) {
-    BookRecord person{std::vector<std::string>(static_cast<std::size_t>(layout.entries)), {}};
-    for (const auto& [entry, text] : entries) {
-      person.entries[static_cast<std::size_t>(entry)] = text;
-    }
-    ASSERT_TRUE(WriteNew(rig.folder, layout, record, person));
-  }
-  void AddContact(int record, const Entries& entries) {
-    Add(contacts::ContactBook(), record, entries);
-  }
-  void AddEmployee(int record, const Entries& entries) {
-    Add(employees::EmployeeBook(), record, entries);
-  }
-  // Zed, Acme and two brothers Lee.
-  void AddSome() {
-    AddContact(2, {{0, "Zed"}, {2, "9 Elm St"}, {7, "555-0109"}, {12, "www.zed.example"}});
-    AddContact(3, {{0, "Acme & Co"}, {7, "555-0102"}, {10, "acme@example.com"}});
-    AddContact(4, {{0, "Lee"},
-                   {1, "Ann"},
-                   {2, "1 Oak St"},
-                   {4, "York"},
-                   {5, "PA"},
-                   {6, "17401"},
-                   {7, "555-0101"}});
-    AddContact(5, {{0, "lee"}, {1, "Bob"}, {3, "Flat 2"}, {8, "555-0103"}});
-  }
-  DisplayScreen& Open(const char* name = "ADDBKDISPLAY") {
-    rig.Start();
-    rig.navigator().Show(name);
-    return form();
-  }
-  DisplayScreen& form() { return dynamic_cast<DisplayScreen&>(*rig.navigator().top()); }
-  forms::Grid& grid() { return form().grid; }
-  void Pick(const std::string& caption) {
-    for (int i = 0; i < form().options.size(); ++i) {
-      if (form().options.option(i).caption() == caption) return form().options.Pick(i);
-    }
-    FAIL() << "no option " << caption;
-  }
-  // The cells of the rows that aren't blank.
-  std::vector<std::vector<std::string>> Rows() {
-    std::vector<std::vector<std::string>> rows;
-    for (int row = 1; row < grid().rows(); ++row) {
-      std::vector<std::string> cells;
-      for (int i = 0; i < grid().columns(); ++i) cells.push_back(grid().text(row, i));
-      if (cells != std::vector<std::string>(cells.size())) rows.push_back(cells);
-    }
-    return rows;
-  }
-  std::vector<std::string> Names() {
-    std::vector<std::string> names;
-    for (const auto& row : Rows()) names.push_back(row.front());
-    return names;
-  }
-  std::vector<std::string> Titles() {
-    std::vector<std::string> titles;
-    for (int i = 0; i < grid().columns(); ++i) titles.push_back(grid().column(i).title);
-    return titles;
-  }
-  void Seek(const std::string& text) {
-    form().search_text.Type(text);
-    form().search_text.PressEnter();
-  }
-  // What a row of the Complete Report or a list says, page by page.
-  std::vector<std::string> PrintedTexts() {
-    form().print.print.Click();
-    std::vector<std::string> texts;
-    for (const forms::Page& page : rig.pages.printed.back().pages) {
-      texts.emplace_back("--");
-      for (const std::string& text : testing::TextsOf(page)) texts.push_back(text);
-    }
-    return texts;
-  }
-
-  testing::FailingFileSystem disk{storage::RealFileSystem()};
-  testing::ProgramRig rig{disk};
-};
+using DisplayScreenTest = DisplayRig;
 
 TEST_F(DisplayScreenTest, EachOptionShowsItsFieldOfThoseWhoHaveIt) {
   Entries all;
@@ -251,109 +165,6 @@ TEST_F(DisplayScreenTest, ARowIsTakenFromTheGridOnlyUntilItIsFilledAgain) {
   EXPECT_FALSE(form().remove_row.enabled());
   form().view_all.Click();
   EXPECT_THAT(Names(), SizeIs(3));
-}
-
-TEST_F(DisplayScreenTest, AHeadingSortsAndTelephonesGoWithTheirRows) {
-  AddSome();
-  Open();
-  Pick("Telephone");
-  grid().ClickHeading(1);
-  EXPECT_THAT(Names(), ElementsAre("Lee, Ann", "Acme & Co", "Zed"));
-  grid().ClickHeading(1);
-  EXPECT_THAT(Names(), ElementsAre("Zed", "Acme & Co", "Lee, Ann"));
-  form().print_options.Click();
-  form().with_telephones.Check(true);
-  EXPECT_THAT(PrintedTexts(),
-              ::testing::IsSupersetOf({"Zed    Phone: 555-0109", "Acme & Co    Phone: 555-0102",
-                                       "Lee, Ann    Phone: 555-0101"}));
-  form().print.close.Click();
-  Pick("Telephone");
-  EXPECT_FALSE(grid().sort_mark());
-  EXPECT_THAT(Names(), ElementsAre("Acme & Co", "Lee, Ann", "Zed"));
-}
-
-TEST_F(DisplayScreenTest, TheListIsCopiedAndExported) {
-  AddSome();
-  Open();
-  rig.dialogs.ExpectNote("Copy Option", "Data has been copied to the Windows Clipboard.");
-  rig.ClickMenu("mOCopy");
-  EXPECT_EQ(rig.clipboard.text, "Lee, Ann\t1 Oak St\t\tYork, PA  17401\r\nZed\t9 Elm St\t\t\r\n");
-  Pick("Bus. Fax");
-  rig.ClickMenu("mOCopy");  // there is nothing to copy
-  rig.ClickMenu("mUExcel");
-  EXPECT_EQ(form().exporting.name.text(), "Business Fax.xls");
-}
-
-TEST_F(DisplayScreenTest, TheListIsPrintedInOneColumnOrTwo) {
-  AddContact(2, {{0, std::string(39, 'N')}, {1, "Ann"}, {7, std::string(30, '7')}});
-  AddContact(3, {{0, "Short"}, {7, "555"}});
-  Open();
-  Pick("Telephone");
-  form().print_options.Click();
-  EXPECT_EQ(form().print.copy_page.enabled(), true);
-  std::vector<std::string> texts = PrintedTexts();
-  ASSERT_THAT(texts, SizeIs(9));
-  EXPECT_EQ(texts[1], "Telephone List");
-  EXPECT_EQ(texts[2], "As of  March 09, 2026");
-  EXPECT_EQ(texts[6], " " + std::string(30, '7'));
-  form().print.as_of->Check(false);
-  form().list_columns.Pick(1);
-  texts = PrintedTexts();
-  // Both on one line, the longer name cut.
-  EXPECT_THAT(texts, ::testing::Not(::testing::Contains(HasSubstr("As of"))));
-  std::string all;
-  for (const std::string& text : texts) all += text;
-  EXPECT_THAT(all, HasSubstr(std::string(39, 'N').substr(0, 10)));
-  EXPECT_THAT(all, ::testing::Not(HasSubstr("Ann")));
-}
-
-TEST_F(DisplayScreenTest, TheCompleteReportHasASectionForEachOption) {
-  AddSome();
-  Open();
-  Pick("Fax");
-  form().complete_report.Click();
-  EXPECT_FALSE(form().print.copy_page.enabled() || form().with_telephones.visible());
-  const std::vector<std::string> texts = PrintedTexts();
-  const std::string as_of = "As of  Monday, March 09, 2026";
-  const std::string title = "Complete Business Contacts Report";
-  EXPECT_THAT(
-      texts,
-      ElementsAre("--", title, as_of, "Address", "Lee, Ann", "    1 Oak St", "    York, PA  17401",
-                  "Zed", "    9 Elm St",  //
-                  "--", title + "  Page - 2", as_of, "Telephone", "Acme & Co", "    555-0102",
-                  "Lee, Ann", "    555-0101", "Zed", "    555-0109",                        //
-                  "--", title + "  Page - 3", as_of, "Mobile", "lee, Bob", "    555-0103",  //
-                  "--", title + "  Page - 4", as_of, "Home Email", "Acme & Co",
-                  "    acme@example.com",  //
-                  "--", title + "  Page - 5", as_of, "Web Page", "Zed", "    www.zed.example"));
-  form().print.close.Click();
-  EXPECT_EQ(form().shown_option.caption(), "Fax");
-}
-
-TEST_F(DisplayScreenTest, ALongSectionGoesOnUnderItsHeadAndCanBeCancelled) {
-  for (int i = 2; i < 500; ++i) {
-    AddEmployee(i, {{0, "Name" + std::to_string(1000 + i)}, {2, "Street"}, {7, "555"}});
-  }
-  Open("FDisplay1");
-  form().complete_report.Click();
-  const auto& document = *form().print.preview.document();
-  for (const forms::Page& page : document.pages) {
-    for (const forms::Mark& mark : page) {
-      if (const auto* text = std::get_if<forms::PlacedText>(&mark)) {
-        EXPECT_LE(text->y, 15840 - 240) << text->text;
-      }
-    }
-  }
-  EXPECT_EQ(testing::TextsOf(document.pages[1])[2], "Address (Continued) ");
-  EXPECT_EQ(testing::TextsOf(document.pages[1])[0], "Complete Employee Data Report  Page - 2");
-  form().print.close.Click();
-  rig.loop.on_yield = [&] { rig.navigator().top()->PressEscape(); };
-  class Slow : public testing::FakeClock {};
-  const auto start = rig.clock.now;
-  rig.window.hourglasses = 0;
-  form().complete_report.Click();
-  EXPECT_TRUE(form().print.is_open());  // it took no time
-  EXPECT_EQ(rig.clock.now.time_of_day, start.time_of_day);
 }
 
 TEST_F(DisplayScreenTest, ThePicturesDialOpenAndWriteToTheCellInHand) {

@@ -24,7 +24,12 @@ class FakeClock : public forms::Clock {
  public:
   text::Moment now{text::MakeDate(2026, 3, 9), std::chrono::hours(14) + std::chrono::minutes(5)};
 
-  text::Moment Now() override { return now; }
+  int seconds_a_look = 0;  // that pass with each
+
+  text::Moment Now() override {
+    AddSeconds(seconds_a_look);
+    return now;
+  }
   void AddSeconds(int seconds) { now.time_of_day += std::chrono::seconds(seconds); }
 };
 

@@ -22,6 +22,9 @@ class Budget1a;
 namespace tarnwell::leave {
 class LeaveSheet;
 }
+namespace tarnwell::record_book {
+class DisplayScreen;
+}
 namespace tarnwell::planner {
 class Calendar;
 class Zcalandar1;
@@ -45,6 +48,7 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
 QWidget* View(planner::Calendar& form, PictureStore& pictures);
 QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
+QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 
