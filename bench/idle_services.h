@@ -9,6 +9,8 @@
 
 #include "forms/dialogs.h"
 #include "forms/folder_browser.h"
+#include "forms/launcher.h"
+#include "forms/modem.h"
 #include "forms/pages.h"
 #include "forms/pictures.h"
 #include "forms/services.h"
@@ -88,6 +90,21 @@ class IdleWindow : public forms::Window {
   void CenterOnScreen() override {}
   void SetHourglass(bool) override {}
   void Beep() override {}
+};
+
+class IdleModem : public forms::Modem {
+  std::string PortName(int) override { return {}; }
+  bool Open(int) override { return false; }
+  bool is_open() override { return false; }
+  void Close() override {}
+  void Send(std::string_view) override {}
+  void ClearInput() override {}
+  std::string Receive() override { return {}; }
+};
+
+class IdleLauncher : public forms::Launcher {
+  bool OpenWeb(std::string_view) override { return false; }
+  bool WriteMail(std::string_view) override { return false; }
 };
 
 class IdleHelp : public forms::HelpViewer {

@@ -16,7 +16,7 @@ template <typename ClockClass = IdleClock, typename LoopClass = IdleLoop>
 struct IdleWorld {
   explicit IdleWorld(storage::ProgramFolder& folder)
       : context{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders, pictures,
-                 speller, thesaurus},
+                 speller, thesaurus, modem, launcher},
                 variables,
                 navigator} {
     navigator.SetContext(context);
@@ -42,6 +42,8 @@ struct IdleWorld {
   IdlePictures pictures;
   IdleSpeller speller;
   IdleThesaurus thesaurus;
+  IdleModem modem;
+  IdleLauncher launcher;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
   forms::Context context;

@@ -11,6 +11,8 @@
 #include "desktop/services/qt_clipboard.h"
 #include "desktop/services/qt_event_loop.h"
 #include "desktop/services/qt_folder_browser.h"
+#include "desktop/services/qt_launcher.h"
+#include "desktop/services/qt_modem.h"
 #include "desktop/services/qt_pages.h"
 #include "desktop/services/qt_pictures.h"
 #include "desktop/services/system_clock.h"
@@ -45,6 +47,8 @@ class Desktop {
   QtPictures pictures_;
   HunspellSpeller speller_;
   MythesThesaurus thesaurus_;
+  QtModem modem_;
+  QtLauncher launcher_;
   MainWindow window_;
   program::Program program_;  // goes first: its forms need all the others
 };

@@ -2,6 +2,8 @@
 
 #include "forms/dialogs.h"
 #include "forms/folder_browser.h"
+#include "forms/launcher.h"
+#include "forms/modem.h"
 #include "forms/pages.h"
 #include "forms/pictures.h"
 #include "forms/program_variables.h"
@@ -27,6 +29,8 @@ struct Services {
   Pictures& pictures;
   Speller& speller;
   Thesaurus& thesaurus;
+  Modem& modem;
+  Launcher& launcher;
 };
 
 // Everything that a form works with besides its own controls.

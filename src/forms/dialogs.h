@@ -13,7 +13,7 @@
 namespace tarnwell::forms {
 
 enum class Icon { kNone, kInformation, kExclamation, kQuestion, kCritical };
-enum class Buttons { kOk, kYesNo, kYesNoCancel };
+enum class Buttons { kOk, kOkCancel, kYesNo, kYesNoCancel };
 // The numbers that ProgramVariables::Answer keeps.
 enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 

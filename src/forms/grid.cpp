@@ -100,14 +100,14 @@ void Grid::ClearCells() {
   Tell({.cursor = true, .cells = AllCells()});
 }
 
-void Grid::Sort(int column, bool descending, const GridSortKey& key) {
-  if (column < 0 || column >= columns()) return;
+std::vector<int> Grid::Sort(int column, bool descending, const GridSortKey& key) {
+  if (column < 0 || column >= columns()) return {};
   const bool numeric = columns_[static_cast<std::size_t>(column)].numeric;
-  const std::vector<int> order = cells_.Sort({.column = column,
-                                              .numeric = numeric,
-                                              .descending = descending,
-                                              .fixed_columns = fixed_columns_,
-                                              .key = &key});
+  std::vector<int> order = cells_.Sort({.column = column,
+                                        .numeric = numeric,
+                                        .descending = descending,
+                                        .fixed_columns = fixed_columns_,
+                                        .key = &key});
   std::vector<int> places(order.size() + 1);
   for (std::size_t i = 0; i < order.size(); ++i) {
     places[static_cast<std::size_t>(order[i])] = static_cast<int>(i) + 1;
@@ -116,6 +116,7 @@ void Grid::Sort(int column, bool descending, const GridSortKey& key) {
   sort_mark_ = {column, descending};
   current_.row = to(current_.row);
   MoveRows(to);
+  return order;
 }
 
 const std::string& Grid::text(int row, int column) const {

@@ -45,8 +45,9 @@ class Grid : public Control {
   // By a column's texts, capitals or not, or its numbers; marks its heading. Either way blank cells
   // come behind the others and empty rows last. Rows that are equal keep their order. The cursor
   // and the marks go with their rows. Fixed columns don't count for whether a row is empty. With a
-  // `key` it is what the cells count as, such as the days of dates.
-  void Sort(int column, bool descending, const GridSortKey& key = {});
+  // `key` it is what the cells count as, such as the days of dates. Gives the old place of each
+  // row, for the first row first.
+  std::vector<int> Sort(int column, bool descending, const GridSortKey& key = {});
 
   const std::string& text(int row, int column) const;
   void SetText(int row, int column, std::string_view text);

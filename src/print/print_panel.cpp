@@ -1,6 +1,7 @@
 #include "print/print_panel.h"
 
 #include <chrono>
+#include <utility>
 
 #include "forms/disk_trouble.h"
 #include "forms/message.h"
@@ -30,6 +31,8 @@ PrintPanel::PrintPanel(forms::Container& parent, forms::Context& context,
   panel.SetVisible(false);
   panel.SetHelpContext(kPrintHelp);
   progress.SetVisible(false);
+  cancel.SetVisible(false);
+  cancel.on_click = [this] { is_cancelled_ = true; };
   BuildControls(style);
   engine_.on_new_page = [this] { HeadPage(); };
   font.on_click = [this] { ChooseFont(); };
@@ -135,15 +138,13 @@ void PrintPanel::Rebuild() {
   const forms::Hourglass hourglass(context_.window);
   preview.SetDocument(nullptr);
   started_ = context_.clock.Now();
+  is_cancelled_ = false;
   engine_.Start(setup_, context_.variables.PrintFont());
   engine_.SetTitle(job_.title.empty() ? panel.form().caption() : job_.title);
   if (job_.printed_line) PrintedLine(engine_, context_.clock.Today(), engine_.top());
   if (job_.build) job_.build(engine_);
-  if (busy_) {
-    busy_.reset();
-    progress.SetVisible(false);
-    panel.SetEnabled(true);
-  }
+  EndRun();
+  if (is_cancelled_) return Close();
   ShowOrientation();
   preview.SetDocument(&engine_.document());
 }
@@ -155,16 +156,34 @@ void PrintPanel::HeadPage() {
   if (job_.page_head) job_.page_head(engine_);
 }
 
-void PrintPanel::ReportProgress(int done, int total) {
+bool PrintPanel::ReportProgress(int done, int total) {
   if (!busy_) {
-    if (PointOf(context_.clock.Now()) - PointOf(started_) <= kPatience) return;
-    busy_.emplace(panel.form());
-    panel.SetEnabled(false);
-    progress.Start(total);
-    progress.SetVisible(true);
+    if (PointOf(context_.clock.Now()) - PointOf(started_) <= kPatience) return true;
+    BeginRun(total);
   }
   progress.SetValue(done);
   context_.loop.Yield();
+  return !is_cancelled_;
+}
+
+void PrintPanel::BeginRun(int total) {
+  busy_.emplace(panel.form(), std::vector<const forms::Control*>{&cancel});
+  for (forms::Control* control : panel.children()) {
+    if (control == &cancel || control == &progress || !control->enabled()) continue;
+    control->SetEnabled(false);
+    disabled_.push_back(control);
+  }
+  progress.Start(total);
+  progress.SetVisible(true);
+  cancel.SetVisible(job_.can_be_cancelled);
+}
+
+void PrintPanel::EndRun() {
+  if (!busy_) return;
+  busy_.reset();
+  progress.SetVisible(false);
+  cancel.SetVisible(false);
+  for (forms::Control* control : std::exchange(disabled_, {})) control->SetEnabled(true);
 }
 
 void PrintPanel::ChooseFont() {

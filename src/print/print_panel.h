@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/choice.h"
 #include "forms/command.h"
@@ -49,6 +50,7 @@ struct PrintJob {
   // `build` takes paper and margins from what it prints, unless a person has chosen others.
   bool own_paper = false;
   std::string title;  // of a PDF; empty: the form's caption
+  bool can_be_cancelled = false;  // while it builds; the panel closes then
 };
 
 class PrintPanel {
@@ -58,6 +60,7 @@ class PrintPanel {
   forms::Panel panel;
   forms::PagePreview preview{panel, "VSP1", "Print preview"};
   forms::ProgressBar progress{panel, "ProgressBar80", "Preparing the pages"};
+  forms::Command cancel{panel, "SSCommand80(5)", "Ca&ncel", {.cancel = true}};
   forms::Command font{panel, "SSCommand80(0)", "Printer &Font"};
   forms::Command page_setup{panel, "SSCommand80(1)", "&Page Setup"};
   forms::Command close;
@@ -101,8 +104,9 @@ class PrintPanel {
   void Rebuild();
 
   // For long jobs, while they build: shows how far they are once that takes over a second, and lets
-  // the screen be painted. Nothing else works until the job is done.
-  void ReportProgress(int done, int total);
+  // the screen be painted. Nothing but Cancel, where the job has it, works until the job is done.
+  // False once it was cancelled: the job need not go on.
+  bool ReportProgress(int done, int total);
 
   std::function<void()> on_close;
 
@@ -125,7 +129,12 @@ class PrintPanel {
   PrintJob job_;
   forms::PageSetup setup_;
   text::Moment started_;
+  void BeginRun(int total);
+  void EndRun();
+
   std::optional<forms::Form::BusyScope> busy_;
+  std::vector<forms::Control*> disabled_;  // by the run that is under way
+  bool is_cancelled_ = false;
 };
 
 // The box that takes the panel's place when there is nothing to print.

@@ -16,6 +16,7 @@ class ToolsandInfo1 : public parts::MainScreen {
   forms::Label title{*this, "Label1", "Tools and Program Information", forms::LabelRole::kTitle};
   forms::Panel side{*this, "SSPanel2"};
   forms::Command contacts{side, "SSCommand11(2)", "Business Contacts Entry Form"};
+  forms::Command contact_display{side, "SSCommand11(3)", "Business Contacts Display"};
   forms::Command planner{side, "SSCommand11(5)", "Daily Planner Function"};
   forms::Command calendar{side, "SSCommand11(6)", "Calendar Developer"};
 };

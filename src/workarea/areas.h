@@ -24,6 +24,7 @@ enum Area : int {
   kDisciplinaryActions = 10,
   kEvaluations = 11,
   kEmployeeEntry = 12,
+  kEmployeeDisplay = 13,
   kSickLeave = 14,
   kVacation = 15,
   kArchive = 99,  // has no button: the menu leads to it

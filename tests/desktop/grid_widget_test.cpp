@@ -101,6 +101,8 @@ TEST_F(GridWidget, AColumnThatWasDraggedKeepsItsWidthAndTheOthersTheirShares) {
   EXPECT_EQ(table->columnWidth(2), table->viewport()->width() / 10);
   grid.SetColumns({{"Day", 0.25}, {"Text", 0.5}, {"Rest", 0.25}});
   EXPECT_EQ(table->columnWidth(1), table->viewport()->width() / 2);
+  grid.SetColumns({{"No"}, {"Item"}, {"Jan"}, {"Used"}});
+  EXPECT_EQ(table->columnWidth(1), dragged) << "as many columns as when it was dragged";
 }
 
 TEST_F(GridWidget, AGridIsWalkedAndEditedWhereItsColumnsAllow) {

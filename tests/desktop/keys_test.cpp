@@ -50,6 +50,7 @@ class CautiousDialogs : public forms::Dialogs {
         return forms::Answer::kOk;
       case forms::Buttons::kYesNo:
         return forms::Answer::kNo;
+      case forms::Buttons::kOkCancel:
       case forms::Buttons::kYesNoCancel:
         break;
     }
@@ -126,10 +127,12 @@ class KeyWorld {
   MisspelledText text;
   proofing::SpellingSession session{speller, folder, text};
   testing::FakePictures pictures;
+  testing::FakeModem modem;
+  testing::FakeLauncher launcher;
   PictureStore store{[](std::string_view) { return QByteArray(); }};
   MainWindow window{[this](forms::Form& form) { return LookOf(form, store); }, help};
   program::Program program{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders,
-                            pictures, speller, thesaurus}};
+                            pictures, speller, thesaurus, modem, launcher}};
 };
 
 // How a person gets from the form to what is on show: names of commands, options and menu entries.
@@ -160,6 +163,9 @@ const Way kWays[] = {
     {"Budget", "Budget1a", {}},
     {"Leave", "SICKLEAVE1", {}},
     {"Contacts", "ADDBKVIEW1", {}},
+    {"ContactDisplay", "ADDBKDISPLAY", {}},
+    {"ContactDisplayPrinting", "ADDBKDISPLAY", {"Command6"}},
+    {"EmployeeDisplay", "FDisplay1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

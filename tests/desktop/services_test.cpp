@@ -92,6 +92,7 @@ TEST(MessageDialogs, ClosingTheBoxAnswersWithItsLastButton) {
     forms::Buttons buttons;
     forms::Answer answer;
   } cases[] = {{forms::Buttons::kOk, forms::Answer::kOk},
+               {forms::Buttons::kOkCancel, forms::Answer::kCancel},
                {forms::Buttons::kYesNoCancel, forms::Answer::kCancel}};
   for (const auto& one : cases) {
     MessageDialogs dialogs;

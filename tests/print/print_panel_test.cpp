@@ -272,5 +272,25 @@ TEST_F(PrintPanelTest, OnlyALongJobShowsHowFarItIs) {
   EXPECT_TRUE(print.close.Reachable());
 }
 
+TEST_F(PrintPanelTest, AJobThatIsCancelledWhileItBuildsLeavesNoPages) {
+  auto job = Job();
+  job.can_be_cancelled = true;
+  int steps = 0;
+  job.build = [&](PageEngine&) {
+    do {
+      rig.clock.AddSeconds(1);
+    } while (print.ReportProgress(++steps, 100));
+  };
+  rig.loop.on_yield = [&] {
+    if (steps == 5) rig.form.PressEscape();
+  };
+  print.copy_page.SetEnabled(false);
+  print.Open(job);
+  EXPECT_EQ(steps, 5);
+  EXPECT_FALSE(print.is_open() || rig.form.busy() || print.cancel.visible());
+  EXPECT_TRUE(print.close.enabled());
+  EXPECT_FALSE(print.copy_page.enabled());
+}
+
 }  // namespace
 }  // namespace tarnwell::print

@@ -4,10 +4,13 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/context.h"
@@ -21,11 +24,17 @@ class FakeClock : public forms::Clock {
  public:
   text::Moment now{text::MakeDate(2026, 3, 9), std::chrono::hours(14) + std::chrono::minutes(5)};
 
-  text::Moment Now() override { return now; }
+  int seconds_a_look = 0;  // that pass with each
+
+  text::Moment Now() override {
+    AddSeconds(seconds_a_look);
+    return now;
+  }
   void AddSeconds(int seconds) { now.time_of_day += std::chrono::seconds(seconds); }
 };
 
-// Each wait lets a second pass. What a person does at a yield or during a modal form is scripted.
+// Each wait lets a second pass. What a person does at a yield or during a modal form is scripted,
+// and so is what happens while a second passes.
 class FakeEventLoop : public forms::EventLoop {
  public:
   explicit FakeEventLoop(FakeClock& clock) : clock_(clock) {}
@@ -34,7 +43,10 @@ class FakeEventLoop : public forms::EventLoop {
     ++yields;
     if (on_yield) on_yield();
   }
-  void WaitALittle() override { clock_.AddSeconds(1); }
+  void WaitALittle() override {
+    clock_.AddSeconds(1);
+    if (on_wait) on_wait();
+  }
   void RunUntil(const std::function<bool()>& done) override {
     if (!done() && during_modal) during_modal();
     EXPECT_TRUE(done()) << "a modal form was left open";
@@ -42,6 +54,7 @@ class FakeEventLoop : public forms::EventLoop {
 
   int yields = 0;
   std::function<void()> on_yield;
+  std::function<void()> on_wait;
   std::function<void()> during_modal;
 
  private:
@@ -182,6 +195,55 @@ class FakeThesaurus : public forms::Thesaurus {
   std::map<std::string, std::vector<forms::Meaning>> meanings;
 };
 
+// A modem on one of the machine's ports, which answers as it was told.
+class FakeModem : public forms::Modem {
+ public:
+  std::string PortName(int number) override {
+    const auto found = ports.find(number);
+    return found == ports.end() ? std::string() : found->second;
+  }
+  bool Open(int number) override {
+    Close();
+    if (number == works_at) opened = number;
+    return is_open();
+  }
+  bool is_open() override { return opened != 0; }
+  void Close() override { opened = 0; }
+  void Send(std::string_view bytes) override {
+    EXPECT_TRUE(is_open()) << "sent to no port: " << bytes;
+    sent.emplace_back(bytes);
+  }
+  void ClearInput() override { ++cleared; }
+  std::string Receive() override {
+    if (!is_open() || answers.empty()) return {};
+    std::string next = std::move(answers.front());
+    answers.pop_front();
+    return next;
+  }
+
+  std::map<int, std::string> ports{{1, "/dev/ttyS0"}, {2, "/dev/ttyUSB0"}};
+  int works_at = 1;
+  std::deque<std::string> answers;  // what each call of Receive finds
+  std::vector<std::string> sent;
+  int opened = 0;  // number of the port
+  int cleared = 0;
+};
+
+class FakeLauncher : public forms::Launcher {
+ public:
+  bool OpenWeb(std::string_view address) override { return Take("web ", address); }
+  bool WriteMail(std::string_view address) override { return Take("mail ", address); }
+
+  std::vector<std::string> launched;
+  bool refuse = false;
+
+ private:
+  bool Take(std::string kind, std::string_view address) {
+    if (!refuse) launched.push_back(kind.append(address));
+    return !refuse;
+  }
+};
+
 // Everything that is lent but the program's folder.
 struct FakeWorld {
   FakeClock clock;
@@ -195,10 +257,12 @@ struct FakeWorld {
   FakePictures pictures;
   FakeSpeller speller;
   FakeThesaurus thesaurus;
+  FakeModem modem;
+  FakeLauncher launcher;
 
   forms::Services Lend(storage::ProgramFolder& folder) {
-    return {folder,    clock, dialogs, loop,     window,  help,
-            clipboard, pages, folders, pictures, speller, thesaurus};
+    return {folder, clock,   dialogs,  loop,    window,    help,  clipboard,
+            pages,  folders, pictures, speller, thesaurus, modem, launcher};
   }
 };
 

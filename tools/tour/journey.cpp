@@ -136,6 +136,22 @@ void FillInWorksheet(Traveller& person) {
   person.TakePicture("rule");
 }
 
+void LookAtPeople(Traveller& person) {
+  person.Click("SSCommand4(1)");
+  person.Click("SSCommand11(13)");
+  person.ExpectTop("FDisplay1");
+  person.TakePicture("employee-display");
+  person.Click("Command1");
+  person.Click("SSCommand4(3)");
+  person.Click("SSCommand11(3)");
+  person.ExpectTop("ADDBKDISPLAY");
+  person.Click("Option3D1(1)");
+  person.TakePicture("contact-display");
+  person.Click("Command1");
+  person.ExpectTop("ToolsandInfo1");
+  person.Click("SSCommand4(0)");
+}
+
 void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
@@ -256,6 +272,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   TrackLeave(person);
   FillInWorksheet(person);
   KeepBudget(person);
+  LookAtPeople(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

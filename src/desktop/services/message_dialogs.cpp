@@ -128,6 +128,8 @@ std::vector<QMessageBox::StandardButton> ButtonsOf(forms::Buttons buttons) {
   switch (buttons) {
     case forms::Buttons::kOk:
       return {QMessageBox::Ok};
+    case forms::Buttons::kOkCancel:
+      return {QMessageBox::Ok, QMessageBox::Cancel};
     case forms::Buttons::kYesNo:
       return {QMessageBox::Yes, QMessageBox::No};
     case forms::Buttons::kYesNoCancel:

@@ -47,6 +47,7 @@ QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
   QWidget* commands = Row({Widget(panel.zoom)});
   if (panel.auto_size) Append(commands, Widget(*panel.auto_size));
   Append(commands, Grow(Widget(panel.progress)));
+  Append(commands, Widget(panel.cancel));
   Append(commands, Spring());
   Append(commands, Primary(Widget(panel.print)));
   Append(commands, Widget(panel.close));

@@ -70,5 +70,9 @@ QWidget* Toggle(const char* icon, QWidget* button);
 QWidget* WithMenu(QWidget* button, forms::MenuItem& menu);
 // A label that breaks its lines at the width it is given.
 QWidget* Wrapped(QWidget* label);
+// A label whose text is a caption: the marks of mnemonics in it aren't shown.
+QWidget* Captioned(QWidget* label);
+// Of a grid the row of headings alone.
+QWidget* HeadingsOnly(QWidget* grid);
 
 }  // namespace tarnwell::desktop

@@ -44,7 +44,7 @@ GridView::GridView(forms::Grid& grid, const PictureStore& pictures)
   });
   connect(header_, &QHeaderView::sectionResized, this, [this](int column, int, int width) {
     // The last one takes what is left.
-    if (!is_showing_ && column + 1 < grid_.columns()) dragged_[column] = width;
+    if (!is_showing_ && column + 1 < grid_.columns()) dragged_[grid_.columns()][column] = width;
   });
   editing_->on_type = [this](const QString& text) { on_type(text); };
   editing_->on_leave = [this] { return EndEdit(); };
@@ -66,7 +66,6 @@ void GridView::Show() {
   model_.Follow(change);
   if (change.columns) {
     header_->SetHeld(grid_.held_columns());
-    dragged_.clear();
     ShareWidth();
   }
   ShowMarks();
@@ -151,10 +150,11 @@ void GridView::ShareWidth() {
   if (model_.HasGone()) return;
   const QScopedValueRollback showing(is_showing_, true);
   const int width = viewport()->width();
+  const std::map<int, int>& widths = dragged_[grid_.columns()];
   for (int i = 0; i < header_->count(); ++i) {
-    const auto dragged = dragged_.find(i);
+    const auto dragged = widths.find(i);
     const int share = static_cast<int>(width * grid_.column(i).share);
-    header_->resizeSection(i, dragged != dragged_.end()
+    header_->resizeSection(i, dragged != widths.end()
                                   ? dragged->second
                                   : std::max(share, header_->sectionSizeHint(i)));
   }

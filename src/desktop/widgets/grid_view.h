@@ -76,7 +76,8 @@ class GridView : public QTableView {
   CellEditing* editing_;
   forms::GridLook look_;
   int highlight_ = 0;           // painted
-  std::map<int, int> dragged_;  // columns to their widths
+  // Columns to their widths, for each number of columns that the grid had.
+  std::map<int, std::map<int, int>> dragged_;
   bool is_showing_ = false;     // what changes now isn't a person's doing
   bool is_acting_ = false;      // Qt is at work on a key or a click
 };

@@ -1,6 +1,7 @@
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/grid_view.h"
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -20,6 +21,18 @@ QWidget* Widget(forms::Grid& grid, PictureStore& pictures) {
   view->on_step = binding->Forward([&grid](forms::GridStep step) { grid.Step(step); });
   view->on_undo = binding->Forward([&grid](bool back) { back ? grid.Undo() : grid.Redo(); });
   return view;
+}
+
+QWidget* HeadingsOnly(QWidget* grid) {
+  if (auto* view = dynamic_cast<GridView*>(grid)) {
+    view->ensurePolished();
+    view->horizontalHeader()->ensurePolished();
+    view->setFixedHeight(view->horizontalHeader()->sizeHint().height() + 2 * view->frameWidth() +
+                         kHairSpace);
+    view->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
+  return grid;
 }
 
 }  // namespace tarnwell::desktop

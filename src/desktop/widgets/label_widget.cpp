@@ -18,6 +18,7 @@ constexpr int kFocusFrame = 2;  // pixels
 
 class TextLabel : public QLabel {
  public:
+  bool is_caption = false;
   std::function<void()> on_click;
 
   // The keyboard reaches a label that can be clicked.
@@ -97,11 +98,11 @@ QWidget* Widget(forms::Label& label) {
   widget->setTextFormat(Qt::PlainText);
   widget->setFont(FontOf(label.role()));
   auto* binding = new Binding(widget, label, [widget, &label] {
-    const QString text = FromCore(label.caption());
+    const QString text = widget->is_caption ? Spoken(label.caption()) : FromCore(label.caption());
     widget->setText(widget->wordWrap() ? WithBreaks(text) : text);
     if (label.font()) widget->setFont(SampleFont(*label.font()));
     if (label.color()) ShowColor(*widget, ToQColor(*label.color()));
-    if (!label.caption().empty()) widget->setAccessibleName(FromCore(label.caption()));
+    if (!label.caption().empty()) widget->setAccessibleName(text);
   });
   if (label.on_click) {
     widget->SetClickable();
@@ -112,6 +113,15 @@ QWidget* Widget(forms::Label& label) {
 
 QWidget* Wrapped(QWidget* label) {
   if (auto* text = qobject_cast<QLabel*>(label)) text->setWordWrap(true);
+  return label;
+}
+
+QWidget* Captioned(QWidget* label) {
+  if (auto* text = dynamic_cast<TextLabel*>(label)) {
+    text->is_caption = true;
+    text->setText(Spoken(ToCore(text->text())));
+    text->setAccessibleName(text->text());
+  }
   return label;
 }
 
