@@ -172,9 +172,9 @@ constexpr FileKind kKinds[] = {
     {"Name3.Fil", "pictures of employees", kRecords, "record-book.md", 250, kPictures},
     {"Name1.hm+", "backup of employees", kFields, "employees.md", 1002, {}, kEmployee},
 
-    {"Photobk3.Fil", "document images", kFields, {}, 300, {}, kImage},
+    {"Photobk3.Fil", "document images", kFields, "images.md", 300, {}, kImage},
     {"Photobk4.Fil", "names of document images", kRecords, "record-book.md", 60, kNameIndex},
-    {"Photobk3.ZY+", "backup of document images", kFields, {}, 300, {}, kImage},
+    {"Photobk3.ZY+", "backup of document images", kFields, "images.md", 300, {}, kImage},
 
     {"####.Sl1", "sick leave year", kRows, "leave-year.md", 0, {}, {}, kLeaveColumns},
     {"####.Sp1", "backup of a sick leave year", kRows, {}, 0, {}, {}, kLeaveColumns},

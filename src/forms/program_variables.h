@@ -15,6 +15,7 @@ namespace tarnwell::forms {
 struct ProgramVariables {
   std::int16_t SmallerScreen = 0;  // 9 smaller-screen display, 0 full screen
   std::int16_t MainArea = 0;       // index of the main button last chosen, 0 to 4
+  std::int16_t HubArea = 0;        // area that the hub opens when it comes on top; 0 for none
   std::int16_t SplashShown = 0;    // 99 once the splash screen was shown
   storage::TaggedValue StartBackColor;
   std::int16_t FormHeight = 0;  // the work area's client, in twips, cut to 32767

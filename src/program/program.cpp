@@ -6,6 +6,7 @@
 #include "employees/fdisplay1.h"
 #include "employees/fview.h"
 #include "forms/form_names.h"
+#include "images/photoview1.h"
 #include "leave/leave_sheet.h"
 #include "planner/calendar.h"
 #include "planner/zcalandar1.h"
@@ -43,6 +44,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kEmployeeEntry, Make<employees::FView>);
   navigator.Register(kContactDisplay, Make<contacts::ADDBKDISPLAY>);
   navigator.Register(kEmployeeDisplay, Make<employees::FDisplay1>);
+  navigator.Register(kPhotoView, Make<images::PhotoVIEW1>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

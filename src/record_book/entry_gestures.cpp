@@ -1,15 +1,19 @@
 // What the entry screen is made of, and what keys and clicks in it do.
 
+#include <algorithm>
+
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
 #include "record_book/entry_screen.h"
 #include "record_book/information_sheet.h"
+#include "text/letters.h"
 
 namespace tarnwell::record_book {
 namespace {
 
 constexpr int kSheetMargin = forms::kTwipsPerInch;
 constexpr int kLastPassedOn = 16;  // entry: Enter goes on to the next one from those above it
+constexpr std::string_view kMail = "e-mail address";
 constexpr int kDotsPerInch = 300;  // of a picture on paper
 
 std::string Indexed(std::string_view name, int index) {
@@ -36,7 +40,7 @@ void EntryScreen::BuildEntries() {
           std::make_unique<forms::Label>(group, Indexed("Label1", label_index++), field.label));
     }
     const std::string spoken = std::string(label) + (has_label ? "" : ", second line");
-    if (entry == last_entry()) {
+    if (style_.has_comments && entry == last_entry()) {
       comments = std::make_unique<forms::TextBox>(
           group, Indexed("Text1", entry),
           forms::TextBoxStyle{.max_length = field.longest, .spoken_name = spoken});
@@ -54,12 +58,13 @@ void EntryScreen::ConnectEntries() {
     control.on_focus = [this, entry] { MarkFocused(entry, true); };
     control.on_leave = [this, entry] { MarkFocused(entry, false); };
   }
-  for (int entry = 0; entry < last_entry(); ++entry) {
+  for (int entry = 0; entry < static_cast<int>(fields.size()); ++entry) {
     forms::TextField& field = *fields[static_cast<std::size_t>(entry)];
     field.on_change = [this, entry] { Typed(entry); };
     field.on_click = [this] { Clicked(); };
     field.on_enter = [this, entry] { PressedEnter(entry); };
   }
+  if (!comments) return;
   comments->on_change = [this] { Typed(last_entry()); };
   comments->on_click = [this] { Clicked(); };
   comments->on_enter = [this] { return PressedEnter(last_entry()); };
@@ -94,6 +99,8 @@ void EntryScreen::ConnectCommands() {
     for (forms::Panel* panel : {&screen, &pictures.panel, &print.panel}) {
       panel->SetBackground(colors.panel());
     }
+    if (!style_.has_text_color) return;
+    for (auto& field : fields) field->SetColor(colors.text());
   };
   print.options_frame.SetVisible(false);  // there are none
   print.on_close = [this] { SetStatus({}); };
@@ -112,24 +119,24 @@ void EntryScreen::BuildMenus() {
   save_changed.SetKey("Ctrl+S");
   forms::MenuItem& delete_file = options.AddCommand("mODel", "Delete &File", remove);
   options.AddCommand("mOPrt", "&Print File", print_file).SetKey("Ctrl+P");
-  options.AddEntry("mOW", "Print &Worksheet", {[this] { OpenWorksheet(); }, {&mode}});
+  if (!style_.worksheet.empty()) {
+    options.AddEntry("mOW", "Print &Worksheet", {[this] { OpenWorksheet(); }, {&mode}});
+  }
   options.AddEntry("mOCopy", "C&opy", [this] { Copy(); });
   options.AddSeparator();
   forms::MenuItem& view_screen = options.AddEntry("mOVS", "View Sc&reen", forms::ActionOf(mode));
   forms::MenuItem& entry_screen = options.AddEntry("mOES", "E&ntry Screen", forms::ActionOf(mode));
   options.AddSeparator();
   options.AddEntry("mOC", "Panel Co&lor", [this] { colors.Choose(parts::ColorTarget::kPanel); });
+  if (style_.has_text_color) {
+    options.AddEntry("mOTC", "Te&xt Color", [this] { colors.Choose(parts::ColorTarget::kText); });
+  }
   options.AddSeparator();
   options.AddCommand("mOEx", "E&xit", exit);
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
   forms::MenuItem& modify = edit.AddEntry("mEMod1", "&Make Modifications", forms::ActionOf(change));
   copy_entry_ = &edit.AddEntry("mECopy", "&Copy", [this] { Copy(); });
-  edit.AddEntry("mECopyTel", "Copy &Telephone Number",
-                [this] { CopyFirst(style_.telephones, "telephone number"); })
-      .SetKey("Ctrl+T");
-  edit.AddEntry("mECopyMail", "Copy &E-mail Address",
-                [this] { CopyFirst(style_.emails, "e-mail address"); })
-      .SetKey("Ctrl+E");
+  if (!style_.telephones.empty()) AddAddressEntries(edit);
   of_entry_ = {&clear, &save_new, &view_screen};
   of_view_ = {&view_name, &save_changed, &delete_file, &modify, &entry_screen};
   for (forms::MenuItem* menu : {&options, &edit}) menu->LiveWith({&screen});
@@ -137,23 +144,32 @@ void EntryScreen::BuildMenus() {
   parts::AddHelpMenu(*this, context_);
 }
 
+void EntryScreen::AddAddressEntries(forms::MenuItem& edit) {
+  edit.AddEntry("mECopyTel", "Copy &Telephone Number",
+                [this] { CopyFirst(style_.telephones, "telephone number"); })
+      .SetKey("Ctrl+T");
+  edit.AddEntry("mECopyMail", "Copy &E-mail Address", [this] { CopyFirst(style_.emails, kMail); })
+      .SetKey("Ctrl+E");
+  edit.AddEntry("mEMail", "&Write an E-mail", [this] { WriteMail(); }).SetKey("Ctrl+M");
+}
+
 forms::Control& EntryScreen::ControlOf(int entry) {
-  if (entry == last_entry()) return *comments;
+  if (IsComments(entry)) return *comments;
   return *fields[static_cast<std::size_t>(entry)];
 }
 
 std::string EntryScreen::TextOf(int entry) const {
-  return entry == last_entry() ? comments->text() : fields[static_cast<std::size_t>(entry)]->text();
+  return IsComments(entry) ? comments->text() : fields[static_cast<std::size_t>(entry)]->text();
 }
 
 void EntryScreen::SetTextOf(int entry, std::string_view text) {
-  if (entry == last_entry()) return comments->SetText(text);
+  if (IsComments(entry)) return comments->SetText(text);
   fields[static_cast<std::size_t>(entry)]->SetText(text);
 }
 
 void EntryScreen::MarkFocused(int entry, bool focused) {
   const bool is_marked = focused && (is_entry() || state_ == State::kModifying);
-  if (entry == last_entry()) return comments->SetMarked(is_marked);
+  if (IsComments(entry)) return comments->SetMarked(is_marked);
   fields[static_cast<std::size_t>(entry)]->SetMarked(is_marked);
 }
 
@@ -179,6 +195,10 @@ void EntryScreen::Clicked() {
     return search.Focus();
   }
   if (state_ != State::kShown) return;
+  if (!style_.click_modifies) {
+    Message({"Make Modifications", "Please click Make Modifications Button to modify data!"});
+    return change.Focus();
+  }
   Enter(State::kModifying);
   for (int entry = 0; entry <= last_entry(); ++entry) {
     if (ControlOf(entry).focused()) MarkFocused(entry, true);
@@ -187,11 +207,11 @@ void EntryScreen::Clicked() {
 
 // True where the key makes no line.
 bool EntryScreen::PressedEnter(int entry) {
-  if (entry < kLastPassedOn) {
+  if (entry < std::min(kLastPassedOn, last_entry())) {
     ControlOf(entry + 1).Focus();
     return true;
   }
-  if (entry != kLastPassedOn || entry != last_entry()) return true;
+  if (entry != kLastPassedOn || !IsComments(entry)) return true;
   if (!comments->text().ends_with('\n')) return false;
   ControlOf(0).Focus();
   return true;
@@ -204,17 +224,29 @@ void EntryScreen::Copy() {
       {"Copy Option", "Data has been copied to the Windows Clipboard.", forms::Icon::kInformation});
 }
 
-// The entry in hand where it is one of these, else the first that isn't empty.
-void EntryScreen::CopyFirst(std::span<const int> entries, std::string_view what) {
+std::string EntryScreen::FirstOf(std::span<const int> entries, std::string_view what) {
   std::string found;
   for (const int entry : entries) {
-    const std::string text = TextOf(entry);
+    const std::string text = text::Trim(TextOf(entry));
     if (text.empty()) continue;
     if (found.empty() || ControlOf(entry).focused()) found = text;
   }
-  if (found.empty()) return SetStatus("There is no " + std::string(what) + " here.");
+  if (found.empty()) SetStatus("There is no " + std::string(what) + " here.");
+  return found;
+}
+
+void EntryScreen::CopyFirst(std::span<const int> entries, std::string_view what) {
+  const std::string found = FirstOf(entries, what);
+  if (found.empty()) return;
   context_.clipboard.SetText(found);
   SetStatus("Copied: " + found);
+}
+
+void EntryScreen::WriteMail() {
+  const std::string address = FirstOf(style_.emails, kMail);
+  if (address.empty()) return;
+  SetStatus(context_.launcher.WriteMail(address) ? "A letter to " + address + " is begun."
+                                                 : "No letter can be written to " + address + ".");
 }
 
 void EntryScreen::OpenSheet() {

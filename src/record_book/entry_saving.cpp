@@ -9,7 +9,7 @@ namespace tarnwell::record_book {
 BookRecord EntryScreen::Content() const {
   BookRecord content;
   for (int entry = 0; entry <= last_entry(); ++entry) content.entries.push_back(TextOf(entry));
-  content.picture = picture_path_;
+  content.picture = picture_path_.empty() ? style_.picture.none_stored : picture_path_;
   return content;
 }
 
@@ -25,7 +25,8 @@ parts::SaveResult EntryScreen::Save() { return is_entry() ? SaveNew() : SaveChan
 bool EntryScreen::HasName() {
   if (!TextOf(0).empty()) return true;
   save_stopped_ = true;
-  Message({"Save", std::string(style_.name_missing), forms::Icon::kInformation});
+  const auto missing = is_entry() ? style_.name_missing : style_.changed_name_missing;
+  Message({"Save", std::string(missing), forms::Icon::kInformation});
   ControlOf(0).Focus();
   return false;
 }

@@ -28,8 +28,9 @@ std::string WithCompany(const forms::ProgramVariables& variables, std::string_vi
 
 EntryScreen::EntryScreen(forms::Context& context, const EntryStyle& style)
     : Form(context, style.form_name, style.entry_caption),
-      pictures(*this, context,
-               {.folder = settings::PictureFolder::kPeople, .longest_path = kLongestPicturePath}),
+      link(picture_panel, style.picture.command_name, style.picture.command),
+      print_file(screen, "Command1(3)", style.print_caption),
+      pictures(*this, context, style.picture.panel),
       print(*this, context, {.as_of_caption = {}}),
       colors(context, style.panel_color),
       style_(style),
@@ -114,7 +115,7 @@ void EntryScreen::Enter(State state) {
   for (forms::MenuItem* item : of_view_) item->SetVisible(!is_entry());
   const bool is_locked = state_ == State::kNoRecord || state_ == State::kShown;
   for (auto& field : fields) field->SetLocked(is_locked);
-  comments->SetLocked(is_locked);
+  if (comments) comments->SetLocked(is_locked);
   EnableCommands();
 }
 
@@ -126,9 +127,10 @@ void EntryScreen::EnableCommands() {
   remove.SetEnabled(has_record());
   link.SetEnabled(has_record() || (is_entry() && has_changes));
   copy_entry_->SetEnabled(has_record() || (is_entry() && has_changes));
-  print_picture.SetVisible(has_record());
+  print_picture.SetVisible(has_record() && !style_.worksheet.empty());
   large.SetEnabled(!picture_path_.empty());
   small.SetEnabled(!picture_path_.empty());
+  StateChanged();
 }
 
 void EntryScreen::ClearEntries() {
@@ -144,7 +146,7 @@ void EntryScreen::ShowPicture(const std::string& path) {
   picture_path_ = path;
   const parts::ShownPicture shown = parts::LoadShown(context_, path, kPictureSide, kPictureSide);
   picture.SetContent(shown.picture.png);
-  picture_note.SetCaption(path.empty() ? "No picture" : shown.note);
+  picture_note.SetCaption(path.empty() ? style_.picture.none_shown : shown.note);
 }
 
 void EntryScreen::SwitchMode() {
@@ -207,7 +209,8 @@ void EntryScreen::Read(int place) {
   for (int entry = 0; entry <= last_entry(); ++entry) {
     SetTextOf(entry, read->entries[static_cast<std::size_t>(entry)]);
   }
-  ShowPicture(read->picture);
+  const bool has_picture = read->picture.size() >= style_.picture.shortest_path;
+  ShowPicture(has_picture ? read->picture : std::string());
   record_ = record;
   place_ = place;
   Enter(State::kShown);

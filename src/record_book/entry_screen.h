@@ -37,7 +37,7 @@ class EntryScreen : public forms::Form {
   forms::Command view{list_panel, "Command2", "&View"};
   forms::ListBox names{list_panel, "List1", "Names"};
   forms::Label count{list_panel, "Panel3D2"};
-  // Label1(0), … in front of Text1(0), …; the last entry is `comments`.
+  // Label1(0), … in front of Text1(0), …; the last entry may be `comments`.
   std::vector<std::unique_ptr<forms::Panel>> groups;
   std::vector<std::unique_ptr<forms::Label>> labels;
   std::vector<std::unique_ptr<forms::TextField>> fields;
@@ -45,14 +45,14 @@ class EntryScreen : public forms::Form {
   forms::Panel picture_panel{screen, "Panel3D3"};
   forms::Picture picture{picture_panel, "Image1", {}};
   forms::Label picture_note{picture_panel, "Label3", {}, forms::LabelRole::kNote};
-  forms::Command link{picture_panel, "SSCommand3", "Add/Edit"};
+  forms::Command link;
   forms::Panel print_picture{picture_panel, "Frame1", "Print Picture"};
   forms::CheckBox large{print_picture, "SSCheck1(0)", "Picture (Large)"};
   forms::CheckBox small{print_picture, "SSCheck1(1)", "Picture (Small)"};
   forms::Command mode{screen, "Command4", "&View Screen"};
   forms::Command change{screen, "Command1(4)", "&Clear Current Data"};
   forms::Command save{screen, "Command1(5)", "&Save && New Screen"};
-  forms::Command print_file{screen, "Command1(3)", "&Print File"};
+  forms::Command print_file;
   forms::Command remove{screen, "Command1(2)", "Delete &File"};
   forms::Command exit{screen, "Command1(0)", "E&xit", {.cancel = true}};
   parts::PicturePanel pictures;
@@ -63,6 +63,17 @@ class EntryScreen : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+
+ protected:
+  virtual void OpenSheet();
+  // What a person does to the view, such as another record, has been done.
+  virtual void StateChanged() {}
+  bool is_entry() const { return state_ == State::kEntry; }
+  bool has_record() const { return state_ == State::kShown || state_ == State::kModifying; }
+  std::string TextOf(int entry) const;
+  const std::string& picture_path() const { return picture_path_; }
+  const std::vector<NameEntry>& entries() const { return entries_; }
+  void Open(print::PrintJob job);
 
  private:
   enum class State {
@@ -76,11 +87,10 @@ class EntryScreen : public forms::Form {
   void ConnectEntries();
   void ConnectCommands();
   void BuildMenus();
+  void AddAddressEntries(forms::MenuItem& edit);
 
-  bool is_entry() const { return state_ == State::kEntry; }
-  bool has_record() const { return state_ == State::kShown || state_ == State::kModifying; }
   int last_entry() const { return style_.book->entries - 1; }
-  std::string TextOf(int entry) const;
+  bool IsComments(int entry) const { return comments && entry == last_entry(); }
   void SetTextOf(int entry, std::string_view text);
   forms::Control& ControlOf(int entry);
   BookRecord Content() const;
@@ -123,10 +133,12 @@ class EntryScreen : public forms::Form {
 
   void TakePicture(const std::string& path);
   void Copy();
+  // The entry in hand where it is one of these, else the first that isn't empty. The status says
+  // that there is none.
+  std::string FirstOf(std::span<const int> entries, std::string_view what);
   void CopyFirst(std::span<const int> entries, std::string_view what);
-  void OpenSheet();
+  void WriteMail();
   void OpenWorksheet();
-  void Open(print::PrintJob job);
 
   EntryStyle style_;
   parts::SaveQuestion question_;

@@ -55,6 +55,8 @@ constexpr DocumentButton kAgreementButtons[] = {
     {18, "Fax Cover Sheet", "  Fax Cover Sheet  "},
     {19, "Sick Leave Request Form", "  Sick Leave Request Form  "},
     {20, "Vacation Request Form", "  Vacation Request Form  "},
+    {21, "Business License etc. (Scanned)", "  Business License etc. (Scanned)  ",
+     forms::form_names::kPhotoView},
 };
 
 constexpr DocumentButton kEmployeeButtons[] = {

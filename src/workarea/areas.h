@@ -46,7 +46,8 @@ std::string_view FormOf(Area area);
 struct DocumentButton {
   int index;  // the document's number is that of the group plus this
   std::string_view caption;
-  std::string_view tool_tip;  // trimmed, it is the document's title
+  std::string_view tool_tip;   // trimmed, it is the document's title
+  std::string_view form = {};  // the screen that it shows, instead of a document
 };
 
 // A row of numbered documents. Indices without a document have no button.

@@ -4,6 +4,7 @@
 
 #include "forms/form.h"
 #include "forms/message.h"
+#include "forms/navigator.h"
 #include "richtext/rich_text_reader.h"
 #include "storage/file_names.h"
 #include "text/letters.h"
@@ -66,7 +67,9 @@ void DocumentsPane::Paint(const forms::Command* chosen) {
 }
 
 void DocumentsPane::Choose(const DocumentGroup& group, std::size_t place) {
+  const std::string_view form = group.documents[place].form;
   if (document_ == &group.documents[place] || !view_.Settle()) return;
+  if (!form.empty()) return context_.navigator.Show(form);
   document_ = &group.documents[place];
   for (const auto& row : groups) {
     if (&row->group == &group) Paint(row->buttons[place].get());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "forms/form_names.h"
 #include "forms/navigator.h"
@@ -143,6 +144,9 @@ void WorkArea1::Activate() {
   const forms::Size size = context_.window.size();
   context_.variables.FormHeight = Twips(size.height);
   context_.variables.FormWidth = Twips(size.width);
+  if (const auto area = std::exchange(context_.variables.HubArea, std::int16_t{0})) {
+    return GoTo(static_cast<Area>(area));
+  }
   switch (context_.variables.MainArea) {
     case parts::kInformationAdvisor:
       return context_.navigator.Show(forms::form_names::kInfoAdv);
@@ -154,6 +158,14 @@ void WorkArea1::Activate() {
     default:
       Press(context_.variables.MainArea);
   }
+}
+
+// Where another screen has sent a person.
+void WorkArea1::GoTo(Area area) {
+  const auto button = std::ranges::find(AreaButtons(), area, &AreaButton::area);
+  if (button == AreaButtons().end()) return;
+  Press(button->under);
+  if (main_area_ == button->under) ChooseArea(area);
 }
 
 void WorkArea1::Press(int index) {

@@ -48,6 +48,7 @@ class WorkArea1 : public forms::Form {
  private:
   void BuildMenus();
 
+  void GoTo(Area area);
   void Press(int index);
   void ShowMainArea(parts::MainArea main_area);
   void AskToExit();

@@ -30,6 +30,7 @@ const std::vector<std::set<std::string>> kFloors = {
 // The rules of one area that another area builds on.
 const std::set<std::pair<std::string, std::string>> kPassages = {
     {"shell", "planner/day_store.h"},
+    {"images", "workarea/areas.h"},
 };
 
 // Only storage's door to the disk speaks to the operating system.

@@ -166,6 +166,7 @@ const Way kWays[] = {
     {"ContactDisplay", "ADDBKDISPLAY", {}},
     {"ContactDisplayPrinting", "ADDBKDISPLAY", {"Command6"}},
     {"EmployeeDisplay", "FDisplay1", {}},
+    {"Images", "PhotoVIEW1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

@@ -247,6 +247,9 @@ TEST_F(EntryScreenTest, TheClipboardGetsTheEntriesWithTheirCaptionsAndTheFirstTe
   EXPECT_EQ(rig.clipboard.text, "555-1234");
   rig.ClickMenu("mECopyMail");
   EXPECT_EQ(rig.clipboard.text, "555-1234");
+  field(11).Type("ann@example.com");
+  rig.ClickMenu("mEMail");
+  EXPECT_THAT(rig.launcher.launched, ElementsAre("mail ann@example.com"));
 }
 
 TEST_F(EntryScreenTest, WhatTheDiskRefusesStaysOnTheScreen) {

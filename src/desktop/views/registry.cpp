@@ -6,6 +6,7 @@
 #include "budget/budget1a.h"
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
+#include "images/photoview1.h"
 #include "leave/leave_sheet.h"
 #include "planner/calendar.h"
 #include "planner/zcalandar1.h"
@@ -50,6 +51,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kEmployeeEntry, Make<record_book::EntryScreen>},
     {forms::form_names::kContactDisplay, Make<record_book::DisplayScreen>},
     {forms::form_names::kEmployeeDisplay, Make<record_book::DisplayScreen>},
+    {forms::form_names::kPhotoView, Make<images::PhotoVIEW1>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -19,6 +19,9 @@ class ToolsandInfo1;
 namespace tarnwell::budget {
 class Budget1a;
 }
+namespace tarnwell::images {
+class PhotoVIEW1;
+}
 namespace tarnwell::leave {
 class LeaveSheet;
 }
@@ -51,6 +54,7 @@ QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
 QWidget* View(record_book::EntryScreen& form, PictureStore& pictures);
 QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
+QWidget* View(images::PhotoVIEW1& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 

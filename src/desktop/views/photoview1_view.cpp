@@ -1,0 +1,91 @@
+#include "desktop/views/picture_panel_view.h"
+#include "desktop/views/print_view.h"
+#include "desktop/views/views.h"
+#include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/layout.h"
+#include "images/photoview1.h"
+
+namespace tarnwell::desktop {
+namespace {
+
+using images::PhotoVIEW1;
+
+constexpr int kLettersOfList = 26;
+constexpr QSize kLeastPicture{300, 200};
+
+QWidget* Low(QWidget* widget) {
+  SetMark(widget, "tool", true);
+  return widget;
+}
+
+QWidget* TopToolbar(PhotoVIEW1& form) {
+  QWidget* buttons = Flow({}, kHairSpace);
+  for (const auto& area : form.areas) buttons->layout()->addWidget(Low(Widget(*area)));
+  buttons->layout()->addWidget(Low(Widget(form.hide_top)));
+  return Widget(form.top_toolbar, buttons);
+}
+
+QWidget* SideToolbar(PhotoVIEW1& form) {
+  return Widget(form.side_toolbar, Column({IconOnly("save", Widget(form.side_save)),
+                                           IconOnly("print", Widget(form.side_print)),
+                                           IconOnly("picture", Widget(form.side_load)),
+                                           IconOnly("clear", Widget(form.side_remove)),
+                                           IconOnly("back", Widget(form.hide_side)), Spring()},
+                                          kTightSpace));
+}
+
+QWidget* ListView(PhotoVIEW1& form) {
+  return Widget(form.list_panel, AtMost(Column({Widget(form.search_label),
+                                                Row({Grow(Widget(form.search)), Widget(form.view)}),
+                                                Grow(Widget(form.names)), Widget(form.count)},
+                                               kTightSpace),
+                                        kLettersOfList));
+}
+
+QWidget* ImageView(PhotoVIEW1& form, PictureStore& pictures) {
+  QWidget* fields = Fields({{Widget(*form.labels[0]), Widget(*form.fields[0])},
+                            {Widget(*form.labels[1]), Widget(*form.fields[1])}});
+  QWidget* print_picture =
+      Widget(form.print_picture, Row({Widget(form.large), Widget(form.small)}));
+  return Column({
+      Widget(*form.groups[0], fields),
+      Grow(Widget(form.picture_panel,
+                  Column({Grow(AtLeast(kLeastPicture, Widget(form.picture, pictures))),
+                          Row({Wrapped(Widget(form.picture_note)), Spring(), print_picture,
+                               Widget(form.link)})}))),
+  });
+}
+
+QWidget* SeveralView(PhotoVIEW1& form) {
+  return Widget(
+      form.several,
+      Column({Grow(Row({Grow(Column({Widget(form.all_heading), Grow(Widget(form.all))})),
+                        Column({Spring(), Widget(form.add), Widget(form.take_away), Spring()}),
+                        Grow(Column({Widget(form.chosen_heading), Grow(Widget(form.chosen))}))})),
+              Flow({WithIcon("print", Primary(Widget(form.print_several))),
+                    Widget(form.leave_several)})}));
+}
+
+}  // namespace
+
+QWidget* View(PhotoVIEW1& form, PictureStore& pictures) {
+  QWidget* screen = Widget(
+      form.screen,
+      Column({TopToolbar(form),
+              Grow(Row({SideToolbar(form), ListView(form), Grow(ImageView(form, pictures))})),
+              Flow({Primary(Widget(form.save)), Widget(form.change),
+                    WithIcon("print", Widget(form.print_file)), Widget(form.choose_several),
+                    Widget(form.remove), Widget(form.mode), WithIcon("exit", Widget(form.exit)),
+                    Low(Widget(form.restore_top)), Low(Widget(form.restore_side))},
+                   kTightSpace)}));
+  QWidget* print = PrintView(
+      form.print, pictures,
+      {Widget(form.copies.option(0)), Widget(form.copies.option(1)), Widget(form.copies.option(2)),
+       Widget(form.copies.option(3)), Widget(form.print_title), Widget(form.print_date)});
+  return Padded(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
+                        Grow(SeveralView(form)), Grow(print)},
+                       0),
+                kSpace);
+}
+
+}  // namespace tarnwell::desktop

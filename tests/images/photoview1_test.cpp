@@ -1,0 +1,192 @@
+#include "images/photoview1.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "images/image_book.h"
+#include "record_book/record_store.h"
+#include "support/fixed_metrics.h"
+#include "support/format_page.h"
+#include "support/program_rig.h"
+
+namespace tarnwell::images {
+namespace {
+
+using ::testing::ElementsAre;
+
+class PhotoVIEW1Test : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    rig.Start();
+    rig.navigator().Show("PhotoVIEW1");
+    rig.pictures.at["/home/ann/a.jpg"] = {png, storage::Fault::kNone, 400, 200};
+    rig.folders.readable["/home/ann/"].files = {"a.jpg"};
+  }
+  PhotoVIEW1& form() { return dynamic_cast<PhotoVIEW1&>(*rig.navigator().top()); }
+  void Add(const char* title, const char* date, bool with_picture) {
+    form().fields[0]->Type(title);
+    form().fields[1]->Type(date);
+    if (with_picture) {
+      form().link.Click();
+      form().pictures.chooser.Open("/home/ann/");
+      form().pictures.chooser.files.Pick(0);
+      form().pictures.enter.Click();
+    }
+    form().save.Click();
+  }
+  void View(const char* title) {
+    form().search.Type(title);
+    form().search.PressEnter();
+  }
+  forms::Document Printed() {
+    form().print.print.Click();
+    return rig.pages.printed.back();
+  }
+  static std::vector<forms::PlacedImage> ImagesOf(const forms::Page& page) {
+    std::vector<forms::PlacedImage> images;
+    for (const forms::Mark& mark : page) {
+      if (const auto* image = std::get_if<forms::PlacedImage>(&mark)) images.push_back(*image);
+    }
+    return images;
+  }
+
+  const std::shared_ptr<const std::string> png = std::make_shared<const std::string>("png");
+  testing::ProgramRig rig;
+};
+
+TEST_F(PhotoVIEW1Test, AnEntryLiesOnTheDiskAsItsPageSays) {
+  Add("License", "2026", false);
+  const testing::FormatExample example = testing::ReadFormatExample("images.md");
+  std::string file = std::string(300, '\0') + std::string(300, ' ');
+  for (const auto& [offset, bytes] : example.runs) file.replace(offset, bytes.size(), bytes);
+  ASSERT_EQ(example.size, file.size());
+  EXPECT_EQ(rig.temporary.Read("Photobk3.Fil"), file);
+  EXPECT_EQ(rig.temporary.Read("Photobk4.Fil").substr(62), "License" + std::string(35, ' ') + "2");
+}
+
+TEST_F(PhotoVIEW1Test, AnEntryIsChangedOnlyBehindItsCommand) {
+  Add("License", "2026", true);
+  form().mode.Click();
+  EXPECT_EQ(form().caption(),
+            "Company Data - Company Agreements/Docs - Document Image View Screen");
+  View("lic");
+  EXPECT_EQ(form().picture.content(), png);
+  rig.dialogs.ExpectNote("Make Modifications",
+                         "Please click Make Modifications Button to modify data!");
+  form().fields[0]->Click();
+  form().fields[0]->Type("x");
+  EXPECT_EQ(form().fields[0]->text(), "License");
+  form().change.Click();
+  form().fields[0]->Type("");
+  rig.dialogs.ExpectNote("Save", "A photo name must be entered to save file!");
+  form().save.Click();
+  form().link.Click();
+  form().pictures.remove.Click();
+  EXPECT_EQ(form().picture_note.caption(), "No Picture Currently Loaded");
+  form().fields[0]->Type("Permit");
+  form().save.Click();
+  EXPECT_EQ(record_book::ReadRecord(rig.folder, ImageBook(), 2)->picture, "**");
+  View("permit");
+  EXPECT_EQ(form().picture_note.caption(), "No Picture Currently Loaded");
+}
+
+TEST_F(PhotoVIEW1Test, APictureIsPrintedAsOftenAsChosenWithWhatIsTicked) {
+  Add("License", "2026", true);
+  form().mode.Click();
+  View("License");
+  form().print_file.Click();
+  EXPECT_EQ(form().status(), "Print Options");
+  form().print_title.Check(true);
+  form().print_date.Check(true);
+  form().copies.Pick(2);
+  EXPECT_EQ(form().status(), "Print 4");
+  const forms::Document four = Printed();
+  ASSERT_EQ(four.pages.size(), 1u);
+  EXPECT_THAT(testing::TextsOf(four.pages[0]), ElementsAre("License", "2026", "License", "2026",
+                                                           "License", "2026", "License", "2026"));
+  const std::vector<forms::PlacedImage> images = ImagesOf(four.pages[0]);
+  ASSERT_EQ(images.size(), 4u);
+  // Letter between margins of 100 twips: 12040 by 15640. A cell is 0.475 and 0.425 of them; the
+  // picture is twice as wide as high.
+  const int width = 5719;
+  const int height = 2859;
+  EXPECT_NEAR(images[0].x, 100 + 120, 2);
+  EXPECT_NEAR(images[0].y, 100 + 156 + (6647 - height) / 2, 2);
+  EXPECT_NEAR(images[3].x, 100 + 6140, 2);
+  EXPECT_NEAR(images[3].y, 100 + 7976 + (6647 - height) / 2, 2);
+  EXPECT_NEAR(images[3].width, width, 1);
+  EXPECT_NEAR(images[3].height, height, 1);
+}
+
+TEST_F(PhotoVIEW1Test, SeveralAreLaidOutInTheirOrderOverThePages) {
+  Add("A", "", true);
+  Add("B", "", false);
+  Add("C", "", true);
+  form().mode.Click();
+  rig.dialogs.ExpectNote(
+      "Selecting Multiple Photos",
+      "Due to the memory size of various video cards, etc. we would suggest you\n"
+      "limit the total number photos selected!  If too many are selected at one\n"
+      "time, the computer may slow down or even lock up!");
+  form().choose_several.Click();
+  for (const int place : {2, 1, 0, 0}) form().all.Open(place);
+  form().chosen.Pick(3);
+  form().take_away.Click();
+  EXPECT_THAT(form().chosen.items(), ElementsAre("C", "B", "A"));
+  form().print_several.Click();
+  EXPECT_EQ(form().status(), "Print Multi");
+  form().print_title.Check(true);
+  form().copies.Pick(1);
+  const forms::Document document = Printed();
+  ASSERT_EQ(document.pages.size(), 2u);
+  EXPECT_THAT(testing::TextsOf(document.pages[0]), ElementsAre("C", "B"));
+  EXPECT_EQ(ImagesOf(document.pages[0]).size(), 1u);
+  EXPECT_THAT(testing::TextsOf(document.pages[1]), ElementsAre("A"));
+  form().print.close.Click();
+  form().leave_several.Click();
+  EXPECT_TRUE(form().names.Reachable());
+}
+
+TEST_F(PhotoVIEW1Test, ToolbarsStayHiddenAndTheTopOneLeadsToTheHubsAreas) {
+  rig.Start();
+  rig.navigator().Show("WorkArea1");
+  rig.navigator().Show("PhotoVIEW1");
+  form().hide_side.Click();
+  EXPECT_EQ(rig.temporary.Read("GHINV1.Fil").substr(90), std::string("\x02\0\0\0", 4));
+  EXPECT_TRUE(form().restore_side.visible());
+  form().restore_side.Click();
+  EXPECT_EQ(rig.temporary.Read("GHINV1.Fil").substr(90), std::string("\x02\0\x58\0", 4));
+  form().hide_side.Click();
+  EXPECT_TRUE(rig.navigator().Close(form(), forms::UnloadCause::kCommand));
+  rig.navigator().Show("PhotoVIEW1");
+  EXPECT_FALSE(form().side_toolbar.visible());
+  const auto leave =
+      std::ranges::find(form().areas, "Employee Vacation Tracker",
+                        [](const auto& button) -> std::string_view { return button->caption(); });
+  ASSERT_NE(leave, form().areas.end());
+  (*leave)->Click();
+  EXPECT_EQ(rig.top(), "Vacation1");
+}
+
+TEST(ImageLayoutsTest, EveryCellLiesOnThePageBelowOrBesideTheOthers) {
+  for (const bool lying : {false, true}) {
+    for (const int images : {1, 2, 4, 8}) {
+      const CellLayout& layout = LayoutOf(images, lying);
+      EXPECT_EQ(layout.cells(), images);
+      EXPECT_EQ(layout.text_centers.size(), layout.lefts.size());
+      for (std::size_t i = 0; i < layout.lefts.size(); ++i) {
+        const double end = i + 1 < layout.lefts.size() ? layout.lefts[i + 1] : 1.0;
+        EXPECT_LE(layout.lefts[i] + layout.width, end) << images << lying;
+        EXPECT_GT(layout.text_centers[i], layout.lefts[i]);
+        EXPECT_LT(layout.text_centers[i], layout.lefts[i] + layout.width);
+      }
+      for (std::size_t i = 0; i < layout.tops.size(); ++i) {
+        const double end = i + 1 < layout.tops.size() ? layout.tops[i + 1] : 1.0;
+        EXPECT_LT(layout.tops[i] + layout.height, end) << images << lying;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tarnwell::images
