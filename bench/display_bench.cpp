@@ -10,7 +10,6 @@
 #include <QTextDocument>
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -25,6 +24,7 @@
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "held_memory.h"
+#include "people.h"
 #include "ratio_table.h"
 #include "record_book/display_report.h"
 #include "windows.h"
@@ -34,7 +34,6 @@ namespace {
 
 using record_book::DisplayOption;
 
-constexpr int kPeople = 20000;
 constexpr int kTimes = 21;
 constexpr int kTelephone = 7;
 constexpr double kLongestFilled = 200;  // milliseconds
@@ -42,31 +41,6 @@ constexpr double kLongestKey = 16;      // likewise
 constexpr double kLongestPages = 1000;  // likewise, for 1,000 pages
 constexpr double kMostBytes = 100;      // a cell, beyond its text
 constexpr DisplayOption kAddress{.caption = "Address", .entry = 2, .is_address = true};
-
-// Every entry filled, on the disk as the formats' pages say.
-void WritePeople(const std::string& folder, const record_book::BookLayout& book) {
-  std::ofstream records(folder + "/" + std::string(book.records), std::ios::binary);
-  std::ofstream index(folder + "/" + std::string(book.index), std::ios::binary);
-  records << std::string(static_cast<std::size_t>(book.record_length), '\0');
-  index << std::string(60, '\0');
-  for (int record = 2; record < kPeople + 2; ++record) {
-    const std::string name = "Person " + std::to_string(record * 7919 % kPeople) + " Company";
-    std::string bytes;
-    for (const record_book::StoredField& field : book.fields) {
-      std::string text =
-          field.content == 0 ? name : "Entry " + std::to_string(field.content) + " of " + name;
-      text.resize(field.width, ' ');
-      bytes += text;
-    }
-    bytes.resize(static_cast<std::size_t>(book.record_length), '\0');
-    records << bytes;
-    std::string item = record_book::NewItem(name, record);
-    item.insert(0, {static_cast<char>(item.size()), '\0'});
-    item.resize(60, '\0');
-    index << item;
-  }
-  Check(records.flush().good() && index.flush().good(), "write the people");
-}
 
 bool Tell(const char* title, double taken, double aim, const char* unit = "ms") {
   std::printf("%-50s %9.2f %s, aim %.0f%s\n", title, taken, unit, aim,
