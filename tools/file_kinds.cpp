@@ -210,6 +210,7 @@ constexpr FileKind kKinds[] = {
 
     {"*.Fl1", "supplied text", kDocument},
     {"SamplePol.Dat", "supplied text", kDocument},
+    {"Makes.Dat", "supplied makes and models", kDocument},
     {"*.Fl2", "company document", kDocument},
     {"*.Fl5", "job description", kDocument},
     {"*.Fl6", "disciplinary action", kDocument},
