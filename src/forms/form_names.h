@@ -15,6 +15,7 @@ inline constexpr const char* kCalendar = "Calendar";
 inline constexpr const char* kBudget1a = "Budget1a";
 inline constexpr const char* kSickLeave1 = "SICKLEAVE1";
 inline constexpr const char* kVacation1 = "Vacation1";
+inline constexpr const char* kAutoMaint = "AutoMaint";
 inline constexpr const char* kVSSpell1 = "VSSpell1";
 inline constexpr const char* kVSThesaurus1 = "VSThesaurus1";
 

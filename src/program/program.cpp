@@ -12,6 +12,7 @@
 #include "shell/about1.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
+#include "vehicles/automaint.h"
 #include "workarea/workarea1.h"
 
 namespace tarnwell::program {
@@ -35,6 +36,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kBudget1a, Make<budget::Budget1a>);
   navigator.Register(kSickLeave1, Make<leave::SICKLEAVE1>);
   navigator.Register(kVacation1, Make<leave::Vacation1>);
+  navigator.Register(kAutoMaint, Make<vehicles::AutoMaint>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

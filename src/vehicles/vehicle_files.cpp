@@ -6,6 +6,7 @@
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"
 #include "text/letters.h"
+#include "vehicles/cell_values.h"
 #include "vehicles/fuel_cells.h"
 #include "vehicles/history_merge.h"
 
@@ -40,6 +41,14 @@ bool IsFull(EntryList<Entry>& list, std::size_t most) {
   return true;
 }
 
+// As it is shown; what begins with no number stays as it is.
+std::string Reading(const std::string& stored) {
+  return NumberIn(stored) == 0 ? stored : WholeText(stored);
+}
+std::string Cost(const std::string& stored) {
+  return NumberIn(stored) == 0 ? stored : CostText(NumberIn(stored));
+}
+
 Outcome Save(ProgramFolder& folder, const std::string& name, SequentialWriter& file) {
   if (file.content().empty()) file.WriteText(kNothing);
   return file.Save(folder, name);
@@ -60,7 +69,7 @@ History ReadHistory(ProgramFolder& folder, HistoryKind kind, int slot, bool date
     if (odometer.empty() && date.empty() && text.empty() && cost.empty()) continue;
     if (IsFull(history, kMostHistory)) break;
     history.entries.push_back(
-        {std::move(odometer), ReadStoredDate(date, dates_turn), std::move(text), std::move(cost)});
+        {Reading(odometer), ReadStoredDate(date, dates_turn), std::move(text), Cost(cost)});
   }
   SortHistory(history.entries);
   return history;

@@ -76,6 +76,8 @@ Outcome Empty(ProgramFolder& folder, std::string_view name, std::string_view bla
 
 }  // namespace
 
+bool CanBeVehicleName(std::string_view name) { return !IsFree(name); }
+
 VehicleTable ReadVehicles(ProgramFolder& folder) {
   const int records = RecordCount(folder);
   RecordFile table(folder, file_names::kVehicleSlots, kRecordLength);

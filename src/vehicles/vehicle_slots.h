@@ -28,6 +28,9 @@ struct VehicleTable {
   storage::Fault fault = storage::Fault::kNone;  // why the table that is there can't be read
 };
 
+// A record that begins as a free one does would be free.
+bool CanBeVehicleName(std::string_view name);
+
 VehicleTable ReadVehicles(storage::ProgramFolder& folder);
 
 // Gives the vehicle the first free slot, and says which; 0 where the disk refuses. A free slot

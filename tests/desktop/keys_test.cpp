@@ -159,6 +159,9 @@ const Way kWays[] = {
     {"Calendar", "Calendar", {}},
     {"Budget", "Budget1a", {}},
     {"Leave", "SICKLEAVE1", {}},
+    {"Vehicles", "AutoMaint", {}},
+    {"VehicleCreating", "AutoMaint", {"Command7"}},
+    {"VehicleCalculator", "AutoMaint", {"mOGas"}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

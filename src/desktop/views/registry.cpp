@@ -16,6 +16,7 @@
 #include "shell/about1.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
+#include "vehicles/automaint.h"
 #include "workarea/workarea1.h"
 
 namespace tarnwell::desktop {
@@ -44,6 +45,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kBudget1a, Make<budget::Budget1a>},
     {forms::form_names::kSickLeave1, Make<leave::LeaveSheet>},
     {forms::form_names::kVacation1, Make<leave::LeaveSheet>},
+    {forms::form_names::kAutoMaint, Make<vehicles::AutoMaint>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -26,6 +26,9 @@ namespace tarnwell::planner {
 class Calendar;
 class Zcalandar1;
 }  // namespace tarnwell::planner
+namespace tarnwell::vehicles {
+class AutoMaint;
+}
 namespace tarnwell::proofing {
 class VSSpell1;
 class VSThesaurus1;
@@ -45,6 +48,7 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
 QWidget* View(planner::Calendar& form, PictureStore& pictures);
 QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
+QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 

@@ -1,0 +1,332 @@
+#include "vehicles/automaint.h"
+
+#include "forms/disk_trouble.h"
+#include "forms/form_names.h"
+#include "forms/navigator.h"
+#include "parts/help_menu.h"
+#include "vehicles/cell_values.h"
+
+namespace tarnwell::vehicles {
+namespace {
+
+constexpr int kVehiclesHelp = 3070;
+constexpr const char* kCaption = "Company Data - Company Vehicle Maintenance Tracker";
+
+std::string CaptionOf(const forms::ProgramVariables& variables) {
+  return variables.CompanyLine.empty() ? kCaption
+                                       : " " + std::string(kCaption) + variables.CompanyLine;
+}
+
+}  // namespace
+
+AutoMaint::AutoMaint(forms::Context& context)
+    : Form(context, forms::form_names::kAutoMaint, CaptionOf(context.variables)),
+      tracker_{*this, context, [this] { Changed(); }} {
+  Connect();
+  ConnectPanes();
+  BuildMenus();
+  SetHelpContext(kVehiclesHelp);
+  searching.SetVisible(false);
+  searching.Cover({&sheet, &print.panel.panel});
+  for (forms::Panel* panel : {&calculator.panel, &picture_choice.panel, &print.panel.panel}) {
+    panel->Cover({&sheet});
+  }
+  colors_.on_change = [this] {
+    for (forms::Panel* panel :
+         {&sheet, &calculator.panel, &picture_choice.panel, &searching, &print.panel.panel}) {
+      panel->SetBackground(colors_.panel());
+    }
+  };
+}
+
+void AutoMaint::Connect() {
+  question_.on_change = [this] { SetUnsaved(question_.unsaved()); };
+  files.on_pick = [this] { PickFile(); };
+  create.on_click = [this] { Create(); };
+  view.on_click = [this] { ViewExisting(); };
+  remove.on_click = [this] { DeleteFile(); };
+  save.on_click = [this] {
+    if (state_ != State::kNone || HasVehicle()) Save();
+  };
+  print_options.on_click = [this] { OpenPrint(); };
+  exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
+  next_to_schedule.on_click = [this] { NextToSchedule(); };
+  next_to_repairs.on_click = [this] {
+    if (EndEdit()) ShowPane(Pane::kRepairs);
+  };
+  finish.on_click = [this] { Finish(); };
+  view_information.on_click = [this] { GoToPane(Pane::kInformation); };
+  view_maintenance.on_click = [this] { GoToPane(Pane::kMaintenance); };
+  view_repairs.on_click = [this] { GoToPane(Pane::kRepairs); };
+  view_history.on_click = [this] { GoToPane(Pane::kHistory); };
+  view_fuel.on_click = [this] { GoToPane(Pane::kFuel); };
+}
+
+void AutoMaint::ConnectPanes() {
+  information.on_leave = [this] { Recompute(); };
+  information.choose_picture.on_click = [this] { picture_choice.Open(); };
+  picture_choice.on_use = [this](const std::string& path) {
+    information.ShowPicture(path);
+    Changed();
+  };
+  history.on_remove = [this](HistoryKind kind, const HistoryEntry& removed) {
+    return RemoveHistory(kind, removed);
+  };
+  fuel.on_remove = [this](const std::vector<FuelEntry>& rest) { return RemoveFuel(rest); };
+  calculator.odometer = [this] { return information.field(kOdometer).text(); };
+  editors_ = {&information.years,
+              &information.makes,
+              &information.models,
+              &information.choose_picture,
+              &information.remove_picture,
+              &maintenance.grid,
+              &maintenance.calendar,
+              &repairs.grid,
+              &fuel.grid,
+              &fuel.calendar,
+              &fuel.remove,
+              &history.grid};
+  for (const auto& field : information.fields) editors_.push_back(field.get());
+}
+
+void AutoMaint::BuildMenus() {
+  const std::vector<forms::Control*> with_sheet{&sheet};
+  forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
+  options.AddCommand("mOCr", "&Create New File", create);
+  options.AddCommand("mOV", "&View Existing File", view);
+  options.AddCommand("mODel", "&Delete Existing File", remove);
+  options.AddCommand("mOS", "&Save", save).SetKey("Ctrl+S");
+  options.AddSeparator();
+  for (const auto& [name, words] : {std::pair{"mOGas", &kMileWords}, {"mOKm", &kKilometerWords}}) {
+    options.AddEntry(name, "&" + std::string(words->calculator_title),
+                     {[this] {
+                        if (EndEdit()) calculator.Open();
+                      },
+                      with_sheet});
+  }
+  const auto add_unit = [&](const char* name, const char* caption, settings::DistanceUnit unit) {
+    options.AddEntry(name, caption, {[this, unit] { SetUnit(unit); }, with_sheet}).SetCheckable();
+  };
+  add_unit("mOProgMiles", "Use &Miles", settings::DistanceUnit::kMiles);
+  add_unit("mOProgKilo", "Use &Kilometers", settings::DistanceUnit::kKilometers);
+  options.AddEntry("DisableDateChecker(0)", "Turn OFF Date Checker",
+                   {[this] { SetDateChecker(false); }, with_sheet});
+  options.AddEntry("DisableDateChecker(1)", "Turn ON Date Checker",
+                   {[this] { SetDateChecker(true); }, with_sheet});
+  options.AddSeparator();
+  options.AddCommand("mOP", "&Print Options", print_options).SetKey("Ctrl+P");
+  options.AddEntry("mOPW", "Print &Worksheet", {[this] { OpenWorksheet(); }, with_sheet});
+  options.AddEntry("mOC", "Panel C&olor", [this] { colors_.Choose(parts::ColorTarget::kPanel); });
+  options.AddSeparator();
+  options.AddCommand("mOEx", "E&xit", exit);
+  forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
+  edit.AddEntry("mERemove", "&Remove Blank Action Rows",
+                {[this] { maintenance.RemoveBlankRows(); }, {&maintenance.grid}});
+  forms::MenuItem& views = menus().AddSubmenu("mV", "Vie&w");
+  views.AddEntry("mVAll", "&View/Print All Action Required - All Vehicles",
+                 {[this] { OpenAllDue(); }, with_sheet});
+  for (forms::MenuItem* menu : {&options, &edit, &views}) menu->LiveWith(with_sheet);
+  SetPopupMenu(options);
+  parts::AddHelpMenu(*this, context_, {{"Company &Vehicle Maintenance Tracker", kVehiclesHelp}});
+}
+
+void AutoMaint::Load() {
+  colors_.Load();
+  tracker_.unit = settings::ReadDistanceUnit(context_.folder);
+  tracker_.checks_dates = settings::ReadDateCheckerOn(context_.folder);
+  today.SetCaption("Today's Date: " + ShortDate(tracker_.today()));
+  ShowUnit();
+  ShowDateChecker();
+  CloseVehicle();
+  ShowPane(Pane::kInformation);
+  FillList(0);
+  if (vehicles_.empty()) return;
+  files.Select(0);
+  OpenVehicle(vehicles_.front());
+}
+
+bool AutoMaint::QueryUnload(forms::UnloadCause) {
+  return EndEdit() &&
+         question_.Settle({"Company Vehicle Maintenance Tracker Information",
+                           "Save changes made to Auto Maintenance before exiting?",
+                           forms::Buttons::kYesNoCancel}) &&
+         colors_.Leave(forms::Buttons::kYesNoCancel);
+}
+
+void AutoMaint::ShowState(State state) {
+  state_ = state;
+  const bool is_creating = state == State::kCreating;
+  information.captions[0]->SetCaption(is_creating ? "Enter File Name:" : kFieldCaptions[0]);
+  information.fields[0]->SetVisible(is_creating);
+  files.SetVisible(!is_creating);
+  next_to_schedule.SetVisible(is_creating);
+  next_to_repairs.SetVisible(false);
+  finish.SetVisible(false);
+  for (forms::Control* control :
+       {&view_maintenance, &view_repairs, &view_history, &view_fuel, &remove, &print_options}) {
+    control->SetEnabled(!is_creating);
+  }
+  maintenance.SetCreating(is_creating);
+  for (forms::Control* editor : editors_) editor->SetEnabled(state != State::kNone);
+  repairs.grid.SetEnabled(state != State::kNone && !repairs_.is_cut);
+  fuel.grid.SetEnabled(state != State::kNone && !fuel_is_cut_);
+  fuel.remove.SetEnabled(fuel.grid.enabled());
+}
+
+void AutoMaint::ShowPane(Pane pane) {
+  pane_ = pane;
+  const struct {
+    Pane pane;
+    forms::Panel& panel;
+    forms::Command& command;
+  } panes[] = {{Pane::kInformation, information.panel, view_information},
+               {Pane::kMaintenance, maintenance.panel, view_maintenance},
+               {Pane::kRepairs, repairs.panel, view_repairs},
+               {Pane::kHistory, history.panel, view_history},
+               {Pane::kFuel, fuel.panel, view_fuel}};
+  for (const auto& each : panes) {
+    each.panel.SetVisible(each.pane == pane);
+    each.command.SetSelected(each.pane == pane);
+  }
+  if (state_ != State::kCreating) return;
+  next_to_schedule.SetVisible(pane == Pane::kInformation);
+  next_to_repairs.SetVisible(pane == Pane::kMaintenance);
+  finish.SetVisible(pane != Pane::kInformation);
+}
+
+void AutoMaint::GoToPane(Pane pane) {
+  if (!EndEdit()) return;
+  if (state_ == State::kCreating) return ShowPane(pane);
+  if (!HasVehicle() || !OfferToSave()) return;
+  if (pane == Pane::kHistory && !history.View(HistoryView::kAll)) return;
+  ShowPane(pane);
+}
+
+bool AutoMaint::OfferToSave() {
+  if (!EndEdit()) return false;
+  if (!question_.unsaved() || has_declined_) return true;
+  switch (Message({"Company Vehicle Maintenance Tracker",
+                   "Save changes made to Auto Maintenance before next action or exiting?",
+                   forms::Icon::kQuestion, forms::Buttons::kYesNoCancel})) {
+    case forms::Answer::kYes:
+      return Save() == parts::SaveResult::kSaved;
+    case forms::Answer::kNo:
+      // They stay on show, unsaved, and are asked about again when they would be lost.
+      has_declined_ = true;
+      return true;
+    default:
+      return false;
+  }
+}
+
+void AutoMaint::ShowUnit() {
+  const bool miles = tracker_.unit == settings::DistanceUnit::kMiles;
+  forms::MenuItem& options = *menus().Find("mO");
+  options.Find("mOProgMiles")->SetChecked(miles);
+  options.Find("mOProgKilo")->SetChecked(!miles);
+  options.Find("mOGas")->SetVisible(miles);
+  options.Find("mOKm")->SetVisible(!miles);
+  maintenance.ShowUnit();
+  repairs.ShowUnit();
+  history.ShowUnit();
+  fuel.ShowUnit();
+  calculator.ShowUnit();
+}
+
+void AutoMaint::SetUnit(settings::DistanceUnit unit) {
+  tracker_.unit = unit;
+  ShowUnit();
+  const auto stored = settings::WriteDistanceUnit(context_.folder, unit);
+  if (!stored) forms::TellHoldsForNow(context_, "The unit of distances", stored.fault());
+}
+
+void AutoMaint::ShowDateChecker() {
+  menus().Find("DisableDateChecker(0)")->SetVisible(tracker_.checks_dates);
+  menus().Find("DisableDateChecker(1)")->SetVisible(!tracker_.checks_dates);
+}
+
+void AutoMaint::SetDateChecker(bool on) {
+  tracker_.checks_dates = on;
+  ShowDateChecker();
+  const auto stored = settings::WriteDateCheckerOn(context_.folder, on);
+  if (!stored) forms::TellHoldsForNow(context_, "The date checker", stored.fault());
+}
+
+bool AutoMaint::EndEdit() {
+  if (!maintenance.grid.EndEdit() || !repairs.grid.EndEdit() || !fuel.grid.EndEdit()) return false;
+  if (state_ != State::kNone) Recompute();
+  return true;
+}
+
+void AutoMaint::Changed() {
+  has_declined_ = false;
+  question_.SetUnsaved(true);
+}
+
+void AutoMaint::Recompute() {
+  information.FormatOdometer();
+  tracker_.odometer = WholeNumber(information.field(kOdometer).text());
+  maintenance.Recompute();
+  registration.SetVisible(
+      RegistrationIsDue(information.field(kRegistrationMonth).text(), tracker_.today()));
+}
+
+bool AutoMaint::HasVehicle() {
+  if (state_ != State::kNone) return true;
+  Message({"Select Auto File Name", "Please Select an Auto File Name First!",
+           forms::Icon::kExclamation});
+  return false;
+}
+
+PrintedVehicle AutoMaint::Printed() const {
+  PrintedVehicle printed{.name = open_.name, .sheet = stored_, .maintenance = maintenance_.entries};
+  information.Store(printed.sheet);
+  printed.sheet.rows = maintenance.Rows();
+  printed.repairs = repairs.Entries();
+  for (FuelEntry& entry : fuel.Entries()) {
+    if (!entry.IsBlank()) printed.fuel.push_back(std::move(entry));
+  }
+  printed.picture = information.picture.content();
+  return printed;
+}
+
+void AutoMaint::OpenPrint() {
+  if (HasVehicle() && OfferToSave()) print.OpenVehicle(Printed());
+}
+
+void AutoMaint::OpenWorksheet() {
+  if (!EndEdit()) return;
+  print.OpenWorksheet();
+  SetStatus("Print Worksheet");
+}
+
+void AutoMaint::OpenAllDue() {
+  if (!OfferToSave() || vehicles_.empty()) return;
+  print.OpenAll([this](const Nearness& wanted) { return Search(wanted); });
+}
+
+std::vector<PrintedVehicle> AutoMaint::Search(const Nearness& wanted) {
+  constexpr std::size_t kBetweenYields = 25;  // vehicles
+  std::vector<PrintedVehicle> found;
+  searching.SetVisible(true);
+  {
+    const BusyScope busy(*this);
+    progress.Start(static_cast<int>(vehicles_.size()));
+    for (std::size_t i = 0; i < vehicles_.size(); ++i) {
+      if (i % kBetweenYields == 0) {
+        progress.SetValue(static_cast<int>(i));
+        context_.loop.Yield();
+      }
+      VehicleSheet read =
+          ReadSheet(context_.folder, vehicles_[i].slot, context_.variables.DateStyle);
+      if (read.fault == storage::Fault::kNone &&
+          AnyIsNear(read.rows, WholeNumber(read.fields[kOdometer]), tracker_.today(), wanted)) {
+        found.push_back({.name = vehicles_[i].name, .sheet = std::move(read)});
+      }
+    }
+  }
+  searching.SetVisible(false);
+  return found;
+}
+
+}  // namespace tarnwell::vehicles
