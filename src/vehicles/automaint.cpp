@@ -31,6 +31,10 @@ AutoMaint::AutoMaint(forms::Context& context)
   for (forms::Panel* panel : {&calculator.panel, &picture_choice.panel, &print.panel.panel}) {
     panel->Cover({&sheet});
   }
+  for (forms::Panel* pane : {&maintenance.panel, &repairs.panel, &history.panel, &fuel.panel}) {
+    pane->SetVisible(false);
+    pane->Cover({&information.panel});
+  }
   colors_.on_change = [this] {
     for (forms::Panel* panel :
          {&sheet, &calculator.panel, &picture_choice.panel, &searching, &print.panel.panel}) {
@@ -52,7 +56,9 @@ void AutoMaint::Connect() {
   exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
   next_to_schedule.on_click = [this] { NextToSchedule(); };
   next_to_repairs.on_click = [this] {
-    if (EndEdit()) ShowPane(Pane::kRepairs);
+    if (!EndEdit()) return;
+    ShowPane(Pane::kRepairs);
+    repairs.grid.Focus();
   };
   finish.on_click = [this] { Finish(); };
   view_information.on_click = [this] { GoToPane(Pane::kInformation); };
@@ -74,6 +80,11 @@ void AutoMaint::ConnectPanes() {
   };
   fuel.on_remove = [this](const std::vector<FuelEntry>& rest) { return RemoveFuel(rest); };
   calculator.odometer = [this] { return information.field(kOdometer).text(); };
+  calculator.on_close = picture_choice.on_close = [this] { save.Focus(); };
+  print.panel.on_close = [this] {
+    SetStatus({});
+    save.Focus();
+  };
   editors_ = {&information.years,
               &information.makes,
               &information.models,
@@ -168,6 +179,8 @@ void AutoMaint::ShowState(State state) {
   }
   maintenance.SetCreating(is_creating);
   for (forms::Control* editor : editors_) editor->SetEnabled(state != State::kNone);
+  information.remove_picture.SetEnabled(state != State::kNone &&
+                                        !information.picture_path().empty());
   repairs.grid.SetEnabled(state != State::kNone && !repairs_.is_cut);
   fuel.grid.SetEnabled(state != State::kNone && !fuel_is_cut_);
   fuel.remove.SetEnabled(fuel.grid.enabled());

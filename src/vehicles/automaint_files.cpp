@@ -94,7 +94,7 @@ void AutoMaint::OpenVehicle(const Vehicle& chosen) {
   repairs_ = std::move(paid);
   fuel_is_cut_ = filled.is_cut;
   information.Show(stored_);
-  information.OfferMakes(tracker_.today());
+  information.OfferMakesBeside(tracker_.today());
   maintenance.Show(stored_.rows);
   repairs.Show(repairs_.entries);
   history.SetHistories(maintenance_, repairs_);
@@ -180,6 +180,7 @@ void AutoMaint::NextToSchedule() {
   if (!std::exchange(has_schedule_, true)) maintenance.FillStandard();
   Recompute();
   ShowPane(Pane::kMaintenance);
+  maintenance.grid.Focus();
 }
 
 parts::SaveResult AutoMaint::Finish() {

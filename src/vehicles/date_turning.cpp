@@ -41,6 +41,7 @@ std::string TurnedDate(std::string_view date) {
 
 DateRead ReadStoredDate(std::string_view stored, bool dates_turn) {
   const std::string date = text::Trim(stored);
+  if (date.empty()) return {};
   if (!dates_turn) return {ShortDate(date), {}};
   DateRead read{ShortDate(TurnedDate(date)), ShortDate(date)};
   if (read.in_file == read.shown) read.in_file.clear();

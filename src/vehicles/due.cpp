@@ -66,7 +66,8 @@ std::string TimeLeftText(const Due& due) {
 
 ActionTimes TimesOf(const ScheduleRow& row) {
   ActionTimes times;
-  times.is_named = !text::Trim(row.action).empty();
+  times.is_named = row.action.find_first_not_of(' ') != std::string::npos;
+  if (!times.is_named) return times;
   if (!WholeText(row.distance).empty()) times.distance = WholeNumber(row.distance);
   times.months = text::LeadingNumber(row.months);
   times.odometer = WholeNumber(row.odometer);

@@ -59,11 +59,17 @@ void ForgetTurns(forms::Grid& grid, int column) {
   }
 }
 
+void TellTurn(const Tracker& tracker, const forms::Grid& grid) {
+  const std::string note = grid.style(grid.current().row, grid.current().column).note;
+  if (!note.empty()) tracker.form.SetStatus(note);
+}
+
 void ShowCalendar(const Tracker& tracker, forms::DatePicker& calendar, const forms::Grid& grid,
                   int date_column) {
   const auto [row, column] = grid.current();
   const bool is_date = row > 0 && column == date_column;
   calendar.SetVisible(is_date);
+  TellTurn(tracker, grid);
   if (!is_date) return;
   calendar.SetToday(tracker.today());
   calendar.SetDate(text::ReadDate(grid.text(row, column)).value_or(tracker.today()));

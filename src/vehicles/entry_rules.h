@@ -40,6 +40,9 @@ void ShowDate(forms::Grid& grid, forms::GridPlace place, const DateRead& date);
 // The file holds what the column shows: no sign is left.
 void ForgetTurns(forms::Grid& grid, int column);
 
+// The status bar tells it of the cell with the cursor, for whoever has no pointer to rest on it.
+void TellTurn(const Tracker& tracker, const forms::Grid& grid);
+
 // The calendar is there while the cursor is in a date, and fills the cell.
 void ShowCalendar(const Tracker& tracker, forms::DatePicker& calendar, const forms::Grid& grid,
                   int date_column);

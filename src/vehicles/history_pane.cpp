@@ -50,10 +50,10 @@ const ViewWords& WordsOf(HistoryView view) {
 HistoryPane::HistoryPane(forms::Container& parent, Tracker& tracker)
     : panel(parent, "SSPanel5"), tracker_(tracker) {
   grid.SetColumns(
-      {{.title = "", .share = 0.18, .numeric = true},
+      {{.title = "", .share = 0.15, .align = forms::GridAlign::kRight, .numeric = true},
        {.title = "Date", .share = 0.16, .align = forms::GridAlign::kCenter},
-       {.title = "", .share = 0.48},
-       {.title = "Cost", .share = 0.18, .align = forms::GridAlign::kLeft, .numeric = true}});
+       {.title = "", .share = 0.54},
+       {.title = "Cost", .share = 0.15, .align = forms::GridAlign::kRight, .numeric = true}});
   grid.SetSelection(forms::GridSelection::kRow);
   grid.on_select = [this] { Selected(); };
   maintenance.on_click = [this] { View(HistoryView::kMaintenance); };
@@ -87,6 +87,7 @@ bool HistoryPane::View(HistoryView view) {
     return false;
   }
   view_ = view;
+  has_told_ = false;
   shown_ = std::move(entries);
   ShowEntries();
   return true;
@@ -122,10 +123,13 @@ void HistoryPane::Selected() {
     remove.SetEnabled(false);
     return;
   }
+  TellTurn(tracker_, grid);
   if (view_ == HistoryView::kMaintenance || view_ == HistoryView::kRepairs) {
     const History& history = view_ == HistoryView::kMaintenance ? maintenance_ : repairs_;
     return remove.SetEnabled(!history.is_cut);
   }
+  // Once for a list, or nobody could go through it with the keys.
+  if (std::exchange(has_told_, true)) return;
   tracker_.form.Message({"Entry Selection",
                          "If you are trying to select an Entry to Delete,\n"
                          "Please first Select the Maint. History or the\n"

@@ -27,10 +27,10 @@ class HistoryPane {
   forms::Grid grid{panel, "Grid1", "History"};
   forms::Label sum_title{panel, "Label31"};
   forms::Label sum{panel, "Label32"};
-  forms::Command maintenance{panel, "Command16", "View &Maint. History"};
-  forms::Command repairs{panel, "Command17", "View Rep/E&xp Hist"};
-  forms::Command all{panel, "Command18", "View A&ll History"};
-  forms::Command remove{panel, "Command19", "Delete &Entry"};
+  forms::Command maintenance{panel, "Command16", "View Maint. History"};
+  forms::Command repairs{panel, "Command17", "View Rep/Exp Hist"};
+  forms::Command all{panel, "Command18", "View All History"};
+  forms::Command remove{panel, "Command19", "Delete Entry"};
 
   void SetHistories(const History& maintenance_history, const History& repair_history);
   // False where there is nothing to show, which was told.
@@ -51,6 +51,7 @@ class HistoryPane {
   History maintenance_;
   History repairs_;
   HistoryView view_ = HistoryView::kNone;
+  bool has_told_ = false;  // that nothing can be deleted in this view
   std::vector<HistoryEntry> shown_;
 };
 

@@ -15,6 +15,13 @@ constexpr std::size_t kLongestField = 60;  // characters that can be typed
 constexpr int kPictureWidth = 480;         // pixels
 constexpr int kPictureHeight = 360;
 
+// Nothing where the list doesn't have it.
+void SelectText(forms::ComboBox& list, const std::string& text) {
+  const auto item = std::ranges::find(list.items(), text);
+  list.Select(item == list.items().end() ? forms::ComboBox::kNone
+                                         : static_cast<int>(item - list.items().begin()));
+}
+
 }  // namespace
 
 InformationPane::InformationPane(forms::Container& parent, forms::Panel& head, Tracker& tracker)
@@ -38,6 +45,7 @@ InformationPane::InformationPane(forms::Container& parent, forms::Panel& head, T
     ShowPicture({});
     tracker_.on_change();
   };
+  picture.SetSpokenName("Picture of the vehicle");
   ShowPicture({});
 }
 
@@ -71,18 +79,27 @@ void InformationPane::PickMake() {
   Fill(kMake, makes.text());
 }
 
-void InformationPane::OfferMakes(text::Date today) {
+void InformationPane::FillLists(text::Date today) {
   if (known_.empty()) known_ = ReadMakes(tracker_.context.folder);
   std::vector<std::string> names;
   for (const Make& make : known_) names.push_back(make.name);
   makes.SetItems(std::move(names));
+  years.SetItems(YearsOffered(today));
+}
+
+void InformationPane::OfferMakes(text::Date today) {
+  FillLists(today);
   makes.Select(0);
   models.SetItems(ModelsOf(known_, makes.text()));
-  years.SetItems(YearsOffered(today));
-  const auto first = std::ranges::find(years.items(), FirstYear(today));
-  if (first != years.items().end()) {
-    years.Select(static_cast<int>(first - years.items().begin()));
-  }
+  SelectText(years, FirstYear(today));
+}
+
+void InformationPane::OfferMakesBeside(text::Date today) {
+  FillLists(today);
+  models.SetItems(ModelsOf(known_, fields[kMake]->text()));
+  SelectText(years, fields[kYear]->text());
+  SelectText(makes, fields[kMake]->text());
+  SelectText(models, fields[kModel]->text());
 }
 
 void InformationPane::Show(const VehicleSheet& sheet) {

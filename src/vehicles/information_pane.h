@@ -34,13 +34,15 @@ class InformationPane {
   forms::Picture picture{panel, "Image1", {}};
   forms::Label picture_note{panel, "Label41", {}, forms::LabelRole::kNote};
   forms::Command choose_picture{panel, "Command25", "Select Pict&ure"};
-  forms::Command remove_picture{panel, "Command26", "Remo&ve Picture"};
+  forms::Command remove_picture{panel, "Command26", "Re&move Picture"};
 
   void Show(const VehicleSheet& sheet);
   // Into the sheet.
   void Store(VehicleSheet& sheet) const;
-  // The lists, with today's year and the first make shown; a list is empty without them.
+  // The lists, with today's year and the first make shown.
   void OfferMakes(text::Date today);
+  // The lists, with what stands in the fields.
+  void OfferMakesBeside(text::Date today);
   // "12,000".
   void FormatOdometer();
   forms::TextField& field(Field index) { return *fields[index]; }
@@ -53,6 +55,7 @@ class InformationPane {
 
  private:
   void AddField(forms::Container& parent, std::size_t index);
+  void FillLists(text::Date today);
   void PickMake();
   void Fill(Field index, const std::string& text);
   void Typed(forms::TextField& field);

@@ -44,15 +44,15 @@ MaintenancePane::MaintenancePane(forms::Container& parent, Tracker& tracker)
 void MaintenancePane::BuildGrid() {
   grid.SetColumns(
       {{.title = "", .share = 0.04, .align = forms::GridAlign::kRight},
-       {.title = "\nAction", .share = 0.23, .editable = true, .max_length = kLongestAction},
+       {.title = "\nAction", .share = 0.2, .editable = true, .max_length = kLongestAction},
        Number(0.09),
        Number(0.08),
        Number(0.1),
        Number(0.1),
        Number(0.1),
        Number(0.09, false),
-       Number(0.08, false),
-       {.title = "", .share = 0.09}},
+       Number(0.09, false),
+       {.title = "", .share = 0.1}},
       1, 2);
   parts::SetSheetRows(grid, kRows);
   ShowUnit();

@@ -31,9 +31,9 @@ class MaintenancePane {
   MaintenancePane(forms::Container& parent, Tracker& tracker);
 
   forms::Panel panel;
-  forms::Label intervals{panel, "Label20"};
+  forms::Label intervals{panel, "Label33"};
   forms::Grid grid{panel, "Grid4", "Maintenance schedule"};
-  forms::Label note{panel, "Label21", {}, forms::LabelRole::kNote};
+  forms::Label note{panel, "Label34", {}, forms::LabelRole::kNote};
   forms::DatePicker calendar{panel, "MonthView2", "Date of the last action"};
 
   void Show(const std::array<ScheduleRow, kScheduleRows>& rows);

@@ -18,6 +18,7 @@ parts::FolderChooserStyle Pictures() {
 PicturePanel::PicturePanel(forms::Container& parent, forms::Context& context)
     : panel(parent, "SSPanel8"), chooser(panel, context, Pictures()), context_(context) {
   panel.SetVisible(false);
+  preview.SetSpokenName("Picture that is selected");
   chooser.on_file = chooser.on_folder = [this] { ShowPreview(); };
   use.on_click = [this] { Use(); };
   close.on_click = [this] { Close(); };

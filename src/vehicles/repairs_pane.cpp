@@ -56,6 +56,7 @@ RepairsPane::RepairsPane(forms::Container& parent, Tracker& tracker)
   grid.on_validate = [this](int row, int column, std::string& text) {
     return TakesCell(row, column, text);
   };
+  grid.on_select = [this] { TellTurn(tracker_, grid); };
   grid.on_edit = [this](int row, int column) {
     if (column == kDate) ShowDate(grid, {row, kDate}, {grid.text(row, kDate), {}});
     GrowSheet(grid, kMostHistory);

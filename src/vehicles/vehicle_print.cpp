@@ -28,6 +28,7 @@ void VehiclePrint::Show(Mode mode, print::PrintJob job) {
   for (forms::CheckBox* section : Sections()) section->SetVisible(mode == Mode::kVehicle);
   for (forms::CheckBox* distance : Distances()) distance->SetVisible(mode == Mode::kAll);
   update.SetVisible(mode == Mode::kAll);
+  panel.options_frame.SetVisible(mode != Mode::kWorksheet);
   border.SetVisible(mode != Mode::kWorksheet);
   const std::string unit(tracker_.words().unit);
   in_250.SetCaption("Required in next 250 " + unit);

@@ -31,8 +31,8 @@ class VehiclePrint {
   forms::CheckBox picture{panel.options_frame, "SSCheck2", "Picture"};
   forms::CheckBox in_15_days{panel.options_frame, "SSCheck82(0)", "Required in next 15 days"};
   forms::CheckBox in_30_days{panel.options_frame, "SSCheck82(1)", "Required in next 30 days"};
-  forms::CheckBox in_250{panel.options_frame, "SSCheck82(2)", {}};
-  forms::CheckBox in_500{panel.options_frame, "SSCheck82(3)", {}};
+  forms::CheckBox in_250{panel.options_frame, "SSCheck82(2)", "Required in next 250 Miles"};
+  forms::CheckBox in_500{panel.options_frame, "SSCheck82(3)", "Required in next 500 Miles"};
   forms::Command update{panel.options_frame, "Command24", "&Update Display"};
   forms::CheckBox border{panel.options_frame, "SSCheck3", "Print Border"};
 

@@ -92,8 +92,8 @@ std::string Described(const VehicleSheet& sheet) {
 }  // namespace
 
 bool PrintedVehicle::HasSchedule() const {
-  return std::ranges::any_of(
-      sheet.rows, [](const ScheduleRow& row) { return !text::Trim(row.action).empty(); });
+  return std::ranges::any_of(sheet.rows,
+                             [](const ScheduleRow& row) { return TimesOf(row).is_named; });
 }
 
 std::string VehicleTitle(const PrintedVehicle& vehicle) {

@@ -210,6 +210,8 @@ TEST_F(AutoMaintTest, ADoneActionEntersTheHistoryOnceThoughDatesTurn) {
   EXPECT_EQ(schedule().text(1, MaintenancePane::kDate), "5/3/2026");
   EXPECT_EQ(style.note, "read as 5/3/2026, in the file 3/5/2026");
   EXPECT_FALSE(form().unsaved());
+  schedule().SelectCell(1, MaintenancePane::kDate);
+  EXPECT_EQ(form().status(), style.note);
   form().save.Click();
   EXPECT_EQ(schedule().style(1, MaintenancePane::kDate).note, "");
   EXPECT_EQ(File("MCar1.Fil"),
@@ -242,6 +244,7 @@ TEST_F(AutoMaintTest, RepairsAreKeptAndTakenOutThroughTheHistory) {
                          "Rep/Exp Hist View Button.\n"
                          "Deletions can only be done in these two files!");
   form().history.grid.SelectCell(2, 0);
+  form().history.grid.SelectCell(1, 0);  // isn't told again
   form().history.repairs.Click();
   form().history.grid.SelectCell(2, 0);
   const forms::MessageBox question{

@@ -12,9 +12,9 @@ namespace {
 
 constexpr int kLettersOfFile = 40;
 constexpr int kLettersOfPanel = 120;
-constexpr int kLettersOfCalculator = 60;
-constexpr QSize kPictureSize(240, 180);
-constexpr QSize kPreviewSize(320, 240);
+constexpr int kLettersOfCalculator = 90;
+constexpr QSize kPictureSize(160, 100);
+constexpr QSize kPreviewSize(240, 140);
 
 QWidget* Head(vehicles::AutoMaint& form) {
   vehicles::InformationPane& information = form.information;
