@@ -494,6 +494,57 @@ TEST_F(AutoMaintTest, AllVehiclesWithSomethingDueArePrinted) {
   EXPECT_THAT(PrintedTexts(), Contains(" Ford E150 Van (VIN - )"));
 }
 
+// Each month a fill-up, each third one an oil change, of vehicles that go 1,000, 2,000 and 3,000
+// miles a month.
+TEST_F(AutoMaintTest, ThreeVehiclesAreKeptForAYear) {
+  for (const char* name : {"Van", "Truck", "Bus"}) Make(name, "10000");
+  for (int month = 1; month <= 12; ++month) {
+    rig.clock.now.date = text::MakeDate(2027, static_cast<unsigned>(month), 14);
+    Open();
+    const std::string date = std::to_string(month) + "/13/2027";
+    for (int vehicle = 0; vehicle < 3; ++vehicle) {
+      form().files.Pick(vehicle);
+      form().view_information.Click();
+      const int before = 10'000 + (vehicle + 1) * 1000 * (month - 1);
+      const std::string reading = std::to_string(before + (vehicle + 1) * 1000);
+      field(kOdometer).Type(reading);
+      form().save.Click();
+      form().view_fuel.Click();
+      fuel().EditCell(month, kFuelDate, date);
+      fuel().EditCell(month, kPrevious, std::to_string(before));
+      fuel().EditCell(month, kCurrent, reading);
+      fuel().SelectCell(month, kDriven);
+      fuel().EditCell(month, kFuel, "50");
+      fuel().SelectCell(month, kRate);
+      fuel().EditCell(month, kCost, "100");
+      form().save.Click();
+      if (month % 3 != 0) continue;
+      ShowMaintenance();
+      schedule().EditCell(1, MaintenancePane::kOdometer, reading);
+      schedule().EditCell(1, MaintenancePane::kDate, date);
+      schedule().EditCell(1, MaintenancePane::kCost, "30");
+      form().save.Click();
+    }
+  }
+  rig.clock.now.date = text::MakeDate(2028, 3, 13);
+  Open();
+  const char* const driven[] = {"12,000.00    ", "24,000.00    ", "36,000.00    "};
+  const char* const rates[] = {"20.00        ", "40.00        ", "60.00        "};
+  for (int vehicle = 0; vehicle < 3; ++vehicle) {
+    form().files.Pick(vehicle);
+    EXPECT_EQ(form().fuel.driven.caption(), driven[vehicle]);
+    EXPECT_EQ(form().fuel.rate.caption(), rates[vehicle]);
+    EXPECT_EQ(form().fuel.cost.caption(), "$1,200.00     ");
+    form().view_history.Click();
+    EXPECT_EQ(form().history.sum.caption(), "$120.00  ");
+    EXPECT_EQ(form().history.grid.text(4, HistoryPane::kDate), "12/13/2027");
+    form().view_maintenance.Click();
+    EXPECT_EQ(schedule().text(1, MaintenancePane::kDistanceLeft), "3,000");
+    EXPECT_EQ(schedule().text(1, MaintenancePane::kTimeLeft), "0 days");
+    EXPECT_EQ(schedule().text(1, MaintenancePane::kRequired), "Action Req.");
+  }
+}
+
 TEST_F(AutoMaintTest, ThePictureIsTakenFromAnywhereOnTheMachine) {
   Make("Van");
   rig.folders.readable["/home/ann/Tarnwell/"].files = {"van.jpg", "notes.txt"};
