@@ -33,18 +33,6 @@ constexpr double kLongestSchedule = 0.2;   // milliseconds
 constexpr double kLongestHistories = 100;  // likewise
 constexpr double kLongestFrame = 16;       // likewise
 
-double MedianOf(int times, const std::function<void(int)>& work) {
-  std::vector<double> taken;
-  for (int i = 0; i < times; ++i) taken.push_back(Milliseconds([&] { work(i); }));
-  std::ranges::sort(taken);
-  return taken[taken.size() / 2];
-}
-
-bool Tell(const char* title, double taken, double aim) {
-  std::printf("%-50s %8.3f ms, aim %.1f%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
 // Nothing of it is due before its last row.
 vehicles::VehicleSheet FullSheet() {
   vehicles::VehicleSheet sheet;

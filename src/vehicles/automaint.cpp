@@ -3,13 +3,11 @@
 #include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
-#include "parts/help_menu.h"
 #include "vehicles/cell_values.h"
 
 namespace tarnwell::vehicles {
 namespace {
 
-constexpr int kVehiclesHelp = 3070;
 constexpr const char* kCaption = "Company Data - Company Vehicle Maintenance Tracker";
 
 std::string CaptionOf(const forms::ProgramVariables& variables) {
@@ -25,7 +23,7 @@ AutoMaint::AutoMaint(forms::Context& context)
   Connect();
   ConnectPanes();
   BuildMenus();
-  SetHelpContext(kVehiclesHelp);
+  SetHelpContext(kHelpPage);
   searching.SetVisible(false);
   searching.Cover({&sheet, &print.panel.panel});
   for (forms::Panel* panel : {&calculator.panel, &picture_choice.panel, &print.panel.panel}) {
@@ -98,47 +96,6 @@ void AutoMaint::ConnectPanes() {
               &fuel.remove,
               &history.grid};
   for (const auto& field : information.fields) editors_.push_back(field.get());
-}
-
-void AutoMaint::BuildMenus() {
-  const std::vector<forms::Control*> with_sheet{&sheet};
-  forms::MenuItem& options = menus().AddSubmenu("mO", "&Options");
-  options.AddCommand("mOCr", "&Create New File", create);
-  options.AddCommand("mOV", "&View Existing File", view);
-  options.AddCommand("mODel", "&Delete Existing File", remove);
-  options.AddCommand("mOS", "&Save", save).SetKey("Ctrl+S");
-  options.AddSeparator();
-  for (const auto& [name, words] : {std::pair{"mOGas", &kMileWords}, {"mOKm", &kKilometerWords}}) {
-    options.AddEntry(name, "&" + std::string(words->calculator_title),
-                     {[this] {
-                        if (EndEdit()) calculator.Open();
-                      },
-                      with_sheet});
-  }
-  const auto add_unit = [&](const char* name, const char* caption, settings::DistanceUnit unit) {
-    options.AddEntry(name, caption, {[this, unit] { SetUnit(unit); }, with_sheet}).SetCheckable();
-  };
-  add_unit("mOProgMiles", "Use &Miles", settings::DistanceUnit::kMiles);
-  add_unit("mOProgKilo", "Use &Kilometers", settings::DistanceUnit::kKilometers);
-  options.AddEntry("DisableDateChecker(0)", "Turn OFF Date Checker",
-                   {[this] { SetDateChecker(false); }, with_sheet});
-  options.AddEntry("DisableDateChecker(1)", "Turn ON Date Checker",
-                   {[this] { SetDateChecker(true); }, with_sheet});
-  options.AddSeparator();
-  options.AddCommand("mOP", "&Print Options", print_options).SetKey("Ctrl+P");
-  options.AddEntry("mOPW", "Print &Worksheet", {[this] { OpenWorksheet(); }, with_sheet});
-  options.AddEntry("mOC", "Panel C&olor", [this] { colors_.Choose(parts::ColorTarget::kPanel); });
-  options.AddSeparator();
-  options.AddCommand("mOEx", "E&xit", exit);
-  forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
-  edit.AddEntry("mERemove", "&Remove Blank Action Rows",
-                {[this] { maintenance.RemoveBlankRows(); }, {&maintenance.grid}});
-  forms::MenuItem& views = menus().AddSubmenu("mV", "Vie&w");
-  views.AddEntry("mVAll", "&View/Print All Action Required - All Vehicles",
-                 {[this] { OpenAllDue(); }, with_sheet});
-  for (forms::MenuItem* menu : {&options, &edit, &views}) menu->LiveWith(with_sheet);
-  SetPopupMenu(options);
-  parts::AddHelpMenu(*this, context_, {{"Company &Vehicle Maintenance Tracker", kVehiclesHelp}});
 }
 
 void AutoMaint::Load() {
@@ -289,57 +246,6 @@ bool AutoMaint::HasVehicle() {
   Message({"Select Auto File Name", "Please Select an Auto File Name First!",
            forms::Icon::kExclamation});
   return false;
-}
-
-PrintedVehicle AutoMaint::Printed() const {
-  PrintedVehicle printed{.name = open_.name, .sheet = stored_, .maintenance = maintenance_.entries};
-  information.Store(printed.sheet);
-  printed.sheet.rows = maintenance.Rows();
-  printed.repairs = repairs.Entries();
-  for (FuelEntry& entry : fuel.Entries()) {
-    if (!entry.IsBlank()) printed.fuel.push_back(std::move(entry));
-  }
-  printed.picture = information.picture.content();
-  return printed;
-}
-
-void AutoMaint::OpenPrint() {
-  if (HasVehicle() && OfferToSave()) print.OpenVehicle(Printed());
-}
-
-void AutoMaint::OpenWorksheet() {
-  if (!EndEdit()) return;
-  print.OpenWorksheet();
-  SetStatus("Print Worksheet");
-}
-
-void AutoMaint::OpenAllDue() {
-  if (!OfferToSave() || vehicles_.empty()) return;
-  print.OpenAll([this](const Nearness& wanted) { return Search(wanted); });
-}
-
-std::vector<PrintedVehicle> AutoMaint::Search(const Nearness& wanted) {
-  constexpr std::size_t kBetweenYields = 25;  // vehicles
-  std::vector<PrintedVehicle> found;
-  searching.SetVisible(true);
-  {
-    const BusyScope busy(*this);
-    progress.Start(static_cast<int>(vehicles_.size()));
-    for (std::size_t i = 0; i < vehicles_.size(); ++i) {
-      if (i % kBetweenYields == 0) {
-        progress.SetValue(static_cast<int>(i));
-        context_.loop.Yield();
-      }
-      VehicleSheet read =
-          ReadSheet(context_.folder, vehicles_[i].slot, context_.variables.DateStyle);
-      if (read.fault == storage::Fault::kNone &&
-          AnyIsNear(read.rows, WholeNumber(read.fields[kOdometer]), tracker_.today(), wanted)) {
-        found.push_back({.name = vehicles_[i].name, .sheet = std::move(read)});
-      }
-    }
-  }
-  searching.SetVisible(false);
-  return found;
 }
 
 }  // namespace tarnwell::vehicles

@@ -66,6 +66,7 @@ class AutoMaint : public forms::Form {
   bool QueryUnload(forms::UnloadCause cause) override;
 
  private:
+  static constexpr int kHelpPage = 3070;
   enum class State { kNone, kCreating, kOpen };
   enum class Pane { kInformation, kMaintenance, kRepairs, kHistory, kFuel };
 

@@ -151,10 +151,10 @@ void MaintenanceSection(PageEngine& engine, const VehicleSheet& sheet, const Uni
   Begin(engine, "Maintenance", "  Maintenance Information");
   const bool miles = &words == &kMileWords;
   std::vector<print::TableColumn> columns =
-      Columns(engine, {{"", 0.22, Align::kLeft},
+      Columns(engine, {{"", 0.2, Align::kLeft},
                        {miles ? "Miles" : " Kms. ", 0.08, Align::kRight},
                        {"or", 0.03, Align::kCenter},
-                       {miles ? "Months" : " Months ", 0.07, Align::kRight},
+                       {miles ? "Months" : " Months ", 0.09, Align::kRight},
                        {words.reading, 0.1, Align::kRight},
                        {miles ? "Date" : " Date ", 0.1, Align::kRight},
                        {miles ? "Cost" : " Cost ", 0.1, Align::kRight},
