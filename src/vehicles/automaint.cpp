@@ -48,7 +48,7 @@ void AutoMaint::Connect() {
   view.on_click = [this] { ViewExisting(); };
   remove.on_click = [this] { DeleteFile(); };
   save.on_click = [this] {
-    if (state_ != State::kNone || HasVehicle()) Save();
+    if (HasVehicle()) Save();
   };
   print_options.on_click = [this] { OpenPrint(); };
   exit.on_click = [this] { context_.navigator.Close(*this, forms::UnloadCause::kCommand); };
@@ -78,10 +78,10 @@ void AutoMaint::ConnectPanes() {
   };
   fuel.on_remove = [this](const std::vector<FuelEntry>& rest) { return RemoveFuel(rest); };
   calculator.odometer = [this] { return information.field(kOdometer).text(); };
-  calculator.on_close = picture_choice.on_close = [this] { save.Focus(); };
+  calculator.on_close = picture_choice.on_close = [this] { exit.Focus(); };
   print.panel.on_close = [this] {
     SetStatus({});
-    save.Focus();
+    exit.Focus();
   };
   editors_ = {&information.years,
               &information.makes,
@@ -130,6 +130,7 @@ void AutoMaint::ShowState(State state) {
   next_to_schedule.SetVisible(is_creating);
   next_to_repairs.SetVisible(false);
   finish.SetVisible(false);
+  save.SetVisible(!is_creating);
   for (forms::Control* control :
        {&view_maintenance, &view_repairs, &view_history, &view_fuel, &remove, &print_options}) {
     control->SetEnabled(!is_creating);

@@ -49,7 +49,7 @@ class AutoMaint : public forms::Form {
   forms::Command view_fuel{sheet, "Command15", "View &Fuel Tracker"};
   forms::Command next_to_schedule{sheet, "Command11", "&Next - Move to Next Input File"};
   forms::Command next_to_repairs{sheet, "Command12", "&Next - Move to Next Input File"};
-  forms::Command finish{sheet, "Command13", "Save File && Exit Create R&outine"};
+  forms::Command finish{sheet, "Command13", "&Save File && Exit Create Routine"};
   forms::Command create{sheet, "Command7", "&Create New File"};
   forms::Command view{sheet, "Command2", "&View Existing File"};
   forms::Command remove{sheet, "Command8", "&Delete Existing File"};

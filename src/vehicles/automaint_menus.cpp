@@ -11,7 +11,14 @@ void AutoMaint::BuildMenus() {
   options.AddCommand("mOCr", "&Create New File", create);
   options.AddCommand("mOV", "&View Existing File", view);
   options.AddCommand("mODel", "&Delete Existing File", remove);
-  options.AddCommand("mOS", "&Save", save).SetKey("Ctrl+S");
+  // While a vehicle is created it finishes that, in the place of the hidden button.
+  options
+      .AddEntry("mOS", "&Save",
+                {[this] {
+                   if (HasVehicle()) Save();
+                 },
+                 with_sheet})
+      .SetKey("Ctrl+S");
   options.AddSeparator();
   for (const auto& [name, words] : {std::pair{"mOGas", &kMileWords}, {"mOKm", &kKilometerWords}}) {
     options.AddEntry(name, "&" + std::string(words->calculator_title),

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "parts/sheet_rows.h"
+#include "storage/sequential_file.h"
 #include "text/letters.h"
 #include "text/number_mask.h"
 #include "vehicles/cell_values.h"
@@ -113,11 +114,11 @@ bool FuelPane::TakesCell(int row, int column, std::string& text) {
     case kPrevious:
     case kCurrent:
       text = TakeReading(tracker_, grid, place, static_cast<float>(NumberIn(text)))
-                 ? FuelText(static_cast<FuelColumn>(column), text)
+                 ? FuelText(static_cast<FuelColumn>(column), storage::WithoutQuotes(text))
                  : grid.text(row, column);
       break;
     default:
-      text = FuelText(static_cast<FuelColumn>(column), text);
+      text = FuelText(static_cast<FuelColumn>(column), storage::WithoutQuotes(text));
   }
   return true;
 }

@@ -11,6 +11,7 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfFile = 40;
+constexpr int kLettersOfHead = 150;
 constexpr int kLettersOfPanel = 120;
 constexpr int kLettersOfCalculator = 90;
 constexpr QSize kPictureSize(160, 100);
@@ -24,13 +25,14 @@ QWidget* Head(vehicles::AutoMaint& form) {
                 Column({Row({caption(0), Grow(AtMost(Widget(form.files), kLettersOfFile), 2),
                              Grow(AtMost(field(0), kLettersOfFile), 2), Spring(),
                              Widget(form.registration), Widget(form.today)}),
-                        Grid({{caption(vehicles::kYear), caption(vehicles::kMake),
-                               caption(vehicles::kModel), caption(vehicles::kOdometer)},
-                              {field(vehicles::kYear), field(vehicles::kMake),
-                               field(vehicles::kModel), field(vehicles::kOdometer)},
-                              {Widget(information.years), Widget(information.makes),
-                               Widget(information.models), Row({})}},
-                             2)},
+                        AtMost(Grid({{caption(vehicles::kYear), caption(vehicles::kMake),
+                                      caption(vehicles::kModel), caption(vehicles::kOdometer)},
+                                     {field(vehicles::kYear), field(vehicles::kMake),
+                                      field(vehicles::kModel), field(vehicles::kOdometer)},
+                                     {Widget(information.years), Widget(information.makes),
+                                      Widget(information.models), Row({})}},
+                                    2),
+                               kLettersOfHead)},
                        kTightSpace));
 }
 
