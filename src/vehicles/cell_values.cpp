@@ -1,5 +1,7 @@
 #include "vehicles/cell_values.h"
 
+#include <cmath>
+
 #include "text/date_mask.h"
 #include "text/date_reading.h"
 #include "text/leading_number.h"
@@ -14,8 +16,9 @@ bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 }  // namespace
 
 double NumberIn(std::string_view cell) {
-  std::string number;
   const std::string trimmed = text::Trim(cell);
+  if (trimmed.find_first_of("$(,") == std::string::npos) return text::LeadingNumber(trimmed);
+  std::string number;
   for (std::size_t i = 0; i < trimmed.size(); ++i) {
     const char letter = trimmed[i];
     const bool is_before_digits = number.empty() || number == "-";
@@ -35,9 +38,7 @@ std::string WholeText(std::string_view cell) {
   return text::FormatNumber(NumberIn(cell), "#,###,###");
 }
 
-float WholeNumber(std::string_view cell) {
-  return static_cast<float>(text::LeadingNumber(text::FormatNumber(NumberIn(cell), "#######")));
-}
+float WholeNumber(std::string_view cell) { return static_cast<float>(std::round(NumberIn(cell))); }
 
 std::string CostText(double cost) {
   return text::FormatNumber(static_cast<float>(cost), "Currency");

@@ -17,7 +17,7 @@ double NumberIn(std::string_view cell);
 
 // That number without decimals, by "#,###,###": "12,000". Empty for 0.
 std::string WholeText(std::string_view cell);
-// What WholeText shows, as a number.
+// What WholeText shows, as a number; 0 for none.
 float WholeNumber(std::string_view cell);
 // In single precision, by "Currency": "$1,234.50".
 std::string CostText(double cost);

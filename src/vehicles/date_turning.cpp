@@ -42,8 +42,9 @@ std::string TurnedDate(std::string_view date) {
 DateRead ReadStoredDate(std::string_view stored, bool dates_turn) {
   const std::string date = text::Trim(stored);
   if (date.empty()) return {};
-  if (!dates_turn) return {ShortDate(date), {}};
-  DateRead read{ShortDate(TurnedDate(date)), ShortDate(date)};
+  const std::string turned = dates_turn ? TurnedDate(date) : date;
+  if (turned == date) return {ShortDate(date), {}};
+  DateRead read{ShortDate(turned), ShortDate(date)};
   if (read.in_file == read.shown) read.in_file.clear();
   return read;
 }

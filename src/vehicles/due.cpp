@@ -68,7 +68,7 @@ ActionTimes TimesOf(const ScheduleRow& row) {
   ActionTimes times;
   times.is_named = row.action.find_first_not_of(' ') != std::string::npos;
   if (!times.is_named) return times;
-  if (!WholeText(row.distance).empty()) times.distance = WholeNumber(row.distance);
+  if (const float distance = WholeNumber(row.distance); distance != 0) times.distance = distance;
   times.months = text::LeadingNumber(row.months);
   times.odometer = WholeNumber(row.odometer);
   times.date = text::ReadDate(row.date.shown);
