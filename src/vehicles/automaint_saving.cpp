@@ -117,6 +117,7 @@ bool AutoMaint::RemoveHistory(HistoryKind kind, const HistoryEntry& removed) {
     forms::TellNotSaved(context_, "The history", written.fault());
     return false;
   }
+  ForgetFileDates(rest);
   history_of.entries = std::move(rest);
   if (kind == HistoryKind::kRepairs) repairs.Remove(removed);
   history.SetHistories(maintenance_, repairs_);
