@@ -119,7 +119,10 @@ bool AutoMaint::RemoveHistory(HistoryKind kind, const HistoryEntry& removed) {
   }
   ForgetFileDates(rest);
   history_of.entries = std::move(rest);
-  if (kind == HistoryKind::kRepairs) repairs.Remove(removed);
+  if (kind == HistoryKind::kRepairs) {
+    repairs.Remove(removed);
+    repairs.ForgetTurns();
+  }
   history.SetHistories(maintenance_, repairs_);
   return true;
 }

@@ -35,7 +35,6 @@ class HistoryPane {
   void SetHistories(const History& maintenance_history, const History& repair_history);
   // False where there is nothing to show, which was told.
   bool View(HistoryView view);
-  HistoryView shown() const { return view_; }
   void Clear();
   void ShowUnit();
 
