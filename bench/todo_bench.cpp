@@ -38,17 +38,6 @@ double Median(std::vector<double> times) {
   return times[times.size() / 2];
 }
 
-bool Tell(const char* title, double taken, double aim) {
-  std::printf("%-50s %8.3f ms, aim %.0f%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
-double MedianOf(int times, const std::function<void(int)>& work) {
-  std::vector<double> taken;
-  for (int i = 0; i < times; ++i) taken.push_back(Milliseconds([&] { work(i); }));
-  return Median(std::move(taken));
-}
-
 void Fill(storage::ProgramFolder& folder) {
   std::vector<workarea::ToDoRow> rows;
   for (int i = 0; i < workarea::kToDoRows; ++i) {

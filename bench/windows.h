@@ -3,10 +3,13 @@
 #pragma once
 
 #include <QApplication>
+#include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "desktop/widgets/look.h"
 
@@ -17,6 +20,20 @@ inline double Milliseconds(const std::function<void()>& work) {
   work();
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
       .count();
+}
+
+// The median of that many runs of the work, which is told its number from 0, in milliseconds.
+inline double MedianOf(int times, const std::function<void(int)>& work) {
+  std::vector<double> taken;
+  for (int i = 0; i < times; ++i) taken.push_back(Milliseconds([&] { work(i); }));
+  std::ranges::sort(taken);
+  return taken[taken.size() / 2];
+}
+
+// Prints a time beside the most that it should be, both in milliseconds. False where it is more.
+inline bool Tell(const char* title, double taken, double aim) {
+  std::printf("%-50s %8.3f ms, aim %g%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
+  return taken <= aim;
 }
 
 // Their main(): the program's look, where QT_QPA_PLATFORM says, "offscreen" if nothing does. `run`

@@ -32,18 +32,6 @@ constexpr double kLongestTotals = 1;   // milliseconds
 constexpr double kLongestFrame = 16;   // likewise
 constexpr double kLongestPanel = 150;  // likewise
 
-double MedianOf(int times, const std::function<void(int)>& work) {
-  std::vector<double> taken;
-  for (int i = 0; i < times; ++i) taken.push_back(Milliseconds([&] { work(i); }));
-  std::ranges::sort(taken);
-  return taken[taken.size() / 2];
-}
-
-bool Tell(const char* title, double taken, double aim) {
-  std::printf("%-50s %8.3f ms, aim %.0f%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
 budget::BudgetYear FullYear() {
   budget::BudgetYear year;
   for (int i = 1; i <= budget::kItems; ++i) {

@@ -20,6 +20,7 @@ inline constexpr const char* kEmployeeEntry = "FView";
 inline constexpr const char* kContactDisplay = "ADDBKDISPLAY";
 inline constexpr const char* kEmployeeDisplay = "FDisplay1";
 inline constexpr const char* kPhotoView = "PhotoVIEW1";
+inline constexpr const char* kAutoMaint = "AutoMaint";
 inline constexpr const char* kVSSpell1 = "VSSpell1";
 inline constexpr const char* kVSThesaurus1 = "VSThesaurus1";
 

@@ -29,6 +29,7 @@ struct GridColumn {
 struct GridCellStyle {
   std::optional<Color> color;  // of the text
   bool bold = false;
+  std::string note = {};  // what a person should know of the cell, which has a sign then
 
   friend bool operator==(const GridCellStyle&, const GridCellStyle&) = default;
 };

@@ -17,6 +17,7 @@
 #include "shell/about1.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
+#include "vehicles/automaint.h"
 #include "workarea/workarea1.h"
 
 namespace tarnwell::program {
@@ -45,6 +46,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kContactDisplay, Make<contacts::ADDBKDISPLAY>);
   navigator.Register(kEmployeeDisplay, Make<employees::FDisplay1>);
   navigator.Register(kPhotoView, Make<images::PhotoVIEW1>);
+  navigator.Register(kAutoMaint, Make<vehicles::AutoMaint>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

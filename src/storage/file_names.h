@@ -74,6 +74,7 @@ inline constexpr std::string_view kRuleReferences = "Misc62.Fl1";
 inline constexpr std::string_view kRuleInformation = "Misc63.Fl1";
 inline constexpr std::string_view kRecoveryPlanTemplate = "DRPln1.Fl1";
 inline constexpr std::string_view kSamplePolicy = "SamplePol.Dat";
+inline constexpr std::string_view kMakes = "Makes.Dat";
 inline constexpr std::string_view kHelp = "Tarnwell.chm";
 // The pictures behind grids, 1 to 16.
 std::string Wallpaper(int number);

@@ -73,6 +73,7 @@ std::optional<Parts> Cut(std::string_view text) {
     const auto part = word.empty() ? ReadNumber(TakeRun(text, kDigits)) : ReadWord(word);
     if (!part) return std::nullopt;
     cut.parts[cut.count++] = *part;
+    if (part->kind == Kind::kMonth && text.starts_with('.')) text.remove_prefix(1);
 
     TakeRun(text, kBlanks);
     if (!text.empty() && kMarks.find(text.front()) != std::string_view::npos) {
@@ -84,12 +85,46 @@ std::optional<Parts> Cut(std::string_view text) {
   return cut;
 }
 
-void DropWeekday(Parts& cut) {
-  if (cut.count != cut.parts.size()) return;
+bool IsBelow(std::string_view digits, int least, int limit) {
+  if (digits.empty() || digits.size() > 2) return false;
+  const int value = ReadNumber(digits)->value;
+  return value >= least && value < limit;
+}
+
+// A text like "10:15", "9:05:30 PM".
+bool IsClockTime(std::string_view text) {
+  const std::string_view hour = TakeRun(text, kDigits);
+  int parts = 1;
+  for (; text.starts_with(':'); ++parts) {
+    text.remove_prefix(1);
+    const std::string_view part = TakeRun(text, kDigits);
+    if (part.size() != 2 || !IsBelow(part, 0, 60)) return false;
+  }
+  if (parts < 2 || parts > 3) return false;
+  TakeRun(text, kBlanks);
+  const std::string_view half = TakeRun(text, kLetters);
+  TakeRun(text, kBlanks);
+  if (!text.empty()) return false;
+  if (half.empty()) return IsBelow(hour, 0, 24);
+  return (EqualIgnoringCase(half, "AM") || EqualIgnoringCase(half, "PM")) && IsBelow(hour, 1, 13);
+}
+
+// The text without the clock time that it ends in.
+std::string_view WithoutClockTime(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos) return text;
+  const std::size_t before = text.find_last_of(kBlanks, colon);
+  if (before == std::string_view::npos || !IsClockTime(text.substr(before + 1))) return text;
+  return text.substr(0, before);
+}
+
+// `most` parts are a date with its weekday.
+void DropWeekday(Parts& cut, std::size_t most) {
+  if (cut.count != most) return;
   if (cut.parts.front().kind == Kind::kWeekday) {
     for (std::size_t i = 1; i < cut.count; ++i) cut.parts[i - 1] = cut.parts[i];
     --cut.count;
-  } else if (cut.parts.back().kind == Kind::kWeekday) {
+  } else if (cut.parts[most - 1].kind == Kind::kWeekday) {
     --cut.count;
   }
 }
@@ -109,12 +144,13 @@ std::optional<Date> MakeChecked(const Part& year, const Part& month, const Part&
   return date.ok() ? std::optional(date) : std::nullopt;
 }
 
-}  // namespace
-
-std::optional<Date> ReadDate(std::string_view text) {
-  std::optional<Parts> cut = Cut(text);
+// Without `year` the text has to have one.
+std::optional<Date> Read(std::string_view text, const std::optional<Part>& year) {
+  std::optional<Parts> cut = Cut(WithoutClockTime(text));
   if (!cut) return std::nullopt;
-  DropWeekday(*cut);
+  DropWeekday(*cut, 4);
+  if (year) DropWeekday(*cut, 3);
+  if (year && cut->count == 2) cut->parts[cut->count++] = *year;
   if (cut->count != 3) return std::nullopt;
   const auto& [first, second, third, unused] = cut->parts;
 
@@ -128,6 +164,14 @@ std::optional<Date> ReadDate(std::string_view text) {
   if (second.kind == Kind::kMonth) return MakeChecked(third, second, first);
   if (!is_number(second)) return std::nullopt;
   return first.value > 12 ? MakeChecked(third, second, first) : MakeChecked(third, first, second);
+}
+
+}  // namespace
+
+std::optional<Date> ReadDate(std::string_view text) { return Read(text, std::nullopt); }
+
+std::optional<Date> ReadDate(std::string_view text, Date today) {
+  return Read(text, Part{Kind::kNumber, YearOf(today), 4});
 }
 
 Date InCenturyOfWeekday(Date date, std::string_view text) {

@@ -16,6 +16,8 @@ constexpr AreaButton kAreas[] = {
     {kPolicies, "Company Policies", "  Comapany Policies  ", parts::kCompanyData},
     {kBudget, "Company Budget Form", "  Daily Planner  ", parts::kCompanyData,
      forms::form_names::kBudget1a},
+    {kVehicles, "Company Vehicle Maint. Tracker", "  Calendar Developer  ", parts::kCompanyData,
+     forms::form_names::kAutoMaint},
     {kWorksheets, "Company - Additional Docs.",
      "  Company - Additional Documents, Forms and Policies  ", parts::kCompanyData},
     {kRecoveryPlan, "Company Disaster Recovery Plan", "  Disaster Recovery Plan  ",

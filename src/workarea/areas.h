@@ -18,6 +18,7 @@ enum Area : int {
   kEmployeeDocuments = 3,
   kPolicies = 4,
   kBudget = 5,
+  kVehicles = 6,
   kWorksheets = 7,
   kRecoveryPlan = 8,
   kJobDescriptions = 9,

@@ -167,6 +167,9 @@ const Way kWays[] = {
     {"ContactDisplayPrinting", "ADDBKDISPLAY", {"Command6"}},
     {"EmployeeDisplay", "FDisplay1", {}},
     {"Images", "PhotoVIEW1", {}},
+    {"Vehicles", "AutoMaint", {}},
+    {"VehicleCreating", "AutoMaint", {"Command7"}},
+    {"VehicleCalculator", "AutoMaint", {"mOGas"}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

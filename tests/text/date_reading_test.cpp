@@ -32,7 +32,12 @@ TEST(DateReading, ReadsWhatTheMasksWriteAndWhatAPersonTypes) {
                                  "9-MAR-2026",
                                  "marc 9 26",
                                  "9mar26",
-                                 "3 / 9 / 2026"}) {
+                                 "3 / 9 / 2026",
+                                 "Mar. 9, 2026",
+                                 "9 Mar. 2026",
+                                 "3/9/2026 10:00 AM",
+                                 "Mar. 9, 2026 23:59:59",
+                                 "3/9/2026 - Mon 9:05"}) {
     EXPECT_EQ(ReadDate(text), date) << text;
   }
 }
@@ -50,6 +55,20 @@ TEST(DateReading, ChoosesTheOrderAndTheCentury) {
       {"12/31/9999", MakeDate(9999, 12, 31)}, {"2026/March/9", MakeDate(2026, 3, 9)},
   };
   for (const auto& c : cases) EXPECT_EQ(ReadDate(c.text), c.date) << c.text;
+}
+
+TEST(DateReading, ADateWithoutAYearIsOneOfThisYear) {
+  const Date today = MakeDate(2026, 11, 23);
+  for (const char* const text :
+       {"3/5", "Mar 5", "Mar. 5", "5 March", "Mon 3/5", "3/5 10:15", "3/5/2026"}) {
+    EXPECT_EQ(ReadDate(text, today), MakeDate(2026, 3, 5)) << text;
+  }
+  EXPECT_EQ(ReadDate("13/5", today), MakeDate(2026, 5, 13));
+  EXPECT_EQ(ReadDate("2/29", today), std::nullopt);
+  EXPECT_EQ(ReadDate("2/29", MakeDate(2028, 1, 1)), MakeDate(2028, 2, 29));
+  for (const char* const text : {"", "5", "March", "Mar 2026", "3/2026", "13/13", "3/9/26/1"}) {
+    EXPECT_EQ(ReadDate(text, today), std::nullopt) << text;
+  }
 }
 
 TEST(DateReading, RefusesEverythingElse) {
@@ -72,7 +91,13 @@ TEST(DateReading, RefusesEverythingElse) {
                                  "/3/9/2026",
                                  "3/9/2026/",
                                  "3/9/2026 10",
-                                 "3/9/2026 10:00 AM",
+                                 "3/9/2026 24:00",
+                                 "3/9/2026 13:00 PM",
+                                 "3/9/2026 10:60",
+                                 "3/9/2026 10:0",
+                                 "10:00 AM",
+                                 "3/9.2026",
+                                 "Mar.. 9, 2026",
                                  "3.9.2026",
                                  "Mon",
                                  "Mon Tue 3/9/26",

@@ -119,6 +119,34 @@ void KeepBudget(Traveller& person) {
   person.ExpectTop("WorkArea1");
 }
 
+void KeepVehicle(Traveller& person) {
+  person.Click("SSCommand11(6)");
+  person.ExpectTop("AutoMaint");
+  person.Click("Command7");
+  person.Type(QStringLiteral("Van 2"));
+  person.Click("Text1(2)");
+  person.Type(QStringLiteral("Ford"));
+  person.Click("Text1(4)");
+  person.Type(QStringLiteral("12500"));
+  person.TakePicture("vehicle-new");
+  person.Click("Command11");
+  person.TakePicture("vehicle-schedule");
+  person.Answer(QStringLiteral("Create New File"), QMessageBox::Yes,
+                [&] { person.Click("Command13"); });
+  person.Click("Command5");
+  person.TakePicture("vehicle-repairs");
+  person.Click("Command15");
+  person.TakePicture("vehicle-fuel");
+  person.ChooseFromMenu("mOGas");
+  person.TakePicture("vehicle-calculator");
+  person.Click("Command20");
+  person.Click("Command9");
+  person.TakePicture("vehicle-print");
+  person.Click("SSCommand80(2)");
+  person.Click("Command1");
+  person.ExpectTop("WorkArea1");
+}
+
 void FillInWorksheet(Traveller& person) {
   person.Click("SSCommand4(0)");
   person.Click("SSCommand11(7)");
@@ -273,6 +301,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   FillInWorksheet(person);
   KeepBudget(person);
   LookAtPeople(person);
+  KeepVehicle(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

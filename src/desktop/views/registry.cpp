@@ -19,6 +19,7 @@
 #include "shell/about1.h"
 #include "shell/splash1.h"
 #include "shell/startfrm.h"
+#include "vehicles/automaint.h"
 #include "workarea/workarea1.h"
 
 namespace tarnwell::desktop {
@@ -52,6 +53,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kContactDisplay, Make<record_book::DisplayScreen>},
     {forms::form_names::kEmployeeDisplay, Make<record_book::DisplayScreen>},
     {forms::form_names::kPhotoView, Make<images::PhotoVIEW1>},
+    {forms::form_names::kAutoMaint, Make<vehicles::AutoMaint>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -33,6 +33,9 @@ namespace tarnwell::planner {
 class Calendar;
 class Zcalandar1;
 }  // namespace tarnwell::planner
+namespace tarnwell::vehicles {
+class AutoMaint;
+}
 namespace tarnwell::proofing {
 class VSSpell1;
 class VSThesaurus1;
@@ -55,6 +58,7 @@ QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
 QWidget* View(record_book::EntryScreen& form, PictureStore& pictures);
 QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
 QWidget* View(images::PhotoVIEW1& form, PictureStore& pictures);
+QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QTimer>
 
@@ -11,6 +12,8 @@
 
 namespace tarnwell::desktop {
 namespace {
+
+const QColor kNoteColor(0xC0, 0x60, 0x00);
 
 QLineEdit* LineOf(QWidget* editor) {
   auto* box = qobject_cast<QComboBox*>(editor);
@@ -92,6 +95,21 @@ void CellEditing::ShowTyped(const QString& text) {
 void CellEditing::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
   if (index.row() + 1 == grid_.highlight()) option->state |= QStyle::State_Selected;
+}
+
+// A cell with a note has a coloured corner.
+void CellEditing::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+  QStyledItemDelegate::paint(painter, option, index);
+  if (grid_.style(index.row() + 1, index.column()).note.empty()) return;
+  const QPoint corner = option.rect.topRight();
+  const int side = option.rect.height() / 3;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(kNoteColor);
+  painter->drawPolygon(QPolygon({corner, corner - QPoint(side, 0), corner + QPoint(0, side)}));
+  painter->restore();
 }
 
 bool CellEditing::TakeKey(const QKeyEvent& key) {

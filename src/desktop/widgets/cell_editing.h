@@ -25,6 +25,8 @@ class CellEditing : public QStyledItemDelegate {
   // The grid's text in place of the one in the editor, where they differ.
   void ShowTyped(const QString& text);
 
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const override;
   void setEditorData(QWidget* editor, const QModelIndex& index) const override;

@@ -95,6 +95,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::ForegroundRole:
       if (const auto color = grid_.style(row, index.column()).color) return ToQColor(*color);
       return {};
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+      return FromCore(grid_.style(row, index.column()).note);
     case Qt::FontRole:
       if (grid_.style(row, index.column()).bold) return bold_;
       return {};
