@@ -148,6 +148,9 @@ void DisplayScreen::Fill() {
     ShowColumns(option);
     ShowRows(read.rows);
   }
+  grid.SetCurrent({1, kName});  // into sight, wherever the rows before were scrolled to
+  grid.SetCurrent({});
+  Moved();
   complete_report.SetEnabled(!names_.entries.empty());
   const storage::Fault fault = names_.fault != storage::Fault::kNone ? names_.fault : read.fault;
   if (fault == storage::Fault::kNone) return ShowCount(read.rows.size());
@@ -171,7 +174,6 @@ void DisplayScreen::ShowColumns(const DisplayOption& option) {
 void DisplayScreen::ShowRows(const std::vector<DisplayRow>& rows) {
   grid.SetRows(1);
   grid.SetSortMark(std::nullopt);
-  grid.SetCurrent({});
   const std::size_t count_of_rows = std::max<std::size_t>(rows.size(), kLeastRows);
   grid.SetRows(static_cast<int>(count_of_rows) + 1);
   telephones_.assign(count_of_rows, {});
@@ -182,7 +184,6 @@ void DisplayScreen::ShowRows(const std::vector<DisplayRow>& rows) {
     for (const std::string& value : rows[i].values) grid.SetText(row, column++, value);
     telephones_[i] = rows[i].telephone;
   }
-  Moved();
 }
 
 void DisplayScreen::ShowCount(std::size_t rows) {
