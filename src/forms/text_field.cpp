@@ -27,6 +27,12 @@ void TextField::SetMarked(bool marked) {
   Changed();
 }
 
+void TextField::SetLocked(bool locked) {
+  if (locked_ == locked) return;
+  locked_ = locked;
+  Changed();
+}
+
 void TextField::SetColor(std::optional<Color> color) {
   if (color_ == color) return;
   color_ = color;
@@ -34,7 +40,7 @@ void TextField::SetColor(std::optional<Color> color) {
 }
 
 void TextField::Type(std::string_view text) {
-  if (!Reachable()) return;
+  if (!Reachable() || locked_) return;
   const std::string typed = TypedText(text, max_length_);
   const bool different = typed != text_;
   SetText(typed);

@@ -41,6 +41,10 @@ class TextField : public Control {
   void PlaceCaret(std::size_t at) { Select(at, at); }
   const TextSelection& selection() const { return selection_; }
 
+  // Can be read, marked, copied and clicked, but not changed; Tab passes it by.
+  bool locked() const { return locked_; }
+  void SetLocked(bool locked);
+
   // The row in hand is marked.
   bool marked() const { return marked_; }
   void SetMarked(bool marked);
@@ -67,6 +71,7 @@ class TextField : public Control {
   std::size_t max_length_;
   bool select_on_entry_;
   TextSelection selection_;
+  bool locked_ = false;
   bool marked_ = false;
   std::optional<Color> color_;
 };

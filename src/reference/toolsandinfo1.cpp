@@ -19,7 +19,8 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
     const forms::Hourglass hourglass(context_.window);
     context_.navigator.Show(form);
   };
-  contact_display.on_click = [show] { show(forms::form_names::kContactDisplay); };
+  contacts.on_click = [show] { show(forms::form_names::kAddbkview1); };
+  contact_display.on_click = [show] { show(forms::form_names::kAddbkdisplay); };
   planner.on_click = [show] { show(forms::form_names::kZcalandar1); };
   calendar.on_click = [show] { show(forms::form_names::kCalendar); };
   SetHelpContext(kScreenHelp);

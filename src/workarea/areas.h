@@ -23,6 +23,7 @@ enum Area : int {
   kJobDescriptions = 9,
   kDisciplinaryActions = 10,
   kEvaluations = 11,
+  kEmployeeEntry = 12,
   kEmployeeDisplay = 13,
   kSickLeave = 14,
   kVacation = 15,

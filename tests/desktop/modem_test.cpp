@@ -24,6 +24,10 @@ class FarEnd {
     EXPECT_EQ(::grantpt(line_), 0);
     EXPECT_EQ(::unlockpt(line_), 0);
     port_ = QString::fromLocal8Bit(::ptsname(line_));
+    termios plain{};  // else a closed port says again what it is told
+    EXPECT_EQ(::tcgetattr(line_, &plain), 0);
+    ::cfmakeraw(&plain);
+    EXPECT_EQ(::tcsetattr(line_, TCSANOW, &plain), 0);
   }
   ~FarEnd() { HangUp(); }
   FarEnd(const FarEnd&) = delete;

@@ -136,20 +136,21 @@ void FillInWorksheet(Traveller& person) {
   person.TakePicture("rule");
 }
 
-void LookAtPeople(Traveller& person) {
+void LookAtEmployees(Traveller& person) {
   person.Click("SSCommand4(1)");
   person.Click("SSCommand11(13)");
   person.ExpectTop("FDisplay1");
   person.TakePicture("employee-display");
   person.Click("Command1");
-  person.Click("SSCommand4(3)");
+}
+
+void LookAtContacts(Traveller& person) {
   person.Click("SSCommand11(3)");
   person.ExpectTop("ADDBKDISPLAY");
   person.Click("Option3D1(1)");
   person.TakePicture("contact-display");
   person.Click("Command1");
   person.ExpectTop("ToolsandInfo1");
-  person.Click("SSCommand4(0)");
 }
 
 void GoToPlanner(Traveller& person) {
@@ -226,6 +227,26 @@ void LookAtPrint(Traveller& person) {
   person.Click("SSCommand80(2)");
 }
 
+void KeepContact(Traveller& person) {
+  person.Click("SSCommand11(2)");
+  person.ExpectTop("ADDBKVIEW1");
+  person.Type(QStringLiteral("Acme Tools"));
+  person.TakePicture("contact-entry");
+  person.Click("Command1(5)");
+  person.Click("Command4");
+  person.Type(QStringLiteral("acme"));
+  person.Press(Qt::Key_Return);
+  person.TakePicture("contact-view");
+  person.Click("SSCommand3");
+  person.TakePicture("contact-picture");
+  person.Click("SSCommand30(1)");
+  person.ChooseFromMenu("mOW");
+  person.TakePicture("contact-worksheet");
+  person.Click("SSCommand80(2)");
+  person.Click("Command1(0)");
+  person.ExpectTop("ToolsandInfo1");
+}
+
 void MakeCalendar(Traveller& person) {
   person.Click("SSCommand11(6)");
   person.ExpectTop("Calendar");
@@ -252,7 +273,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   TrackLeave(person);
   FillInWorksheet(person);
   KeepBudget(person);
-  LookAtPeople(person);
+  LookAtEmployees(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);
@@ -261,6 +282,8 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   LookAtPrint(person);
   person.Press(Qt::Key_Escape);
   person.ExpectTop("ToolsandInfo1");
+  KeepContact(person);
+  LookAtContacts(person);
   MakeCalendar(person);
   person.Answer(
       QStringLiteral("Exit"), QMessageBox::Yes, [&] { person.Click("SSCommand4(4)"); }, "exit");

@@ -12,6 +12,7 @@
 #include "proofing/vsspell1.h"
 #include "proofing/vsthesaurus1.h"
 #include "record_book/display_screen.h"
+#include "record_book/entry_screen.h"
 #include "reference/infoadv.h"
 #include "reference/toolsandinfo1.h"
 #include "shell/about1.h"
@@ -45,8 +46,10 @@ constexpr Entry kViews[] = {
     {forms::form_names::kBudget1a, Make<budget::Budget1a>},
     {forms::form_names::kSickLeave1, Make<leave::LeaveSheet>},
     {forms::form_names::kVacation1, Make<leave::LeaveSheet>},
-    {forms::form_names::kContactDisplay, Make<record_book::DisplayScreen>},
-    {forms::form_names::kEmployeeDisplay, Make<record_book::DisplayScreen>},
+    {forms::form_names::kAddbkview1, Make<record_book::EntryScreen>},
+    {forms::form_names::kFView, Make<record_book::EntryScreen>},
+    {forms::form_names::kAddbkdisplay, Make<record_book::DisplayScreen>},
+    {forms::form_names::kFDisplay1, Make<record_book::DisplayScreen>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -83,6 +83,20 @@ QWidget* Grid(std::initializer_list<std::initializer_list<Cell>> rows, int growi
   return widget;
 }
 
+QWidget* Fields(const std::vector<LabelledField>& rows, int space) {
+  auto* widget = new QWidget;
+  auto* layout = new QGridLayout(widget);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setHorizontalSpacing(kSpace);
+  layout->setVerticalSpacing(space);
+  layout->setColumnStretch(1, 1);
+  for (int row = 0; const LabelledField& line : rows) {
+    if (line.label) layout->addWidget(line.label, row, 0);
+    layout->addWidget(line.field, row++, 1);
+  }
+  return widget;
+}
+
 QWidget* AtMost(QWidget* content, int letters) {
   content->setMaximumWidth(letters * content->fontMetrics().averageCharWidth());
   return content;

@@ -10,6 +10,7 @@
 #include <QBoxLayout>
 #include <QWidget>
 #include <initializer_list>
+#include <vector>
 
 #include "desktop/widgets/look.h"
 
@@ -51,6 +52,12 @@ QWidget* Column(std::initializer_list<Cell> cells, int space = kSpace);
 QWidget* Flow(std::initializer_list<QWidget*> widgets, int space = kSpace);
 // Rows of cells under each other; the column `growing` takes the width that is left over.
 QWidget* Grid(std::initializer_list<std::initializer_list<Cell>> rows, int growing = 0);
+// Labels, each in front of its field; a field without one stands below the field above it.
+struct LabelledField {
+  QWidget* label;  // nullptr for none
+  QWidget* field;
+};
+QWidget* Fields(const std::vector<LabelledField>& rows, int space = kTightSpace);
 // Adds to the end of a row or column.
 void Append(QWidget* row_or_column, Cell cell);
 // No wider than so many average letters of its font.

@@ -49,6 +49,7 @@ QPushButton[tool="true"] { padding: 2px 4px; min-height: 0; }
 QPushButton[tool="true"]:focus { padding: 1px 3px; }
 QLineEdit[tool="true"], QComboBox[tool="true"] { padding: 1px 4px; min-height: 1.1em; }
 QLineEdit[tool="true"]:focus, QComboBox[tool="true"]:focus { padding: 0px 3px; }
+QLineEdit:read-only { background: #F1F2F4; }
 QLineEdit[marked="true"] { background: #FFF6A0; }
 QLineEdit:disabled, QComboBox:disabled { background: #F1F2F4; border-color: #D3D8DD; }
 QComboBox:disabled { color: #5F6974; }

@@ -30,6 +30,10 @@ QWidget* Widget(forms::TextField& field) {
     edit->ShowSelection(field.selection());
     ShowColor(edit, field);
     SetMark(edit, "marked", field.marked());
+    if (edit->isReadOnly() != field.locked()) {
+      edit->setReadOnly(field.locked());
+      edit->setFocusPolicy(field.locked() ? Qt::ClickFocus : Qt::StrongFocus);
+    }
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
                    binding->Forward([&field](const QString& text) { field.Type(ToCore(text)); }));

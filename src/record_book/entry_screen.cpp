@@ -1,0 +1,239 @@
+#include "record_book/entry_screen.h"
+
+#include <algorithm>
+
+#include "forms/disk_trouble.h"
+#include "forms/navigator.h"
+#include "record_book/information_sheet.h"
+#include "record_book/record_store.h"
+#include "text/letters.h"
+
+namespace tarnwell::record_book {
+namespace {
+
+constexpr int kPictureSide = 400;  // pixels, at most
+constexpr parts::SaveWords kBeforeNext{.title = "Entry/View Screen",
+                                       .text = "Save changes made to data?",
+                                       .buttons = forms::Buttons::kYesNoCancel};
+constexpr parts::SaveWords kBeforeExit{.title = "Entry/View Screen",
+                                       .text = "Save changes made to data before exiting?",
+                                       .buttons = forms::Buttons::kYesNo};
+
+std::string WithCompany(const forms::ProgramVariables& variables, std::string_view caption) {
+  const std::string& company = variables.CompanyLine;
+  return std::string(caption) + (company.empty() ? "" : " " + company);
+}
+
+}  // namespace
+
+EntryScreen::EntryScreen(forms::Context& context, const EntryStyle& style)
+    : Form(context, style.form_name, style.entry_caption),
+      pictures(*this, context,
+               {.folder = settings::PictureFolder::kPeople, .longest_path = kLongestPicturePath}),
+      print(*this, context, {.as_of_caption = {}}),
+      colors(context, style.panel_color),
+      style_(style),
+      question_(context, [this] { return Save(); }) {
+  BuildEntries();
+  ConnectEntries();
+  ConnectCommands();
+  BuildMenus();
+  SetHelpContext(style.help);
+  for (forms::Panel* panel : {&pictures.panel, &print.panel}) panel->Cover({&screen});
+}
+
+void EntryScreen::Load() {
+  colors.Load();
+  ShowScreen(true);
+}
+
+bool EntryScreen::QueryUnload(forms::UnloadCause) {
+  return Settle(kBeforeExit) && colors.Leave(forms::Buttons::kYesNo);
+}
+
+bool EntryScreen::Settle(const parts::SaveWords& words) {
+  save_stopped_ = false;
+  return question_.Settle(words) && !save_stopped_;
+}
+
+int EntryScreen::SettleFor(int place) {
+  const NameEntry wanted = entries_[static_cast<std::size_t>(place)];
+  if (!Settle(kBeforeNext)) return -1;
+  // A save may have moved it, or be of that very entry.
+  const auto found = wanted.record == 0
+                         ? std::ranges::find(entries_, wanted.item, &NameEntry::item)
+                         : std::ranges::find(entries_, wanted.record, &NameEntry::record);
+  return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
+}
+
+void EntryScreen::ShowScreen(bool entry) {
+  const forms::Hourglass hourglass(context_.window);
+  ShowNames();
+  ClearEntries();
+  search.SetText({});
+  searched_.clear();
+  SetCaption(WithCompany(context_.variables, entry ? style_.entry_caption : style_.view_caption));
+  Enter(entry ? State::kEntry : State::kNoRecord);
+  if (entry) {
+    ControlOf(0).Focus();
+  } else {
+    search.Focus();
+  }
+}
+
+void EntryScreen::ShowNames() {
+  NameList read = ReadNames(context_.folder, *style_.book, BlankSecond::kListed);
+  entries_ = std::move(read.entries);
+  std::vector<std::string> items;
+  items.reserve(entries_.size());
+  for (const NameEntry& entry : entries_) items.emplace_back(NameIn(entry));
+  names.SetItems(std::move(items));
+  ShowCount();
+  if (read.fault != storage::Fault::kNone) {
+    forms::TellUnreadable(context_, "The list of names", read.fault);
+  }
+}
+
+void EntryScreen::ShowCount() {
+  count.SetCaption(" " + std::to_string(entries_.size()) + " - Entries ");
+}
+
+void EntryScreen::Enter(State state) {
+  state_ = state;
+  if (!has_record()) {
+    record_ = 0;
+    place_ = -1;
+  }
+  list_panel.SetVisible(!is_entry());
+  print_file.SetVisible(!is_entry());
+  remove.SetVisible(!is_entry());
+  mode.SetCaption(is_entry() ? "&View Screen" : "E&ntry Screen");
+  change.SetCaption(is_entry() ? "&Clear Current Data" : "&Make Modifications");
+  save.SetCaption(is_entry() ? "&Save && New Screen" : "&Save Modifications");
+  for (forms::MenuItem* item : of_entry_) item->SetVisible(is_entry());
+  for (forms::MenuItem* item : of_view_) item->SetVisible(!is_entry());
+  const bool is_locked = state_ == State::kNoRecord || state_ == State::kShown;
+  for (auto& field : fields) field->SetLocked(is_locked);
+  comments->SetLocked(is_locked);
+  EnableCommands();
+}
+
+void EntryScreen::EnableCommands() {
+  const bool has_changes = question_.unsaved();
+  save.SetEnabled(has_changes);
+  change.SetEnabled(is_entry() ? has_changes : state_ == State::kShown);
+  print_file.SetEnabled(has_record());
+  remove.SetEnabled(has_record());
+  link.SetEnabled(has_record() || (is_entry() && has_changes));
+  copy_entry_->SetEnabled(has_record() || (is_entry() && has_changes));
+  print_picture.SetVisible(has_record());
+  large.SetEnabled(!picture_path_.empty());
+  small.SetEnabled(!picture_path_.empty());
+}
+
+void EntryScreen::ClearEntries() {
+  for (int entry = 0; entry <= last_entry(); ++entry) SetTextOf(entry, {});
+  large.SetChecked(false);
+  small.SetChecked(false);
+  question_.SetUnsaved(false);
+  ShowPicture({});
+  SetStatus({});
+}
+
+void EntryScreen::ShowPicture(const std::string& path) {
+  picture_path_ = path;
+  const parts::ShownPicture shown = parts::LoadShown(context_, path, kPictureSide, kPictureSide);
+  picture.SetContent(shown.picture.png);
+  picture_note.SetCaption(path.empty() ? "No picture" : shown.note);
+}
+
+void EntryScreen::SwitchMode() {
+  if (!Settle(kBeforeNext)) return;
+  if (!is_entry()) return ShowScreen(true);
+  ShowScreen(false);
+  if (!entries_.empty()) return;
+  Message({"View Data", "There are currently no files to view,\nuse entry screen to input data."});
+  ShowScreen(true);
+}
+
+// When the change is to stay, the list shows again the name that it is of.
+void EntryScreen::PickName() {
+  const int picked = names.selected();
+  if (picked == forms::ListBox::kNone || picked == place_) return;
+  const int place = SettleFor(picked);
+  if (place < 0) return names.Select(place_);
+  if (has_record()) {
+    ClearEntries();
+    Enter(State::kNoRecord);
+  }
+  names.Select(place);
+  searched_ = names.text();
+  search.SetText(searched_);
+}
+
+void EntryScreen::SearchAsTyped() {
+  searched_ = search.text();
+  names.Select(searched_.empty() ? forms::ListBox::kNone : FindName(entries_, searched_));
+}
+
+void EntryScreen::View() {
+  const std::string sought = search.text();
+  if (sought.empty() || sought == "Select File Below") {
+    Message({"View Command", "Name must first be selected to view"});
+    return search.Focus();
+  }
+  const bool is_picked = names.selected() != forms::ListBox::kNone && sought == searched_;
+  const int found = is_picked ? names.selected() : FindName(entries_, sought);
+  if (found < 0) {
+    Message({"File Search", "No matching file was found!", forms::Icon::kCritical});
+    return;
+  }
+  const int place = SettleFor(found);
+  if (place < 0) return;
+  names.Select(place);
+  searched_ = names.text();
+  Read(place);
+}
+
+void EntryScreen::Read(int place) {
+  const forms::Hourglass hourglass(context_.window);
+  ClearEntries();
+  Enter(State::kNoRecord);
+  const int record = entries_[static_cast<std::size_t>(place)].record;
+  if (record == 0) return;
+  storage::Fault fault = storage::Fault::kNone;
+  const auto read = ReadRecord(context_.folder, *style_.book, record, &fault);
+  if (!read) return forms::TellUnreadable(context_, "This entry", fault);
+  for (int entry = 0; entry <= last_entry(); ++entry) {
+    SetTextOf(entry, read->entries[static_cast<std::size_t>(entry)]);
+  }
+  ShowPicture(read->picture);
+  record_ = record;
+  place_ = place;
+  Enter(State::kShown);
+}
+
+void EntryScreen::ChangeOrClear() {
+  if (is_entry()) return ClearAll();
+  Enter(State::kModifying);
+  ControlOf(0).Focus();
+}
+
+void EntryScreen::ClearAll() {
+  if (!HasContent()) return;
+  if (!Confirmed({"Clear Current Data", "Do you really want to clear currently displayed data?",
+                  forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2})) {
+    return;
+  }
+  ClearEntries();
+  Enter(State::kEntry);
+  ControlOf(0).Focus();
+}
+
+void EntryScreen::TakePicture(const std::string& path) {
+  ShowPicture(path);
+  question_.SetUnsaved(true);
+  EnableCommands();
+}
+
+}  // namespace tarnwell::record_book
