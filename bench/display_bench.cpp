@@ -198,7 +198,7 @@ int Run(const std::string& parent) {
   WritePeople(disk.path(), employees::EmployeeBook());
   storage::ProgramFolder folder(storage::RealFileSystem(), disk.path());
   desktop::Desktop desktop({QString::fromStdString(disk.path()), QString()});
-  desktop.navigator().Show(forms::form_names::kAddbkdisplay);
+  desktop.navigator().Show(forms::form_names::kContactDisplay);
   auto& form = static_cast<record_book::DisplayScreen&>(*desktop.navigator().top());
   bool is_good = MeasureReading(folder);
   is_good &= MeasureScreen(form);

@@ -32,7 +32,7 @@ constexpr DisplayOption kOptions[] = {
 
 ADDBKDISPLAY::ADDBKDISPLAY(forms::Context& context)
     : DisplayScreen(context,
-                    {.form_name = forms::form_names::kAddbkdisplay,
+                    {.form_name = forms::form_names::kContactDisplay,
                      .caption = "Tools and Program Information - Business Contacts Display",
                      .book = {ContactBook(), kOptions, kTelephone, false},
                      .grid_name = "Business contacts",

@@ -47,7 +47,7 @@ constexpr record_book::WorksheetHead kWorksheetHeads[] = {{"Company Information"
 
 record_book::EntryStyle Style() {
   return {
-      .form_name = forms::form_names::kAddbkview1,
+      .form_name = forms::form_names::kContactEntry,
       .book = &ContactBook(),
       .entry_caption = "Tools and Program Informaiton - Business Contacts Data Entry Screen",
       .view_caption = "Tools and Program Informaiton - Business Contacts Data View Screen",

@@ -27,7 +27,7 @@ constexpr DisplayOption kOptions[] = {
 }  // namespace
 
 FDisplay1::FDisplay1(forms::Context& context)
-    : DisplayScreen(context, {.form_name = forms::form_names::kFDisplay1,
+    : DisplayScreen(context, {.form_name = forms::form_names::kEmployeeDisplay,
                               .caption = "Employee Data - Employee Data Display",
                               .book = {EmployeeBook(), kOptions, kTelephone, true},
                               .grid_name = "Employees",

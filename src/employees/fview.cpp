@@ -28,7 +28,7 @@ constexpr int kEmails[] = {10};
 
 record_book::EntryStyle Style() {
   return {
-      .form_name = forms::form_names::kFView,
+      .form_name = forms::form_names::kEmployeeEntry,
       .book = &EmployeeBook(),
       .entry_caption = "Employee Data - Employee Data Entry Screen",
       .view_caption = "Employee Data - Employee Data View Screen",

@@ -15,10 +15,10 @@ inline constexpr const char* kCalendar = "Calendar";
 inline constexpr const char* kBudget1a = "Budget1a";
 inline constexpr const char* kSickLeave1 = "SICKLEAVE1";
 inline constexpr const char* kVacation1 = "Vacation1";
-inline constexpr const char* kAddbkview1 = "ADDBKVIEW1";
-inline constexpr const char* kFView = "FView";
-inline constexpr const char* kAddbkdisplay = "ADDBKDISPLAY";
-inline constexpr const char* kFDisplay1 = "FDisplay1";
+inline constexpr const char* kContactEntry = "ADDBKVIEW1";
+inline constexpr const char* kEmployeeEntry = "FView";
+inline constexpr const char* kContactDisplay = "ADDBKDISPLAY";
+inline constexpr const char* kEmployeeDisplay = "FDisplay1";
 inline constexpr const char* kVSSpell1 = "VSSpell1";
 inline constexpr const char* kVSThesaurus1 = "VSThesaurus1";
 

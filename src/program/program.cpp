@@ -39,10 +39,10 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kBudget1a, Make<budget::Budget1a>);
   navigator.Register(kSickLeave1, Make<leave::SICKLEAVE1>);
   navigator.Register(kVacation1, Make<leave::Vacation1>);
-  navigator.Register(kAddbkview1, Make<contacts::ADDBKVIEW1>);
-  navigator.Register(kFView, Make<employees::FView>);
-  navigator.Register(kAddbkdisplay, Make<contacts::ADDBKDISPLAY>);
-  navigator.Register(kFDisplay1, Make<employees::FDisplay1>);
+  navigator.Register(kContactEntry, Make<contacts::ADDBKVIEW1>);
+  navigator.Register(kEmployeeEntry, Make<employees::FView>);
+  navigator.Register(kContactDisplay, Make<contacts::ADDBKDISPLAY>);
+  navigator.Register(kEmployeeDisplay, Make<employees::FDisplay1>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }

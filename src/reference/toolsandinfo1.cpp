@@ -19,8 +19,8 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
     const forms::Hourglass hourglass(context_.window);
     context_.navigator.Show(form);
   };
-  contacts.on_click = [show] { show(forms::form_names::kAddbkview1); };
-  contact_display.on_click = [show] { show(forms::form_names::kAddbkdisplay); };
+  contacts.on_click = [show] { show(forms::form_names::kContactEntry); };
+  contact_display.on_click = [show] { show(forms::form_names::kContactDisplay); };
   planner.on_click = [show] { show(forms::form_names::kZcalandar1); };
   calendar.on_click = [show] { show(forms::form_names::kCalendar); };
   SetHelpContext(kScreenHelp);

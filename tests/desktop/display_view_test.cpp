@@ -26,7 +26,7 @@ TEST(DisplayView, ANewListIsSeenFromItsFirstRowAndWithoutACellInHand) {
     ASSERT_TRUE(record_book::WriteNew(folder, contacts::ContactBook(), record, person));
   }
   Desktop desktop({QString::fromStdString(disk.path()), {}});
-  desktop.navigator().Show(forms::form_names::kAddbkdisplay);
+  desktop.navigator().Show(forms::form_names::kContactDisplay);
   auto& form = static_cast<contacts::ADDBKDISPLAY&>(*desktop.navigator().top());
   desktop.window().show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&desktop.window()));

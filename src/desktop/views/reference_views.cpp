@@ -13,7 +13,7 @@ QWidget* View(reference::InfoAdv& form, PictureStore&) {
 
 QWidget* View(reference::ToolsandInfo1& form, PictureStore&) {
   QWidget* side = Widget(form.side, Column({WithIcon("people", Widget(form.contacts)),
-                                            WithIcon("people", Widget(form.contact_display)),
+                                            WithIcon("table", Widget(form.contact_display)),
                                             WithIcon("planner", Widget(form.planner)),
                                             WithIcon("month", Widget(form.calendar)), Spring()}));
   return MainScreenView(form.main_buttons,

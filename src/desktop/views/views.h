@@ -25,7 +25,7 @@ class LeaveSheet;
 namespace tarnwell::record_book {
 class DisplayScreen;
 class EntryScreen;
-}
+}  // namespace tarnwell::record_book
 namespace tarnwell::planner {
 class Calendar;
 class Zcalandar1;
@@ -49,8 +49,8 @@ QWidget* View(planner::Zcalandar1& form, PictureStore& pictures);
 QWidget* View(planner::Calendar& form, PictureStore& pictures);
 QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
-QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
 QWidget* View(record_book::EntryScreen& form, PictureStore& pictures);
+QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 
