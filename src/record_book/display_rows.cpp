@@ -3,6 +3,8 @@
 #include <cstddef>
 
 #include "record_book/record_store.h"
+#include "text/date_mask.h"
+#include "text/date_reading.h"
 #include "text/letters.h"
 
 namespace tarnwell::record_book {
@@ -63,6 +65,11 @@ bool IsSought(const DisplayBook& book, std::string_view first_entry, std::string
   };
   const std::string name = taken(first_entry) + ", " + taken(second_entry);
   return text::UpperCase(name).find(text::UpperCase(taken(text))) != std::string::npos;
+}
+
+std::string DateKey(const std::string& text) {
+  const auto date = text::ReadDate(text);
+  return date ? text::FormatDate(*date, "yyyymmdd") : text.empty() ? text : "~" + text;
 }
 
 // The records are read once, in the order of the file. Two names may lead to one record.

@@ -5,6 +5,7 @@
 #include "forms/disk_trouble.h"
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
+#include "parts/sheet_rows.h"
 #include "text/letters.h"
 
 namespace tarnwell::record_book {
@@ -240,10 +241,10 @@ void DisplayScreen::Moved() {
 }
 
 void DisplayScreen::Sort(int column) {
-  const auto& mark = grid.sort_mark();
-  const bool descending = mark && mark->column == column && !mark->descending;
+  const bool by_days = column == kValue && Option().is_date;
   std::vector<std::string> sorted;
-  for (const int old : grid.Sort(column, descending)) {
+  for (const int old :
+       parts::SortSheet(grid, column, by_days ? forms::GridSortKey(DateKey) : nullptr)) {
     sorted.push_back(std::move(telephones_[static_cast<std::size_t>(old - 1)]));
   }
   telephones_ = std::move(sorted);
