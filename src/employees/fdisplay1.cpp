@@ -14,14 +14,14 @@ constexpr int kTelephone = 7;
 constexpr DisplayOption kOptions[] = {
     {.caption = "Address", .entry = 2, .is_address = true},
     {"Telephone", kTelephone, CellUse::kDial},
-    {"Anniversary", 9},
-    {"Birthdate", 8},
+    {.caption = "Anniversary", .entry = 9, .is_date = true},
+    {.caption = "Birthdate", .entry = 8, .is_date = true},
     {"Email Address", 10, CellUse::kWriteMail},
     {"Other", 15},
     {"Job Title", 12},
     {"Company Position", 11},
-    {"Date Ended", 14},
-    {"Date Of Hiring", 13},
+    {.caption = "Date Ended", .entry = 14, .is_date = true},
+    {.caption = "Date Of Hiring", .entry = 13, .is_date = true},
 };
 
 }  // namespace

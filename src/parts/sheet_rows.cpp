@@ -64,11 +64,12 @@ void ClearSheet(forms::Grid& grid) {
   NumberRows(grid);
 }
 
-void SortSheet(forms::Grid& grid, int column, const forms::GridSortKey& key) {
+std::vector<int> SortSheet(forms::Grid& grid, int column, const forms::GridSortKey& key) {
   const auto mark = grid.sort_mark();
   const bool descending = mark && mark->column == column && !mark->descending;
-  grid.Sort(column, descending, key);
+  std::vector<int> order = grid.Sort(column, descending, key);
   NumberRows(grid);
+  return order;
 }
 
 }  // namespace tarnwell::parts

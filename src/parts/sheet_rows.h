@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <vector>
+
 #include "forms/grid.h"
 
 namespace tarnwell::parts {
@@ -23,7 +25,7 @@ void DeleteSheetRow(forms::Grid& grid, int row);
 // Empties all cells but the rows' numbers.
 void ClearSheet(forms::Grid& grid);
 // By that column: upwards, or downwards where it was sorted upwards last. Blank cells come last
-// either way.
-void SortSheet(forms::Grid& grid, int column, const forms::GridSortKey& key = {});
+// either way. Gives the old place of each row, for the first row first.
+std::vector<int> SortSheet(forms::Grid& grid, int column, const forms::GridSortKey& key = {});
 
 }  // namespace tarnwell::parts

@@ -17,9 +17,9 @@ std::string_view StoredEntry(const BookLayout& layout, std::string_view bytes, i
   for (const StoredField& field : layout.fields) {
     if (begin >= bytes.size()) break;
     if (field.content == entry) {
-      const std::string_view text = bytes.substr(begin, field.width);
-      const std::size_t last = text.find_last_not_of(std::string_view(" \0", 2));
-      return text.substr(0, last == text.npos ? 0 : last + 1);
+      std::string_view text = bytes.substr(begin, field.width);
+      while (!text.empty() && (text.back() == ' ' || text.back() == '\0')) text.remove_suffix(1);
+      return text;
     }
     begin += field.width;
   }

@@ -18,6 +18,7 @@ struct DisplayOption {
   CellUse use = CellUse::kNone;
   std::string_view heading = {};  // of its column; empty: the caption
   bool is_address = false;        // the four entries behind it belong to it
+  bool is_date = false;           // as it was typed; sorted by its days where it is a date
 };
 
 inline std::string_view HeadingOf(const DisplayOption& option) {

@@ -1,8 +1,11 @@
 #include "record_book/display_rows.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "record_book/record_store.h"
+#include "text/date_mask.h"
+#include "text/date_reading.h"
 #include "text/letters.h"
 
 namespace tarnwell::record_book {
@@ -33,6 +36,7 @@ class RowReader {
     if (value.empty() || IsDeleted(bytes)) return std::nullopt;
     if (sought_ && !IsSought(book_, entry(0), entry(1), *sought_)) return std::nullopt;
     DisplayRow row{DisplayName(entry(0), entry(1)), {}, std::string(entry(book_.telephone))};
+    row.values.reserve(option_.is_address ? 3 : 1);
     row.values.emplace_back(value);
     if (option_.is_address) {
       const int next = option_.entry + 1;
@@ -65,6 +69,11 @@ bool IsSought(const DisplayBook& book, std::string_view first_entry, std::string
   return text::UpperCase(name).find(text::UpperCase(taken(text))) != std::string::npos;
 }
 
+std::string DateKey(const std::string& text) {
+  const auto date = text::ReadDate(text);
+  return date ? text::FormatDate(*date, "yyyymmdd") : text.empty() ? text : "~" + text;
+}
+
 // The records are read once, in the order of the file. Two names may lead to one record.
 DisplayRows ReadDisplay(storage::ProgramFolder& folder, const DisplayBook& book,
                         const DisplayOption& option, const std::vector<NameEntry>& names,
@@ -73,6 +82,7 @@ DisplayRows ReadDisplay(storage::ProgramFolder& folder, const DisplayBook& book,
   for (const NameEntry& name : names) is_named[static_cast<std::size_t>(name.record)] = true;
   std::vector<std::size_t> place_of(kOverflowRecord + 1, kNone);
   std::vector<DisplayRow> found;
+  found.reserve(names.size());
   const RowReader reader(book, option, sought);
   const auto read = ForEachRecord(folder, book.layout, [&](int record, std::string_view bytes) {
     if (record > kOverflowRecord) return false;
@@ -86,9 +96,14 @@ DisplayRows ReadDisplay(storage::ProgramFolder& folder, const DisplayBook& book,
   });
   if (!read) return {{}, read.fault()};
   DisplayRows shown;
+  shown.rows.reserve(found.size());
+  std::vector<std::size_t> shown_at(found.size(), kNone);
   for (const NameEntry& name : names) {
     const std::size_t place = place_of[static_cast<std::size_t>(name.record)];
-    if (place != kNone) shown.rows.push_back(found[place]);
+    if (place == kNone) continue;
+    const std::size_t before = std::exchange(shown_at[place], shown.rows.size());
+    shown.rows.push_back(before == kNone ? std::move(found[place])
+                                         : DisplayRow(shown.rows[before]));
   }
   return shown;
 }

@@ -32,6 +32,9 @@ std::string DisplayName(std::string_view first_entry, std::string_view second_en
 bool IsSought(const DisplayBook& book, std::string_view first_entry, std::string_view second_entry,
               std::string_view text);
 
+// What a text counts as where dates are sorted: the days of dates in their order, then the rest.
+std::string DateKey(const std::string& text);
+
 // In the order of the names. With `sought` only those whose name holds it.
 DisplayRows ReadDisplay(storage::ProgramFolder& folder, const DisplayBook& book,
                         const DisplayOption& option, const std::vector<NameEntry>& names,

@@ -5,6 +5,7 @@
 #include "forms/disk_trouble.h"
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
+#include "parts/sheet_rows.h"
 #include "text/letters.h"
 
 namespace tarnwell::record_book {
@@ -148,6 +149,9 @@ void DisplayScreen::Fill() {
     ShowColumns(option);
     ShowRows(read.rows);
   }
+  grid.SetCurrent({1, kName});  // into sight, wherever the rows before were scrolled to
+  grid.SetCurrent({});
+  Moved();
   complete_report.SetEnabled(!names_.entries.empty());
   const storage::Fault fault = names_.fault != storage::Fault::kNone ? names_.fault : read.fault;
   if (fault == storage::Fault::kNone) return ShowCount(read.rows.size());
@@ -171,7 +175,6 @@ void DisplayScreen::ShowColumns(const DisplayOption& option) {
 void DisplayScreen::ShowRows(const std::vector<DisplayRow>& rows) {
   grid.SetRows(1);
   grid.SetSortMark(std::nullopt);
-  grid.SetCurrent({});
   const std::size_t count_of_rows = std::max<std::size_t>(rows.size(), kLeastRows);
   grid.SetRows(static_cast<int>(count_of_rows) + 1);
   telephones_.assign(count_of_rows, {});
@@ -182,7 +185,6 @@ void DisplayScreen::ShowRows(const std::vector<DisplayRow>& rows) {
     for (const std::string& value : rows[i].values) grid.SetText(row, column++, value);
     telephones_[i] = rows[i].telephone;
   }
-  Moved();
 }
 
 void DisplayScreen::ShowCount(std::size_t rows) {
@@ -239,10 +241,10 @@ void DisplayScreen::Moved() {
 }
 
 void DisplayScreen::Sort(int column) {
-  const auto& mark = grid.sort_mark();
-  const bool descending = mark && mark->column == column && !mark->descending;
+  const bool by_days = column == kValue && Option().is_date;
   std::vector<std::string> sorted;
-  for (const int old : grid.Sort(column, descending)) {
+  for (const int old :
+       parts::SortSheet(grid, column, by_days ? forms::GridSortKey(DateKey) : nullptr)) {
     sorted.push_back(std::move(telephones_[static_cast<std::size_t>(old - 1)]));
   }
   telephones_ = std::move(sorted);

@@ -1,6 +1,8 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sched.h>
 #include <stdlib.h>
+#include <sys/ioctl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -24,6 +26,10 @@ class FarEnd {
     EXPECT_EQ(::grantpt(line_), 0);
     EXPECT_EQ(::unlockpt(line_), 0);
     port_ = QString::fromLocal8Bit(::ptsname(line_));
+    termios plain{};  // else a closed port says again what it is told
+    EXPECT_EQ(::tcgetattr(line_, &plain), 0);
+    ::cfmakeraw(&plain);
+    EXPECT_EQ(::tcsetattr(line_, TCSANOW, &plain), 0);
   }
   ~FarEnd() { HangUp(); }
   FarEnd(const FarEnd&) = delete;
@@ -170,8 +176,13 @@ TEST(QtModem, ALineThatTakesNothingHoldsNobodyUp) {
 TEST(QtModem, ReceivesNothingThatCameBeforeTheNumberWasSent) {
   FarEnd far;
   QtModem modem([&] { return QStringList{far.port()}; });
+  const int near = ::open(far.port().toLocal8Bit().constData(), O_RDONLY | O_NOCTTY | O_NONBLOCK);
   ASSERT_TRUE(modem.Open(1));
   far.Say("OK");
+  // Until it has come through; nothing reads it meanwhile.
+  for (int waiting = 0; waiting < 2; ::sched_yield())
+    ASSERT_EQ(::ioctl(near, FIONREAD, &waiting), 0);
+  ::close(near);
   modem.ClearInput();
   far.Say("BUSY");
   std::string received;

@@ -87,6 +87,18 @@ TEST_F(DisplayScreenTest, AnEmployeesOptionsNameTheirFields) {
   EXPECT_EQ(form().links.pictures.size(), 2u);
 }
 
+TEST_F(DisplayScreenTest, DatesAreSortedByTheirDays) {
+  const char* dates[] = {"12/31/1999", "someday", "Mar 9, 2026", "2/1/2000"};
+  int record = 2;
+  for (const char* date : dates) AddEmployee(record++, {{0, "Lee"}, {8, date}});
+  Open("FDisplay1");
+  Pick("Birthdate");
+  grid().ClickHeading(1);
+  std::vector<std::string> sorted;
+  for (const auto& row : Rows()) sorted.push_back(row[1]);
+  EXPECT_THAT(sorted, ElementsAre("12/31/1999", "2/1/2000", "Mar 9, 2026", "someday"));
+}
+
 TEST_F(DisplayScreenTest, ASearchLooksAtTheNameOnly) {
   AddSome();
   Open();

@@ -164,20 +164,21 @@ void FillInWorksheet(Traveller& person) {
   person.TakePicture("rule");
 }
 
-void LookAtPeople(Traveller& person) {
+void LookAtEmployees(Traveller& person) {
   person.Click("SSCommand4(1)");
   person.Click("SSCommand11(13)");
   person.ExpectTop("FDisplay1");
   person.TakePicture("employee-display");
   person.Click("Command1");
-  person.Click("SSCommand4(3)");
+}
+
+void LookAtContacts(Traveller& person) {
   person.Click("SSCommand11(3)");
   person.ExpectTop("ADDBKDISPLAY");
   person.Click("Option3D1(1)");
   person.TakePicture("contact-display");
   person.Click("Command1");
   person.ExpectTop("ToolsandInfo1");
-  person.Click("SSCommand4(0)");
 }
 
 void GoToPlanner(Traveller& person) {
@@ -300,7 +301,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   TrackLeave(person);
   FillInWorksheet(person);
   KeepBudget(person);
-  LookAtPeople(person);
+  LookAtEmployees(person);
   KeepVehicle(person);
   GoToPlanner(person);
   WriteAppointment(person);
@@ -311,6 +312,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   person.Press(Qt::Key_Escape);
   person.ExpectTop("ToolsandInfo1");
   KeepContact(person);
+  LookAtContacts(person);
   MakeCalendar(person);
   person.Answer(
       QStringLiteral("Exit"), QMessageBox::Yes, [&] { person.Click("SSCommand4(4)"); }, "exit");

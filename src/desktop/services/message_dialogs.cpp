@@ -72,6 +72,8 @@ class Box : public QMessageBox {
   bool stays_;
 };
 
+constexpr int kLongestLine = 80;  // letters
+
 // A prompt, and below it one line to type in.
 class LineBox : public QDialog {
  public:
@@ -81,6 +83,11 @@ class LineBox : public QDialog {
     auto* prompt = new QLabel(FromCore(box.prompt));
     prompt->setTextFormat(Qt::PlainText);
     prompt->setBuddy(line_);
+    const int most = kLongestLine * prompt->fontMetrics().averageCharWidth();
+    if (prompt->sizeHint().width() > most) {
+      prompt->setWordWrap(true);
+      prompt->setMinimumWidth(most);
+    }
     // What stands there at first may be longer than what can be typed.
     line_->setMaxLength(static_cast<int>(std::max(box.max_length, box.text.size())));
     line_->setText(FromCore(box.text));
@@ -110,7 +117,6 @@ class LineBox : public QDialog {
 void Widen(QMessageBox& window) {
   constexpr int kTitleButtons = 180;  // pixels, and the icon in the title
   constexpr int kIconAndEdges = 110;
-  constexpr int kLongestLine = 80;  // letters
   auto* grid = qobject_cast<QGridLayout*>(window.layout());
   if (!grid) return;
   window.ensurePolished();
