@@ -7,7 +7,7 @@
 
 namespace tarnwell::desktop {
 
-Desktop::Desktop(const Folders& folders)
+Desktop::Desktop(const Folders& folders, const Outside& outside)
     : folder_(storage::RealFileSystem(), folders.user.toStdString(),
               folders.supplied.toStdString()),
       help_(folders.supplied.isEmpty() ? QString() : folders.supplied + QStringLiteral("/help")),
@@ -18,6 +18,8 @@ Desktop::Desktop(const Folders& folders)
       folders_(folders.user),
       speller_(DictionaryFolders(folders)),
       thesaurus_(ThesaurusFolders(folders), speller_),
+      modem_(outside.ports),
+      launcher_(outside.open),
       window_([this](forms::Form& form) { return LookOf(form, picture_store_); }, help_),
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
                 pictures_, speller_, thesaurus_, modem_, launcher_}) {

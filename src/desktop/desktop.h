@@ -22,9 +22,19 @@
 
 namespace tarnwell::desktop {
 
+// What lies outside the machine's own files: a tool that presses anything at random lends none.
+struct Outside {
+  QtModem::Ports ports = QtModem::PortsOfMachine;
+  QtLauncher::Opener open = QtLauncher::OpenWithSystem;
+
+  static Outside None() {
+    return {[] { return QStringList(); }, [](const QUrl&) { return false; }};
+  }
+};
+
 class Desktop {
  public:
-  explicit Desktop(const Folders& folders);
+  explicit Desktop(const Folders& folders, const Outside& outside = {});
 
   // Shows the splash and the start screen. The program may have ended when it comes back.
   void Start();

@@ -69,6 +69,9 @@ void PicturePanel::ShowPreview() {
     why = "This picture's path is too long to be kept: " + std::to_string(path.size()) +
           " characters, where there is room for " + std::to_string(style_.longest_path) + ".";
   }
+  if (!style_.keeps_quotes && path.find('"') != std::string::npos) {
+    why = "This picture's path has a quote in it and can't be kept.";
+  }
   preview.SetContent(shown.picture.png);
   note.SetCaption(why);
   enter.SetEnabled(!path.empty() && why.empty());

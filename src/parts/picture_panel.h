@@ -19,6 +19,7 @@ struct PicturePanelStyle {
   std::string_view caption = "Select Individual Picture";
   settings::PictureFolder folder{};  // where the panel opens without a picture
   std::size_t longest_path = 0;      // characters that the screen's file keeps
+  bool keeps_quotes = true;          // else its file ends a text at one
 };
 
 class PicturePanel {

@@ -68,11 +68,13 @@ void AutoMaint::Connect() {
 
 void AutoMaint::ConnectPanes() {
   information.on_leave = [this] { Recompute(); };
-  information.choose_picture.on_click = [this] { picture_choice.Open(); };
-  picture_choice.on_use = [this](const std::string& path) {
+  information.choose_picture.on_click = [this] { picture_choice.Open(information.picture_path()); };
+  const auto take = [this](const std::string& path) {
     information.ShowPicture(path);
     Changed();
   };
+  picture_choice.on_take = take;
+  picture_choice.on_remove = [take] { take({}); };
   history.on_remove = [this](HistoryKind kind, const HistoryEntry& removed) {
     return RemoveHistory(kind, removed);
   };

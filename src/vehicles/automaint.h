@@ -10,13 +10,13 @@
 #include "forms/panel.h"
 #include "forms/progress_bar.h"
 #include "parts/color_choice.h"
+#include "parts/picture_panel.h"
 #include "parts/save_question.h"
 #include "vehicles/calculator_panel.h"
 #include "vehicles/fuel_pane.h"
 #include "vehicles/history_pane.h"
 #include "vehicles/information_pane.h"
 #include "vehicles/maintenance_pane.h"
-#include "vehicles/picture_panel.h"
 #include "vehicles/repairs_pane.h"
 #include "vehicles/vehicle_print.h"
 #include "vehicles/vehicle_slots.h"
@@ -57,7 +57,12 @@ class AutoMaint : public forms::Form {
   forms::Command print_options{sheet, "Command9", "&Print Options"};
   forms::Command exit{sheet, "Command1", "E&xit", {.cancel = true}};
   CalculatorPanel calculator{*this, tracker_};
-  PicturePanel picture_choice{*this, context_};
+  parts::PicturePanel picture_choice{*this,
+                                     context_,
+                                     {.caption = "Select the Picture of the Vehicle",
+                                      .folder = settings::PictureFolder::kVehicles,
+                                      .longest_path = 255,
+                                      .keeps_quotes = false}};
   forms::Panel searching{*this, "SSPanel9", "Searching Files..."};
   forms::ProgressBar progress{searching, "ProgressBar1", "Vehicles searched"};
   VehiclePrint print{*this, tracker_};

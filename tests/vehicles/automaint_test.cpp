@@ -552,10 +552,10 @@ TEST_F(AutoMaintTest, ThePictureIsTakenFromAnywhereOnTheMachine) {
   rig.pictures.at["/home/ann/Tarnwell/van.jpg"] = {std::make_shared<const std::string>("png")};
   form().view_information.Click();
   form().information.choose_picture.Click();
-  EXPECT_FALSE(form().picture_choice.use.enabled());
+  EXPECT_FALSE(form().picture_choice.enter.enabled());
   EXPECT_THAT(form().picture_choice.chooser.files.items(), ElementsAre("van.jpg"));
   form().picture_choice.chooser.files.Pick(0);
-  form().picture_choice.use.Click();
+  form().picture_choice.enter.Click();
   EXPECT_TRUE(form().information.picture.content());
   form().save.Click();
   EXPECT_THAT(File("ACar1.Fil"), EndsWith("\"/home/ann/Tarnwell/van.jpg\"\r\n"));

@@ -339,7 +339,7 @@ QStringList TravelJourney(const JourneyPlan& plan) {
   Traveller person(plan.pictures);
   QStringList left_running;
   for (auto* day : {FirstDay, SecondDay}) {
-    desktop::Desktop desktop(plan.folders);
+    desktop::Desktop desktop(plan.folders, desktop::Outside::None());
     day(person, desktop);
     if (!desktop.ended()) left_running << QStringLiteral("the program is still running");
   }

@@ -60,7 +60,7 @@ WalkReport Walker::Walk() {
 
 // One run of the program, to its end or to the end of the walk.
 void Walker::Run() {
-  desktop::Desktop desktop(plan_.folders);
+  desktop::Desktop desktop(plan_.folders, desktop::Outside::None());
   desktop_ = &desktop;
   leaving_ = false;
   // The splash screen waits a while; once is enough to walk over it.

@@ -1,6 +1,6 @@
 #include <QGridLayout>
 
-#include "desktop/views/folder_chooser_view.h"
+#include "desktop/views/picture_panel_view.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/views.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -15,7 +15,6 @@ constexpr int kLettersOfHead = 150;
 constexpr int kLettersOfPanel = 120;
 constexpr int kLettersOfCalculator = 90;
 constexpr QSize kPictureSize(160, 100);
-constexpr QSize kPreviewSize(240, 140);
 
 QWidget* Head(vehicles::AutoMaint& form) {
   vehicles::InformationPane& information = form.information;
@@ -107,12 +106,6 @@ QWidget* Calculator(vehicles::CalculatorPanel& panel) {
            Row({Spring(), Widget(panel.close)})})));
 }
 
-QWidget* PictureChoice(vehicles::PicturePanel& panel, PictureStore& pictures) {
-  return Widget(panel.panel, Column({Widget(panel.title), Grow(FolderChooserView(panel.chooser)),
-                                     AtLeast(kPreviewSize, Widget(panel.preview, pictures)),
-                                     Row({Widget(panel.use), Spring(), Widget(panel.close)})}));
-}
-
 QWidget* Print(vehicles::VehiclePrint& print, PictureStore& pictures) {
   return PrintView(
       print.panel, pictures,
@@ -146,13 +139,14 @@ QWidget* Sheet(vehicles::AutoMaint& form, PictureStore& pictures) {
 }  // namespace
 
 QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures) {
-  return Padded(Column({Grow(Sheet(form, pictures)),
-                        AtTop(AtMost(Calculator(form.calculator), kLettersOfCalculator)),
-                        Grow(AtMost(PictureChoice(form.picture_choice, pictures), kLettersOfPanel)),
-                        AtTop(Widget(form.searching, Widget(form.progress))),
-                        Grow(Print(form.print, pictures))},
-                       0),
-                kSpace);
+  return Padded(
+      Column(
+          {Grow(Sheet(form, pictures)),
+           AtTop(AtMost(Calculator(form.calculator), kLettersOfCalculator)),
+           Grow(AtMost(PicturePanelView(form.picture_choice, pictures), kLettersOfPanel)),
+           AtTop(Widget(form.searching, Widget(form.progress))), Grow(Print(form.print, pictures))},
+          0),
+      kSpace);
 }
 
 }  // namespace tarnwell::desktop
