@@ -28,10 +28,10 @@ class PicturePanel {
 
   forms::Panel panel;
   FolderChooser chooser;
-  forms::Label preview_heading{panel, "Label30", "Picture Preview:"};
+  forms::Label preview_heading{panel, "Label130", "Picture Preview:"};
   forms::Picture preview{panel, "Image30", {}};
   // In the preview's place, where there is none.
-  forms::Label note{panel, "Label31", {}, forms::LabelRole::kNote};
+  forms::Label note{panel, "Label131", {}, forms::LabelRole::kNote};
   forms::Command enter{panel, "SSCommand30(0)", "&Enter Picture Into Program"};
   forms::Command leave{panel, "SSCommand30(1)", "E&xit Without Entering Picture", {.cancel = true}};
   forms::Command remove{panel, "SSCommand30(2)", "Exit an &Delete Current Picture"};

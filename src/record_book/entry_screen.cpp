@@ -11,7 +11,6 @@
 namespace tarnwell::record_book {
 namespace {
 
-constexpr int kPictureSide = 400;  // pixels, at most
 constexpr parts::SaveWords kBeforeNext{.title = "Entry/View Screen",
                                        .text = "Save changes made to data?",
                                        .buttons = forms::Buttons::kYesNoCancel};
@@ -144,7 +143,8 @@ void EntryScreen::ClearEntries() {
 
 void EntryScreen::ShowPicture(const std::string& path) {
   picture_path_ = path;
-  const parts::ShownPicture shown = parts::LoadShown(context_, path, kPictureSide, kPictureSide);
+  const parts::ShownPicture shown =
+      parts::LoadShown(context_, path, style_.picture.most_shown, style_.picture.most_shown);
   picture.SetContent(shown.picture.png);
   picture_note.SetCaption(path.empty() ? style_.picture.none_shown : shown.note);
 }

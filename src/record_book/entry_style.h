@@ -39,6 +39,7 @@ struct PictureStyle {
   std::string_view none_shown = "No Picture";
   std::string_view none_stored = {};
   std::size_t shortest_path = 1;  // characters: what is shorter is none
+  int most_shown = 400;           // pixels of its longer side on the screen
 };
 
 struct EntryStyle {

@@ -301,8 +301,8 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   TrackLeave(person);
   FillInWorksheet(person);
   KeepBudget(person);
-  LookAtEmployees(person);
   KeepVehicle(person);
+  LookAtEmployees(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

@@ -51,7 +51,7 @@ QWidget* ImageView(PhotoVIEW1& form, PictureStore& pictures) {
       Widget(*form.groups[0], fields),
       Grow(Widget(form.picture_panel,
                   Column({Grow(AtLeast(kLeastPicture, Widget(form.picture, pictures))),
-                          Row({Wrapped(Widget(form.picture_note)), Spring(), print_picture,
+                          Row({Grow(Wrapped(Widget(form.picture_note))), print_picture,
                                Widget(form.link)})}))),
   });
 }
