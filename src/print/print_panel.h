@@ -49,7 +49,7 @@ struct PrintJob {
   forms::Margins margins;  // the usual ones lie inside what the printer can reach
   // `build` takes paper and margins from what it prints, unless a person has chosen others.
   bool own_paper = false;
-  std::string title;  // of a PDF; empty: the form's caption
+  std::string title;              // of a PDF; empty: the form's caption
   bool can_be_cancelled = false;  // while it builds; the panel closes then
 };
 

@@ -17,8 +17,8 @@ namespace tarnwell::text {
 // date, which is left out. Empty when it is no date of the years 100 to 9999.
 std::optional<Date> ReadDate(std::string_view text);
 
-// The same for what a person types today: a date without a year ("3/9", "Mar 9") is one of `today`'s
-// year.
+// The same for what a person types today: a date without a year ("3/9", "Mar 9") is one of
+// `today`'s year.
 std::optional<Date> ReadDate(std::string_view text, Date today);
 
 // `date` was read from a text with a year of two digits. Where the text begins with a weekday

@@ -75,11 +75,11 @@ class GridView : public QTableView {
   GridHeader* header_;
   CellEditing* editing_;
   forms::GridLook look_;
-  int highlight_ = 0;           // painted
+  int highlight_ = 0;  // painted
   // Columns to their widths, for each number of columns that the grid had.
   std::map<int, std::map<int, int>> dragged_;
-  bool is_showing_ = false;     // what changes now isn't a person's doing
-  bool is_acting_ = false;      // Qt is at work on a key or a click
+  bool is_showing_ = false;  // what changes now isn't a person's doing
+  bool is_acting_ = false;   // Qt is at work on a key or a click
 };
 
 // Ends the edit of the cell that has the keys, before a command runs. False where it goes on.
