@@ -39,6 +39,7 @@ ADDBKDISPLAY::ADDBKDISPLAY(forms::Context& context)
                      .report_caption = "&Complete Report",
                      .report_title = "Complete Business Contacts Report",
                      .list_date = "mmmm dd, yyyy",
+                     .pictures_form = forms::form_names::kContactPictures,
                      .panel_color = settings::PanelColor::kContactDisplay,
                      .help = 3021}) {}
 

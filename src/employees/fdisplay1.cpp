@@ -34,6 +34,7 @@ FDisplay1::FDisplay1(forms::Context& context)
                               .report_caption = "&Print All Data",
                               .report_title = "Complete Employee Data Report",
                               .list_date = "Long Date",
+                              .pictures_form = forms::form_names::kEmployeePictures,
                               .heading_grid = true,
                               .panel_color = settings::PanelColor::kEmployeeDisplay,
                               .font = settings::PrinterFont::kEmployeeDisplay,

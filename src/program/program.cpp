@@ -2,7 +2,9 @@
 
 #include "budget/budget1a.h"
 #include "contacts/addbkdisplay.h"
+#include "contacts/addbkdisplay2.h"
 #include "contacts/addbkview1.h"
+#include "employees/addbkdisplay3.h"
 #include "employees/fdisplay1.h"
 #include "employees/fview.h"
 #include "forms/form_names.h"
@@ -45,6 +47,8 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kEmployeeEntry, Make<employees::FView>);
   navigator.Register(kContactDisplay, Make<contacts::ADDBKDISPLAY>);
   navigator.Register(kEmployeeDisplay, Make<employees::FDisplay1>);
+  navigator.Register(kContactPictures, Make<contacts::ADDBKDISPLAY2>);
+  navigator.Register(kEmployeePictures, Make<employees::ADDBKDISPLAY3>);
   navigator.Register(kPhotoView, Make<images::PhotoVIEW1>);
   navigator.Register(kAutoMaint, Make<vehicles::AutoMaint>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);

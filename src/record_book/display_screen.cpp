@@ -51,6 +51,8 @@ DisplayScreen::DisplayScreen(forms::Context& context, const DisplayStyle& style)
     options.Add(option_frame, "Option3D1(" + std::to_string(i) + ")",
                 style.book.options[i].caption);
   }
+  options.Add(option_frame, "Option3D1(" + std::to_string(style.book.options.size()) + ")",
+              "Pictures - Print Only");
   if (style.heading_grid) {
     headings.emplace(sheet, "VSGd2", "Headings");
     headings->SetColumns(
@@ -63,7 +65,7 @@ DisplayScreen::DisplayScreen(forms::Context& context, const DisplayStyle& style)
 }
 
 void DisplayScreen::ConnectCommands() {
-  options.on_pick = [this](int) { Fill(); };
+  options.on_pick = [this](int option) { Pick(option); };
   search_text.on_change = [this] { FindAsTyped(); };
   search_text.on_enter = [this] { Search(); };
   search.on_click = [this] { Search(); };
@@ -135,6 +137,20 @@ bool DisplayScreen::QueryUnload(forms::UnloadCause cause) {
   const auto buttons =
       cause == forms::UnloadCause::kCommand ? forms::Buttons::kYesNoCancel : forms::Buttons::kYesNo;
   return colors.Leave(buttons);
+}
+
+// The last option leaves the grid alone.
+void DisplayScreen::Pick(int option) {
+  if (option < static_cast<int>(style_.book.options.size())) return Fill();
+  options.Choose(0);
+  Fill();
+  Message({"Print Pictures Restraint",
+           "Due to some computer and video memory restraints this portion of\n"
+           "the program was written to only display and print one page at a time.\n"
+           "NOTE: When you select Print, it may take several minutes to print,\n"
+           "based on you computer memory, processor and size of printer buffer!  \n"
+           "Sorry for any inconvience and additional time this may require!"});
+  context_.navigator.Show(style_.pictures_form);
 }
 
 void DisplayScreen::Fill() {

@@ -35,6 +35,7 @@ struct DisplayStyle {
   std::string_view report_caption;  // of the command
   std::string_view report_title;
   std::string_view list_date;  // the mask of the date on lists
+  const char* pictures_form;   // the screen of the last option
   bool heading_grid = false;   // a grid of its own heads the addresses
   settings::PanelColor panel_color{};
   std::optional<settings::PrinterFont> font = std::nullopt;
@@ -82,6 +83,7 @@ class DisplayScreen : public forms::Form {
   void BuildMenus();
 
   const DisplayOption& Option() const;
+  void Pick(int option);
   void Fill();
   void ShowColumns(const DisplayOption& option);
   void ShowRows(const std::vector<DisplayRow>& rows);

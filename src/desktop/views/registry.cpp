@@ -14,6 +14,7 @@
 #include "proofing/vsthesaurus1.h"
 #include "record_book/display_screen.h"
 #include "record_book/entry_screen.h"
+#include "record_book/picture_pages.h"
 #include "reference/infoadv.h"
 #include "reference/toolsandinfo1.h"
 #include "shell/about1.h"
@@ -52,6 +53,8 @@ constexpr Entry kViews[] = {
     {forms::form_names::kEmployeeEntry, Make<record_book::EntryScreen>},
     {forms::form_names::kContactDisplay, Make<record_book::DisplayScreen>},
     {forms::form_names::kEmployeeDisplay, Make<record_book::DisplayScreen>},
+    {forms::form_names::kContactPictures, Make<record_book::PicturePages>},
+    {forms::form_names::kEmployeePictures, Make<record_book::PicturePages>},
     {forms::form_names::kPhotoView, Make<images::PhotoVIEW1>},
     {forms::form_names::kAutoMaint, Make<vehicles::AutoMaint>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},

@@ -28,6 +28,7 @@ class LeaveSheet;
 namespace tarnwell::record_book {
 class DisplayScreen;
 class EntryScreen;
+class PicturePages;
 }  // namespace tarnwell::record_book
 namespace tarnwell::planner {
 class Calendar;
@@ -57,6 +58,7 @@ QWidget* View(budget::Budget1a& form, PictureStore& pictures);
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures);
 QWidget* View(record_book::EntryScreen& form, PictureStore& pictures);
 QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
+QWidget* View(record_book::PicturePages& form, PictureStore& pictures);
 QWidget* View(images::PhotoVIEW1& form, PictureStore& pictures);
 QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
