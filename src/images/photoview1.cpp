@@ -14,6 +14,7 @@ namespace tarnwell::images {
 namespace {
 
 constexpr int kHelp = 3040;
+constexpr int kMostShown = 1200;  // pixels of a scan on the screen
 constexpr int kCopies[] = {1, 2, 4, 8};
 constexpr const char* kStatus[] = {"Print Options", "Print 2", "Print 4", "Print 8"};
 
@@ -46,7 +47,7 @@ record_book::EntryStyle Style() {
                   .none_shown = "No Picture Currently Loaded",
                   .none_stored = kNoImage,
                   .shortest_path = 6,
-                  .most_shown = 1200},
+                  .most_shown = kMostShown},
       .panel_color = settings::PanelColor::kDocumentImages,
       .has_text_color = true,
       .help = kHelp,

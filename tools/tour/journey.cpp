@@ -177,6 +177,15 @@ void LookAtContacts(Traveller& person) {
   person.ExpectTop("ADDBKDISPLAY");
   person.Click("Option3D1(1)");
   person.TakePicture("contact-display");
+  person.Answer(QStringLiteral("Print Pictures Restraint"), QMessageBox::Ok,
+                [&] { person.Click("Option3D1(13)"); });
+  person.ExpectTop("ADDBKDISPLAY2");
+  person.TakePicture("contact-pictures");
+  person.Click("SSCommand3");
+  person.TakePicture("contact-pictures-print");
+  person.Click("SSCommand80(2)");
+  person.Click("SSCommand5");
+  person.ExpectTop("ADDBKDISPLAY");
   person.Click("Command1");
   person.ExpectTop("ToolsandInfo1");
 }
