@@ -9,14 +9,17 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfBox = 40;
+constexpr int kLeastLettersOfYears = 11;  // with the arrow of the list
 constexpr int kLettersOfLocation = 9;
 constexpr int kLettersOfPanel = 150;
 
 }  // namespace
 
 QWidget* YearSheetView(year_sheet::YearSheet& form, PictureStore& pictures, QWidget* below) {
+  QWidget* years = Widget(form.years);
+  years->setMinimumWidth(kLeastLettersOfYears * years->fontMetrics().averageCharWidth());
   QWidget* column = Column({
-      Row({Widget(form.year_label), Widget(form.years), Widget(form.box_label),
+      Row({Widget(form.year_label), years, Widget(form.box_label),
            Grow(AtMost(Widget(form.box), kLettersOfBox)),
            OfLetters(Widget(form.location), kLettersOfLocation), Spring()}),
       Grow(Widget(form.grid, pictures)),
