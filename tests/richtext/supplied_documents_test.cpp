@@ -54,7 +54,7 @@ TEST(SuppliedDocuments, EachIsWhatItsNameSaysAndHasPlacesToFillIn) {
       {"EmployPolicy38.Fl1", "Email Use Policy", 12, 1200},
       {"EmployPolicy39.Fl1", "Jury Duty Policy", 8, 900},
       {"EmployPolicy40.Fl1", "Smoking Policy", 8, 700},
-      {"EmployPolicy41.Fl1", "Vacation Policy", 10, 1000},
+      {"EmployPolicy41.Fl1", "Vacation Policy", 9, 1000},
       {"DRPln1.Fl1", "Disaster Recovery Plan", 141, 4000},
       {"EmployAction1.Fl2", "Disclaimer and How To Use", 0, 800},
       {"EmployPolicy12.Fl1", "Job Description", 18, 200},
