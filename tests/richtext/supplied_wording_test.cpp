@@ -144,6 +144,19 @@ TEST(SuppliedWording, TheChaptersOfTheHandbookNameNoNumberThatTheCompanyChooses)
                           "26 weeks", "12-month", "30 days", "30 days", "60 days", "60 days"));
 }
 
+// A policy that limits what people say or do is read against what the law protects.
+TEST(SuppliedWording, EveryPolicyOnConductSaysInTheSameWordsWhatItDoesNotLimit) {
+  const auto rights = [](const std::string& file) {
+    const std::vector<std::string> texts = Texts(file, "Rights That This Policy Does Not Limit");
+    return texts.size() > 1 ? texts[1] : "";
+  };
+  const std::string usual = rights("EmployPolicy33.Fl1");
+  EXPECT_THAT(usual, HasSubstr("National Labor Relations Act"));
+  for (const int number : {34, 36, 37, 38}) {
+    EXPECT_EQ(rights("EmployPolicy" + std::to_string(number) + ".Fl1"), usual) << number;
+  }
+}
+
 TEST(SuppliedWording, TheRecoveryPlanBeginsWithTheChoiceOfOneOfTwoPlansEachOnPagesOfItsOwn) {
   const RichDocument document = Supplied("DRPln1.Fl1");
   std::vector<std::string> titles;
