@@ -151,6 +151,7 @@ const Way kWays[] = {
     {"DocumentPrinting", "WorkArea1", {"SSCommand11(4)", "SSCommand14(0)", "SSCommand7"}},
     {"RecoveryPlan", "WorkArea1", {"SSCommand11(8)"}},
     {"InformationAdvisor", "InfoAdv", {}},
+    {"StateWebSites", "InfoAdv", {"SSCommand11(2)", "SSOption1(8)"}},
     {"Tools", "ToolsandInfo1", {}},
     {"Planner", "Zcalandar1", {}},
     {"PlannerMonth", "Zcalandar1", {"mOV"}},

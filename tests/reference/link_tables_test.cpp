@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdio>
+#include <set>
+
 #include "storage/file_system.h"
 #include "support/temporary_folder.h"
 
@@ -73,6 +76,58 @@ TEST_F(LinkTablesTest, ATableThatIsNotThereOrCannotBeReadIsToldAndEmpty) {
   const auto cut = ReadFederalLinks(folder_);
   EXPECT_EQ(cut.rows[6].address, "https://www.dol.gov/");
   EXPECT_EQ(cut.rows[0].address, "https://www.sb") << "no reader can tell";
+}
+
+// The supplied tables.
+class SuppliedLinksTest : public ::testing::Test {
+ protected:
+  testing::TemporaryFolder disk_;
+  storage::ProgramFolder folder_{storage::RealFileSystem(), disk_.path(),
+                                 TARNWELL_SOURCE_DIR "/data"};
+};
+
+// Of one panel: each place has an address, and none has another's.
+template <typename Links>
+void ExpectWhole(const Links& links, std::string_view panel) {
+  std::set<std::string> addresses;
+  for (const Link& link : links) addresses.insert(link.address);
+  EXPECT_EQ(addresses.size(), links.size()) << panel;
+  EXPECT_FALSE(addresses.contains("")) << panel;
+}
+
+TEST_F(SuppliedLinksTest, EveryPlaceHasAnAddressOfItsOwn) {
+  const auto states = ReadStateLinks(folder_);
+  EXPECT_EQ(states.trouble, "");
+  for (std::size_t i = 0; i < kStates.size(); ++i) {
+    ExpectWhole(states.rows[i], kStates[i]);
+    for (const Link& link : states.rows[i]) EXPECT_LT(link.label.size(), kLongestLabel);
+  }
+  const auto federal = ReadFederalLinks(folder_);
+  EXPECT_EQ(federal.trouble, "");
+  ExpectWhole(federal.rows, "federal");
+  const auto internet = ReadInternetLinks(folder_);
+  EXPECT_EQ(internet.trouble, "");
+  ExpectWhole(internet.rows, "internet");
+  EXPECT_EQ(internet.rows[5].label, "NIST Special Publications (800 Series)");
+  EXPECT_EQ(internet.rows[6].label, "Workgroup for Electronic Data Interchange (WEDI)");
+}
+
+TEST_F(SuppliedLinksTest, TheListToTryHasEachAddress) {
+  std::multiset<std::string> expected;
+  for (const auto& places : ReadStateLinks(folder_).rows) {
+    for (const Link& link : places) expected.insert(link.address);
+  }
+  for (const Link& link : ReadFederalLinks(folder_).rows) expected.insert(link.address);
+  for (const Link& link : ReadInternetLinks(folder_).rows) expected.insert(link.address);
+
+  std::FILE* list = ::popen(TARNWELL_SOURCE_DIR "/tools/list_links", "r");
+  ASSERT_NE(list, nullptr);
+  std::multiset<std::string> printed;
+  for (char line[kLongestAddress + 2]; std::fgets(line, sizeof line, list);) {
+    printed.insert(std::string(line, std::string(line).find('\n')));
+  }
+  EXPECT_EQ(::pclose(list), 0);
+  EXPECT_EQ(printed, expected);
 }
 
 }  // namespace
