@@ -25,9 +25,10 @@ inline RichDocument Supplied(const std::string& name) {
 inline std::map<std::string, std::string> SuppliedFiles() {
   std::map<std::string, std::string> files;
   for (const auto& entry : std::filesystem::directory_iterator(kData)) {
+    const std::string name = entry.path().filename().string();
     const std::string extension = entry.path().extension().string();
-    if (extension != ".Fl1" && extension != ".Fl2") continue;
-    files[entry.path().filename().string()] = FileBytes(entry.path().string());
+    if (extension != ".Fl1" && extension != ".Fl2" && name != "SamplePol.Dat") continue;
+    files[name] = FileBytes(entry.path().string());
   }
   return files;
 }
