@@ -12,6 +12,7 @@ namespace {
 constexpr std::string_view kContentsPage = "index.html";
 constexpr std::size_t kAround = 60;  // bytes on either side of what was found
 constexpr int kInHeading = 100;      // counts as much as so many words in the text
+constexpr int kAsPhrase = 10;        // likewise, all words behind each other
 
 struct Entity {
   std::string_view name;
@@ -95,6 +96,12 @@ std::vector<Piece> PiecesOf(std::string_view html) {
   return pieces;
 }
 
+// Of letters within a line; every other tag parts words.
+bool IsInline(std::string_view tag) {
+  if (tag.starts_with('/')) tag.remove_prefix(1);
+  return tag == "b" || tag == "i" || tag == "a" || tag == "tt";
+}
+
 // What lies between the tag at `at` and its end, without the tags.
 std::string Inside(const std::vector<Piece>& pieces, std::size_t at) {
   std::string text;
@@ -114,6 +121,12 @@ std::vector<std::string> WordsOf(std::string_view text) {
   }
   if (words.back().empty()) words.pop_back();
   return words;
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string joined;
+  for (const std::string& word : words) joined += (joined.empty() ? "" : " ") + word;
+  return joined;
 }
 
 // The next place in `text`, in small letters, where a word begins with `word`.
@@ -162,6 +175,7 @@ void HelpBook::AddPage(std::string_view file, std::string_view html) {
     }
     const bool in_title = i > 0 && pieces[i - 1].tag == "title";
     if (tag.empty() && !in_title) AddText(page.text, pieces[i].text);
+    if (!tag.empty() && !IsInline(tag)) AddText(page.text, " ");
   }
   pages_.push_back(std::move(page));
   is_sorted_ = false;
@@ -197,19 +211,22 @@ const std::vector<HelpEntry>& HelpBook::Index() {
 
 std::vector<HelpFound> HelpBook::Search(std::string_view words) const {
   const std::vector<std::string> wanted = WordsOf(words);
+  if (wanted.empty()) return {};
+  const std::string whole = Joined(wanted);
   std::vector<std::pair<int, HelpFound>> found;
   for (const Page& page : pages_) {
     const std::string text = SmallLetters(page.text);
     const std::string headings = SmallLetters(page.headings);
-    int weight = 0;
+    int weight = kAsPhrase * CountWord(text, whole);
     const bool has_all = std::ranges::all_of(wanted, [&](const std::string& word) {
       weight += CountWord(text, word) + kInHeading * CountWord(headings, word);
       return FindWord(text, word) != std::string::npos;
     });
-    if (wanted.empty() || !has_all) continue;
-    found.push_back({weight,
-                     {{page.file, page.title, wanted.front()},
-                      Around(page.text, FindWord(text, wanted.front()))}});
+    if (!has_all) continue;
+    const bool has_whole = FindWord(text, whole) != std::string::npos;
+    const std::string& marked = has_whole ? whole : wanted.front();
+    found.push_back(
+        {weight, {{page.file, page.title, marked}, Around(page.text, FindWord(text, marked))}});
   }
   std::ranges::stable_sort(found, std::greater(), [](const auto& one) { return one.first; });
   std::vector<HelpFound> places;

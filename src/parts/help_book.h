@@ -29,7 +29,7 @@ struct HelpEntry {
 
 struct HelpFound {
   HelpPlace place;
-  std::string around;  // what stands around the first word that was found
+  std::string around;  // what stands around the phrase that is marked
 };
 
 class HelpBook {
@@ -42,7 +42,8 @@ class HelpBook {
   // By the alphabet, without regard to capitals; terms that several pages have, once for each.
   const std::vector<HelpEntry>& Index();
   // The pages that have all words, or words that begin so; those with the words in their title or
-  // headings first, then those with more of them. Empty for no word.
+  // headings first, then those that have them behind each other, then those with more of them.
+  // Empty for no word.
   std::vector<HelpFound> Search(std::string_view words) const;
 
  private:

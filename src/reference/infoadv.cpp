@@ -67,8 +67,10 @@ InfoAdv::InfoAdv(forms::Context& context)
   for (const std::string_view name : kStates) {
     state.Add(states, "SSOption1(" + std::to_string(state.size()) + ")", name);
   }
-  federal.Cover({&text_panel});
-  states.Cover({&text_panel});
+  for (forms::Panel* panel : {&federal, &states}) {
+    panel->SetVisible(false);
+    panel->Cover({&text_panel});
+  }
   ConnectCommands();
   SetHelpContext(kScreenHelp);
   parts::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});

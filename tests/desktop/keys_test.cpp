@@ -153,6 +153,7 @@ const Way kWays[] = {
     {"InformationAdvisor", "InfoAdv", {}},
     {"StateWebSites", "InfoAdv", {"SSCommand11(2)", "SSOption1(8)"}},
     {"Tools", "ToolsandInfo1", {}},
+    {"ToolsPrinting", "ToolsandInfo1", {"SSCommand2(1)"}},
     {"Planner", "Zcalandar1", {}},
     {"PlannerMonth", "Zcalandar1", {"mOV"}},
     {"PlannerExport", "Zcalandar1", {"mOV", "mUExport"}},

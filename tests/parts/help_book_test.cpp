@@ -57,11 +57,21 @@ TEST(HelpBookTest, ASearchFindsPagesWithAllWordsTheirHeadingsFirst) {
   EXPECT_THAT(Found(""), IsEmpty());
 }
 
+TEST(HelpBookTest, WordsBehindEachOtherAreMarkedTogether) {
+  HelpBook book;
+  book.AddPage("1.html", "<p>Options of a page. To print, print it. Print again.</p>");
+  book.AddPage("2.html", "<p>Print it. Then press <b>Print</b>\n Options.</p>");
+  const auto found = book.Search("PRINT options");
+  ASSERT_EQ(found.size(), 2u);
+  EXPECT_EQ(found[0].place.file + found[0].place.phrase, "2.htmlprint options");
+  EXPECT_EQ(found[1].place.file + found[1].place.phrase, "1.htmlprint");
+}
+
 TEST(HelpBookTest, WhatStandsAroundAWordIsCutBetweenWords) {
   HelpBook book;
   book.AddPage("1.html", "<p>" + std::string(100, 'a') + " one two needle three\n four " +
                              std::string(100, 'b') + "</p>");
-  EXPECT_EQ(book.Search("needle").at(0).around, "one two needle three four ");
+  EXPECT_EQ(book.Search("needle").at(0).around, "one two needle three four");
 }
 
 TEST(HelpBookTest, ABrokenPageIsReadAsFarAsItGoes) {

@@ -206,6 +206,10 @@ void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
   person.TakePicture("tools-and-program-info");
+  person.Click("SSCommand11(4)");
+  person.Click("SSCommand2(1)");
+  person.TakePicture("incident-report-print");
+  person.Click("SSCommand80(2)");
   person.Click("SSCommand11(5)");
   person.ExpectTop("Zcalandar1");
 }

@@ -76,6 +76,8 @@ HelpPanel::Finder HelpPanel::AddFinder(const char* tab, const char* field_name,
   finder.field->setClearButtonEnabled(true);
   finder.list->setAccessibleName(QString::fromLatin1(list_name));
   finder.list->setWordWrap(true);
+  finder.list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  finder.list->setResizeMode(QListView::Adjust);
   auto* page = new QWidget;
   auto* column = new QVBoxLayout(page);
   column->setContentsMargins(kTightSpace, kSpace, kTightSpace, kTightSpace);

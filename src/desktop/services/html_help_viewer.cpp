@@ -92,14 +92,19 @@ void HtmlHelpViewer::AddBar(HelpPanel& panel) {
   QAction* back = bar->addAction(QIcon(QStringLiteral(":/icons/back.svg")), "&Back");
   back->setShortcut(QKeySequence::Back);
   back->setEnabled(false);
-  auto* search = new QAction(window_);
-  search->setShortcut(QKeySequence::Find);
-  window_->addAction(search);
+  const auto add_key = [this](const QKeySequence& key) {
+    auto* action = new QAction(window_);
+    action->setShortcut(key);
+    window_->addAction(action);
+    return action;
+  };
   QObject::connect(all, &QAction::triggered, browser_,
                    [this] { Open(PageAddress(folder_, QStringLiteral("index.html"))); });
   QObject::connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
   QObject::connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
-  QObject::connect(search, &QAction::triggered, &panel, &HelpPanel::BeginSearch);
+  QObject::connect(add_key(QKeySequence::Find), &QAction::triggered, &panel,
+                   &HelpPanel::BeginSearch);
+  QObject::connect(add_key(Qt::Key_Escape), &QAction::triggered, window_, &QWidget::close);
 }
 
 void HtmlHelpViewer::Open(const QUrl& link) {

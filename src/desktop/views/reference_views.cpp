@@ -46,25 +46,26 @@ QWidget* CopyAndPaste(reference::InfoAdv& form) {
                 kLettersOfCopyAndPaste);
 }
 
-QWidget* HeadOf(forms::Label& title) {
-  QWidget* head = Widget(title);
-  head->setFont(ScaledFont(TextSize::kHeading));
-  return head;
+QWidget* InSize(TextSize size, QWidget* label) {
+  label->setFont(ScaledFont(size));
+  return label;
 }
 
 QWidget* ToolsSide(reference::ToolsandInfo1& form) {
-  QWidget* buttons = Widget(
-      form.side,
-      Column({Widget(form.disclaimer), Widget(form.program_information),
-              WithIcon("people", Widget(form.contacts)),
-              WithIcon("table", Widget(form.contact_display)), Widget(form.incident_report),
-              WithIcon("planner", Widget(form.planner)), WithIcon("month", Widget(form.calendar))},
-             kTightSpace));
-  QWidget* links = Column({Wrapped(HeadOf(form.link_heading)), Wrapped(Widget(form.link_note)),
-                           Wrapped(Widget(form.link_trouble))},
-                          kTightSpace);
+  QWidget* buttons =
+      Widget(form.side, Column({Listed(WithIcon("advisor", Widget(form.disclaimer))),
+                                Listed(WithIcon("advisor", Widget(form.program_information))),
+                                Listed(WithIcon("people", Widget(form.contacts))),
+                                Listed(WithIcon("table", Widget(form.contact_display))),
+                                Listed(WithIcon("template", Widget(form.incident_report))),
+                                Listed(WithIcon("planner", Widget(form.planner))),
+                                Listed(WithIcon("month", Widget(form.calendar)))},
+                               kTightSpace));
+  QWidget* links = Column({InSize(TextSize::kStrong, Wrapped(Widget(form.link_heading))),
+                           Wrapped(Widget(form.link_note)), Wrapped(Widget(form.link_trouble))},
+                          kHairSpace);
   for (std::size_t i = 0; i < form.links.size(); ++i) {
-    Append(links, Wrapped(Widget(form.links[i])));
+    Append(links, InSize(TextSize::kNote, Wrapped(Widget(form.links[i]))));
   }
   return AtMost(Column({buttons, Widget(form.link_panel, links), Spring()}), kLettersOfSide);
 }
@@ -79,9 +80,10 @@ QWidget* View(reference::InfoAdv& form, PictureStore&) {
        AtTop(Widget(form.federal, Sites(form.federal_sites))),
        AtTop(Widget(form.states, Column({States(form.state),
                                          Widget(form.state_panel, Sites(form.state_sites))})))});
-  return MainScreenView(form.main_buttons,
-                        Column({Row({HeadOf(form.title), Spring(), side}),
-                                Grow(Row({Grow(shown), CopyAndPaste(form)}, kWideSpace))}));
+  return MainScreenView(
+      form.main_buttons,
+      Column({Row({InSize(TextSize::kHeading, Widget(form.title)), Spring(), side}),
+              Grow(Row({Grow(shown), CopyAndPaste(form)}, kWideSpace))}));
 }
 
 QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures) {
@@ -92,10 +94,10 @@ QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures) {
                                                    Widget(form.copy), Spring()}),
                                               Spring()}),
                                       kWholeShare - share)}));
-  return MainScreenView(
-      form.main_buttons,
-      Column({HeadOf(form.title), Grow(Row({ToolsSide(form), Grow(text)}, kWideSpace)),
-              Grow(PrintView(form.print, pictures))}));
+  return MainScreenView(form.main_buttons,
+                        Column({InSize(TextSize::kHeading, Widget(form.title)),
+                                Grow(Row({ToolsSide(form), Grow(text)}, kWideSpace)),
+                                Grow(PrintView(form.print, pictures))}));
 }
 
 }  // namespace tarnwell::desktop
