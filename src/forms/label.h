@@ -11,7 +11,8 @@
 
 namespace tarnwell::forms {
 
-enum class LabelRole { kText, kHeading, kTitle, kNote };
+// A link looks like one while the pointer is over it, or the focus on it.
+enum class LabelRole { kText, kHeading, kTitle, kNote, kLink };
 
 // A text that the form sets. It can be clicked where it has an `on_click`.
 class Label : public Clickable {

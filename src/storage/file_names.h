@@ -76,6 +76,11 @@ inline constexpr std::string_view kRecoveryPlanTemplate = "DRPln1.Fl1";
 inline constexpr std::string_view kSamplePolicy = "SamplePol.Dat";
 inline constexpr std::string_view kMakes = "Makes.Dat";
 inline constexpr std::string_view kHelp = "Tarnwell.chm";
+// Supplied addresses of web sites, in a folder of their own.
+inline constexpr std::string_view kLinksFolder = "links";
+inline constexpr std::string_view kStateLinks = "states.txt";
+inline constexpr std::string_view kFederalLinks = "federal.txt";
+inline constexpr std::string_view kInternetLinks = "internet.txt";
 // The pictures behind grids, 1 to 16.
 std::string Wallpaper(int number);
 

@@ -33,6 +33,11 @@ bool ChangesOnePage(std::uint64_t offset, std::string_view before, std::string_v
   return is_in_next && before.substr(0, first) == bytes.substr(0, first);
 }
 
+std::string LinksFolder(const std::string& supplied_folder) {
+  if (supplied_folder.empty()) return {};
+  return supplied_folder + "/" + std::string(file_names::kLinksFolder);
+}
+
 }  // namespace
 
 bool IsPlainFileName(std::string_view name) {
@@ -46,7 +51,8 @@ ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,
     : files_(files),
       user_folder_(std::move(user_folder)),
       user_names_(files, user_folder_),
-      supplied_names_(files, std::move(supplied_folder)),
+      supplied_names_{FolderNames(files, supplied_folder),
+                      FolderNames(files, LinksFolder(supplied_folder))},
       redo_note_(files, user_folder_ + "/" + std::string(file_names::kRedoNote)) {}
 
 std::unique_ptr<File> ProgramFolder::Open(std::string_view name, OpenMode mode) {
@@ -80,11 +86,20 @@ ProgramFolder::Opened ProgramFolder::OpenAt(const std::string& path, OpenMode mo
 }
 
 ProgramFolder::Opened ProgramFolder::OpenSupplied(std::string_view name) {
-  if (const auto path = supplied_names_.Known(name)) {
-    if (auto file = files_.Open(*path, OpenMode::kRead)) return {std::move(file)};
+  for (FolderNames& names : supplied_names_) {
+    if (const auto path = names.Known(name)) {
+      if (auto file = files_.Open(*path, OpenMode::kRead)) return {std::move(file)};
+    }
   }
-  const auto path = supplied_names_.Locate(name);
-  return path ? OpenAt(*path, OpenMode::kRead) : Opened{nullptr, Fault::kMissing};
+  for (FolderNames& names : supplied_names_) {
+    if (const auto path = names.Locate(name)) return OpenAt(*path, OpenMode::kRead);
+  }
+  return {nullptr, Fault::kMissing};
+}
+
+bool ProgramFolder::IsSupplied(std::string_view name) {
+  return std::ranges::any_of(supplied_names_,
+                             [&](FolderNames& names) { return names.Locate(name).has_value(); });
 }
 
 ReadResult ProgramFolder::Read(std::string_view name, std::uint64_t longest) {
@@ -134,7 +149,7 @@ Outcome ProgramFolder::Copy(std::string_view source, std::string_view target) {
 }
 
 bool ProgramFolder::Exists(std::string_view name) {
-  return IsPlainFileName(name) && (user_names_.Locate(name) || supplied_names_.Locate(name));
+  return IsPlainFileName(name) && (user_names_.Locate(name) || IsSupplied(name));
 }
 
 std::uint64_t ProgramFolder::Length(std::string_view name) {

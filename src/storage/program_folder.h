@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -36,7 +37,8 @@ struct ReadResult {
 // operation fail, and so does a folder that is gone, full or read-only: what was there stays.
 class ProgramFolder {
  public:
-  // `supplied` is the folder of installed read-only files; empty for none.
+  // `supplied_folder` has the installed read-only files, those of its folder kLinksFolder too;
+  // empty for none.
   ProgramFolder(FileSystem& files, std::string user_folder, std::string supplied_folder = {});
 
   const std::string& path() const { return user_folder_; }
@@ -82,6 +84,7 @@ class ProgramFolder {
   Opened TryOpen(std::string_view name, OpenMode mode);
   Opened OpenAt(const std::string& path, OpenMode mode);
   Opened OpenSupplied(std::string_view name);
+  bool IsSupplied(std::string_view name);
   // Keeps the fault of a call that didn't.
   bool Worked(bool worked);
   bool WriteAcrossPages(File& file, std::string_view name, std::uint64_t offset,
@@ -96,7 +99,7 @@ class ProgramFolder {
   FileSystem& files_;
   std::string user_folder_;
   FolderNames user_names_;
-  FolderNames supplied_names_;
+  std::array<FolderNames, 2> supplied_names_;
   RedoNote redo_note_;
   Fault fault_ = Fault::kNone;
 };

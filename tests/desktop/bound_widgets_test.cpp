@@ -77,6 +77,33 @@ TEST_F(BoundWidgets, TypingShowsAtOnceWhatCodePage1252WillKeep) {
   }
 }
 
+TEST(LinkLabel, LooksLikeALinkUnderThePointerAndWithTheFocus) {
+  testing::SampleWorld world;
+  testing::SampleForm& form = world.Show();
+  forms::Label link(form.panel, "Label4(0)", "A site", forms::LabelRole::kLink);
+  int clicks = 0;
+  link.on_click = [&] { ++clicks; };
+  const std::unique_ptr<QWidget> label(Widget(link));
+  const auto looks_like_a_link = [&] {
+    return label->font().underline() &&
+           label->palette().color(QPalette::WindowText) == label->palette().color(QPalette::Link);
+  };
+  EXPECT_FALSE(looks_like_a_link());
+  QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+  QApplication::sendEvent(label.get(), &enter);
+  EXPECT_TRUE(looks_like_a_link());
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(label.get(), &leave);
+  EXPECT_FALSE(label->font().underline());
+  EXPECT_NE(label->palette().color(QPalette::WindowText), label->palette().color(QPalette::Link));
+  QFocusEvent focus(QEvent::FocusIn, Qt::TabFocusReason);
+  QApplication::sendEvent(label.get(), &focus);
+  EXPECT_TRUE(looks_like_a_link());
+  QTest::keyClick(label.get(), Qt::Key_Return);
+  QTest::mouseClick(label.get(), Qt::LeftButton);
+  EXPECT_EQ(clicks, 2);
+}
+
 TEST_F(BoundWidgets, TheCursorStaysBehindTheCharacterThatWasReplaced) {
   auto* city = Find<QLineEdit>("Text1");
   form_.city.SetText("ab");

@@ -5,14 +5,17 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTreeWidget>
 
 #include "desktop/application.h"
 #include "desktop/services/folders.h"
+#include "desktop/services/help_panel.h"
 #include "desktop/services/html_help_viewer.h"
 #include "desktop/services/message_dialogs.h"
 #include "desktop/services/single_instance.h"
@@ -175,6 +178,48 @@ TEST(HtmlHelpViewer, ShowsThePageOfAContextAndIgnoresAMissingOne) {
   EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
   viewer.Show(4711);
   EXPECT_EQ(browser()->toPlainText(), QStringLiteral("Overview"));
+}
+
+TEST(HtmlHelpViewer, LeadsToPagesByContentsIndexAndSearch) {
+  const TemporaryFolder pages;
+  pages.Write("1000.html", "<title>Overview</title><h1>Overview</h1><p>All of it.</p>");
+  pages.Write("1014.html", "<title>Print</title><h1>Print</h1><p>Then press <b>Enlarge</b>.</p>");
+  pages.Write("index.html",
+              "<h1>Help</h1><h2>All</h2><a href=\"1000.html\">Overview</a><a href=\"1014.html\">"
+              "Print</a>");
+  HtmlHelpViewer viewer(QString::fromStdString(pages.path()));
+  viewer.Show(1000);
+  QWidget* window = nullptr;
+  for (QWidget* one : QApplication::topLevelWidgets()) {
+    if (one->findChild<HelpPanel*>() && one->isVisible()) window = one;
+  }
+  ASSERT_NE(window, nullptr);
+  auto* browser = window->findChild<QTextBrowser*>();
+  auto* panel = window->findChild<HelpPanel*>();
+  const auto title = [&] { return browser->toPlainText().section('\n', 0, 0); };
+
+  auto* tree = panel->findChild<QTreeWidget*>();
+  tree->setCurrentItem(tree->topLevelItem(0)->child(1));
+  EXPECT_EQ(title(), QStringLiteral("Print"));
+  tree->setCurrentItem(tree->topLevelItem(0)->child(0));
+  EXPECT_EQ(title(), QStringLiteral("Overview"));
+
+  const auto fields = panel->findChildren<QLineEdit*>();
+  const auto lists = panel->findChildren<QListWidget*>();
+  ASSERT_EQ(fields.size(), 2);
+  for (int tab = 0; tab < 2; ++tab) {  // the index, then the search
+    panel->setCurrentIndex(tab + 1);
+    viewer.Show(1000);
+    QTest::keyClicks(fields[tab], QStringLiteral("enl"));
+    QTest::keyClick(fields[tab], Qt::Key_Return);
+    ASSERT_EQ(lists[tab]->count(), 1);
+    EXPECT_EQ(title(), QStringLiteral("Print"));
+    EXPECT_EQ(browser->textCursor().selectedText().left(3).toLower(), QStringLiteral("enl"));
+  }
+  QTest::keyClicks(fields[1], QStringLiteral("x"));
+  EXPECT_EQ(lists[1]->item(0)->text(), QStringLiteral("No page has all these words."));
+  lists[1]->setCurrentRow(0);
+  EXPECT_EQ(title(), QStringLiteral("Print"));
 }
 
 TEST(QuietQt, OnlyTheMissingRunTimeDirectoryIsPassedOver) {

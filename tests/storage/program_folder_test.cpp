@@ -103,6 +103,16 @@ TEST_F(ProgramFolderTest, SuppliedFilesStandBehindTheUsersOwn) {
   EXPECT_EQ(disk_.Read("copy.Fl2"), "supplied");
 }
 
+TEST_F(ProgramFolderTest, SuppliedAddressesLieInAFolderOfTheirOwn) {
+  ASSERT_EQ(::mkdir((supplied_.path() + "/links").c_str(), 0777), 0);
+  supplied_.Write("links/states.txt", "supplied");
+  EXPECT_EQ(folder_.ReadWhole("STATES.txt"), "supplied");
+  EXPECT_TRUE(folder_.Exists("states.txt"));
+  EXPECT_TRUE(folder_.WriteWhole("states.txt", "own"));
+  EXPECT_EQ(folder_.ReadWhole("states.txt"), "own");
+  EXPECT_EQ(supplied_.Read("links/states.txt"), "supplied");
+}
+
 TEST_F(ProgramFolderTest, NamesThatAreNotPlainNeverTouchAnything) {
   ASSERT_EQ(::mkdir((disk_.path() + "/inside").c_str(), 0777), 0);
   ProgramFolder inside(files_, disk_.path() + "/inside");

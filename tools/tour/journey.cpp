@@ -190,10 +190,26 @@ void LookAtContacts(Traveller& person) {
   person.ExpectTop("ToolsandInfo1");
 }
 
+void LookAtWebSites(Traveller& person) {
+  person.Click("SSCommand4(2)");
+  person.ExpectTop("InfoAdv");
+  person.TakePicture("getting-started");
+  person.Click("SSCommand11(1)");
+  person.TakePicture("federal-web-sites");
+  person.Click("SSCommand11(2)");
+  person.Click("SSOption1(4)");
+  person.ExpectText("Text5(0)", QStringLiteral("https://business.ca.gov/"));
+  person.TakePicture("state-web-sites");
+}
+
 void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
   person.TakePicture("tools-and-program-info");
+  person.Click("SSCommand11(4)");
+  person.Click("SSCommand2(1)");
+  person.TakePicture("incident-report-print");
+  person.Click("SSCommand80(2)");
   person.Click("SSCommand11(5)");
   person.ExpectTop("Zcalandar1");
 }
@@ -312,6 +328,7 @@ void FirstDay(Traveller& person, desktop::Desktop& desktop) {
   KeepBudget(person);
   KeepVehicle(person);
   LookAtEmployees(person);
+  LookAtWebSites(person);
   GoToPlanner(person);
   WriteAppointment(person);
   LookAtCalendarOptions(person);

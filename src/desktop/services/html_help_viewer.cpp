@@ -2,20 +2,24 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QIcon>
 #include <QMainWindow>
+#include <QSplitter>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QUrl>
 
+#include "desktop/services/help_panel.h"
 #include "desktop/widgets/closed_document.h"
 #include "desktop/widgets/look.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-constexpr QSize kWindowSize{720, 560};
+constexpr QSize kWindowSize{960, 640};
+constexpr qint64 kLargestPage = 1 << 20;  // bytes
 
 QUrl PageAddress(const QString& folder, const QString& page) {
   return QUrl::fromLocalFile(folder + QLatin1Char('/') + page);
@@ -26,6 +30,17 @@ bool IsPage(const QString& folder, const QUrl& address) {
   const QFileInfo file(address.toLocalFile());
   return file.suffix() == QLatin1String("html") && file.isFile() &&
          file.canonicalPath() == QDir(folder).canonicalPath();
+}
+
+parts::HelpBook ReadBook(const QString& folder) {
+  parts::HelpBook book;
+  for (const QString& name : QDir(folder).entryList({QStringLiteral("*.html")}, QDir::Files)) {
+    const QUrl address = PageAddress(folder, name);
+    QFile file(address.toLocalFile());
+    if (!IsPage(folder, address) || !file.open(QIODevice::ReadOnly)) continue;
+    book.AddPage(name.toStdString(), file.read(kLargestPage).toStdString());
+  }
+  return book;
 }
 
 }  // namespace
@@ -56,25 +71,51 @@ void HtmlHelpViewer::MakeWindow() {
   browser_->setOpenLinks(false);
   QObject::connect(browser_, &QTextBrowser::anchorClicked, browser_,
                    [this](const QUrl& link) { Open(link); });
-  window_->setCentralWidget(browser_);
+  auto* panel = new HelpPanel(ReadBook(folder_));
+  panel->on_open = [this](const parts::HelpPlace& place) { OpenAt(place); };
+  auto* halves = new QSplitter;
+  halves->setChildrenCollapsible(false);
+  halves->addWidget(panel);
+  halves->addWidget(browser_);
+  halves->setStretchFactor(1, 1);
+  halves->setSizes({kWindowSize.width() / 3, kWindowSize.width() * 2 / 3});
+  window_->setCentralWidget(halves);
+  AddBar(*panel);
+}
 
+void HtmlHelpViewer::AddBar(HelpPanel& panel) {
   QToolBar* bar = window_->addToolBar(QStringLiteral("Pages"));
   bar->setMovable(false);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  QAction* index = bar->addAction(QIcon(QStringLiteral(":/icons/index.svg")), "&Index");
+  QAction* all = bar->addAction(QIcon(QStringLiteral(":/icons/index.svg")), "&All Pages");
   QAction* back = bar->addAction(QIcon(QStringLiteral(":/icons/back.svg")), "&Back");
   back->setShortcut(QKeySequence::Back);
   back->setEnabled(false);
-  QObject::connect(index, &QAction::triggered, browser_,
+  const auto add_key = [this](const QKeySequence& key) {
+    auto* action = new QAction(window_);
+    action->setShortcut(key);
+    window_->addAction(action);
+    return action;
+  };
+  QObject::connect(all, &QAction::triggered, browser_,
                    [this] { Open(PageAddress(folder_, QStringLiteral("index.html"))); });
   QObject::connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
   QObject::connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  QObject::connect(add_key(QKeySequence::Find), &QAction::triggered, &panel,
+                   &HelpPanel::BeginSearch);
+  QObject::connect(add_key(Qt::Key_Escape), &QAction::triggered, window_, &QWidget::close);
 }
 
 void HtmlHelpViewer::Open(const QUrl& link) {
   const QUrl address = browser_->source().resolved(link);
   if (address.isLocalFile() && IsPage(folder_, address)) browser_->setSource(address);
+}
+
+void HtmlHelpViewer::OpenAt(const parts::HelpPlace& place) {
+  Open(PageAddress(folder_, QString::fromStdString(place.file)));
+  browser_->moveCursor(QTextCursor::Start);
+  if (!place.phrase.empty()) browser_->find(QString::fromStdString(place.phrase));
 }
 
 }  // namespace tarnwell::desktop

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "forms/services.h"
+#include "parts/help_book.h"
 
 class QMainWindow;
 class QTextBrowser;
@@ -12,7 +13,10 @@ class QUrl;
 
 namespace tarnwell::desktop {
 
-// The help pages "<context>.html" of a folder, in a window of their own beside the program.
+class HelpPanel;
+
+// The help pages "<context>.html" of a folder, in a window of their own beside the program, with
+// the ways into them.
 class HtmlHelpViewer : public forms::HelpViewer {
  public:
   explicit HtmlHelpViewer(QString folder) : folder_(std::move(folder)) {}
@@ -22,8 +26,10 @@ class HtmlHelpViewer : public forms::HelpViewer {
 
  private:
   void MakeWindow();
+  void AddBar(HelpPanel& panel);
   // A page of the folder, with or without a place in it. Nothing else is ever opened.
   void Open(const QUrl& link);
+  void OpenAt(const parts::HelpPlace& place);
 
   QString folder_;
   QPointer<QMainWindow> window_;

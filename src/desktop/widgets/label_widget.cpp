@@ -19,6 +19,7 @@ constexpr int kFocusFrame = 2;  // pixels
 class TextLabel : public QLabel {
  public:
   bool is_caption = false;
+  bool is_link = false;
   std::function<void()> on_click;
 
   // The keyboard reaches a label that can be clicked.
@@ -29,6 +30,26 @@ class TextLabel : public QLabel {
   }
 
  protected:
+  void enterEvent(QEnterEvent* event) override {
+    QLabel::enterEvent(event);
+    ShowLink(true);
+  }
+
+  void leaveEvent(QEvent* event) override {
+    QLabel::leaveEvent(event);
+    ShowLink(hasFocus());
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    QLabel::focusInEvent(event);
+    ShowLink(true);
+  }
+
+  void focusOutEvent(QFocusEvent* event) override {
+    QLabel::focusOutEvent(event);
+    ShowLink(underMouse());
+  }
+
   void paintEvent(QPaintEvent* event) override {
     QLabel::paintEvent(event);
     if (!hasFocus()) return;
@@ -48,6 +69,17 @@ class TextLabel : public QLabel {
     QLabel::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && on_click) on_click();
   }
+
+ private:
+  void ShowLink(bool shown) {
+    if (!is_link) return;
+    QFont letters = font();
+    letters.setUnderline(shown);
+    setFont(letters);
+    QPalette colors;
+    if (shown) colors.setColor(QPalette::WindowText, palette().color(QPalette::Link));
+    setPalette(colors);
+  }
 };
 
 QFont FontOf(forms::LabelRole role) {
@@ -59,6 +91,7 @@ QFont FontOf(forms::LabelRole role) {
     case forms::LabelRole::kNote:
       return ScaledFont(TextSize::kNote);
     case forms::LabelRole::kText:
+    case forms::LabelRole::kLink:
       break;
   }
   return ScaledFont(TextSize::kText);
@@ -97,6 +130,7 @@ QWidget* Widget(forms::Label& label) {
   auto* widget = new TextLabel;
   widget->setTextFormat(Qt::PlainText);
   widget->setFont(FontOf(label.role()));
+  widget->is_link = label.role() == forms::LabelRole::kLink;
   auto* binding = new Binding(widget, label, [widget, &label] {
     const QString text = widget->is_caption ? Spoken(label.caption()) : FromCore(label.caption());
     widget->setText(widget->wordWrap() ? WithBreaks(text) : text);

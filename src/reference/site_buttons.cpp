@@ -1,0 +1,29 @@
+#include "reference/site_buttons.h"
+
+namespace tarnwell::reference {
+
+SiteButtons::SiteButtons(forms::Container& parent, std::string_view name,
+                         std::string_view address_name, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::string index = "(" + std::to_string(i) + ")";
+    rows_.push_back(std::unique_ptr<Row>(
+        new Row{{parent, std::string(name) + index, {}},
+                {parent,
+                 std::string(address_name) + index,
+                 {.max_length = kLongestAddress, .spoken_name = "Web address"}}}));
+    Row& row = *rows_.back();
+    row.address.SetLocked(true);
+    row.button.on_click = [this, &row] {
+      if (on_open) on_open(row.address.text());
+    };
+  }
+}
+
+void SiteButtons::Show(std::size_t index, std::string_view caption, std::string_view address) {
+  Row& row = *rows_.at(index);
+  row.button.SetCaption(caption);
+  row.button.SetEnabled(!address.empty());
+  row.address.SetText(address);
+}
+
+}  // namespace tarnwell::reference
