@@ -25,8 +25,8 @@ constexpr std::string_view kNew = "new ";
 constexpr std::uint64_t kLongestJournal = 64u << 20;  // bytes
 
 struct Renaming {
-  std::string between;  // the path that the file has meanwhile
-  std::string own;      // the path of its own name
+  std::string between;  // the name that the file has meanwhile
+  std::string own;
 };
 
 struct Journal {
@@ -63,7 +63,7 @@ bool Write(ProgramFolder& folder, const std::string& what, const std::vector<std
 }
 
 // "old <between> <own>"
-bool TakeRenaming(const std::string& folder, std::string_view line, Journal& journal) {
+bool TakeRenaming(std::string_view line, Journal& journal) {
   const bool is_old = line.starts_with(kOld);
   if (!is_old && !line.starts_with(kNew)) return false;
   line.remove_prefix(kOld.size());
@@ -73,11 +73,11 @@ bool TakeRenaming(const std::string& folder, std::string_view line, Journal& jou
   const std::string between(line.substr(0, blank));
   const std::string own(line.substr(blank + 1));
   if (between.find('/') != std::string::npos || own.find('/') != std::string::npos) return false;
-  list.push_back({folder + "/" + between, folder + "/" + own});
+  list.push_back({between, own});
   return true;
 }
 
-std::optional<Journal> Parse(const std::string& folder, const std::string& content) {
+std::optional<Journal> Parse(const std::string& content) {
   std::istringstream lines(content);
   Journal journal;
   std::string line;
@@ -85,43 +85,44 @@ std::optional<Journal> Parse(const std::string& folder, const std::string& conte
   if (!std::getline(lines, journal.what)) return std::nullopt;
   while (std::getline(lines, line)) {
     if (line == kEnd) return journal;
-    if (!TakeRenaming(folder, line, journal)) return std::nullopt;
+    if (!TakeRenaming(line, journal)) return std::nullopt;
     journal.is_committed = true;
   }
   return std::nullopt;
 }
 
-// Each of these can be repeated after it was broken off.
-
-bool MoveOldAside(FileSystem& files, const Journal& journal) {
-  return std::ranges::all_of(journal.old_files, [&](const Renaming& old) {
-    return files.Exists(old.between) || !files.Exists(old.own) ||
-           files.Rename(old.own, old.between);
-  });
+// What is in the folder. To ask for one file wouldn't do: an answer that fails looks like a no.
+using Names = std::set<std::string>;
+std::optional<Names> NamesIn(FileSystem& files, const std::string& folder) {
+  const auto listed = files.List(folder);
+  if (!listed) return std::nullopt;
+  return Names(listed->begin(), listed->end());
 }
 
-bool GiveNewTheirNames(FileSystem& files, const Journal& journal) {
-  return std::ranges::all_of(journal.new_files, [&](const Renaming& made) {
-    return !files.Exists(made.between) || files.Rename(made.between, made.own);
-  });
+// Renames each file that is still under the one name and not yet under the other.
+bool RenameAll(FileSystem& files, const std::string& folder, const std::vector<Renaming>& list,
+               std::string Renaming::*from, std::string Renaming::*to, bool over_another) {
+  const auto names = NamesIn(files, folder);
+  return names && std::ranges::all_of(list, [&](const Renaming& renaming) {
+           if (!names->contains(renaming.*from)) return true;
+           if (!over_another && names->contains(renaming.*to)) return true;
+           return files.Rename(folder + "/" + renaming.*from, folder + "/" + renaming.*to);
+         });
 }
+
+// Both can be repeated after they were broken off.
 
 bool Finish(FileSystem& files, const std::string& folder, const Journal& journal) {
-  return MoveOldAside(files, journal) && files.FlushFolder(folder) &&
-         GiveNewTheirNames(files, journal) && files.FlushFolder(folder);
+  return RenameAll(files, folder, journal.old_files, &Renaming::own, &Renaming::between, false) &&
+         files.FlushFolder(folder) &&
+         RenameAll(files, folder, journal.new_files, &Renaming::between, &Renaming::own, true) &&
+         files.FlushFolder(folder);
 }
 
 bool PutOldBack(FileSystem& files, const std::string& folder, const Journal& journal) {
-  const bool are_away = std::ranges::all_of(journal.new_files, [&](const Renaming& made) {
-    return files.Exists(made.between) || !files.Exists(made.own) ||
-           files.Rename(made.own, made.between);
-  });
-  return are_away && files.FlushFolder(folder) &&
-         std::ranges::all_of(journal.old_files,
-                             [&](const Renaming& old) {
-                               return !files.Exists(old.between) ||
-                                      files.Rename(old.between, old.own);
-                             }) &&
+  return RenameAll(files, folder, journal.new_files, &Renaming::own, &Renaming::between, false) &&
+         files.FlushFolder(folder) &&
+         RenameAll(files, folder, journal.old_files, &Renaming::between, &Renaming::own, true) &&
          files.FlushFolder(folder);
 }
 
@@ -219,7 +220,7 @@ Outcome Replacement::Commit() {
     return fault;
   }
   Journal journal;
-  for (const std::string& line : lines) TakeRenaming(folder_.path(), line, journal);
+  for (const std::string& line : lines) TakeRenaming(line, journal);
   if (!Finish(files_, folder_.path(), journal)) {
     const Fault fault = FaultOf(files_);
     // Before the new files go, the journal mustn't count on them any more.
@@ -229,7 +230,7 @@ Outcome Replacement::Commit() {
   has_begun_ = false;
   // As long as the journal is there, the old files tell that all has been done.
   if (RemoveJournal(folder_)) {
-    for (const Renaming& old : journal.old_files) files_.Remove(old.between);
+    for (const Renaming& old : journal.old_files) files_.Remove(PathOf(old.between));
   }
   return {};
 }
@@ -251,7 +252,7 @@ RecoveredReplacement RecoverReplacement(ProgramFolder& folder) {
   }
   std::string content(static_cast<std::size_t>(*size), '\0');
   const bool is_read = file->ReadAt(0, content) == static_cast<std::ptrdiff_t>(content.size());
-  const auto journal = is_read ? Parse(folder.path(), content) : std::nullopt;
+  const auto journal = is_read ? Parse(content) : std::nullopt;
   if (!journal) return recovered;
   recovered.what = journal->what;
   Recovery reached = Recovery::kStuck;
