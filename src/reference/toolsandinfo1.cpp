@@ -2,6 +2,7 @@
 
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 
 namespace tarnwell::reference {
@@ -23,6 +24,8 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
   contact_display.on_click = [show] { show(forms::form_names::kContactDisplay); };
   planner.on_click = [show] { show(forms::form_names::kZcalandar1); };
   calendar.on_click = [show] { show(forms::form_names::kCalendar); };
+  parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
+                          {.set = parts::kDocumentsSet});
   SetHelpContext(kScreenHelp);
   parts::AddHelpMenu(*this, context_, {{"&Tools and Program Information", kScreenHelp}});
 }
