@@ -4,6 +4,8 @@
 
 #include "backup/backup_rig.h"
 #include "forms/form_names.h"
+#include "planner/zcalandar1.h"
+#include "record_book/entry_screen.h"
 #include "settings/backup_place.h"
 #include "support/failing_file_system.h"
 #include "support/program_rig.h"
@@ -303,6 +305,78 @@ TEST_F(Backup1Test, EveryScreenLeadsToItsSet) {
     });
     EXPECT_EQ(rig_.top(), caller.form);
   }
+}
+
+TEST_F(Backup1Test, WhatIsUnsavedIsAskedAboutFirst) {
+  rig_.navigator().Show("ADDBKVIEW1");
+  rig_.Get<record_book::EntryScreen>("ADDBKVIEW1").fields[0]->Type("Acme");
+  for (const char* entry : {"mUB", "mUR"}) {
+    rig_.dialogs.ExpectYesNoCancel("Entry/View Screen", "Save changes made to data?",
+                                   Answer::kCancel);
+    rig_.loop.during_modal = [] { ADD_FAILURE() << "the panel came all the same"; };
+    rig_.ClickMenu(entry);
+    EXPECT_TRUE(rig_.navigator().top()->unsaved());
+  }
+  rig_.dialogs.ExpectYesNoCancel("Entry/View Screen", "Save changes made to data?", Answer::kYes);
+  At("mUB", [&] { EXPECT_GT(rig_.folder.Length("ADDBK1.Fil"), 0u); });
+}
+
+// What is on show afterwards is what the files hold.
+TEST_F(Backup1Test, TheScreenShowsTheRestoredFilesAtOnce) {
+  rig_.navigator().Show("Zcalandar1");
+  auto& planner = rig_.Get<planner::Zcalandar1>("Zcalandar1");
+  planner.entries[0].Type("Restored");
+  rig_.dialogs.ExpectNote("Save File Command", "Entries Have Been Time Sorted and File Saved.");
+  planner.save.Click();
+  At("mUB", [&] {
+    ExpectDeleteQuestion("2026 Daily Planner", Answer::kYes);
+    panel().make.Click();
+  });
+  rig_.temporary.Remove(" 2026.Cal");
+  At("mUR", [&] {
+    rig_.dialogs.Expect({"Delete Files",
+                         "This utility will first Delete all existing Daily Planner files\n"
+                         "located in Tarnwell Program!\nProceed?",
+                         Icon::kQuestion, Buttons::kYesNoCancel, 2},
+                        Answer::kYes);
+    planner.entries[0].SetText("");
+    panel().make.Click();
+  });
+  EXPECT_EQ(planner.entries[0].text(), "Restored");
+}
+
+// Neither the new names nor the old ones: the program ends before it writes anything else.
+TEST_F(Backup1Test, ADiskThatFailsInTheExchangeEndsTheProgramAndTheNextStartMendsIt) {
+  At("mUB", [&] {
+    ExpectDeleteQuestion("Company Documents", Answer::kYes);
+    panel().make.Click();
+  });
+  rig_.temporary.Write("DRPln1.Fl2", "newer");
+  rig_.loop.during_modal = [&] {
+    rig_.dialogs.Expect({"Delete Files",
+                         "This utility will first Delete all existing User Created Files\n"
+                         "located in The Tarnwell Program!\nProceed?",
+                         Icon::kQuestion, Buttons::kYesNoCancel, 2},
+                        Answer::kYes);
+    rig_.dialogs.ExpectError(
+        "Restore",
+        "The disk with the program's folder failed in the middle of the exchange of files.\n"
+        "Nothing is lost. The program ends now, and its next start puts them in order.");
+    int renames = 0;
+    files_.FailWhen([&](int call) {
+      renames += files_.log()[static_cast<std::size_t>(call) - 1] == "rename";
+      return renames > 4;
+    });
+    panel().make.Click();
+    files_.Recover();
+  };
+  rig_.ClickMenu("mUR");
+  EXPECT_TRUE(rig_.navigator().ended());
+  rig_.dialogs.ExpectNote("Interrupted Restore",
+                          "A restore was interrupted: Company Documents.\n"
+                          "It was finished: your files are those of the backup.");
+  rig_.Start();
+  EXPECT_EQ(rig_.temporary.Read("DRPln1.Fl2"), "plan");
 }
 
 TEST_F(Backup1Test, ABackupWaitsForTheFileThatItIsOf) {

@@ -33,7 +33,7 @@ class DiskChanger : public backup::Attendant {
   bool GoOn() override { return steps_before_stop-- != 0; }
   bool AskForDisk(int number) override {
     asked.push_back(number);
-    if (asked.size() > 400) return false;
+    if (asked.size() > 40) return false;
     return on_ask ? on_ask(number) : false;
   }
   void TellUnreadableDisk() override { ++unreadable; }

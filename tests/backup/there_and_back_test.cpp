@@ -83,6 +83,24 @@ INSTANTIATE_TEST_SUITE_P(Sets, EverySetTest,
                                            SetCase{"Vacation", 46, 0}),
                          [](const auto& set) { return set.param.name; });
 
+// From a disk that can't even take its info file to one that takes all.
+TEST(FullDiskTest, ADiskThatIsFullAtAnyByteLosesNothing) {
+  for (std::uint64_t room = 0; room < 2000; room += room < 1070 ? 107 : 19) {
+    BackupRig rig;
+    rig.live.Write(" 2026.Cal", tarnwell::testing::Bytes(900 * 2 + 77, 1));
+    const auto before = rig.Live();
+    rig.room = room;
+    const BackupEnd end = rig.BackUp(32);
+    EXPECT_EQ(rig.Live(), before);
+    // An info file and a record take 1080 bytes.
+    EXPECT_EQ(end == BackupEnd::kComplete, room >= 1080) << room;
+    if (end != BackupEnd::kComplete) continue;
+    rig.Wipe();
+    ASSERT_EQ(rig.Restore(33), RestoreEnd::kComplete) << room;
+    EXPECT_EQ(rig.Live(), before) << room;
+  }
+}
+
 // The layouts are those of docs/formats/backup-sets.md.
 TEST(BackupLayoutTest, TheFirstOfTwoDisksOfContactsLiesAsItsPageSays) {
   BackupRig rig;

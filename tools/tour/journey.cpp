@@ -194,6 +194,12 @@ void GoToPlanner(Traveller& person) {
   person.Click("SSCommand4(3)");
   person.ExpectTop("ToolsandInfo1");
   person.TakePicture("tools-and-program-info");
+  person.Meet(
+      "Backup1", [&] { person.ChooseFromMenu("mUB"); },
+      [&] {
+        person.TakePicture("backup");
+        person.Click("SSCommand1");
+      });
   person.Click("SSCommand11(5)");
   person.ExpectTop("Zcalandar1");
 }
