@@ -1,5 +1,6 @@
 #include "backup/document_reader.h"
 
+#include <algorithm>
 
 #include "backup/document_writer.h"
 #include "storage/sequential_file.h"
@@ -26,7 +27,7 @@ std::vector<std::string> DocumentReader::Check(Disk& disk, const DiskInfo& info)
 int DocumentReader::total(const DiskInfo&) const { return kBarTotal; }
 
 // A disk may hold any part of the set: what is there is taken.
-Step DocumentReader::TakeDisk(Disk& disk, const DiskInfo&, storage::Replacement& made) {
+Step DocumentReader::TakeDisk(Disk& disk, const DiskInfo& info, storage::Replacement& made) {
   std::vector<DocumentFile> files(FixedDocuments().begin(), FixedDocuments().end());
   for (int index = 0; index <= kDocumentPositions; ++index) {
     if (DocumentFile file = NumberedDocument(index); !file.live.empty()) {
@@ -36,13 +37,15 @@ Step DocumentReader::TakeDisk(Disk& disk, const DiskInfo&, storage::Replacement&
   if (const Step lists = TakeLists(disk, made); lists != Step::kDone) return lists;
   const std::vector<DocumentFile> held = HeldDocuments();
   files.insert(files.end(), held.begin(), held.end());
-  const int room = kBarTotal - kBarLead;
+  const int end = info.next > 0 ? std::min(info.position + kBarLead, kBarTotal) : kBarTotal;
+  const int room = std::max(end - bar_, 0);
   int done = 0;
   for (const DocumentFile& file : files) {
     if (const Step step = TakeFile(disk, file, made); step != Step::kDone) return step;
-    attendant_.MoveBar(kBarLead + ++done * room / static_cast<int>(files.size()));
+    attendant_.MoveBar(bar_ + ++done * room / static_cast<int>(files.size()));
     if (!attendant_.GoOn()) return Step::kStopped;
   }
+  bar_ += room;
   return Step::kDone;
 }
 

@@ -24,6 +24,7 @@ class DocumentReader : public SetReader {
   Step TakeLists(Disk& disk, storage::Replacement& made);
   Step TakeFile(Disk& disk, const DocumentFile& file, storage::Replacement& made);
 
+  int bar_ = 0;                               // where it stood when the last disk ended
   std::map<std::string, std::string> lists_;  // content by the file
   std::map<std::string, std::string> taken_;  // the name on the disk by the program's
 };

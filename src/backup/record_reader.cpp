@@ -57,6 +57,8 @@ Step RecordReader::TakeDisk(Disk& disk, const DiskInfo& info, storage::Replaceme
   const bool is_cut = info.next > 0 && RecordsOn(disk, info.disk) < expected;
   const bool is_foreign = info.disk > 1 && info.count > 0 && info.count != expected;
   if (expected < 0 || is_cut || is_foreign) return Step::kBadSource;
+  attendant_.StartBar(info.position);
+  attendant_.MoveBar(next_);
   for (Target& target : targets_) {
     const Step step = TakeRecords(disk, info, target);
     if (step != Step::kDone) return step;

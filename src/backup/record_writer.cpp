@@ -63,6 +63,19 @@ Step RecordWriter::Put(int count) {
   return Step::kDone;
 }
 
+// Without the piece of a record that the full disk broke off: it would have the room of others.
+Step RecordWriter::Rewrite() {
+  const int end = next_;
+  next_ = first_;
+  for (Source& source : sources_) {
+    source.copy = disk_->Make(source.form);
+    if (!source.copy) return Step::kRefused;
+  }
+  Step step = Step::kDone;
+  while (next_ < end && step == Step::kDone) step = Put(std::min(batch_, end - next_));
+  return step;
+}
+
 // A disk that doesn't take many records at once may take some of them.
 Step RecordWriter::PutNext() {
   if (next_ >= records_) return Step::kEnd;
@@ -70,7 +83,7 @@ Step RecordWriter::PutNext() {
   const int count = std::min(batch_, records_ - next_);
   Step step = Put(count);
   if (step != Step::kRefused) return step;
-  step = Step::kDone;
+  step = Rewrite();
   for (int i = 0; i < count && step == Step::kDone; ++i) step = Put(1);
   return step;
 }

@@ -36,6 +36,7 @@ class RecordWriter : public SetWriter {
   // The source's bytes that records `from` to `to`, 0-based and without the last, take.
   std::uint64_t BytesOf(const Source& source, int from, int to) const;
   Step Put(int count);
+  Step Rewrite();
   Step Compare(Source& source);
 
   const BackupSet& set_;

@@ -5,6 +5,7 @@
 
 #include "budget/budget_report.h"
 #include "forms/form_names.h"
+#include "parts/backup_menu.h"
 #include "parts/sheet_rows.h"
 #include "storage/file_names.h"
 #include "text/date_names.h"
@@ -43,7 +44,8 @@ const year_sheet::YearSheetStyle kBudget{
     .field_color = settings::FieldColor::kBudget,
     .background = settings::GridBackground::kBudget,
     .print = {.grid_lines_caption = "Print Grid Lines on each page"},
-    .help = kBudgetHelp};
+    .help = kBudgetHelp,
+    .backup_set = parts::kBudgetSet};
 
 }  // namespace
 

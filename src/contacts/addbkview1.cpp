@@ -2,6 +2,7 @@
 
 #include "contacts/contact_book.h"
 #include "forms/form_names.h"
+#include "parts/backup_menu.h"
 
 namespace tarnwell::contacts {
 namespace {
@@ -67,6 +68,9 @@ record_book::EntryStyle Style() {
       .panel_color = settings::PanelColor::kContacts,
       .has_text_color = false,
       .help = kHelp,
+      .backup_set = parts::kContactsSet,
+      .backup = "&Backup Address Book Files to Disk",
+      .restore = "&Restore Address Book Files from Disk",
   };
 }
 

@@ -20,6 +20,7 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
       thesaurus_(ThesaurusFolders(folders), speller_),
       modem_(outside.ports),
       launcher_(outside.open),
+      volumes_(outside.disks),
       window_([this](forms::Form& form) { return LookOf(form, picture_store_); }, help_),
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
                 pictures_, speller_, thesaurus_, modem_, launcher_, volumes_}) {

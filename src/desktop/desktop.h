@@ -27,9 +27,10 @@ namespace tarnwell::desktop {
 struct Outside {
   QtModem::Ports ports = QtModem::PortsOfMachine;
   QtLauncher::Opener open = QtLauncher::OpenWithSystem;
+  bool disks = true;  // that backups may be made on
 
   static Outside None() {
-    return {[] { return QStringList(); }, [](const QUrl&) { return false; }};
+    return {[] { return QStringList(); }, [](const QUrl&) { return false; }, false};
   }
 };
 

@@ -2,6 +2,7 @@
 
 #include "employees/employee_book.h"
 #include "forms/form_names.h"
+#include "parts/backup_menu.h"
 
 namespace tarnwell::employees {
 namespace {
@@ -48,6 +49,9 @@ record_book::EntryStyle Style() {
       .panel_color = settings::PanelColor::kEmployees,
       .has_text_color = false,
       .help = kHelp,
+      .backup_set = parts::kEmployeesSet,
+      .backup = "&Backup Employee Information Files to Disk",
+      .restore = "&Restore Employee InformationFiles from Disk",
   };
 }
 

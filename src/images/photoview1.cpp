@@ -6,6 +6,7 @@
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "images/image_book.h"
+#include "parts/backup_menu.h"
 #include "parts/main_buttons.h"
 #include "record_book/record_store.h"
 #include "workarea/areas.h"
@@ -51,6 +52,9 @@ record_book::EntryStyle Style() {
       .panel_color = settings::PanelColor::kDocumentImages,
       .has_text_color = true,
       .help = kHelp,
+      .backup_set = parts::kImagesSet,
+      .backup = "&Backup Document Images Files to Disk",
+      .restore = "&Restore Document Images Files from Disk",
   };
 }
 

@@ -7,6 +7,7 @@
 #include "forms/form_names.h"
 #include "leave/leave_balance.h"
 #include "leave/leave_report.h"
+#include "parts/backup_menu.h"
 #include "parts/sheet_rows.h"
 #include "storage/file_names.h"
 #include "text/leading_number.h"
@@ -29,7 +30,8 @@ constexpr LeaveStyle kSickLeave{
     .files = {storage::file_names::SickLeave, storage::file_names::SickLeaveRows},
     .export_stem = "Sick Leave",
     .copied_heading = " Employee Sick Leave Tracker",
-    .panel_color = settings::PanelColor::kSickLeave};
+    .panel_color = settings::PanelColor::kSickLeave,
+    .backup_set = parts::kSickLeaveSet};
 
 constexpr LeaveStyle kVacation{
     .form_name = forms::form_names::kVacation1,
@@ -37,7 +39,8 @@ constexpr LeaveStyle kVacation{
     .files = {storage::file_names::Vacation, storage::file_names::VacationRows},
     .export_stem = "Vacation",
     .copied_heading = " Employee Vacation Leave Tracker",
-    .panel_color = settings::PanelColor::kVacation};
+    .panel_color = settings::PanelColor::kVacation,
+    .backup_set = parts::kVacationSet};
 
 std::string CaptionOf(const forms::ProgramVariables& variables, std::string_view title) {
   const std::string caption = "Employee Data - " + std::string(title);
@@ -60,7 +63,8 @@ year_sheet::YearSheetStyle SheetStyleOf(const forms::ProgramVariables& variables
           .export_stem = style.export_stem,
           .panel_color = style.panel_color,
           .background = settings::GridBackground::kLeave,
-          .help = kLeaveHelp};
+          .help = kLeaveHelp,
+          .backup_set = style.backup_set};
 }
 
 }  // namespace

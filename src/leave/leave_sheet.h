@@ -15,6 +15,7 @@ struct LeaveStyle {
   std::string_view export_stem;
   std::string_view copied_heading;  // of the text for the clipboard, behind the year
   settings::PanelColor panel_color{};
+  int backup_set = 0;  // parts/backup_menu.h
 };
 
 class LeaveSheet : public year_sheet::YearSheet {

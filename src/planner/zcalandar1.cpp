@@ -5,10 +5,12 @@
 #include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "planner/day_copy.h"
 #include "planner/day_store.h"
 #include "settings/planner_settings.h"
+#include "storage/file_names.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
 
@@ -112,6 +114,17 @@ void Zcalandar1::BuildMenus() {
                                 {[this] { PasteCopiedDay(); }, {&day}});
   paste_entry_->SetEnabled(false);
   forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  const parts::BackupEntries entries_of_backup = parts::AddBackupEntries(
+      utilities, context_,
+      {.set = parts::kPlannerSet,
+       .backup = "&Backup Selected Year File to Disk",
+       .restore = "&Restore Selected Year File from Disk",
+       .settle = [this] { return LeaveLoadedDay() && colors.Leave(forms::Buttons::kYesNoCancel); },
+       .year = [this] { return YearOnShow(); },
+       .reload = [this] { ReadAnew(); }});
+  utilities.on_open = [this, &backup = entries_of_backup.backup] {
+    backup.SetEnabled(context_.folder.Length(storage::file_names::PlannerYear(YearOnShow())) > 0);
+  };
   utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
                      {[this] { pages.ExportMonth("Daily Planner.xls"); }, {&pages.month.panel}});
   SetPopupMenu(options);
@@ -152,6 +165,20 @@ void Zcalandar1::Load() {
   picker.SetDate(context_.clock.Today());
   ShowDay(picker.date());
   times[0].Focus();
+}
+
+int Zcalandar1::YearOnShow() {
+  return static_cast<int>(picker.date().value_or(context_.clock.Today()).year());
+}
+
+// The settings and the day, as the files hold them now.
+void Zcalandar1::ReadAnew() {
+  calendar_options.Load();
+  picker.SetLook(LookOf(calendar_options.options()));
+  sort_time.Choose(settings::ReadSortTime(context_.folder));
+  background.Load();
+  colors.Load();
+  ShowDay(picker.date());
 }
 
 void Zcalandar1::TakeRowInHand(int row) {

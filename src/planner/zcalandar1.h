@@ -81,6 +81,8 @@ class Zcalandar1 : public forms::Form {
 
   void PickDay();
   void ShowDay(std::optional<text::Date> date);
+  void ReadAnew();
+  int YearOnShow();
   void ShowRows(const DayRows& rows);
   void MarkChanged();
   void EnableCommands(bool day_commands, bool clear_commands);

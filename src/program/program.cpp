@@ -1,5 +1,7 @@
 #include "program/program.h"
 
+#include "backup/backup1.h"
+#include "backup/interrupted_restore.h"
 #include "budget/budget1a.h"
 #include "contacts/addbkdisplay.h"
 #include "contacts/addbkdisplay2.h"
@@ -51,6 +53,7 @@ void RegisterForms(forms::Navigator& navigator) {
   navigator.Register(kEmployeePictures, Make<employees::ADDBKDISPLAY3>);
   navigator.Register(kPhotoView, Make<images::PhotoVIEW1>);
   navigator.Register(kAutoMaint, Make<vehicles::AutoMaint>);
+  navigator.Register(kBackup1, Make<backup::Backup1>);
   navigator.Register(kVSSpell1, Make<proofing::VSSpell1>);
   navigator.Register(kVSThesaurus1, Make<proofing::VSThesaurus1>);
 }
@@ -64,6 +67,7 @@ Program::Program(const forms::Services& services) : context_{services, variables
 
 void Program::Start() {
   context_.folder.Recover();
+  if (!backup::SettleInterruptedRestore(context_)) return navigator_.EndProgram();
   navigator_.Show(forms::form_names::kStartfrm);
 }
 

@@ -13,7 +13,8 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  // Sweeps what an interrupted save left and shows the start screen.
+  // Sweeps what an interrupted save left, settles an interrupted restore and shows the start
+  // screen.
   void Start();
 
   forms::Navigator& navigator() { return navigator_; }

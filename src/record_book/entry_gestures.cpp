@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "record_book/entry_screen.h"
 #include "record_book/information_sheet.h"
@@ -141,11 +142,31 @@ void EntryScreen::BuildMenus() {
   forms::MenuItem& modify = edit.AddEntry("mEMod1", "&Make Modifications", forms::ActionOf(change));
   of_content_ = {&copy, &edit.AddEntry("mECopy", "&Copy", [this] { Copy(); })};
   if (!style_.telephones.empty()) AddAddressEntries(edit);
+  AddUtilities();
   of_entry_ = {&clear, &save_new, &view_screen};
   of_view_ = {&view_name, &save_changed, &delete_file, &modify, &entry_screen};
   for (forms::MenuItem* menu : {&options, &edit}) menu->LiveWith({&screen});
   SetPopupMenu(options);
   parts::AddHelpMenu(*this, context_);
+}
+
+void EntryScreen::AddUtilities() {
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  const parts::BackupEntries entries =
+      parts::AddBackupEntries(utilities, context_,
+                              {.set = style_.backup_set,
+                               .backup = style_.backup,
+                               .restore = style_.restore,
+                               .settle = [this] { return SettleAll(); },
+                               .reload =
+                                   [this] {
+                                     colors.Load();
+                                     ShowScreen(false);
+                                   }});
+  utilities.on_open = [this, &backup = entries.backup] {
+    backup.SetEnabled(!ReadNames(context_.folder, *style_.book).entries.empty());
+  };
+  utilities.LiveWith({&screen});
 }
 
 void EntryScreen::AddAddressEntries(forms::MenuItem& edit) {

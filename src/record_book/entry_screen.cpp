@@ -51,6 +51,10 @@ bool EntryScreen::Settle(const parts::SaveWords& words) {
   return question_.Settle(words) && !save_stopped_;
 }
 
+bool EntryScreen::SettleAll() {
+  return Settle(kBeforeNext) && colors.Leave(forms::Buttons::kYesNoCancel);
+}
+
 int EntryScreen::SettleFor(int place) {
   const NameEntry wanted = entries_[static_cast<std::size_t>(place)];
   if (!Settle(kBeforeNext)) return -1;

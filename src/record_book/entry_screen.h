@@ -88,6 +88,7 @@ class EntryScreen : public forms::Form {
   void ConnectCommands();
   void BuildMenus();
   void AddAddressEntries(forms::MenuItem& edit);
+  void AddUtilities();
 
   int last_entry() const { return style_.book->entries - 1; }
   bool IsComments(int entry) const { return comments && entry == last_entry(); }
@@ -112,6 +113,8 @@ class EntryScreen : public forms::Form {
   void TellUnsafeName();
   // Before what is typed is left. False when the screen has to stay as it is.
   bool Settle(const parts::SaveWords& words);
+  // Likewise, with the colours.
+  bool SettleAll();
   // Likewise before that entry of the list is read: says where it stands then, -1 when it isn't to
   // be read.
   int SettleFor(int place);

@@ -64,6 +64,9 @@ struct EntryStyle {
   settings::PanelColor panel_color;
   bool has_text_color;
   int help;  // context number
+  int backup_set;           // parts/backup_menu.h
+  std::string_view backup;  // captions of menu entries
+  std::string_view restore;
 };
 
 inline constexpr int kLastRowOfSheet = 16;  // entry: no later one is printed on the sheet

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "forms/form_names.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "reference/information_text.h"
 #include "reference/web_site.h"
@@ -72,6 +73,8 @@ InfoAdv::InfoAdv(forms::Context& context)
     panel->Cover({&text_panel});
   }
   ConnectCommands();
+  parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
+                          {.set = parts::kDocumentsSet});
   SetHelpContext(kScreenHelp);
   parts::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});
 }

@@ -4,6 +4,7 @@
 
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "print/report.h"
 #include "print/rich_text.h"
@@ -36,6 +37,8 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
                 forms::LabelRole::kNote) {
   ConnectForms();
   ConnectTexts();
+  parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
+                          {.set = parts::kDocumentsSet});
   SetHelpContext(kScreenHelp);
   parts::AddHelpMenu(
       *this, context_,

@@ -5,6 +5,7 @@
 #include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/color_choice.h"
 #include "parts/help_menu.h"
 #include "settings/display_settings.h"
@@ -77,6 +78,8 @@ void Startfrm::BuildMenus() {
   };
   options.AddEntry("mOBegin", "&Begin Program", [this] { Begin(); });
   options.AddEntry("mOE", "E&xit", [this] { Exit(); });
+  parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
+                          {.set = parts::kDocumentsSet, .reload = [this] { RunLoadRoutine(); }});
   SetPopupMenu(options);
   SetHelpContext(parts::kProgramOverview);
   parts::AddHelpMenu(*this, context_);

@@ -30,6 +30,7 @@ inline constexpr std::string_view kCalendarOptions = "CalOpt.fil";
 inline constexpr std::string_view kPersonPictureFolder = "Gcolor17.Fil";
 inline constexpr std::string_view kVehiclePictureFolder = "GColor14.Fil";
 inline constexpr std::string_view kImageFolder = "GColor44.Fil";
+inline constexpr std::string_view kBackupPlace = "BackupPlace.Fil";
 inline constexpr std::string_view kImageBackground = "GColor5.Fil";  // supplied
 
 // Company documents.

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "vehicles/automaint.h"
 
@@ -48,7 +49,15 @@ void AutoMaint::BuildMenus() {
   forms::MenuItem& views = menus().AddSubmenu("mV", "Vie&w");
   views.AddEntry("mVAll", "&View/Print All Action Required - All Vehicles",
                  {[this] { OpenAllDue(); }, with_sheet});
-  for (forms::MenuItem* menu : {&options, &edit, &views}) menu->LiveWith(with_sheet);
+  forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  parts::AddBackupEntries(
+      utilities, context_,
+      {.set = parts::kVehiclesSet,
+       .backup = "&Backup Vehicle Maintenance Files to Disk",
+       .restore = "&Restore Vehicle Maintenance Files from Disk",
+       .settle = [this] { return Settle() && colors_.Leave(forms::Buttons::kYesNoCancel); },
+       .reload = [this] { Load(); }});
+  for (forms::MenuItem* menu : {&options, &edit, &views, &utilities}) menu->LiveWith(with_sheet);
   SetPopupMenu(options);
   parts::AddHelpMenu(*this, context_, {{"Company &Vehicle Maintenance Tracker", kHelpPage}});
 }

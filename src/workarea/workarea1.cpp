@@ -6,6 +6,7 @@
 
 #include "forms/form_names.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "text/date_mask.h"
 
@@ -127,6 +128,11 @@ void WorkArea1::BuildMenus() {
   add("mOGB", "&Grid Background");
   options.LiveWith({&areas});
   forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  parts::AddBackupEntries(
+      utilities, context_,
+      {.set = parts::kDocumentsSet,
+       .settle = [this] { return (!pane_ || pane_->Settle()) && LeaveColors(); },
+       .reload = [this] { Reload(); }});
   add_to(utilities, "mUExport", "Export File in Excel/Spreadsheet Format");
   utilities.LiveWith({&areas});
   SetPopupMenu(options);
@@ -147,6 +153,8 @@ void WorkArea1::Activate() {
   if (const auto area = std::exchange(context_.variables.HubArea, std::int16_t{0})) {
     return GoTo(static_cast<Area>(area));
   }
+  // A restore on another screen may have brought other colours.
+  if (!colors.changed()) colors.Load();
   switch (context_.variables.MainArea) {
     case parts::kInformationAdvisor:
       return context_.navigator.Show(forms::form_names::kInfoAdv);
@@ -236,6 +244,14 @@ void WorkArea1::EnterArea(Area area) {
 void WorkArea1::LeaveArea() {
   if (pane_) pane_->Leave();
   EnterArea(kNoArea);
+}
+
+// Shows what the files hold now.
+void WorkArea1::Reload() {
+  const Area area = area_;
+  LeaveArea();
+  colors.Load();
+  EnterArea(area);
 }
 
 void WorkArea1::ShowArchive() {

@@ -57,6 +57,7 @@ class WorkArea1 : public forms::Form {
   void ChooseArea(Area area);
   void EnterArea(Area area);
   void LeaveArea();
+  void Reload();
   // In the place of the area in hand, to which leaving it goes back.
   void ShowArchive();
   Pane* PaneOf(Area area);

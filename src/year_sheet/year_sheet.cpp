@@ -5,6 +5,7 @@
 
 #include "forms/disk_trouble.h"
 #include "forms/navigator.h"
+#include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "parts/sheet_rows.h"
 #include "print/report.h"
@@ -112,6 +113,14 @@ void YearSheet::BuildMenus() {
   edit.AddEntry("mECopy", "Copy Budget to &Windows Clipboard", {copy, with_grid});
   edit.AddEntry("mECY", "Copy To Next &Year", {[this] { CopyWholeYear(); }, {&copy_year}});
   forms::MenuItem& utilities = menus().AddSubmenu("mU", "&Utilities");
+  const parts::BackupEntries entries = parts::AddBackupEntries(
+      utilities, context_,
+      {.set = style_.backup_set,
+       .backup = "&Backup Selected Year File to Disk",
+       .restore = "&Restore Selected Year File from Disk",
+       .settle = [this] { return SettleYear() && colors.Leave(forms::Buttons::kYesNoCancel); },
+       .year = [this] { return shown_year_; },
+       .reload = [this] { ReadAnew(); }});
   forms::MenuItem& exported =
       utilities.AddEntry("mUExcel", "Export File in Excel/Spreadsheet Format",
                          {[this] {
@@ -120,7 +129,10 @@ void YearSheet::BuildMenus() {
                                                      std::to_string(shown_year_) + ".xls");
                           },
                           with_grid});
-  utilities.on_open = [this, &exported] { exported.SetEnabled(HasNames()); };
+  utilities.on_open = [this, &exported, &backup = entries.backup] {
+    exported.SetEnabled(HasNames());
+    backup.SetEnabled(context_.folder.Length(FileOf(shown_year_)) > 0);
+  };
   for (forms::MenuItem* menu : {&options, &edit, &utilities}) menu->LiveWith({&sheet});
   SetPopupMenu(options);
   parts::AddHelpMenu(*this, context_);
@@ -153,6 +165,14 @@ bool YearSheet::SettleYear() {
   if (!EndEdit() || !Settle()) return false;
   if (question_.unsaved()) ShowYear(shown_year_);
   return true;
+}
+
+// The settings and the year, as the files hold them now.
+void YearSheet::ReadAnew() {
+  colors.Load();
+  background.Load();
+  ShowYear(shown_year_);
+  print_options.Focus();
 }
 
 void YearSheet::TakeYear() {

@@ -48,6 +48,7 @@ struct YearSheetStyle {
   settings::GridBackground background{};
   print::PrintPanelStyle print = {};
   int help = 0;
+  int backup_set = 0;  // parts/backup_menu.h
 };
 
 // A column of amounts, as wide as a month.
@@ -133,6 +134,7 @@ class YearSheet : public forms::Form {
 
   bool Settle();
   bool SettleYear();
+  void ReadAnew();
   void TakeYear();
   void ShowYear(int wanted);
   parts::SaveResult Save();

@@ -68,7 +68,7 @@ TEST(Journey, AnAppointmentIsWrittenSavedAndComesBackAsAReminder) {
   ExpectLists(user, today);
 
   const auto names = pictures.Names();
-  EXPECT_GE(names.size(), 62u);
+  EXPECT_GE(names.size(), 63u);
   for (const std::string& name : names) {
     EXPECT_EQ(QImage(QString::fromStdString(pictures.path() + "/" + name)).size(), QSize(1024, 768))
         << name;

@@ -87,7 +87,7 @@ class MisspelledText : public proofing::CheckedText {
   void Replace(int, std::size_t, std::size_t, std::string_view) override {}
 };
 
-constexpr const char* kModalForms[] = {"About1", "VSSpell1", "VSThesaurus1"};
+constexpr const char* kModalForms[] = {"About1", "Backup1", "VSSpell1", "VSThesaurus1"};
 
 // The whole program in its window, with the form over the start screen; the services only pretend.
 class KeyWorld {
@@ -174,6 +174,7 @@ const Way kWays[] = {
     {"Vehicles", "AutoMaint", {}},
     {"VehicleCreating", "AutoMaint", {"Command7"}},
     {"VehicleCalculator", "AutoMaint", {"mOGas"}},
+    {"Backup", "Backup1", {}},
     {"Spelling", "VSSpell1", {}},
     {"Thesaurus", "VSThesaurus1", {}},
 };

@@ -69,12 +69,13 @@ class MainWindowTest : public ::testing::Test {
   testing::FakeThesaurus thesaurus_;
   testing::FakeModem modem_;
   testing::FakeLauncher launcher_;
+  testing::FakeVolumes volumes_;
   forms::ProgramVariables variables_;
   MainWindow window_{SampleLook, help_};
   forms::Navigator navigator_;
   forms::Context context_{folder_,    clock_,    dialogs_,   loop_,     window_,  help_,
                           clipboard_, pages_,    folders_,   pictures_, speller_, thesaurus_,
-                          modem_,     launcher_, variables_, navigator_};
+                          modem_,     launcher_, volumes_, variables_, navigator_};
 };
 
 TEST_F(MainWindowTest, TheTopFormLendsItsTitleMenusAndStatus) {

@@ -106,7 +106,10 @@ class FakeFolders : public forms::FolderBrowser {
   };
 
   std::vector<forms::Place> Places() override {
-    return {{"/home/ann", "/home/ann"}, {"STICK", "/media/ann/STICK"}, {"/", "/"}};
+    std::vector<forms::Place> places{
+        {"/home/ann", "/home/ann"}, {"STICK", "/media/ann/STICK"}, {"/", "/"}};
+    places.insert(places.end(), more_places.begin(), more_places.end());
+    return places;
   }
   std::string ProgramPath() override { return "/home/ann/Tarnwell"; }
   std::optional<std::vector<std::string>> Folders(const std::string& path) override {
@@ -126,6 +129,7 @@ class FakeFolders : public forms::FolderBrowser {
   std::map<std::string, Content> readable{{"/home/ann/", {{"Tarnwell"}, {}}},
                                           {"/home/ann/Tarnwell/", {}}};
   std::map<std::string, std::string> written;
+  std::vector<forms::Place> more_places;
   bool refuse = false;
 };
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -24,8 +25,9 @@ class ScriptedDialogs : public forms::Dialogs {
     for (const ExpectedInput& box : inputs_) ADD_FAILURE() << "never asked: " << box.title;
   }
 
-  void Expect(forms::MessageBox box, forms::Answer answer) {
-    expected_.push_back({std::move(box), answer});
+  // `meanwhile` happens while the box stands.
+  void Expect(forms::MessageBox box, forms::Answer answer, std::function<void()> meanwhile = {}) {
+    expected_.push_back({std::move(box), answer, std::move(meanwhile)});
   }
   // With OK alone.
   void ExpectNote(std::string title, std::string text) {
@@ -76,6 +78,7 @@ class ScriptedDialogs : public forms::Dialogs {
     EXPECT_EQ(box.icon, next.box.icon) << "icon of " << box.title;
     EXPECT_EQ(box.buttons, next.box.buttons) << "buttons of " << box.title;
     EXPECT_EQ(box.default_button, next.box.default_button) << "default button of " << box.title;
+    if (next.meanwhile) next.meanwhile();
     return next.answer;
   }
 
@@ -142,6 +145,7 @@ class ScriptedDialogs : public forms::Dialogs {
   struct Expected {
     forms::MessageBox box;
     forms::Answer answer;
+    std::function<void()> meanwhile;
   };
   struct ExpectedInput {
     std::string title;

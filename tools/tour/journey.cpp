@@ -210,6 +210,12 @@ void GoToPlanner(Traveller& person) {
   person.Click("SSCommand2(1)");
   person.TakePicture("incident-report-print");
   person.Click("SSCommand80(2)");
+  person.Meet(
+      "Backup1", [&] { person.ChooseFromMenu("mUB"); },
+      [&] {
+        person.TakePicture("backup");
+        person.Click("SSCommand1");
+      });
   person.Click("SSCommand11(5)");
   person.ExpectTop("Zcalandar1");
 }

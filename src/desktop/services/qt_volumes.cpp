@@ -31,7 +31,7 @@ std::string QtVolumes::MountOf(const std::string& path) {
 bool QtVolumes::LiesIn(const std::string& path, const std::string& folder) {
   std::error_code failed;
   std::filesystem::path place = std::filesystem::canonical(Local(path), failed);
-  if (failed) return true;
+  if (failed || !has_disks_) return true;
   for (;; place = place.parent_path()) {
     const bool is_same = std::filesystem::equivalent(place, Local(folder), failed);
     if (is_same || failed) return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "backup/backup1.h"
 #include "budget/budget1a.h"
 #include "desktop/views/views.h"
 #include "forms/form_names.h"
@@ -57,6 +58,7 @@ constexpr Entry kViews[] = {
     {forms::form_names::kEmployeePictures, Make<record_book::PicturePages>},
     {forms::form_names::kPhotoView, Make<images::PhotoVIEW1>},
     {forms::form_names::kAutoMaint, Make<vehicles::AutoMaint>},
+    {forms::form_names::kBackup1, Make<backup::Backup1>},
     {forms::form_names::kVSSpell1, Make<proofing::VSSpell1>},
     {forms::form_names::kVSThesaurus1, Make<proofing::VSThesaurus1>},
 };

@@ -16,6 +16,9 @@ namespace tarnwell::reference {
 class InfoAdv;
 class ToolsandInfo1;
 }  // namespace tarnwell::reference
+namespace tarnwell::backup {
+class Backup1;
+}
 namespace tarnwell::budget {
 class Budget1a;
 }
@@ -61,6 +64,7 @@ QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures);
 QWidget* View(record_book::PicturePages& form, PictureStore& pictures);
 QWidget* View(images::PhotoVIEW1& form, PictureStore& pictures);
 QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures);
+QWidget* View(backup::Backup1& form, PictureStore& pictures);
 QWidget* View(proofing::VSSpell1& form, PictureStore& pictures);
 QWidget* View(proofing::VSThesaurus1& form, PictureStore& pictures);
 
