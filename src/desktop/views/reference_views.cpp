@@ -61,10 +61,10 @@ QWidget* ToolsSide(reference::ToolsandInfo1& form) {
                                 Listed(WithIcon("template", Widget(form.incident_report))),
                                 Listed(WithIcon("planner", Widget(form.planner))),
                                 Listed(WithIcon("month", Widget(form.calendar)))},
-                               kTightSpace));
+                               kHairSpace));
   QWidget* links = Column({InSize(TextSize::kStrong, Wrapped(Widget(form.link_heading))),
                            Wrapped(Widget(form.link_note)), Wrapped(Widget(form.link_trouble))},
-                          kHairSpace);
+                          0);
   for (std::size_t i = 0; i < form.links.size(); ++i) {
     Append(links, InSize(TextSize::kNote, Wrapped(Widget(form.links[i]))));
   }
