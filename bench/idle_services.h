@@ -14,6 +14,7 @@
 #include "forms/pages.h"
 #include "forms/pictures.h"
 #include "forms/services.h"
+#include "forms/volumes.h"
 
 namespace tarnwell::bench {
 
@@ -105,6 +106,12 @@ class IdleModem : public forms::Modem {
 class IdleLauncher : public forms::Launcher {
   bool OpenWeb(std::string_view) override { return false; }
   bool WriteMail(std::string_view) override { return false; }
+};
+
+class IdleVolumes : public forms::Volumes {
+  std::optional<std::uint64_t> FreeBytes(const std::string&) override { return {}; }
+  std::string MountOf(const std::string&) override { return {}; }
+  bool LiesIn(const std::string&, const std::string&) override { return false; }
 };
 
 class IdleHelp : public forms::HelpViewer {

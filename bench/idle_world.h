@@ -16,7 +16,7 @@ template <typename ClockClass = IdleClock, typename LoopClass = IdleLoop>
 struct IdleWorld {
   explicit IdleWorld(storage::ProgramFolder& folder)
       : context{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders, pictures,
-                 speller, thesaurus, modem, launcher},
+                 speller, thesaurus, modem, launcher, volumes},
                 variables,
                 navigator} {
     navigator.SetContext(context);
@@ -44,6 +44,7 @@ struct IdleWorld {
   IdleThesaurus thesaurus;
   IdleModem modem;
   IdleLauncher launcher;
+  IdleVolumes volumes;
   forms::ProgramVariables variables;
   forms::Navigator navigator;
   forms::Context context;

@@ -22,7 +22,7 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
       launcher_(outside.open),
       window_([this](forms::Form& form) { return LookOf(form, picture_store_); }, help_),
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,
-                pictures_, speller_, thesaurus_, modem_, launcher_}) {
+                pictures_, speller_, thesaurus_, modem_, launcher_, volumes_}) {
   window_.Follow(program_.navigator());
   // The program has done what it was asked, and waits.
   QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,

@@ -15,6 +15,7 @@
 #include "desktop/services/qt_modem.h"
 #include "desktop/services/qt_pages.h"
 #include "desktop/services/qt_pictures.h"
+#include "desktop/services/qt_volumes.h"
 #include "desktop/services/system_clock.h"
 #include "desktop/widgets/pictures.h"
 #include "program/program.h"
@@ -59,6 +60,7 @@ class Desktop {
   MythesThesaurus thesaurus_;
   QtModem modem_;
   QtLauncher launcher_;
+  QtVolumes volumes_;
   MainWindow window_;
   program::Program program_;  // goes first: its forms need all the others
 };

@@ -8,6 +8,7 @@
 #include "forms/pictures.h"
 #include "forms/program_variables.h"
 #include "forms/services.h"
+#include "forms/volumes.h"
 #include "storage/program_folder.h"
 
 namespace tarnwell::forms {
@@ -31,6 +32,7 @@ struct Services {
   Thesaurus& thesaurus;
   Modem& modem;
   Launcher& launcher;
+  Volumes& volumes;
 };
 
 // Everything that a form works with besides its own controls.

@@ -23,6 +23,7 @@ inline constexpr const char* kContactPictures = "ADDBKDISPLAY2";
 inline constexpr const char* kEmployeePictures = "ADDBKDISPLAY3";
 inline constexpr const char* kPhotoView = "PhotoVIEW1";
 inline constexpr const char* kAutoMaint = "AutoMaint";
+inline constexpr const char* kBackup1 = "Backup1";
 inline constexpr const char* kVSSpell1 = "VSSpell1";
 inline constexpr const char* kVSThesaurus1 = "VSThesaurus1";
 

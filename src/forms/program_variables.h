@@ -17,6 +17,9 @@ struct ProgramVariables {
   std::int16_t MainArea = 0;       // index of the main button last chosen, 0 to 4
   std::int16_t HubArea = 0;        // area that the hub opens when it comes on top; 0 for none
   std::int16_t SplashShown = 0;    // 99 once the splash screen was shown
+  std::int16_t BackupMode = 0;     // the set that the backup utility works on, odd for a restore
+  std::int16_t RestoreMarker = 0;  // 99 for a restore
+  int BackupYear = 0;              // of the sets that are a year's
   storage::TaggedValue StartBackColor;
   std::int16_t FormHeight = 0;  // the work area's client, in twips, cut to 32767
   std::int16_t FormWidth = 0;

@@ -1,7 +1,8 @@
 #include "images/image_pages.h"
 
-#include <algorithm>
 #include <array>
+
+#include "print/picture_size.h"
 
 namespace tarnwell::images {
 namespace {
@@ -61,13 +62,12 @@ struct Place {
 
 // In the middle of its cell, as large as its proportions allow.
 void AddPicture(print::PageEngine& engine, const Place& cell, const forms::LoadedPicture& picture) {
-  if (!picture.png || picture.width < 1 || picture.height < 1) return;
-  const double scale = std::min(static_cast<double>(cell.width) / picture.width,
-                                static_cast<double>(cell.height) / picture.height);
-  const int width = static_cast<int>(picture.width * scale);
-  const int height = static_cast<int>(picture.height * scale);
-  engine.Add(forms::PlacedImage{cell.x + (cell.width - width) / 2,
-                                cell.y + (cell.height - height) / 2, width, height, picture.png});
+  if (!picture.png) return;
+  const print::PictureSize size =
+      print::FittedInto({cell.width, cell.height}, {picture.width, picture.height});
+  engine.Add(forms::PlacedImage{cell.x + (cell.width - size.width) / 2,
+                                cell.y + (cell.height - size.height) / 2, size.width, size.height,
+                                picture.png});
 }
 
 }  // namespace

@@ -69,10 +69,11 @@ void PhotoVIEW1::Load() {
   EntryScreen::Load();
 }
 
-// This screen's panel colour is offered to all others.
+// The colours that this screen saves are offered to all others.
 bool PhotoVIEW1::QueryUnload(forms::UnloadCause cause) {
+  const bool had_colors = colors.changed();
   if (!EntryScreen::QueryUnload(cause)) return false;
-  parts::SaveAllPanelColors(context_);
+  if (had_colors && !colors.changed()) parts::SaveAllPanelColors(context_);
   return true;
 }
 

@@ -91,9 +91,17 @@ ShownPicture LoadShown(forms::Context& context, const std::string& path, int mos
   if (path.empty()) return shown;
   shown.picture = context.pictures.Load(path, most_width, most_height);
   if (shown.picture.png) return shown;
-  shown.note = shown.picture.fault == storage::Fault::kMissing
-                   ? "This picture isn't there any more: " + path
-                   : "This picture can't be shown: " + path;
+  switch (shown.picture.fault) {
+    case storage::Fault::kMissing:
+      shown.note = "This picture isn't there any more: " + path;
+      break;
+    case storage::Fault::kNone:
+      shown.note = "The picture " + path + " can't be shown: it is no picture.";
+      break;
+    default:
+      shown.note = "The picture " + path +
+                   " can't be shown: " + std::string(forms::ReasonOf(shown.picture.fault)) + ".";
+  }
   return shown;
 }
 

@@ -56,6 +56,14 @@ PictureSize PixelsOf(std::string_view file) {
   return file.starts_with("\xFF\xD8") ? JpegPixels(file) : PictureSize{};
 }
 
+PictureSize FittedInto(PictureSize box, PictureSize picture) {
+  if (picture.width < 1 || picture.height < 1) return {};
+  const double scale = std::min(static_cast<double>(box.width) / picture.width,
+                                static_cast<double>(box.height) / picture.height);
+  return {static_cast<int>(std::lround(picture.width * scale)),
+          static_cast<int>(std::lround(picture.height * scale))};
+}
+
 PictureSize SizeOnPage(const richtext::Picture& picture, int most_width, int most_height) {
   const PictureSize pixels = PixelsOf(picture.bytes);
   if (pixels.width == 0) {

@@ -16,6 +16,11 @@ std::string CompanyTitle(const forms::ProgramVariables& variables, std::string_v
   return variables.CompanyLine + " " + std::string(title);
 }
 
+std::string WithCompany(const forms::ProgramVariables& variables, std::string_view text) {
+  const std::string& company = variables.CompanyLine;
+  return std::string(text) + (company.empty() ? "" : " " + company);
+}
+
 void PrintedLine(PageEngine& engine, text::Date today, int top) {
   const forms::Font font = engine.font();
   forms::Font black = font;

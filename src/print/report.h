@@ -14,6 +14,9 @@ namespace tarnwell::print {
 // Behind the company's name and a blank, where there is one.
 std::string CompanyTitle(const forms::ProgramVariables& variables, std::string_view title);
 
+// The other way round, as captions of windows and some heads have it.
+std::string WithCompany(const forms::ProgramVariables& variables, std::string_view text);
+
 inline constexpr int kHeadHeight = 250;  // twips, of the line at the head of a page
 
 // "Printed:  " and the date at the right edge of the page, `top` twips below its upper edge, in

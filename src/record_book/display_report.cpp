@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "print/report.h"
 #include "print/table.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
@@ -67,9 +68,7 @@ std::vector<print::TableColumn> ColumnsOf(print::PageEngine& engine, const ListL
 
 void ListHead(print::PageEngine& engine, const forms::ProgramVariables& variables,
               std::string_view title, text::Date today, std::string_view mask) {
-  std::string line(title);
-  if (!variables.CompanyLine.empty()) line += " " + variables.CompanyLine;
-  engine.Line(line, print::Align::kCenter);
+  engine.Line(print::WithCompany(variables, title), print::Align::kCenter);
   AsOf(engine, variables, today, mask);
   engine.Skip(kBelowHead);
 }

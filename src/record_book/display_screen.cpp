@@ -6,6 +6,7 @@
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
 #include "parts/sheet_rows.h"
+#include "print/report.h"
 #include "text/letters.h"
 
 namespace tarnwell::record_book {
@@ -23,11 +24,6 @@ constexpr parts::ExportStyle kExportStyle{
         "A non-formatted Spreadsheet File (tab-delimited text file) will be saved in the program "
         "folder:  "};
 
-std::string CaptionOf(const forms::ProgramVariables& variables, std::string_view caption) {
-  const std::string& company = variables.CompanyLine;
-  return std::string(caption) + (company.empty() ? "" : " " + company);
-}
-
 // A sign of a person's own is no mnemonic's.
 std::string WithPlainSigns(std::string_view text) {
   std::string plain;
@@ -38,7 +34,7 @@ std::string WithPlainSigns(std::string_view text) {
 }  // namespace
 
 DisplayScreen::DisplayScreen(forms::Context& context, const DisplayStyle& style)
-    : Form(context, style.form_name, CaptionOf(context.variables, style.caption)),
+    : Form(context, style.form_name, print::WithCompany(context.variables, style.caption)),
       grid(sheet, "VSGd1", style.grid_name),
       links(sheet, context, grid, style.book.options),
       complete_report(sheet, "Command6", style.report_caption),

@@ -89,6 +89,7 @@ void EntryScreen::ConnectCommands() {
   link.on_click = [this] { pictures.Open(picture_path_); };
   pictures.on_take = [this](const std::string& path) { TakePicture(path); };
   pictures.on_remove = [this] { TakePicture({}); };
+  pictures.on_close = [this] { link.Focus(); };
   mode.on_click = [this] { SwitchMode(); };
   change.on_click = [this] { ChangeOrClear(); };
   save.on_click = [this] { Save(); };
@@ -103,7 +104,10 @@ void EntryScreen::ConnectCommands() {
     for (auto& field : fields) field->SetColor(colors.text());
   };
   print.options_frame.SetVisible(false);  // there are none
-  print.on_close = [this] { SetStatus({}); };
+  print.on_close = [this] {
+    SetStatus({});
+    if (screen.visible()) (print_file.Reachable() ? print_file : mode).Focus();
+  };
 }
 
 void EntryScreen::BuildMenus() {
@@ -122,7 +126,7 @@ void EntryScreen::BuildMenus() {
   if (!style_.worksheet.empty()) {
     options.AddEntry("mOW", "Print &Worksheet", {[this] { OpenWorksheet(); }, {&mode}});
   }
-  options.AddEntry("mOCopy", "C&opy", [this] { Copy(); });
+  forms::MenuItem& copy = options.AddEntry("mOCopy", "C&opy", [this] { Copy(); });
   options.AddSeparator();
   forms::MenuItem& view_screen = options.AddEntry("mOVS", "View Sc&reen", forms::ActionOf(mode));
   forms::MenuItem& entry_screen = options.AddEntry("mOES", "E&ntry Screen", forms::ActionOf(mode));
@@ -135,7 +139,7 @@ void EntryScreen::BuildMenus() {
   options.AddCommand("mOEx", "E&xit", exit);
   forms::MenuItem& edit = menus().AddSubmenu("mE", "&Edit");
   forms::MenuItem& modify = edit.AddEntry("mEMod1", "&Make Modifications", forms::ActionOf(change));
-  copy_entry_ = &edit.AddEntry("mECopy", "&Copy", [this] { Copy(); });
+  of_content_ = {&copy, &edit.AddEntry("mECopy", "&Copy", [this] { Copy(); })};
   if (!style_.telephones.empty()) AddAddressEntries(edit);
   of_entry_ = {&clear, &save_new, &view_screen};
   of_view_ = {&view_name, &save_changed, &delete_file, &modify, &entry_screen};
@@ -149,7 +153,7 @@ void EntryScreen::AddAddressEntries(forms::MenuItem& edit) {
                 [this] { CopyFirst(style_.telephones, "telephone number"); })
       .SetKey("Ctrl+T");
   edit.AddEntry("mECopyMail", "Copy &E-mail Address", [this] { CopyFirst(style_.emails, kMail); })
-      .SetKey("Ctrl+E");
+      .SetKey("Ctrl+L");
   edit.AddEntry("mEMail", "&Write an E-mail", [this] { WriteMail(); }).SetKey("Ctrl+M");
 }
 

@@ -120,7 +120,10 @@ void EntryScreen::Delete() {
   search.SetText({});
   searched_.clear();
   ClearEntries();
-  if (is_last) return ShowScreen(true);
+  if (is_last) {
+    ShowScreen(true);
+    return;
+  }
   Enter(State::kNoRecord);
   search.Focus();
 }

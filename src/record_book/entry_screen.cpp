@@ -4,7 +4,7 @@
 
 #include "forms/disk_trouble.h"
 #include "forms/navigator.h"
-#include "record_book/information_sheet.h"
+#include "print/report.h"
 #include "record_book/record_store.h"
 #include "text/letters.h"
 
@@ -17,11 +17,6 @@ constexpr parts::SaveWords kBeforeNext{.title = "Entry/View Screen",
 constexpr parts::SaveWords kBeforeExit{.title = "Entry/View Screen",
                                        .text = "Save changes made to data before exiting?",
                                        .buttons = forms::Buttons::kYesNo};
-
-std::string WithCompany(const forms::ProgramVariables& variables, std::string_view caption) {
-  const std::string& company = variables.CompanyLine;
-  return std::string(caption) + (company.empty() ? "" : " " + company);
-}
 
 }  // namespace
 
@@ -66,32 +61,35 @@ int EntryScreen::SettleFor(int place) {
   return found == entries_.end() ? -1 : static_cast<int>(found - entries_.begin());
 }
 
-void EntryScreen::ShowScreen(bool entry) {
+bool EntryScreen::ShowScreen(bool entry) {
   const forms::Hourglass hourglass(context_.window);
-  ShowNames();
+  const bool is_readable = ShowNames();
   ClearEntries();
   search.SetText({});
   searched_.clear();
-  SetCaption(WithCompany(context_.variables, entry ? style_.entry_caption : style_.view_caption));
+  SetCaption(
+      print::WithCompany(context_.variables, entry ? style_.entry_caption : style_.view_caption));
   Enter(entry ? State::kEntry : State::kNoRecord);
   if (entry) {
     ControlOf(0).Focus();
   } else {
     search.Focus();
   }
+  return is_readable;
 }
 
-void EntryScreen::ShowNames() {
+// Names that can't all be read are none: the last of some isn't the last of all.
+bool EntryScreen::ShowNames() {
   NameList read = ReadNames(context_.folder, *style_.book, BlankSecond::kListed);
-  entries_ = std::move(read.entries);
+  const bool is_readable = read.fault == storage::Fault::kNone;
+  entries_ = is_readable ? std::move(read.entries) : std::vector<NameEntry>();
   std::vector<std::string> items;
   items.reserve(entries_.size());
   for (const NameEntry& entry : entries_) items.emplace_back(NameIn(entry));
   names.SetItems(std::move(items));
   ShowCount();
-  if (read.fault != storage::Fault::kNone) {
-    forms::TellUnreadable(context_, "The list of names", read.fault);
-  }
+  if (!is_readable) forms::TellUnreadable(context_, "The list of names", read.fault);
+  return is_readable;
 }
 
 void EntryScreen::ShowCount() {
@@ -125,7 +123,9 @@ void EntryScreen::EnableCommands() {
   print_file.SetEnabled(has_record());
   remove.SetEnabled(has_record());
   link.SetEnabled(has_record() || (is_entry() && has_changes));
-  copy_entry_->SetEnabled(has_record() || (is_entry() && has_changes));
+  for (forms::MenuItem* item : of_content_) {
+    item->SetEnabled(has_record() || (is_entry() && has_changes));
+  }
   print_picture.SetVisible(has_record() && !style_.worksheet.empty());
   large.SetEnabled(!picture_path_.empty());
   small.SetEnabled(!picture_path_.empty());
@@ -151,9 +151,9 @@ void EntryScreen::ShowPicture(const std::string& path) {
 
 void EntryScreen::SwitchMode() {
   if (!Settle(kBeforeNext)) return;
-  if (!is_entry()) return ShowScreen(true);
-  ShowScreen(false);
-  if (!entries_.empty()) return;
+  const bool to_entry = !is_entry();
+  const bool is_readable = ShowScreen(to_entry);
+  if (to_entry || !is_readable || !entries_.empty()) return;
   Message({"View Data", "There are currently no files to view,\nuse entry screen to input data."});
   ShowScreen(true);
 }

@@ -96,9 +96,9 @@ class EntryScreen : public forms::Form {
   BookRecord Content() const;
   bool HasContent() const;
 
-  // The whole screen anew, empty.
-  void ShowScreen(bool entry);
-  void ShowNames();
+  // The whole screen anew, empty. False where the names can't be read; the person was told.
+  bool ShowScreen(bool entry);
+  bool ShowNames();
   void ShowCount();
   void Enter(State state);
   void EnableCommands();
@@ -148,9 +148,9 @@ class EntryScreen : public forms::Form {
   int record_ = 0;                  // of what is shown; 0 for none
   int place_ = -1;                  // in the list
   std::string picture_path_;
-  bool save_stopped_ = false;  // by the last attempt, and the person was told
-  forms::MenuItem* copy_entry_ = nullptr;
-  std::vector<forms::MenuItem*> of_entry_;  // of the Entry Screen's menu
+  bool save_stopped_ = false;                 // by the last attempt, and the person was told
+  std::vector<forms::MenuItem*> of_content_;  // where there is something to copy
+  std::vector<forms::MenuItem*> of_entry_;    // of the Entry Screen's menu
   std::vector<forms::MenuItem*> of_view_;
 };
 

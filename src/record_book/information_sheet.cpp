@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "print/picture_size.h"
 #include "print/report.h"
 #include "text/letters.h"
 
@@ -40,10 +41,8 @@ void Paragraphs(print::PageEngine& engine, std::string_view text) {
 
 void PrintPicture(print::PageEngine& engine, const forms::LoadedPicture& picture, int inches) {
   const int side = inches * kInch;
-  const double scale = std::min(static_cast<double>(side) / std::max(picture.width, 1),
-                                static_cast<double>(side) / std::max(picture.height, 1));
-  engine.Add(forms::PlacedImage{kPictureLeft, kPictureTop, static_cast<int>(picture.width * scale),
-                                static_cast<int>(picture.height * scale), picture.png});
+  const print::PictureSize size = print::FittedInto({side, side}, {picture.width, picture.height});
+  engine.Add(forms::PlacedImage{kPictureLeft, kPictureTop, size.width, size.height, picture.png});
   engine.MoveTo(std::max(engine.y(), kPictureTop + side + kBelowPicture));
 }
 

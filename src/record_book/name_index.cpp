@@ -10,7 +10,6 @@
 namespace tarnwell::record_book {
 namespace {
 
-constexpr int kItemLength = 60;
 constexpr std::size_t kNumberColumn = 42;  // counted from 0
 constexpr std::size_t kMoreBlanks = 5;     // in front of a changed record's number
 constexpr std::string_view kDeleted = "####";

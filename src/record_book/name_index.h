@@ -13,6 +13,8 @@
 
 namespace tarnwell::record_book {
 
+inline constexpr int kItemLength = 60;  // bytes of an item's record
+
 // An item of the index as a new record gets it: the name, blanks up to column 42, the number. A
 // longer name has the number directly behind it.
 std::string NewItem(std::string_view name, int record);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "print/picture_size.h"
 #include "print/text_wrap.h"
 #include "record_book/display_rows.h"
 #include "record_book/record_store.h"
@@ -45,28 +46,23 @@ std::string CityLine(const BookRecord& record, std::size_t city) {
          std::string(text::Left(state, kLettersOfState)) + ", " + zip;
 }
 
-void AddPicture(print::PageEngine& engine, int x, int y, const forms::LoadedPicture& picture) {
-  const int side = Twips(kPictureSide);
-  const double scale = std::min(static_cast<double>(side) / std::max(picture.width, 1),
-                                static_cast<double>(side) / std::max(picture.height, 1));
-  engine.Add(forms::PlacedImage{x, y, static_cast<int>(std::lround(picture.width * scale)),
-                                static_cast<int>(std::lround(picture.height * scale)),
-                                picture.png});
-}
-
 }  // namespace
 
 PicturedNames ChooseNames(storage::ProgramFolder& folder, const PictureBook& book,
                           const std::vector<NameEntry>& names, const PictureChoice& choice,
                           text::Date today) {
   PicturedNames chosen;
+  RecordReader reader(folder, book.layout);
   for (const NameEntry& name : names) {
     if (!choice.with_pictures_only && !choice.month) {
       chosen.names.push_back(name);
       continue;
     }
-    const auto record = ReadRecord(folder, book.layout, name.record, &chosen.fault);
-    if (!record) return chosen;
+    const auto record = reader.Read(name.record);
+    if (!record) {
+      chosen.fault = reader.fault();
+      return chosen;
+    }
     if (choice.with_pictures_only && !HasPicture(record->picture)) continue;
     const std::string& birthday = record->entries[static_cast<std::size_t>(book.birthday)];
     if (choice.month && MonthOfBirthday(birthday, today) != *choice.month) continue;
@@ -115,7 +111,10 @@ void PrintCell(print::PageEngine& engine, const CellPlaces& places, int cell,
   const int x = Twips(places.picture_lefts[column]);
   const int y = Twips(places.picture_tops[row]);
   if (content.picture.png) {
-    AddPicture(engine, x, y, content.picture);
+    const int side = Twips(kPictureSide);
+    const print::PictureSize size =
+        print::FittedInto({side, side}, {content.picture.width, content.picture.height});
+    engine.Add(forms::PlacedImage{x, y, size.width, size.height, content.picture.png});
   } else {
     engine.TextAt(x, y, kNoPicture);
   }

@@ -6,6 +6,7 @@
 #include "forms/navigator.h"
 #include "parts/help_menu.h"
 #include "parts/picture_panel.h"
+#include "print/report.h"
 #include "record_book/record_store.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
@@ -17,15 +18,10 @@ constexpr int kPictureSide = 300;  // pixels, on the screen
 constexpr int kHeadTop = 360;      // twips
 constexpr int kLeastPath = 5;      // characters of a path on a page
 
-std::string WithCompany(const forms::ProgramVariables& variables, std::string_view text) {
-  const std::string& company = variables.CompanyLine;
-  return std::string(text) + (company.empty() ? "" : " " + company);
-}
-
 }  // namespace
 
 PicturePages::PicturePages(forms::Context& context, const PicturePagesStyle& style)
-    : Form(context, style.form_name, WithCompany(context.variables, style.caption)),
+    : Form(context, style.form_name, print::WithCompany(context.variables, style.caption)),
       print(*this, context, {.print_caption = "&Print this Page", .as_of_caption = {}}),
       colors(context, settings::PanelColor::kPicturePages),
       style_(style) {
@@ -140,7 +136,7 @@ void PicturePages::Build(print::PageEngine& engine) {
   const int middle = engine.page_width() / 2;
   engine.TextAt(
       middle, kHeadTop,
-      WithCompany(context_.variables, std::string(style_.head) + std::to_string(page + 1)),
+      print::WithCompany(context_.variables, std::string(style_.head) + std::to_string(page + 1)),
       print::Align::kCenter);
   engine.TextAt(middle, kHeadTop + engine.LineHeight(),
                 "As of  " + text::FormatDate(context_.clock.Today(), "Long Date"),

@@ -12,7 +12,6 @@ using storage::Outcome;
 using storage::ProgramFolder;
 using storage::RecordFile;
 
-constexpr int kItemLength = 60;
 constexpr int kPictureLength = 250;
 constexpr std::string_view kDeletedRecord = "*****";
 constexpr std::string_view kDeletedMark = "****";  // what a reader looks for
@@ -93,23 +92,37 @@ Outcome MarkDeleted(ProgramFolder& folder, const BookLayout& layout, int record)
 
 }  // namespace
 
-std::optional<BookRecord> ReadRecord(ProgramFolder& folder, const BookLayout& layout, int record,
-                                     storage::Fault* fault) {
-  auto file = OpenRecords(folder, layout);
-  const std::string bytes = file.GetStructure(record, StoredSize(layout));
-  if (IsUnreadable(file, fault)) return std::nullopt;
+RecordReader::RecordReader(ProgramFolder& folder, const BookLayout& layout)
+    : layout_(layout), records_(OpenRecords(folder, layout)) {
+  if (!layout.pictures.empty()) pictures_.emplace(folder, layout.pictures, kPictureLength);
+}
+
+bool RecordReader::HasFailed(const RecordFile& file) {
+  return IsUnreadable(file, &fault_);
+}
+
+std::optional<BookRecord> RecordReader::Read(int record) {
+  const std::string bytes = records_.GetStructure(record, StoredSize(layout_));
+  if (HasFailed(records_)) return std::nullopt;
   BookRecord content;
-  for (int entry = 0; entry < layout.entries; ++entry) {
-    content.entries.emplace_back(StoredEntry(layout, bytes, entry));
+  for (int entry = 0; entry < layout_.entries; ++entry) {
+    content.entries.emplace_back(StoredEntry(layout_, bytes, entry));
   }
-  if (layout.pictures.empty()) {
-    content.picture = StoredEntry(layout, bytes, kPicturePath);
+  if (!pictures_) {
+    content.picture = StoredEntry(layout_, bytes, kPicturePath);
     return content;
   }
-  RecordFile pictures(folder, layout.pictures, kPictureLength);
-  const storage::TaggedValue path = pictures.GetTagged(record);
-  if (IsUnreadable(pictures, fault)) return std::nullopt;
+  const storage::TaggedValue path = pictures_->GetTagged(record);
+  if (HasFailed(*pictures_)) return std::nullopt;
   if (const auto* text = std::get_if<std::string>(&path)) content.picture = text::Trim(*text);
+  return content;
+}
+
+std::optional<BookRecord> ReadRecord(ProgramFolder& folder, const BookLayout& layout, int record,
+                                     storage::Fault* fault) {
+  RecordReader reader(folder, layout);
+  auto content = reader.Read(record);
+  if (!content && fault) *fault = reader.fault();
   return content;
 }
 

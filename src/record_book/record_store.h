@@ -9,13 +9,31 @@
 #include "record_book/book_layout.h"
 #include "storage/fault.h"
 #include "storage/program_folder.h"
+#include "storage/record_file.h"
 
 namespace tarnwell::record_book {
 
 inline constexpr std::size_t kLongestPicturePath = 246;  // characters, in a file of its own
 
-// A record that isn't in the files reads as blank. Empty when they can't be read; `fault` is then
-// why.
+// Reads records one by one, with the files open all the while.
+class RecordReader {
+ public:
+  RecordReader(storage::ProgramFolder& folder, const BookLayout& layout);
+
+  // One that isn't in the files reads as blank. Empty when they can't be read; fault() is then why.
+  std::optional<BookRecord> Read(int record);
+  storage::Fault fault() const { return fault_; }
+
+ private:
+  bool HasFailed(const storage::RecordFile& file);
+
+  const BookLayout& layout_;
+  storage::RecordFile records_;
+  std::optional<storage::RecordFile> pictures_;  // where they have a file of their own
+  storage::Fault fault_ = storage::Fault::kNone;
+};
+
+// A single one, likewise.
 std::optional<BookRecord> ReadRecord(storage::ProgramFolder& folder, const BookLayout& layout,
                                      int record, storage::Fault* fault = nullptr);
 

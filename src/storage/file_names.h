@@ -13,12 +13,17 @@ inline constexpr std::string_view kOwnPrefix = ".tarnwell-";
 inline constexpr std::string_view kLock = ".tarnwell-lock";
 inline constexpr std::string_view kRedoNote = ".tarnwell-redo";
 inline constexpr std::string_view kSavePrefix = ".tarnwell-save-";  // and eight digits
+inline constexpr std::string_view kReplacementJournal = ".tarnwell-replacement";
+inline constexpr std::string_view kNewPrefix = ".tarnwell-new-";  // likewise
+inline constexpr std::string_view kOldPrefix = ".tarnwell-old-";  // likewise
 
 // Settings: colours, display, printer fonts, backgrounds, folders last used.
 inline constexpr std::string_view kGColor1 = "GColor1.Fil";
 inline constexpr std::string_view kGColor2 = "GColor2.Fil";
 inline constexpr std::string_view kGColor3 = "GColor3.Fil";
 inline constexpr std::string_view kGColor4 = "GColor4.Fil";
+inline constexpr std::string_view kDisplaySettings = kGColor3;
+inline constexpr std::string_view kDisplaySettingsBackup = "Gcolor3.hb1";
 inline constexpr std::string_view kHinv3 = "HINV3.Fil";
 inline constexpr std::string_view kGhinv1 = "GHINV1.Fil";
 inline constexpr std::string_view kCalendarOptions = "CalOpt.fil";

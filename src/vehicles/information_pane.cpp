@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/disk_trouble.h"
+#include "parts/picture_panel.h"
 #include "storage/sequential_file.h"
 #include "text/letters.h"
 #include "vehicles/cell_values.h"
@@ -118,17 +118,11 @@ void InformationPane::FormatOdometer() {
 
 void InformationPane::ShowPicture(const std::string& path) {
   picture_path_ = path;
-  picture.SetContent(nullptr);
-  picture_note.SetCaption({});
   remove_picture.SetEnabled(!path.empty());
-  if (text::Trim(path).empty()) return;
-  const forms::LoadedPicture loaded =
-      tracker_.context.pictures.Load(path, kPictureWidth, kPictureHeight);
-  if (loaded.png) return picture.SetContent(loaded.png);
-  const std::string why = loaded.fault == storage::Fault::kNone
-                              ? "it is no picture"
-                              : std::string(forms::ReasonOf(loaded.fault));
-  picture_note.SetCaption("The picture " + path + " can't be shown: " + why + ".");
+  const parts::ShownPicture shown =
+      parts::LoadShown(tracker_.context, text::Trim(path), kPictureWidth, kPictureHeight);
+  picture.SetContent(shown.picture.png);
+  picture_note.SetCaption(shown.note);
 }
 
 }  // namespace tarnwell::vehicles

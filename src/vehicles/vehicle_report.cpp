@@ -247,12 +247,9 @@ void FuelSection(PageEngine& engine, std::span<const FuelEntry> entries, const U
 
 void PictureSection(PageEngine& engine, const std::shared_ptr<const std::string>& png) {
   const print::PictureSize pixels = print::PixelsOf(*png);
-  if (pixels.width < 1 || pixels.height < 1) return;
-  const double most_width = engine.ColumnWidth();
-  const double most_height = engine.page_height() / 3.0;
-  const double scale = std::min(most_width / pixels.width, most_height / pixels.height);
-  const int width = static_cast<int>(pixels.width * scale);
-  const int height = static_cast<int>(pixels.height * scale);
+  const auto [width, height] =
+      print::FittedInto({engine.ColumnWidth(), engine.page_height() / 3}, pixels);
+  if (width < 1) return;
   if (!engine.at_column_top()) engine.Skip(kGap);
   if (!engine.HasRoom(height) && !engine.at_column_top()) engine.NewPage();
   engine.Add(forms::PlacedImage{engine.left() + (engine.ColumnWidth() - width) / 2, engine.y(),

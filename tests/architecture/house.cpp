@@ -31,6 +31,7 @@ const std::vector<std::set<std::string>> kFloors = {
 const std::set<std::pair<std::string, std::string>> kPassages = {
     {"shell", "planner/day_store.h"},
     {"images", "workarea/areas.h"},
+    {"backup", "vehicles/vehicle_slots.h"},
 };
 
 // Only storage's door to the disk speaks to the operating system.

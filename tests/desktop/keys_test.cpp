@@ -129,10 +129,11 @@ class KeyWorld {
   testing::FakePictures pictures;
   testing::FakeModem modem;
   testing::FakeLauncher launcher;
+  testing::FakeVolumes volumes;
   PictureStore store{[](std::string_view) { return QByteArray(); }};
   MainWindow window{[this](forms::Form& form) { return LookOf(form, store); }, help};
   program::Program program{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders,
-                            pictures, speller, thesaurus, modem, launcher}};
+                            pictures, speller, thesaurus, modem, launcher, volumes}};
 };
 
 // How a person gets from the form to what is on show: names of commands, options and menu entries.

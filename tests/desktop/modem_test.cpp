@@ -105,7 +105,7 @@ class DialTest : public ::testing::Test {
   forms::Context context_{
       {world_.folder, world_.clock, world_.dialogs, loop_, world_.window, world_.help,
        world_.clipboard, world_.pages, world_.folders, world_.pictures, world_.speller,
-       world_.thesaurus, modem_, world_.launcher},
+       world_.thesaurus, modem_, world_.launcher, world_.volumes},
       world_.variables,
       world_.navigator};
   forms::Label label_{world_.form, "Label3"};

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -133,6 +135,28 @@ TEST_F(TypingWidgets, ATextOfSeveralLinesKeepsItsLineEndsItsCaretAndItsLength) {
   QTest::keyClicks(notes_box_, QStringLiteral("x"));
   EXPECT_EQ(notes_.text(), "a\xA0\nb");
   EXPECT_EQ(notes_box_->toPlainText().size(), 4);
+}
+
+TEST_F(TypingWidgets, ALockedFieldIsClickedAndCopiedButNotTypedIntoAndTabPassesItBy) {
+  int clicks = 0;
+  field_.on_click = [&] { ++clicks; };
+  field_.SetText("Acme");
+  field_.SetLocked(true);
+  QTest::mouseClick(line_, Qt::LeftButton);
+  EXPECT_TRUE(line_->hasFocus());
+  EXPECT_EQ(clicks, 1);
+  QTest::keyClicks(line_, QStringLiteral("x"));
+  EXPECT_EQ(field_.text(), "Acme");
+  line_->selectAll();
+  line_->copy();
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Acme"));
+  Find<QWidget>("Combo1")->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+  EXPECT_FALSE(line_->hasFocus());
+  field_.SetLocked(false);
+  line_->setFocus();
+  QTest::keyClicks(line_, QStringLiteral("x"));
+  EXPECT_NE(field_.text(), "Acme");
 }
 
 TEST_F(TypingWidgets, AFieldThatMayNotBeLeftKeepsTheFocusFromAClick) {

@@ -168,6 +168,25 @@ TEST_F(PhotoVIEW1Test, ToolbarsStayHiddenAndTheTopOneLeadsToTheHubsAreas) {
   EXPECT_EQ(rig.top(), "Vacation1");
 }
 
+TEST_F(PhotoVIEW1Test, OnlyAColorThatThisScreenSavesIsOfferedToAll) {
+  const auto leave = [this] {
+    EXPECT_TRUE(rig.navigator().Close(form(), forms::UnloadCause::kCommand));
+    rig.navigator().Show("PhotoVIEW1");
+  };
+  rig.program->variables().PanelColorNew = "255";  // another screen's
+  leave();
+  rig.dialogs.ExpectColorQuestion(forms::Answer::kYes);
+  rig.dialogs.ExpectColor(0x112233);
+  rig.ClickMenu("mOC");
+  rig.dialogs.ExpectYesNo("Color Changes", "Save changes made to Panel and or Text Color?",
+                          forms::Answer::kYes);
+  rig.dialogs.Expect({"Complete Program Panel Color Update Option",
+                      "Save Panel Color Changes for ALL of the Program Functions?",
+                      forms::Icon::kQuestion, forms::Buttons::kYesNoCancel, 2},
+                     forms::Answer::kNo);
+  leave();
+}
+
 TEST(ImageLayoutsTest, EveryCellLiesOnThePageBelowOrBesideTheOthers) {
   for (const bool lying : {false, true}) {
     for (const int images : {1, 2, 4, 8}) {

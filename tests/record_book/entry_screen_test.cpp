@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "contacts/contact_book.h"
+#include "forms/disk_trouble.h"
 #include "record_book/record_store.h"
 #include "support/failing_file_system.h"
 #include "support/program_rig.h"
@@ -175,6 +176,21 @@ TEST_F(EntryScreenTest, DeletingAsksAndTheLastOneEndsInTheEntryScreen) {
                          "There are currently no files to view,\nuse entry screen to input data.");
   form().mode.Click();
   EXPECT_FALSE(form().list_panel.visible());
+}
+
+// "There are none" would be a lie, and the last of those that were read isn't the last of all.
+TEST_F(EntryScreenTest, NamesThatCantBeReadAreSaidAndNoneIsOffered) {
+  for (const char* name : {"A", "B"}) Add(name);
+  disk.Vanish();
+  rig.dialogs.ExpectError("Can't Be Read",
+                          forms::UnreadableNote("The list of names", storage::Fault::kBroken));
+  form().mode.Click();
+  EXPECT_TRUE(form().list_panel.visible());
+  EXPECT_TRUE(form().names.items().empty());
+  disk.Recover();
+  form().mode.Click();
+  form().mode.Click();
+  EXPECT_THAT(form().names.items(), ElementsAre("A", "B"));
 }
 
 TEST_F(EntryScreenTest, AnUnsafeNameIsToldWhileItIsTyped) {

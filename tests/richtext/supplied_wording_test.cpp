@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <regex>
+#include <set>
 
 #include "richtext/paragraphs.h"
 #include "richtext/supplied_documents.h"
@@ -70,6 +72,45 @@ TEST(SuppliedWording, AnEmploymentAgreementAsksForTitleAndPayOnceInTheScheduleTh
                   "Incentive pay and how it is earned", "Licenses required", "Equipment provided"));
 }
 
+TEST(SuppliedWording, AnAgreementNamesTheLawItsSignersAndTheSchedulesThatItHas) {
+  for (const int number : {0, 1, 2, 4, 5, 7, 8, 9, 10, 11, 13, 15, 16, 17, 28, 30}) {
+    const std::string file = "EmployPolicy" + std::to_string(number) + ".Fl1";
+    const RichDocument document = Supplied(file);
+    std::string all;
+    std::set<std::string> schedules;
+    std::map<std::string, int> labels;
+    for (const Paragraph* paragraph : AllParagraphs(document)) {
+      const std::string text = ShownText(*paragraph);
+      all += text + '\n';
+      ++labels[text];
+      if (paragraph->format.style == 1) schedules.insert(text.substr(0, text.find(':')));
+    }
+    EXPECT_THAT(all, HasSubstr("governed by the law of the state of " + kMark)) << file;
+    EXPECT_GE(labels["Signature"], 2) << file;
+    EXPECT_GE(labels["Date"], labels["Signature"]) << file;
+    static const std::regex kSchedule("Schedule [A-Z]\\b");
+    using Matches = std::sregex_iterator;
+    for (Matches match(all.begin(), all.end(), kSchedule), end; match != end; ++match) {
+      EXPECT_TRUE(schedules.contains(match->str())) << file << ": " << match->str();
+    }
+  }
+}
+
+// What an employer in any state had better not know before it hires.
+TEST(SuppliedWording, AnApplicationAsksForNothingThatTheLawForbidsToAsk) {
+  static const std::regex kForbidden(
+      "birth|\\bage\\b|marr|marital|maiden|child|pregnan|religio|\\brace\\b|citizen|national|"
+      "native|"
+      "disabilit|health|illness|arrest|convict|crim|union|salary|wage|social security|photo",
+      std::regex::icase);
+  const std::vector<std::string> asked = Texts(
+      "EmployPolicy6.Fl1", "Position", "Notices that the law of our state or city requires here");
+  EXPECT_GT(asked.size(), 50U);
+  for (const std::string& text : asked) {
+    EXPECT_FALSE(std::regex_search(text, kForbidden)) << text;
+  }
+}
+
 TEST(SuppliedWording, AMarkInAClauseStandsWhereItsWordsAre) {
   for (const auto& [name, bytes] : SuppliedFiles()) {
     const RichDocument document = ReadRichText(bytes);
@@ -87,7 +128,13 @@ TEST(SuppliedWording, WhatIsFilledInByHandHasNoMarks) {
     const char* first;
     const char* behind;
   } cases[] = {
+      {"EmployPolicy1.Fl1", "Work Order", ""},
+      {"EmployPolicy6.Fl1", "Position", "Notices that the law of our state or city requires here"},
+      {"EmployPolicy18.Fl1", "To", ""},
+      {"EmployPolicy19.Fl1", "Employee", ""},
       {"EmployPolicy20.Fl1", "Employee", ""},
+      {"EmployPolicy27.Fl1", "Employee", "Loan Agreement"},
+      {"EmployPolicy29.Fl1", "Employee", ""},
       {"EmployPolicy5.Fl1", "Schedule B: Prior Inventions and Works", ""},
       {"EmployPolicy25.Fl1", "Acknowledgment of Receipt", ""},
       {"EmployPolicy33.Fl1", "Acknowledgment", ""},
@@ -142,6 +189,19 @@ TEST(SuppliedWording, TheChaptersOfTheHandbookNameNoNumberThatTheCompanyChooses)
               ElementsAre("one year", "three business days", "one and one-half times", "12 months",
                           "1,250 hours", "12 months", "75 miles", "12 weeks", "12-month",
                           "26 weeks", "12-month", "30 days", "30 days", "60 days", "60 days"));
+}
+
+// A policy that limits what people say or do is read against what the law protects.
+TEST(SuppliedWording, EveryPolicyOnConductSaysInTheSameWordsWhatItDoesNotLimit) {
+  const auto rights = [](const std::string& file) {
+    const std::vector<std::string> texts = Texts(file, "Rights That This Policy Does Not Limit");
+    return texts.size() > 1 ? texts[1] : "";
+  };
+  const std::string usual = rights("EmployPolicy33.Fl1");
+  EXPECT_THAT(usual, HasSubstr("National Labor Relations Act"));
+  for (const int number : {34, 36, 37, 38}) {
+    EXPECT_EQ(rights("EmployPolicy" + std::to_string(number) + ".Fl1"), usual) << number;
+  }
 }
 
 TEST(SuppliedWording, TheRecoveryPlanBeginsWithTheChoiceOfOneOfTwoPlansEachOnPagesOfItsOwn) {

@@ -244,6 +244,19 @@ class FakeLauncher : public forms::Launcher {
   }
 };
 
+// Each folder is a disk of its own, until another is in its place.
+class FakeVolumes : public forms::Volumes {
+ public:
+  std::optional<std::uint64_t> FreeBytes(const std::string&) override { return free_bytes; }
+  std::string MountOf(const std::string& path) override { return gone ? "/" : path; }
+  bool LiesIn(const std::string& path, const std::string& folder) override {
+    return path.starts_with(folder);
+  }
+
+  std::optional<std::uint64_t> free_bytes = 1'474'560;
+  bool gone = false;
+};
+
 // Everything that is lent but the program's folder.
 struct FakeWorld {
   FakeClock clock;
@@ -259,10 +272,11 @@ struct FakeWorld {
   FakeThesaurus thesaurus;
   FakeModem modem;
   FakeLauncher launcher;
+  FakeVolumes volumes;
 
   forms::Services Lend(storage::ProgramFolder& folder) {
-    return {folder, clock,   dialogs,  loop,    window,    help,  clipboard,
-            pages,  folders, pictures, speller, thesaurus, modem, launcher};
+    return {folder,  clock,    dialogs, loop,      window, help,     clipboard, pages,
+            folders, pictures, speller, thesaurus, modem,  launcher, volumes};
   }
 };
 

@@ -1,3 +1,5 @@
+#include "desktop/views/entry_screen_view.h"
+
 #include "desktop/views/picture_panel_view.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/views.h"
@@ -61,7 +63,9 @@ QWidget* EntriesView(EntryScreen& form, PictureStore& pictures) {
   return Row({Grow(left), Grow(right)});
 }
 
-QWidget* ListView(EntryScreen& form) {
+}  // namespace
+
+QWidget* EntryListView(EntryScreen& form) {
   return Widget(form.list_panel, AtMost(Column({Widget(form.search_label),
                                                 Row({Grow(Widget(form.search)), Widget(form.view)}),
                                                 Grow(Widget(form.names)), Widget(form.count)},
@@ -69,15 +73,14 @@ QWidget* ListView(EntryScreen& form) {
                                         kLettersOfList));
 }
 
-}  // namespace
-
 QWidget* View(EntryScreen& form, PictureStore& pictures) {
-  QWidget* screen = Widget(
-      form.screen, Column({Grow(Row({ListView(form), Grow(Scrolled(EntriesView(form, pictures)))})),
-                           Flow({Primary(Widget(form.save)), Widget(form.change),
-                                 WithIcon("print", Widget(form.print_file)), Widget(form.remove),
-                                 Widget(form.mode), WithIcon("exit", Widget(form.exit))},
-                                kTightSpace)}));
+  QWidget* screen =
+      Widget(form.screen,
+             Column({Grow(Row({EntryListView(form), Grow(Scrolled(EntriesView(form, pictures)))})),
+                     Flow({Primary(Widget(form.save)), Widget(form.change),
+                           WithIcon("print", Widget(form.print_file)), Widget(form.remove),
+                           Widget(form.mode), WithIcon("exit", Widget(form.exit))},
+                          kTightSpace)}));
   return Padded(AtMost(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
                                Grow(PrintView(form.print, pictures))},
                               0),

@@ -22,12 +22,6 @@ QWidget* ComboOf(int letters, QWidget* combo) {
   return combo;
 }
 
-// Lower than elsewhere: the text needs the room.
-QWidget* Low(QWidget* widget) {
-  SetMark(widget, "tool", true);
-  return widget;
-}
-
 }  // namespace
 
 QWidget* FormatBarView(parts::FormatBar& bar) {

@@ -1,3 +1,4 @@
+#include "desktop/views/entry_screen_view.h"
 #include "desktop/views/picture_panel_view.h"
 #include "desktop/views/print_view.h"
 #include "desktop/views/views.h"
@@ -10,13 +11,7 @@ namespace {
 
 using images::PhotoVIEW1;
 
-constexpr int kLettersOfList = 26;
 constexpr QSize kLeastPicture{300, 200};
-
-QWidget* Low(QWidget* widget) {
-  SetMark(widget, "tool", true);
-  return widget;
-}
 
 QWidget* TopToolbar(PhotoVIEW1& form) {
   QWidget* buttons = Flow({}, kHairSpace);
@@ -32,14 +27,6 @@ QWidget* SideToolbar(PhotoVIEW1& form) {
                                            IconOnly("clear", Widget(form.side_remove)),
                                            IconOnly("back", Widget(form.hide_side)), Spring()},
                                           kTightSpace));
-}
-
-QWidget* ListView(PhotoVIEW1& form) {
-  return Widget(form.list_panel, AtMost(Column({Widget(form.search_label),
-                                                Row({Grow(Widget(form.search)), Widget(form.view)}),
-                                                Grow(Widget(form.names)), Widget(form.count)},
-                                               kTightSpace),
-                                        kLettersOfList));
 }
 
 QWidget* ImageView(PhotoVIEW1& form, PictureStore& pictures) {
@@ -72,7 +59,7 @@ QWidget* View(PhotoVIEW1& form, PictureStore& pictures) {
   QWidget* screen = Widget(
       form.screen,
       Column({TopToolbar(form),
-              Grow(Row({SideToolbar(form), ListView(form), Grow(ImageView(form, pictures))})),
+              Grow(Row({SideToolbar(form), EntryListView(form), Grow(ImageView(form, pictures))})),
               Flow({Primary(Widget(form.save)), Widget(form.change),
                     WithIcon("print", Widget(form.print_file)), Widget(form.choose_several),
                     Widget(form.remove), Widget(form.mode), WithIcon("exit", Widget(form.exit)),

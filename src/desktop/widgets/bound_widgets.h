@@ -66,6 +66,8 @@ QWidget* WithIcon(const char* icon, QWidget* button);
 QWidget* IconOnly(const char* icon, QWidget* button);
 // Likewise for one that stays down while it is selected.
 QWidget* Toggle(const char* icon, QWidget* button);
+// Lower than elsewhere, where the content needs the room.
+QWidget* Low(QWidget* widget);
 // A command below which a menu drops down.
 QWidget* WithMenu(QWidget* button, forms::MenuItem& menu);
 // A label that breaks its lines at the width it is given.

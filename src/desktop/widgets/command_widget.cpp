@@ -77,4 +77,9 @@ QWidget* Toggle(const char* icon, QWidget* button) {
   return IconOnly(icon, button);
 }
 
+QWidget* Low(QWidget* widget) {
+  SetMark(widget, "tool", true);
+  return widget;
+}
+
 }  // namespace tarnwell::desktop
