@@ -35,12 +35,12 @@ class InfoAdv : public parts::MainScreen {
   forms::RichTextBox text{text_panel, "RichTextBox1", {.spoken_name = "Getting Started"}};
 
   forms::Panel federal{*this, "SSPanel4", "Federal Government Websites"};
-  SiteButtons federal_sites{federal, "SSCommand6", "Text6", kFederalLinkCount};
+  SiteButtons federal_sites{federal, "SSCommand6", "Label6", kFederalLinkCount};
 
   forms::Panel states{*this, "SSPanel5"};
   forms::OptionGroup state;
   forms::Panel state_panel{states, "SSPanel6"};
-  SiteButtons state_sites{state_panel, "SSCommand5", "Text5", kStatePlaces};
+  SiteButtons state_sites{state_panel, "SSCommand5", "Label5", kStatePlaces};
 
   forms::Panel copy_and_paste{*this, "SSFrame1", "Copy and Paste"};
   forms::Label copy_note;

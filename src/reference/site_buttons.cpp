@@ -8,13 +8,10 @@ SiteButtons::SiteButtons(forms::Container& parent, std::string_view name,
     const std::string index = "(" + std::to_string(i) + ")";
     rows_.push_back(std::unique_ptr<Row>(
         new Row{{parent, std::string(name) + index, {}},
-                {parent,
-                 std::string(address_name) + index,
-                 {.max_length = kLongestAddress, .spoken_name = "Web address"}}}));
+                {parent, std::string(address_name) + index, {}, forms::LabelRole::kNote}}));
     Row& row = *rows_.back();
-    row.address.SetLocked(true);
     row.button.on_click = [this, &row] {
-      if (on_open) on_open(row.address.text());
+      if (on_open) on_open(row.address.caption());
     };
   }
 }
@@ -23,7 +20,7 @@ void SiteButtons::Show(std::size_t index, std::string_view caption, std::string_
   Row& row = *rows_.at(index);
   row.button.SetCaption(caption);
   row.button.SetEnabled(!address.empty());
-  row.address.SetText(address);
+  row.address.SetCaption(address);
 }
 
 }  // namespace tarnwell::reference

@@ -8,21 +8,22 @@
 #include <vector>
 
 #include "forms/command.h"
-#include "forms/text_field.h"
+#include "forms/label.h"
 #include "reference/link_tables.h"
 
 namespace tarnwell::reference {
 
-// Buttons that open web sites. Beside each stands its address, to be read and copied.
+// Buttons that open web sites. Beside each stands its address, so that a person sees where it
+// leads.
 class SiteButtons {
  public:
-  // `count` buttons `name`(0), … with as many fields `address_name`(0), ….
+  // `count` buttons `name`(0), … with as many labels `address_name`(0), ….
   SiteButtons(forms::Container& parent, std::string_view name, std::string_view address_name,
               std::size_t count);
 
   std::size_t size() const { return rows_.size(); }
   forms::Command& button(std::size_t index) { return rows_.at(index)->button; }
-  forms::TextField& address(std::size_t index) { return rows_.at(index)->address; }
+  forms::Label& address(std::size_t index) { return rows_.at(index)->address; }
 
   // A caption as that of any command. Without an address the button is dead.
   void Show(std::size_t index, std::string_view caption, std::string_view address);
@@ -32,7 +33,7 @@ class SiteButtons {
  private:
   struct Row {
     forms::Command button;
-    forms::TextField address;
+    forms::Label address;
   };
   std::vector<std::unique_ptr<Row>> rows_;
 };

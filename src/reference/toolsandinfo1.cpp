@@ -73,7 +73,9 @@ void ToolsandInfo1::ConnectTexts() {
   }
   copy.on_click = [this] { CopyText(); };
   print_options.on_click = [this] { PrintText(); };
-  print.panel.Cover({&title, &side, &link_panel, &text_panel});
+  print.options_frame.SetVisible(false);
+  print.panel.Cover({&screen});
+  print.on_close = [this] { print_options.Focus(); };
 }
 
 void ToolsandInfo1::Load() {
@@ -127,6 +129,7 @@ void ToolsandInfo1::PrintText() {
   job.own_paper = true;
   job.title = caption();
   print.Open(std::move(job));
+  print.preview.Focus();
 }
 
 }  // namespace tarnwell::reference

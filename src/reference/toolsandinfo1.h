@@ -19,8 +19,9 @@ class ToolsandInfo1 : public parts::MainScreen {
  public:
   explicit ToolsandInfo1(forms::Context& context);
 
-  forms::Label title{*this, "Label1", "Tools and Program Information", forms::LabelRole::kTitle};
-  forms::Panel side{*this, "SSPanel2"};
+  forms::Panel screen{*this, "SSPanel1"};
+  forms::Label title{screen, "Label1", "Tools and Program Information", forms::LabelRole::kTitle};
+  forms::Panel side{screen, "SSPanel2"};
   forms::Command disclaimer{side, "SSCommand11(0)", "Disclaimer"};
   forms::Command program_information{side, "SSCommand11(1)", "Program Information"};
   forms::Command contacts{side, "SSCommand11(2)", "Business Contacts Entry Form"};
@@ -29,7 +30,7 @@ class ToolsandInfo1 : public parts::MainScreen {
   forms::Command planner{side, "SSCommand11(5)", "Daily Planner Function"};
   forms::Command calendar{side, "SSCommand11(6)", "Calendar Developer"};
 
-  forms::Panel link_panel{*this, "SSPanel4"};
+  forms::Panel link_panel{screen, "SSPanel4"};
   forms::Label link_heading{link_panel, "Label2", "Business Related Internet Links",
                             forms::LabelRole::kHeading};
   forms::Label link_note;
@@ -37,7 +38,7 @@ class ToolsandInfo1 : public parts::MainScreen {
   forms::ControlArray<forms::Label, kInternetLinkCount> links{link_panel, "Label4", "",
                                                               forms::LabelRole::kLink};
 
-  forms::Panel text_panel{*this, "SSPanel3"};
+  forms::Panel text_panel{screen, "SSPanel3"};
   forms::Label text_trouble{text_panel, "Label6"};
   forms::RichTextBox text{text_panel, "RichTextBox1", {.spoken_name = "Information"}};
   forms::Command copy{text_panel, "SSCommand2(0)", "&Copy to Clipboard"};

@@ -204,21 +204,23 @@ TEST(HtmlHelpViewer, LeadsToPagesByContentsIndexAndSearch) {
   tree->setCurrentItem(tree->topLevelItem(0)->child(0));
   EXPECT_EQ(title(), QStringLiteral("Overview"));
 
-  const auto fields = panel->findChildren<QLineEdit*>();
-  const auto lists = panel->findChildren<QListWidget*>();
-  ASSERT_EQ(fields.size(), 2);
-  for (int tab = 0; tab < 2; ++tab) {  // the index, then the search
-    panel->setCurrentIndex(tab + 1);
+  for (int tab : {1, 2}) {  // the index, then the search
+    panel->setCurrentIndex(tab);
     viewer.Show(1000);
-    QTest::keyClicks(fields[tab], QStringLiteral("enl"));
-    QTest::keyClick(fields[tab], Qt::Key_Return);
-    ASSERT_EQ(lists[tab]->count(), 1);
+    auto* field = panel->widget(tab)->findChild<QLineEdit*>();
+    auto* list = panel->widget(tab)->findChild<QListWidget*>();
+    QTest::keyClicks(field, QStringLiteral("enl"));
+    QTest::keyClick(field, Qt::Key_Return);
+    ASSERT_EQ(list->count(), 1);
     EXPECT_EQ(title(), QStringLiteral("Print"));
     EXPECT_EQ(browser->textCursor().selectedText().left(3).toLower(), QStringLiteral("enl"));
   }
-  QTest::keyClicks(fields[1], QStringLiteral("x"));
-  EXPECT_EQ(lists[1]->item(0)->text(), QStringLiteral("No page has all these words."));
-  lists[1]->setCurrentRow(0);
+  auto* search = panel->widget(2);
+  QTest::keyClicks(search->findChild<QLineEdit*>(), QStringLiteral("x"));
+  auto* found = search->findChild<QListWidget*>();
+  ASSERT_EQ(found->count(), 1);
+  EXPECT_EQ(found->item(0)->text(), QStringLiteral("No page has all these words."));
+  found->setCurrentRow(0);
   EXPECT_EQ(title(), QStringLiteral("Print"));
 }
 

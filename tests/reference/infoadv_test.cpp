@@ -129,7 +129,7 @@ TEST_F(InfoAdvTest, WhatIsWrongWithASuppliedFileIsSaidInItsPlace) {
   EXPECT_EQ(form.trouble.caption(),
             "The list of web sites in states.txt has a line that can't be used: line 2.");
   form.state.Pick(0);
-  EXPECT_EQ(form.state_sites.address(0).text(), "https://mine.example/");
+  EXPECT_EQ(form.state_sites.address(0).caption(), "https://mine.example/");
   EXPECT_FALSE(form.state_sites.button(1).enabled());
   form.address.Type("https://works.example/");
   form.display.Click();

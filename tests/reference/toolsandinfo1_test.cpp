@@ -83,7 +83,8 @@ TEST_F(ToolsandInfo1Test, TheTextOnShowIsPrintedInThePanelsFont) {
   Show();
   rig_.program.variables().PrintFontName = "Arial";
   form().print_options.Click();
-  EXPECT_FALSE(form().text_panel.visible());
+  EXPECT_FALSE(form().text_panel.Reachable());
+  EXPECT_TRUE(form().print.preview.focused());
   EXPECT_TRUE(form().print.preview.guide_lines());
   EXPECT_EQ(rig_.program.navigator().top()->help_context(), 1014);
   form().print.guide_lines.Pick(0);
@@ -101,6 +102,7 @@ TEST_F(ToolsandInfo1Test, TheTextOnShowIsPrintedInThePanelsFont) {
   rig_.dialogs.ExpectYesNoCancel("Exit", "Exit Tarnwell?", forms::Answer::kNo);
   form().main_buttons[parts::kExitProgram].Click();
   EXPECT_FALSE(form().print.is_open()) << "a main button closes it";
+  EXPECT_TRUE(form().print_options.focused());
 }
 
 TEST_F(ToolsandInfo1Test, ALinkOpensItsSite) {

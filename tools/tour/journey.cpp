@@ -198,7 +198,7 @@ void LookAtWebSites(Traveller& person) {
   person.TakePicture("federal-web-sites");
   person.Click("SSCommand11(2)");
   person.Click("SSOption1(4)");
-  person.ExpectText("Text5(0)", QStringLiteral("https://business.ca.gov/"));
+  person.ExpectText("Label5(0)", QStringLiteral("https://business.ca.gov/"));
   person.TakePicture("state-web-sites");
 }
 

@@ -11,13 +11,14 @@ namespace {
 
 constexpr int kStateColumns = 4;
 constexpr int kLettersOfCopyAndPaste = 34;
-constexpr int kLettersOfSide = 36;
+constexpr int kLettersOfSide = 42;
 constexpr int kWholeShare = 100;
 
 QWidget* Sites(reference::SiteButtons& sites) {
   QWidget* rows = Column({}, kTightSpace);
   for (std::size_t i = 0; i < sites.size(); ++i) {
-    Append(rows, Row({Grow(Listed(Widget(sites.button(i)))), Grow(Widget(sites.address(i)))}));
+    Append(rows,
+           Row({Grow(Listed(Widget(sites.button(i)))), Grow(Wrapped(Widget(sites.address(i))))}));
   }
   return rows;
 }
@@ -60,10 +61,10 @@ QWidget* ToolsSide(reference::ToolsandInfo1& form) {
                                 Listed(WithIcon("template", Widget(form.incident_report))),
                                 Listed(WithIcon("planner", Widget(form.planner))),
                                 Listed(WithIcon("month", Widget(form.calendar)))},
-                               kTightSpace));
+                               kHairSpace));
   QWidget* links = Column({InSize(TextSize::kStrong, Wrapped(Widget(form.link_heading))),
                            Wrapped(Widget(form.link_note)), Wrapped(Widget(form.link_trouble))},
-                          kHairSpace);
+                          0);
   for (std::size_t i = 0; i < form.links.size(); ++i) {
     Append(links, InSize(TextSize::kNote, Wrapped(Widget(form.links[i]))));
   }
@@ -88,16 +89,18 @@ QWidget* View(reference::InfoAdv& form, PictureStore&) {
 
 QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures) {
   const int share = form.text_share();
-  QWidget* text = Widget(form.text_panel,
-                         Column({Wrapped(Widget(form.text_trouble)), Grow(Widget(form.text), share),
-                                 Grow(Column({Row({WithIcon("print", Widget(form.print_options)),
-                                                   Widget(form.copy), Spring()}),
-                                              Spring()}),
-                                      kWholeShare - share)}));
+  QWidget* text =
+      Widget(form.text_panel,
+             Column({Wrapped(Widget(form.text_trouble)), Grow(Widget(form.text), share),
+                     Grow(Column({Row({Widget(form.copy),
+                                       WithIcon("print", Widget(form.print_options)), Spring()}),
+                                  Spring()}),
+                          kWholeShare - share)}));
+  QWidget* screen =
+      Widget(form.screen, Column({InSize(TextSize::kHeading, Widget(form.title)),
+                                  Grow(Row({ToolsSide(form), Grow(text)}, kWideSpace))}));
   return MainScreenView(form.main_buttons,
-                        Column({InSize(TextSize::kHeading, Widget(form.title)),
-                                Grow(Row({ToolsSide(form), Grow(text)}, kWideSpace)),
-                                Grow(PrintView(form.print, pictures))}));
+                        Column({Grow(screen), Grow(PrintView(form.print, pictures))}, 0));
 }
 
 }  // namespace tarnwell::desktop
