@@ -137,7 +137,6 @@ bool MeasureReport(storage::ProgramFolder& folder) {
   std::printf("A section of the report with 20,000 addresses has %d pages\n", engine.page_count());
   bool is_good = Tell("1,000 pages of it built", taken * 1000 / engine.page_count(), kLongestPages);
 
-  const desktop::PictureStore no_pictures([](std::string_view) { return QByteArray(); });
   BuildReport(folder, engine, 2000, 1);
   QString text;
   for (const forms::Page& page : engine.document().pages) {
@@ -153,7 +152,7 @@ bool MeasureReport(storage::ProgramFolder& folder) {
       "2,000 addresses of the report as PDF", 0.5, 3,
       [&] {
         BuildReport(folder, engine, 2000, 1);
-        Check(desktop::WritePdf(engine.document(), no_pictures, path + "/ours.pdf"), "write a PDF");
+        Check(desktop::WritePdf(engine.document(), path + "/ours.pdf"), "write a PDF");
       },
       [&] {
         QPdfWriter writer(path + "/bare.pdf");

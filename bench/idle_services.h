@@ -59,6 +59,7 @@ class IdleThesaurus : public forms::Thesaurus {
 
 class IdlePictures : public forms::Pictures {
   forms::LoadedPicture Load(const std::string&, int, int) override { return {}; }
+  forms::PictureHead Look(const std::string&) override { return {}; }
 };
 
 class IdleFolders : public forms::FolderBrowser {
@@ -66,6 +67,7 @@ class IdleFolders : public forms::FolderBrowser {
   std::string ProgramPath() override { return {}; }
   std::optional<std::vector<std::string>> Folders(const std::string&) override { return {}; }
   std::optional<std::vector<std::string>> Files(const std::string&) override { return {}; }
+  int FilesLeftOut(const std::string&) override { return 0; }
   storage::Outcome WriteFile(const std::string&, std::string_view) override { return {}; }
 };
 

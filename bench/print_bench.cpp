@@ -45,8 +45,6 @@ QString AsPlainText(const std::vector<std::vector<print::Cell>>& rows) {
   return text;
 }
 
-const desktop::PictureStore kNoPictures([](std::string_view) { return QByteArray(); });
-
 void LayOutRows(const std::vector<std::vector<print::Cell>>& rows, print::PageEngine& engine) {
   engine.Start({}, {});
   const auto widths = print::Shares(engine.ColumnWidth(), {0.156, 0.2, 0.64});
@@ -59,7 +57,7 @@ void PrintOurs(const std::vector<std::vector<print::Cell>>& rows, const QString&
   desktop::PageMetrics metrics;
   print::PageEngine engine(metrics);
   LayOutRows(rows, engine);
-  Check(desktop::WritePdf(engine.document(), kNoPictures, file), "write a PDF");
+  Check(desktop::WritePdf(engine.document(), file), "write a PDF");
 }
 
 void PrintBare(const QString& text, const QString& file) {
@@ -119,7 +117,7 @@ void PrintRichText(const richtext::RichDocument& document, const QString& file) 
   engine.Start({.margins = kInch}, {});
   print::AddRichText(engine, document);
   Check(engine.page_count() >= kLeastPages, "lay out enough pages");
-  Check(desktop::WritePdf(engine.document(), kNoPictures, file), "write a PDF");
+  Check(desktop::WritePdf(engine.document(), file), "write a PDF");
 }
 
 void PrintBareRichText(const QTextDocument& document, const QString& file) {

@@ -14,7 +14,6 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
       picture_store_([this](std::string_view name) {
         return QByteArray::fromStdString(folder_.ReadWhole(name).value_or(std::string()));
       }),
-      pages_(picture_store_),
       folders_(folders.user),
       speller_(DictionaryFolders(folders)),
       thesaurus_(ThesaurusFolders(folders), speller_),

@@ -31,6 +31,8 @@ class FolderBrowser {
   // hold is left out.
   virtual std::optional<std::vector<std::string>> Folders(const std::string& path) = 0;
   virtual std::optional<std::vector<std::string>> Files(const std::string& path) = 0;
+  // How many files are left out for their names.
+  virtual int FilesLeftOut(const std::string& path) = 0;
   // Replaces the file whole.
   virtual storage::Outcome WriteFile(const std::string& path, std::string_view content) = 0;
 };

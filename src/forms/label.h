@@ -71,6 +71,19 @@ class Picture : public Clickable {
     Changed();
   }
 
+  // A person double-clicked it, or pressed Enter in it.
+  void Open() {
+    if (Reachable()) Run(on_open);
+  }
+  std::function<void()> on_open;
+
+  // A person dropped a file of the machine on it. Its absolute path; empty where that has letters
+  // that code page 1252 doesn't.
+  void Drop(const std::string& path) {
+    if (Reachable() && on_drop) on_drop(path);
+  }
+  std::function<void(const std::string& path)> on_drop;
+
   // A frame stands around it: the one in hand of several.
   bool marked() const { return marked_; }
   void SetMarked(bool marked) {

@@ -121,14 +121,15 @@ struct PlacedBox {
   friend bool operator==(const PlacedBox&, const PlacedBox&) = default;
 };
 
-// A picture file, as large as its own proportions allow, in the middle of the box. One that can't
-// be read leaves the box empty.
+// A picture from anywhere on the machine, as large as its own proportions allow, in the middle of
+// the box. It is read each time its page is drawn, no larger than it is seen there, so that pages
+// of many pictures hold none. One that can't be read leaves the box empty.
 struct PlacedPicture {
   int x = 0;
   int y = 0;
   int width = 0;
   int height = 0;
-  std::string file;
+  std::string path;  // absolute, in code page 1252
 
   friend bool operator==(const PlacedPicture&, const PlacedPicture&) = default;
 };

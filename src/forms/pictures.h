@@ -18,7 +18,18 @@ struct LoadedPicture {
   int height = 0;
 };
 
-// Pictures from anywhere on the machine, for a forms::Picture or a forms::PlacedImage.
+// What a picture's file says of it; nothing of it is decoded.
+struct PictureHead {
+  // Why it couldn't be read, kTooLarge for what Load doesn't read; kNone with a size of 0 where it
+  // is no picture.
+  storage::Fault fault = storage::Fault::kNone;
+  int width = 0;  // as a person sees it, in pixels
+  int height = 0;
+
+  bool is_picture() const { return width > 0; }
+};
+
+// Pictures from anywhere on the machine, for a forms::Picture or a page.
 class Pictures {
  public:
   virtual ~Pictures() = default;
@@ -28,6 +39,7 @@ class Pictures {
   // side is turned upright. BMP, GIF (the first of a moving one), ICO, JPEG, PNG, TIFF and WebP are
   // read, known by their first bytes and not by their names.
   virtual LoadedPicture Load(const std::string& path, int most_width, int most_height) = 0;
+  virtual PictureHead Look(const std::string& path) = 0;
 };
 
 }  // namespace tarnwell::forms

@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "print/picture_size.h"
-
 namespace tarnwell::images {
 namespace {
 
@@ -39,8 +37,6 @@ constexpr double kEightCentersLying[] = {0.125, 0.375, 0.625, 0.875};
 constexpr CellLayout kEightLying{
     kEightLeftsLying, kEightTopsLying, 0.23, 0.45, kEightCentersLying, 10};
 
-int DotsOf(int twips) { return twips * kDotsPerInch / forms::kTwipsPerInch; }
-
 // What lies between the margins.
 struct Area {
   explicit Area(const print::PageEngine& engine)
@@ -55,20 +51,6 @@ struct Area {
 
   int left, top, width, height;  // twips
 };
-
-struct Place {
-  int x, y, width, height;  // twips
-};
-
-// In the middle of its cell, as large as its proportions allow.
-void AddPicture(print::PageEngine& engine, const Place& cell, const forms::LoadedPicture& picture) {
-  if (!picture.png) return;
-  const print::PictureSize size =
-      print::FittedInto({cell.width, cell.height}, {picture.width, picture.height});
-  engine.Add(forms::PlacedImage{cell.x + (cell.width - size.width) / 2,
-                                cell.y + (cell.height - size.height) / 2, size.width, size.height,
-                                picture.png});
-}
 
 }  // namespace
 
@@ -85,26 +67,28 @@ const CellLayout& LayoutOf(int images, bool landscape) {
   }
 }
 
-void PrintImages(
-    print::PageEngine& engine, int images_on_page, int count,
-    const std::function<PrintedImage(int index, int most_width, int most_height)>& image) {
+void PrintImages(print::PageEngine& engine, int images_on_page,
+                 std::span<const PrintedImage> images) {
   const CellLayout& layout = LayoutOf(images_on_page, engine.paper().landscape);
   const Area area(engine);
   const forms::Font usual = engine.font();
   forms::Font font = usual;
   font.size = layout.font_size;
   engine.SetFont(font);
-  for (int i = 0; i < count; ++i) {
-    const int cell = i % layout.cells();
+  const auto cells = static_cast<std::size_t>(layout.cells());
+  for (std::size_t i = 0; i < images.size(); ++i) {
+    const std::size_t cell = i % cells;
     if (i > 0 && cell == 0) engine.NewPage();
-    const auto column = static_cast<std::size_t>(cell) % layout.lefts.size();
-    const auto row = static_cast<std::size_t>(cell) / layout.lefts.size();
-    const Place place{area.X(layout.lefts[column]), area.Y(layout.tops[row]),
-                      area.Width(layout.width), area.Height(layout.height)};
-    const PrintedImage printed = image(i, DotsOf(place.width), DotsOf(place.height));
-    AddPicture(engine, place, printed.picture);
-    int y = place.y + place.height;
-    for (const std::string& text : printed.texts) {
+    const std::size_t column = cell % layout.lefts.size();
+    const std::size_t row = cell / layout.lefts.size();
+    const int top = area.Y(layout.tops[row]);
+    const int height = area.Height(layout.height);
+    if (!images[i].path.empty()) {
+      engine.Add(forms::PlacedPicture{area.X(layout.lefts[column]), top, area.Width(layout.width),
+                                      height, images[i].path});
+    }
+    int y = top + height;
+    for (const std::string& text : images[i].texts) {
       engine.TextAt(area.X(layout.text_centers[column]), y, text, print::Align::kCenter);
       y += engine.LineHeight();
     }

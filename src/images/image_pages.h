@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "forms/pictures.h"
 #include "print/page_engine.h"
 
 namespace tarnwell::images {
@@ -27,17 +26,13 @@ struct CellLayout {
 // For 1, 2, 4 or 8 to a page.
 const CellLayout& LayoutOf(int images, bool landscape);
 
-// How many dots a picture on paper has at most in each inch.
-inline constexpr int kDotsPerInch = 300;
-
 struct PrintedImage {
-  forms::LoadedPicture picture;    // none leaves the cell to its texts
+  std::string path;                // empty for none, which leaves the cell to its texts
   std::vector<std::string> texts;  // below it, each a line
 };
 
-// As many pages as it takes. `image` is asked for each, counted from 0, with the room in dots.
-void PrintImages(
-    print::PageEngine& engine, int images_on_page, int count,
-    const std::function<PrintedImage(int index, int most_width, int most_height)>& image);
+// As many pages as it takes.
+void PrintImages(print::PageEngine& engine, int images_on_page,
+                 std::span<const PrintedImage> images);
 
 }  // namespace tarnwell::images

@@ -64,6 +64,7 @@ PhotoVIEW1::PhotoVIEW1(forms::Context& context) : EntryScreen(context, Style()) 
   ConnectToolbars();
   ConnectPrinting();
   ConnectSeveral();
+  ConnectFull();
 }
 
 void PhotoVIEW1::Load() {
@@ -133,6 +134,7 @@ void PhotoVIEW1::GoTo(int area) {
 }
 
 void PhotoVIEW1::StateChanged() {
+  show_full.SetEnabled(picture.content() != nullptr);
   choose_several.SetVisible(!is_entry());
   choose_several.SetEnabled(!entries().empty());
   side_save.SetEnabled(save.enabled());
@@ -152,6 +154,35 @@ void PhotoVIEW1::ConnectPrinting() {
   print_title.on_change = print_date.on_change = [this] { print.Rebuild(); };
 }
 
+void PhotoVIEW1::ConnectFull() {
+  full.SetVisible(false);
+  full.Cover({&screen});
+  full_picture.SetSpokenName("Picture in full size");
+  show_full.on_click = picture.on_open = [this] { ShowFull(); };
+  full_picture.on_enlarge = [this] { EnableFull(); };
+  larger.on_click = [this] { full_picture.Enlarge(1); };
+  smaller.on_click = [this] { full_picture.Enlarge(-1); };
+  leave_full.on_click = [this] {
+    full.SetVisible(false);
+    full_picture.Show({});
+    show_full.Focus();
+  };
+}
+
+void PhotoVIEW1::ShowFull() {
+  if (!show_full.enabled()) return;
+  const forms::Hourglass hourglass(context_.window);
+  full.SetVisible(true);
+  full_picture.Show(picture_path());
+  EnableFull();
+  full_picture.Focus();
+}
+
+void PhotoVIEW1::EnableFull() {
+  larger.SetEnabled(full_picture.steps() < forms::PictureView::kMostSteps);
+  smaller.SetEnabled(full_picture.steps() > 0);
+}
+
 void PhotoVIEW1::OpenSheet() { Print({{picture_path(), TextOf(0), TextOf(1)}}, true); }
 
 void PhotoVIEW1::Print(std::vector<Sheet> sheets, bool repeats) {
@@ -168,21 +199,14 @@ void PhotoVIEW1::Print(std::vector<Sheet> sheets, bool repeats) {
 
 void PhotoVIEW1::Build(print::PageEngine& engine) {
   const int on_page = kCopies[copies.chosen()];
-  const int total = repeats_ ? on_page : static_cast<int>(sheets_.size());
-  PrintedImage last;
-  PrintImages(engine, on_page, total, [&](int index, int most_width, int most_height) {
-    if (repeats_ && index > 0) return last;
-    const Sheet& sheet = sheets_[static_cast<std::size_t>(index)];
-    PrintedImage image;
-    if (!sheet.path.empty()) {
-      image.picture = context_.pictures.Load(sheet.path, most_width, most_height);
-    }
+  std::vector<PrintedImage> images;
+  for (const Sheet& sheet : sheets_) {
+    PrintedImage image{sheet.path, {}};
     if (print_title.checked() && !sheet.title.empty()) image.texts.push_back(sheet.title);
     if (print_date.checked() && !sheet.date.empty()) image.texts.push_back(sheet.date);
-    print.ReportProgress(index + 1, total);
-    last = image;
-    return image;
-  });
+    images.insert(images.end(), static_cast<std::size_t>(repeats_ ? on_page : 1), image);
+  }
+  PrintImages(engine, on_page, images);
 }
 
 }  // namespace tarnwell::images

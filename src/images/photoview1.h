@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "forms/picture_view.h"
 #include "images/image_pages.h"
 #include "record_book/entry_screen.h"
 #include "settings/picture_settings.h"
@@ -37,6 +38,14 @@ class PhotoVIEW1 : public record_book::EntryScreen {
   forms::CheckBox print_title{print.options_frame, "SSCheck1", "Title"};
   forms::CheckBox print_date{print.options_frame, "SSCheck2", "Date"};
 
+  // The picture as large as a person wants it.
+  forms::Command show_full{picture_panel, "Command8", "F&ull Size"};
+  forms::Panel full{*this, "SSPanel6", "Full Size"};
+  forms::PictureView full_picture{full, "Image2"};
+  forms::Command larger{full, "Command7(0)", "&Larger"};
+  forms::Command smaller{full, "Command7(1)", "&Smaller"};
+  forms::Command leave_full{full, "Command7(2)", "E&xit", {.cancel = true}};
+
   // Several images together.
   forms::Command choose_several{screen, "Command5", "Print M&ulti"};
   forms::Panel several{*this, "SSPanel5", "Print Multi"};
@@ -67,6 +76,9 @@ class PhotoVIEW1 : public record_book::EntryScreen {
   void ConnectToolbars();
   void ConnectPrinting();
   void ConnectSeveral();
+  void ConnectFull();
+  void ShowFull();
+  void EnableFull();
   void ShowToolbar(settings::ImageToolbar toolbar, bool shown);
   void HideOrRestore(settings::ImageToolbar toolbar, bool shown);
   void GoTo(int area);

@@ -55,6 +55,11 @@ void FolderChooser::Open(const std::string& folder, std::string_view file) {
   files.Select(static_cast<int>(listed - files.items().begin()));
 }
 
+void FolderChooser::SetExtensions(std::vector<std::string_view> extensions) {
+  extensions_.assign(extensions.begin(), extensions.end());
+  if (readable_ && !folder_.empty()) Refresh();
+}
+
 std::string FolderChooser::file_path() const {
   return files.selected() == forms::ListBox::kNone ? std::string() : folder_ + files.text();
 }

@@ -49,6 +49,8 @@ class FolderChooser {
   // folder that can't be read, and of none, comes the program's own, or the first drive that can be
   // read.
   void Open(const std::string& folder = {}, std::string_view file = {});
+  // Lists files with these endings from now on.
+  void SetExtensions(std::vector<std::string_view> extensions);
   // Reads the folder on show anew.
   void Refresh() { Show(folder_); }
 

@@ -28,6 +28,8 @@ class PicturePanel {
 
   forms::Panel panel;
   FolderChooser chooser;
+  // Which kinds of pictures are listed.
+  forms::ComboBox kinds{panel, "Combo30", "Kinds of pictures"};
   forms::Label preview_heading{panel, "Label130", "Picture Preview:"};
   forms::Picture preview{panel, "Image30", {}};
   // In the preview's place, where there is none.
@@ -40,12 +42,18 @@ class PicturePanel {
   void Open(const std::string& path);
   void Close();
 
+  // Why the file at that path can't be an entry's picture: a sentence, empty if it can. An empty
+  // path is one with letters that code page 1252 doesn't have.
+  std::string WhyNot(const std::string& path) const;
+
   std::function<void(const std::string& path)> on_take;
   std::function<void()> on_remove;
   std::function<void()> on_close;
 
  private:
+  void ListKind(int kind);
   void ShowPreview();
+  std::string WhyNotKept(const std::string& path) const;
   void Enter();
 
   forms::Context& context_;

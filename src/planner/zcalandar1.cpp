@@ -17,6 +17,8 @@
 namespace tarnwell::planner {
 namespace {
 
+constexpr int kHelp = 3060;
+
 // Every half hour from 6:00 AM to 10:00 PM.
 std::vector<std::string> TimesOffered() {
   std::vector<std::string> times;
@@ -128,6 +130,7 @@ void Zcalandar1::BuildMenus() {
   utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
                      {[this] { pages.ExportMonth("Daily Planner.xls"); }, {&pages.month.panel}});
   SetPopupMenu(options);
+  SetHelpContext(kHelp);
   parts::AddHelpMenu(*this, context_);
 }
 

@@ -87,6 +87,7 @@ void EntryScreen::ConnectCommands() {
     if (small.checked()) large.SetChecked(false);
   };
   picture.SetSpokenName("Picture");
+  picture.on_drop = [this](const std::string& path) { TakeDropped(path); };
   link.on_click = [this] { pictures.Open(picture_path_); };
   pictures.on_take = [this](const std::string& path) { TakePicture(path); };
   pictures.on_remove = [this] { TakePicture({}); };

@@ -237,6 +237,14 @@ void EntryScreen::ClearAll() {
   ControlOf(0).Focus();
 }
 
+// A file that is dropped is taken as one that is entered in the panel.
+void EntryScreen::TakeDropped(const std::string& path) {
+  std::string why = pictures.WhyNot(path);
+  if (!is_entry() && !has_record()) why = "Choose a name first: the picture becomes that entry's.";
+  if (why.empty()) return TakePicture(path);
+  Message({std::string(style_.picture.panel.caption), why, forms::Icon::kExclamation});
+}
+
 void EntryScreen::TakePicture(const std::string& path) {
   ShowPicture(path);
   question_.SetUnsaved(true);

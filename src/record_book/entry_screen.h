@@ -134,6 +134,7 @@ class EntryScreen : public forms::Form {
   void Delete();
   void Forget(int place);
 
+  void TakeDropped(const std::string& path);
   void TakePicture(const std::string& path);
   void Copy();
   // The entry in hand where it is one of these, else the first that isn't empty. The status says

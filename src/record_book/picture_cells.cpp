@@ -110,11 +110,11 @@ void PrintCell(print::PageEngine& engine, const CellPlaces& places, int cell,
   const auto column = static_cast<std::size_t>(cell % 2);
   const int x = Twips(places.picture_lefts[column]);
   const int y = Twips(places.picture_tops[row]);
-  if (content.picture.png) {
+  if (content.picture.is_picture()) {
     const int side = Twips(kPictureSide);
     const print::PictureSize size =
         print::FittedInto({side, side}, {content.picture.width, content.picture.height});
-    engine.Add(forms::PlacedImage{x, y, size.width, size.height, content.picture.png});
+    engine.Add(forms::PlacedPicture{x, y, size.width, size.height, content.path});
   } else {
     engine.TextAt(x, y, kNoPicture);
   }

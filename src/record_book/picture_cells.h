@@ -71,11 +71,10 @@ std::vector<std::string> LinesOf(const PictureBook& book, const BookRecord& reco
                                  const std::vector<bool>& ticked);
 
 struct PictureCell {
-  forms::LoadedPicture picture;
+  std::string path;
+  forms::PictureHead picture;  // at that path
   std::vector<std::string> lines;
 };
-// How large a picture is at most, on paper at 300 dots an inch.
-inline constexpr int kMostDots = 690;
 
 // The cell's place is counted from 0, row by row.
 void PrintCell(print::PageEngine& engine, const CellPlaces& places, int cell,

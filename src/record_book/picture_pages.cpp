@@ -130,7 +130,6 @@ void PicturePages::Preview() {
   print.Open(std::move(job));
 }
 
-// Only the pictures of this page are in memory.
 void PicturePages::Build(print::PageEngine& engine) {
   const int page = pages.selected();
   const int middle = engine.page_width() / 2;
@@ -148,9 +147,10 @@ void PicturePages::Build(print::PageEngine& engine) {
   for (std::size_t i = first; i < end; ++i) {
     const auto record = ReadRecord(context_.folder, style_.book.layout, shown_[i].record);
     if (!record) continue;
-    PictureCell cell{.picture = {}, .lines = LinesOf(style_.book, *record, ticked)};
+    PictureCell cell{.path = {}, .picture = {}, .lines = LinesOf(style_.book, *record, ticked)};
     if (record->picture.size() >= kLeastPath) {
-      cell.picture = context_.pictures.Load(record->picture, kMostDots, kMostDots);
+      cell.path = record->picture;
+      cell.picture = context_.pictures.Look(cell.path);
     }
     const int place = static_cast<int>(i - first);
     PrintCell(engine, style_.book.places, place, cell);

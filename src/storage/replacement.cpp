@@ -157,6 +157,8 @@ Replacement::~Replacement() {
 
 Outcome Replacement::Begin() {
   has_begun_ = Write(folder_, what_, {});
+  // What an earlier one couldn't remove would be taken for this one's.
+  if (has_begun_) Sweep(files_, folder_.path());
   return has_begun_ ? Outcome() : Outcome(FaultOf(files_));
 }
 

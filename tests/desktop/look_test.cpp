@@ -81,8 +81,7 @@ void ExpectReadableDialogue(const std::function<void()>& open) {
 
 TEST_F(DarkDesktop, EveryDialogueIsReadable) {
   MessageDialogs dialogs;
-  const PictureStore no_pictures([](std::string_view) { return QByteArray(); });
-  QtPages pages(no_pictures);
+  QtPages pages;
   forms::Document document;
   document.pages.resize(1);
   ExpectReadableDialogue([&] { dialogs.Message({"Title", "Text", forms::Icon::kQuestion}); });

@@ -47,22 +47,21 @@ forms::Document DayPage(forms::TextMetrics& metrics, int pages = 1) {
 }
 
 // Whatever is asked of it: no file.
-const PictureStore kNoPictures([](std::string_view) { return QByteArray(); });
 
 TEST(Pages, APdfHoldsTheTextOfEachPageAsTheReportHasIt) {
   if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
   const testing::TemporaryFolder folder;
   const QString file = QString::fromStdString(folder.path()) + "/day.pdf";
   PageMetrics metrics;
-  ASSERT_TRUE(WritePdf(DayPage(metrics, 2), kNoPictures, file));
+  ASSERT_TRUE(WritePdf(DayPage(metrics, 2), file));
   const char* title = "Café Fjord Appointments/Activities For Monday, March 09, 2026";
   EXPECT_THAT(LinesOfPdf(file),
               ElementsAre(title, "Time Appointment/Activity",
                           "9:00 AM Call AVA about the office, fifty files €5", "No time 1", title,
                           "Time Appointment/Activity",
                           "9:00 AM Call AVA about the office, fifty files €5", "No time 2"));
-  EXPECT_FALSE(WritePdf(DayPage(metrics), kNoPictures, "/nowhere/day.pdf"));
-  EXPECT_FALSE(WritePdf(DayPage(metrics), kNoPictures, "/dev/full"));
+  EXPECT_FALSE(WritePdf(DayPage(metrics), "/nowhere/day.pdf"));
+  EXPECT_FALSE(WritePdf(DayPage(metrics), "/dev/full"));
 }
 
 // A text that runs past the room that the core measured for it would run over its neighbour.
@@ -75,7 +74,7 @@ TEST(Pages, ATextIsPaintedAsWideAsItWasMeasured) {
     document.setup = {metrics.Width(font, text) + 2000, 2000, false, {}};
     document.fonts = {font};
     document.pages = {{forms::PlacedText{1000, 200, 0, text + "."}}};
-    const QImage image = ImageOf(document, kNoPictures, 0);
+    const QImage image = ImageOf(document, 0);
     int right = 0;
     for (int y = 0; y < image.height(); ++y) {
       for (int x = right; x < image.width(); ++x) {
@@ -101,7 +100,7 @@ TEST(Pages, ASheetComesBackFromThePageSetupAsItWent) {
 }
 
 TEST(Pages, ACopiedPageIsAPictureAndItsText) {
-  QtPages pages(kNoPictures);
+  QtPages pages;
   pages.CopyPage(DayPage(pages.metrics()), 0);
   const QMimeData* copied = QApplication::clipboard()->mimeData();
   EXPECT_EQ(copied->imageData().value<QImage>().size(), QSize(1275, 1650));
@@ -116,7 +115,7 @@ TEST(Pages, ACopiedPageIsAPictureAndItsText) {
 }
 
 TEST(Pages, TheDialoguesMayBeCancelledOnAMachineWithoutAPrinterToo) {
-  QtPages pages(kNoPictures);
+  QtPages pages;
   int shown = 0;
   const auto cancel = [&](QWidget* modal) {
     ++shown;
@@ -139,7 +138,7 @@ TEST(Pages, OnAMachineWithoutAPrinterTheyGoIntoAPdfFile) {
   if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
   const testing::TemporaryFolder folder;
   const QString file = QString::fromStdString(folder.path()) + "/printed.pdf";
-  QtPages pages(kNoPictures);
+  QtPages pages;
   WhenModal([&file](QWidget* modal) {
     auto* name = modal->findChild<QLineEdit*>(QStringLiteral("filename"));
     ASSERT_NE(name, nullptr);

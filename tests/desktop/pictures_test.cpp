@@ -1,13 +1,21 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QBuffer>
+#include <QDragEnterEvent>
+#include <QGraphicsView>
 #include <QImage>
 #include <QImageWriter>
+#include <QMimeData>
 #include <QTest>
+#include <QUrl>
+#include <QWheelEvent>
 #include <filesystem>
 
+#include "desktop/services/page_output.h"
 #include "desktop/services/qt_pictures.h"
 #include "desktop/shown_widget.h"
+#include "desktop/widgets/machine_pictures.h"
 #include "support/temporary_folder.h"
 
 namespace tarnwell::desktop {
@@ -96,11 +104,86 @@ TEST_F(QtPicturesTest, WhatIsNoPictureOrTooMuchSaysSo) {
   }
   EXPECT_EQ(pictures_.Load(disk_.path() + "/gone.png", 9, 9).fault, Fault::kMissing);
   EXPECT_EQ(pictures_.Load(disk_.path(), 9, 9).fault, Fault::kNotPlain);
-  std::filesystem::resize_file(disk_.path() + "/Caf\u00E9.dat", QtPictures::kMostBytes + 1);
+  std::filesystem::resize_file(disk_.path() + "/Caf\u00E9.dat", kMostPictureBytes + 1);
   EXPECT_EQ(pictures_.Load(disk_.path() + "/Caf\xE9.dat", 9, 9).fault, Fault::kTooLarge);
 }
 
+// Sizes are known before anything is decoded, as one sees the picture.
+TEST_F(QtPicturesTest, ALookTellsTheSizeOrWhyThereIsNone) {
+  const auto look = [this](const QByteArray& file) {
+    disk_.Write("a", file.toStdString());
+    return pictures_.Look(disk_.path() + "/a");
+  };
+  const forms::PictureHead upright = look(OnItsSide(FileOf("jpeg")));
+  EXPECT_EQ(QSize(upright.width, upright.height), QSize(40, 80));
+  const QByteArray png = FileOf("png");
+  EXPECT_TRUE(look(png.left(png.size() - 4)).is_picture()) << "only its end is missing";
+  EXPECT_FALSE(look("a text").is_picture());
+  EXPECT_EQ(pictures_.Look(disk_.path() + "/gone").fault, Fault::kMissing);
+}
+
+// Its box is the page's, its proportions its own: 80 by 40 stands in the middle of a square.
+TEST_F(QtPicturesTest, OnAPageAPictureIsReadFromItsFileAndStandsInTheMiddleOfItsBox) {
+  disk_.Write("a.png", FileOf("png").toStdString());
+  forms::Document document;
+  document.setup = {2880, 2880, false, {}};
+  document.pages = {{forms::PlacedPicture{720, 720, 1440, 1440, disk_.path() + "/a.png"},
+                     forms::PlacedPicture{0, 0, 720, 720, disk_.path() + "/gone.png"}}};
+  const QImage page = ImageOf(document, 0);  // 150 dots an inch
+  EXPECT_EQ(page.pixelColor(30, 30), QColor(Qt::white));
+  EXPECT_EQ(page.pixelColor(150, 110), QColor(Qt::white));
+  EXPECT_EQ(page.pixelColor(150, 190), QColor(Qt::white));
+  EXPECT_EQ(page.pixelColor(80, 117), QColor(Qt::red));
+  EXPECT_EQ(page.pixelColor(220, 183), QColor(Qt::blue));
+  EXPECT_EQ(page.pixelColor(72, 150), QColor(Qt::white));
+  EXPECT_EQ(page.pixelColor(228, 150), QColor(Qt::white));
+}
+
 class PictureWidgetTest : public ShownWidget {};
+
+TEST_F(PictureWidgetTest, ADroppedFileOfThisMachineIsTakenByItsPath) {
+  forms::Picture picture{form_, "Image1", {}};
+  std::vector<std::string> dropped;
+  picture.on_drop = [&](const std::string& path) { dropped.push_back(path); };
+  auto* widget = Show<QWidget>(Widget(picture, pictures_));
+  const auto drop = [widget](const QList<QUrl>& urls) {
+    QMimeData content;
+    content.setUrls(urls);
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &enter);
+    QDropEvent event({9, 9}, Qt::CopyAction, &content, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+  };
+  const QUrl file = QUrl::fromLocalFile(QStringLiteral("/home/ann/Caf\u00E9.jpg"));
+  drop({file});
+  drop({QUrl::fromLocalFile(QStringLiteral("/home/ann/\u65E5.jpg"))});
+  drop({file, file});
+  drop({QUrl(QStringLiteral("https://example.com/a.jpg"))});
+  EXPECT_EQ(dropped, (std::vector<std::string>{"/home/ann/Caf\xE9.jpg", ""}));
+}
+
+TEST_F(PictureWidgetTest, TheWheelAndPlusMakeAPictureLargerAndNeverSmallerThanWhole) {
+  testing::TemporaryFolder disk;
+  disk.Write("a.png", FileOf("png", {800, 400}).toStdString());
+  forms::PictureView picture{form_, "Image2"};
+  auto* view = Show<QGraphicsView>(Widget(picture));
+  picture.Show(disk.path() + "/a.png");
+  const double whole = view->transform().m11();
+  EXPECT_LE(800 * whole, view->viewport()->width());
+  const auto wheel = [view](int eighths) {
+    QWheelEvent event({5, 5}, view->mapToGlobal(QPointF(5, 5)), {}, {0, eighths}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view->viewport(), &event);
+  };
+  wheel(-120);
+  EXPECT_EQ(picture.steps(), 0);
+  wheel(60);
+  EXPECT_EQ(picture.steps(), 0);
+  wheel(60);
+  QTest::keyClick(view, Qt::Key_Plus);
+  EXPECT_EQ(picture.steps(), 2);
+  EXPECT_NEAR(view->transform().m11(), whole * 1.25 * 1.25, 0.001);
+}
 
 TEST_F(PictureWidgetTest, APictureInHandTakesThePlaceOfTheFile) {
   forms::Picture picture{form_, "Image1", "any.png"};

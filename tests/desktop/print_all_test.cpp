@@ -11,7 +11,6 @@
 namespace tarnwell::desktop {
 namespace {
 
-const PictureStore kNoPictures([](std::string_view) { return QByteArray(); });
 
 std::string Rtf(int number) {
   const std::string name = std::to_string(number);
@@ -36,7 +35,7 @@ TEST(PrintAll, OnePdfHoldsAllFortySevenDocumentsInOrder) {
     rig.Get<workarea::WorkArea1>("WorkArea1").printing.print.print.Click();
 
     const QString file = QString::fromStdString(rig.temporary.path()) + "/all.pdf";
-    ASSERT_TRUE(WritePdf(rig.pages.printed.at(0), kNoPictures, file));
+    ASSERT_TRUE(WritePdf(rig.pages.printed.at(0), file));
     EXPECT_EQ(testing::LinesOfPdf(file), expected) << entry;
   }
 }

@@ -21,7 +21,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsSupersetOf;
 
-const PictureStore kNoPictures([](std::string_view) { return QByteArray(); });
 
 forms::Document PagesOf(const richtext::RichDocument& document, forms::TextMetrics& metrics) {
   print::PageEngine engine(metrics);
@@ -60,7 +59,7 @@ TEST(RichPages, APdfHoldsTheTextOfEveryFormatAndScriptInReadingOrder) {
   PageMetrics metrics;
   const forms::Document document = EveryLook(metrics);
   EXPECT_EQ(document.pages.size(), 4u);
-  ASSERT_TRUE(WritePdf(document, kNoPictures, file));
+  ASSERT_TRUE(WritePdf(document, file));
   const auto lines = testing::LinesOfPdf(file);
   EXPECT_THAT(
       lines,
@@ -90,7 +89,7 @@ TEST(RichPages, JustifiedTextEndsAtTheMargin) {
   PageMetrics metrics;
   const auto document =
       PagesOf(richtext::ReadRichText("{\\rtf1\\fs28\\qj " + words + "\\par}"), metrics);
-  const QImage image = ImageOf(document, kNoPictures, 0);
+  const QImage image = ImageOf(document, 0);
   constexpr double kPixelsPerTwip = 150.0 / 1440;
   const QRect ink = InkOf(image);
   EXPECT_NEAR(ink.left(), 1440 * kPixelsPerTwip, 3);
@@ -109,10 +108,10 @@ TEST(RichPages, APictureOfADocumentIsPaintedInItsColoursAndABrokenOneIsCrossedOu
   auto& place = std::get<forms::PlacedImage>(*found);
   const QPointF middle_of_a_tile(place.x + place.width * 0.44, place.y + place.height * 0.12);
   const QPoint pixel = (middle_of_a_tile * 150 / 1440).toPoint();
-  EXPECT_EQ(QColor(ImageOf(document, kNoPictures, 0).pixel(pixel)), QColor(31, 95, 191));
+  EXPECT_EQ(QColor(ImageOf(document, 0).pixel(pixel)), QColor(31, 95, 191));
   place.bytes = std::make_shared<const std::string>(place.bytes->substr(0, 60));
   const QPointF middle(place.x + place.width * 0.5, place.y + place.height * 0.5);
-  const QImage broken = ImageOf(document, kNoPictures, 0);
+  const QImage broken = ImageOf(document, 0);
   EXPECT_EQ(QColor(broken.pixel((middle * 150 / 1440).toPoint())), QColor(0x8A, 0x92, 0x9A));
   EXPECT_EQ(QColor(broken.pixel(pixel)), QColor(0xF4, 0xF5, 0xF6));
 }
@@ -129,7 +128,7 @@ TEST(RichPages, APdfHasTheTitleThePaperAndTheFootersOfEachSection) {
       engine, richtext::ReadRichText(
                   "{\\rtf1\\paperw11906\\paperh16838{\\footer Page \\chpgn\\par}\\pard one\\sect"
                   "\\sectd\\lndscpsxn\\pgwsxn15840\\pghsxn12240 two\\par}"));
-  ASSERT_TRUE(WritePdf(engine.document(), kNoPictures, file));
+  ASSERT_TRUE(WritePdf(engine.document(), file));
   EXPECT_THAT(
       testing::LinesOf(QStringLiteral("pdfinfo"), {"-enc", "UTF-8", "-f", "1", "-l", "2", file}),
       IsSupersetOf({"Title: Café rules", "Page 1 size: 595 x 842 pts (A4)",

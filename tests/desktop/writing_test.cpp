@@ -140,9 +140,8 @@ TEST(WritingOnPaper, AContractHasItsFootersAndPageNumbers) {
   hub.document.text.Type("November 23, 2026");
   hub.PressKey("Ctrl+P");
   hub.printing.print.print.Click();
-  const PictureStore no_pictures([](std::string_view) { return QByteArray(); });
   const QString file = QString::fromStdString(rig.temporary.path()) + "/contract.pdf";
-  ASSERT_TRUE(WritePdf(rig.pages.printed.at(0), no_pictures, file));
+  ASSERT_TRUE(WritePdf(rig.pages.printed.at(0), file));
   const auto lines = testing::LinesOfPdf(file);
   EXPECT_THAT(lines, Contains("Date of Agreement November 23, 2026"));
   for (const char* footer : {"Employment Agreement Page 1", "Employment Agreement Page 2"}) {

@@ -42,10 +42,10 @@ class PhotoVIEW1Test : public ::testing::Test {
     form().print.print.Click();
     return rig.pages.printed.back();
   }
-  static std::vector<forms::PlacedImage> ImagesOf(const forms::Page& page) {
-    std::vector<forms::PlacedImage> images;
+  static std::vector<forms::PlacedPicture> ImagesOf(const forms::Page& page) {
+    std::vector<forms::PlacedPicture> images;
     for (const forms::Mark& mark : page) {
-      if (const auto* image = std::get_if<forms::PlacedImage>(&mark)) images.push_back(*image);
+      if (const auto* image = std::get_if<forms::PlacedPicture>(&mark)) images.push_back(*image);
     }
     return images;
   }
@@ -90,6 +90,66 @@ TEST_F(PhotoVIEW1Test, AnEntryIsChangedOnlyBehindItsCommand) {
   EXPECT_EQ(form().picture_note.caption(), "No Picture Currently Loaded");
 }
 
+TEST_F(PhotoVIEW1Test, AFileIsDroppedOnTheFrameOrTheScreenSaysWhyNot) {
+  const std::string too_long = "/" + std::string(200, 'a');
+  rig.pictures.at[too_long] = rig.pictures.at["/home/ann/a.jpg"];
+  for (const auto& [path, why] :
+       {std::pair<std::string, const char*>{
+            "",
+            "This picture's path has letters that the program's files don't know and can't be "
+            "kept."},
+        {"/home/ann/a.txt", "Program is unable to load this file as a Picture File!!!"},
+        {too_long,
+         "This picture's path is too long to be kept: 201 characters, where there is room for "
+         "200."}}) {
+    rig.dialogs.ExpectWarning("Select Photo", why);
+    form().picture.Drop(path);
+    EXPECT_FALSE(form().unsaved());
+  }
+  form().fields[0]->Type("License");
+  form().picture.Drop("/home/ann/a.jpg");
+  EXPECT_EQ(form().picture.content(), png);
+  form().save.Click();
+  EXPECT_EQ(record_book::ReadRecord(rig.folder, ImageBook(), 2)->picture, "/home/ann/a.jpg");
+  form().mode.Click();
+  rig.dialogs.ExpectWarning("Select Photo",
+                            "Choose a name first: the picture becomes that entry's.");
+  form().picture.Drop("/home/ann/a.jpg");
+}
+
+TEST_F(PhotoVIEW1Test, TheUsualKindsOfPicturesAreListedUntilAllAreAskedFor) {
+  rig.folders.readable["/home/ann/"].files = {"a.jpg", "b.PNG", "c.txt"};
+  rig.folders.left_out = 2;
+  form().fields[0]->Type("License");
+  form().link.Click();
+  parts::PicturePanel& panel = form().pictures;
+  panel.chooser.Open("/home/ann/");
+  EXPECT_THAT(panel.chooser.files.items(), ElementsAre("a.jpg"));
+  EXPECT_EQ(panel.note.caption(),
+            "Not listed, because their names have letters that the program's files don't know: 2 "
+            "files.");
+  panel.kinds.Pick(1);
+  EXPECT_THAT(panel.chooser.files.items(), ElementsAre("a.jpg", "b.PNG"));
+}
+
+TEST_F(PhotoVIEW1Test, AScanIsSeenInFullSize) {
+  EXPECT_FALSE(form().show_full.enabled());
+  Add("License", "2026", true);
+  form().mode.Click();
+  View("License");
+  form().picture.Open();
+  EXPECT_TRUE(form().full.visible());
+  EXPECT_FALSE(form().screen.Reachable());
+  EXPECT_EQ(form().full_picture.path(), "/home/ann/a.jpg");
+  EXPECT_FALSE(form().smaller.enabled());
+  for (int i = 0; i < forms::PictureView::kMostSteps; ++i) form().larger.Click();
+  EXPECT_FALSE(form().larger.enabled());
+  EXPECT_TRUE(form().smaller.enabled());
+  form().leave_full.Click();
+  EXPECT_TRUE(form().show_full.focused());
+  EXPECT_EQ(form().full_picture.path(), "");
+}
+
 TEST_F(PhotoVIEW1Test, APictureIsPrintedAsOftenAsChosenWithWhatIsTicked) {
   Add("License", "2026", true);
   form().mode.Click();
@@ -104,18 +164,12 @@ TEST_F(PhotoVIEW1Test, APictureIsPrintedAsOftenAsChosenWithWhatIsTicked) {
   ASSERT_EQ(four.pages.size(), 1u);
   EXPECT_THAT(testing::TextsOf(four.pages[0]), ElementsAre("License", "2026", "License", "2026",
                                                            "License", "2026", "License", "2026"));
-  const std::vector<forms::PlacedImage> images = ImagesOf(four.pages[0]);
+  const std::vector<forms::PlacedPicture> images = ImagesOf(four.pages[0]);
   ASSERT_EQ(images.size(), 4u);
-  // Letter between margins of 100 twips: 12040 by 15640. A cell is 0.475 and 0.425 of them; the
-  // picture is twice as wide as high.
-  const int width = 5719;
-  const int height = 2859;
-  EXPECT_NEAR(images[0].x, 100 + 120, 2);
-  EXPECT_NEAR(images[0].y, 100 + 156 + (6647 - height) / 2, 2);
-  EXPECT_NEAR(images[3].x, 100 + 6140, 2);
-  EXPECT_NEAR(images[3].y, 100 + 7976 + (6647 - height) / 2, 2);
-  EXPECT_NEAR(images[3].width, width, 1);
-  EXPECT_NEAR(images[3].height, height, 1);
+  // Letter between margins of 100 twips: 12040 by 15640. A cell is 0.475 and 0.425 of them.
+  EXPECT_EQ(images[0], (forms::PlacedPicture{100 + 120, 100 + 156, 5719, 6647, "/home/ann/a.jpg"}));
+  EXPECT_EQ(images[3],
+            (forms::PlacedPicture{100 + 6140, 100 + 7976, 5719, 6647, "/home/ann/a.jpg"}));
 }
 
 TEST_F(PhotoVIEW1Test, SeveralAreLaidOutInTheirOrderOverThePages) {

@@ -108,9 +108,15 @@ TEST_F(HelpTest, EveryScreenPanelAndHelpEntryHasItsPage) {
 
 TEST_F(HelpTest, EveryWordInBoldStandsOnAScreen) {
   // The buttons of boxes, and captions that come with a state of their screen.
-  std::set<std::string> known{
-      "Yes",   "No", "Cancel", "OK", "New Worksheet", "Compliance Status", "All Safeguards",
-      "Normal"};
+  std::set<std::string> known{"Yes",
+                              "No",
+                              "Cancel",
+                              "OK",
+                              "New Worksheet",
+                              "Compliance Status",
+                              "All Safeguards",
+                              "Normal",
+                              "Restore Files"};
   ForEachForm([&](forms::Form& form) { known.merge(CaptionsOf(form)); });
   for (const auto& entry : fs::directory_iterator(kPages)) {
     static const std::regex kBold("<b>([^<]*)</b>");

@@ -71,7 +71,7 @@ TEST_F(PicturePagesTest, APageHasEightCellsAtTheirPlaces) {
   EXPECT_EQ(texts[4], "1 Main St");
   EXPECT_EQ(texts[5], "San Buenaventu, CA, 93001");
   // The second cell's: 4.15 and 0.85 inches, 2.3 wide, half as high.
-  EXPECT_THAT(page, Contains(forms::Mark(forms::PlacedImage{5976, 1224, 3312, 1656, png})));
+  EXPECT_THAT(page, Contains(forms::Mark(forms::PlacedPicture{5976, 1224, 3312, 1656, "/a.jpg"})));
   form().print.close.Click();
   form().pages.Pick(1);
   EXPECT_EQ(form().page_label.caption(), "Page 2 of 2");

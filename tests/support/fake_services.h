@@ -120,6 +120,7 @@ class FakeFolders : public forms::FolderBrowser {
     const auto found = readable.find(path);
     return found == readable.end() ? std::nullopt : std::optional(found->second.files);
   }
+  int FilesLeftOut(const std::string&) override { return left_out; }
   storage::Outcome WriteFile(const std::string& path, std::string_view content) override {
     if (refuse) return storage::Fault::kFull;
     written[path] = content;
@@ -131,6 +132,7 @@ class FakeFolders : public forms::FolderBrowser {
   std::map<std::string, std::string> written;
   std::vector<forms::Place> more_places;
   bool refuse = false;
+  int left_out = 0;
 };
 
 // A printer that keeps what it was given and answers `result`. `setup` is what its page-setup
@@ -168,6 +170,10 @@ class FakePictures : public forms::Pictures {
     const auto found = at.find(path);
     if (found != at.end()) return found->second;
     return {nullptr, storage::Fault::kMissing};
+  }
+  forms::PictureHead Look(const std::string& path) override {
+    const forms::LoadedPicture picture = Load(path, 0, 0);
+    return {picture.fault, picture.width, picture.height};
   }
 
   std::map<std::string, forms::LoadedPicture> at;

@@ -50,12 +50,13 @@ forms::PageSetup SetupOf(const QPageLayout& layout) {
   return setup;
 }
 
-forms::PrintResult PaintPages(const forms::Document& document, const PictureStore& pictures,
-                              QPagedPaintDevice& device, int first, int last) {
+forms::PrintResult PaintPages(const forms::Document& document, QPagedPaintDevice& device, int first,
+                              int last, const std::function<bool(int page)>& may_go_on) {
   using forms::PrintResult;
   QPainter painter;
-  PagePainter pages(document, pictures);
+  PagePainter pages(document);
   for (int page = first; page <= last; ++page) {
+    if (may_go_on && !may_go_on(page)) return PrintResult::kCancelled;
     const forms::PageSetup& setup = document.SetupOf(static_cast<std::size_t>(page));
     QPageLayout layout = LayoutOf(setup);
     layout.setMode(device.pageLayout().mode());
@@ -78,7 +79,7 @@ bool IsWholePdf(const QString& file) {
          pdf.seek(pdf.size() - end.size()) && pdf.read(end.size()) == end;
 }
 
-bool WritePdf(const forms::Document& document, const PictureStore& pictures, const QString& file) {
+bool WritePdf(const forms::Document& document, const QString& file) {
   QPdfWriter writer(file);
   writer.setCreator(QStringLiteral("Tarnwell"));
   writer.setTitle(FromCore(document.title));
@@ -87,11 +88,10 @@ bool WritePdf(const forms::Document& document, const PictureStore& pictures, con
   layout.setMode(QPageLayout::FullPageMode);
   writer.setPageLayout(layout);
   const int last = static_cast<int>(document.pages.size()) - 1;
-  return PaintPages(document, pictures, writer, 0, last) == forms::PrintResult::kDone &&
-         IsWholePdf(file);
+  return PaintPages(document, writer, 0, last) == forms::PrintResult::kDone && IsWholePdf(file);
 }
 
-QImage ImageOf(const forms::Document& document, const PictureStore& pictures, int page) {
+QImage ImageOf(const forms::Document& document, int page) {
   if (page < 0 || page >= static_cast<int>(document.pages.size())) return {};
   const double scale = static_cast<double>(kClipboardDpi) / forms::kTwipsPerInch;
   const forms::PageSetup& setup = document.SetupOf(static_cast<std::size_t>(page));
@@ -99,7 +99,7 @@ QImage ImageOf(const forms::Document& document, const PictureStore& pictures, in
                QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  PagePainter pages(document, pictures);
+  PagePainter pages(document);
   PaintSheet(painter, pages, page, scale);
   return image;
 }

@@ -89,6 +89,14 @@ std::optional<std::vector<std::string>> QtFolderBrowser::Files(const std::string
   return Names(LocalPath(path), QDir::Files);
 }
 
+int QtFolderBrowser::FilesLeftOut(const std::string& path) {
+  const QString folder = LocalPath(path);
+  if (folder.isEmpty()) return 0;
+  const QStringList names = QDir(folder).entryList(QDir::Files);
+  return static_cast<int>(
+      std::ranges::count_if(names, [](const QString& name) { return !IsSpeakable(name); }));
+}
+
 storage::Outcome QtFolderBrowser::WriteFile(const std::string& path, std::string_view content) {
   const QString local = LocalPath(path);
   if (local.isEmpty()) return storage::Fault::kMissing;

@@ -22,6 +22,7 @@ class QtFolderBrowser : public forms::FolderBrowser {
   std::string ProgramPath() override;
   std::optional<std::vector<std::string>> Folders(const std::string& path) override;
   std::optional<std::vector<std::string>> Files(const std::string& path) override;
+  int FilesLeftOut(const std::string& path) override;
   storage::Outcome WriteFile(const std::string& path, std::string_view content) override;
 
  private:

@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -10,6 +12,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QStandardPaths>
 #include <algorithm>
 #include <cmath>
@@ -21,6 +24,7 @@
 namespace tarnwell::desktop {
 namespace {
 
+constexpr int kPatience = 1000;                            // milliseconds
 constexpr forms::Margins kUsualReach{360, 360, 360, 360};  // a quarter of an inch
 
 // Beside the user's other documents, with "-" for what a file's name can't hold.
@@ -60,6 +64,26 @@ void Prepare(QPrinter& printer, const forms::PageSetup& setup) {
   printer.setPageLayout(LayoutOf(setup));
 }
 
+// What takes over a second shows how far it is and can be stopped. Until then no event is looked
+// at, so that nobody closes what is being printed.
+forms::PrintResult PrintWithProgress(const forms::Document& document, QPrinter& printer, int first,
+                                     int last) {
+  const ModalQuestion question;
+  QProgressDialog progress(QString(), QStringLiteral("Cancel"), first, last + 1, question.asker());
+  progress.setWindowTitle(QStringLiteral("Print"));
+  progress.setWindowModality(Qt::ApplicationModal);
+  QElapsedTimer elapsed;
+  elapsed.start();
+  return PaintPages(document, printer, first, last, [&](int page) {
+    if (elapsed.elapsed() < kPatience) return true;
+    progress.setLabelText(QStringLiteral("Printing page %1 of %2").arg(page + 1).arg(last + 1));
+    progress.show();
+    progress.setValue(page);
+    if (progress.wasCanceled()) printer.abort();
+    return !progress.wasCanceled();
+  });
+}
+
 }  // namespace
 
 forms::PrintResult QtPages::Print(const forms::Document& document) {
@@ -80,18 +104,16 @@ forms::PrintResult QtPages::Print(const forms::Document& document) {
   printer.setFullPage(true);
   const int first = printer.fromPage() > 0 ? printer.fromPage() - 1 : 0;
   const int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages) - 1 : pages - 1;
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  auto result = PaintPages(document, pictures_, printer, first, last);
+  const auto result = PrintWithProgress(document, printer, first, last);
   const QString file = printer.outputFileName();
-  if (result == forms::PrintResult::kDone && !file.isEmpty() && !IsWholePdf(file)) {
-    result = forms::PrintResult::kBrokenOff;
-  }
-  QGuiApplication::restoreOverrideCursor();
-  return result;
+  if (file.isEmpty()) return result;
+  if (result == forms::PrintResult::kCancelled) QFile::remove(file);
+  const bool is_whole = result != forms::PrintResult::kDone || IsWholePdf(file);
+  return is_whole ? result : forms::PrintResult::kBrokenOff;
 }
 
 void QtPages::CopyPage(const forms::Document& document, int page) {
-  const QImage image = ImageOf(document, pictures_, page);
+  const QImage image = ImageOf(document, page);
   if (image.isNull()) return;
   auto* content = new QMimeData;
   content->setImageData(image);

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "desktop/widgets/page_fonts.h"
-#include "desktop/widgets/pictures.h"
 #include "forms/pages.h"
 
 namespace tarnwell::desktop {
 
-// The system's printers and its PDF file, by Qt's dialogues. Needs `pictures` to stay.
+// The system's printers and its PDF file, by Qt's dialogues.
 class QtPages : public forms::Pages {
  public:
-  explicit QtPages(const PictureStore& pictures) : pictures_(pictures) {}
-
   forms::TextMetrics& metrics() override { return metrics_; }
   std::vector<std::string> FontNames() override;
   forms::PrintResult Print(const forms::Document& document) override;
@@ -20,7 +17,6 @@ class QtPages : public forms::Pages {
   std::optional<forms::PageSetup> ChooseSetup(const forms::PageSetup& start) override;
 
  private:
-  const PictureStore& pictures_;
   PageMetrics metrics_;
 };
 

@@ -6,10 +6,8 @@ namespace tarnwell::desktop {
 
 class QtPictures : public forms::Pictures {
  public:
-  static constexpr std::uint64_t kMostBytes = 128u << 20;
-  static constexpr std::int64_t kMostPixels = 64'000'000;
-
   forms::LoadedPicture Load(const std::string& path, int most_width, int most_height) override;
+  forms::PictureHead Look(const std::string& path) override;
 };
 
 }  // namespace tarnwell::desktop

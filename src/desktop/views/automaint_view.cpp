@@ -106,9 +106,9 @@ QWidget* Calculator(vehicles::CalculatorPanel& panel) {
            Row({Spring(), Widget(panel.close)})})));
 }
 
-QWidget* Print(vehicles::VehiclePrint& print, PictureStore& pictures) {
+QWidget* Print(vehicles::VehiclePrint& print) {
   return PrintView(
-      print.panel, pictures,
+      print.panel,
       {Widget(print.information), Widget(print.maintenance), Widget(print.repairs),
        Widget(print.maintenance_history), Widget(print.all_history), Widget(print.fuel),
        Widget(print.picture), Widget(print.in_15_days), Widget(print.in_30_days),
@@ -140,12 +140,11 @@ QWidget* Sheet(vehicles::AutoMaint& form, PictureStore& pictures) {
 
 QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures) {
   return Padded(
-      Column(
-          {Grow(Sheet(form, pictures)),
-           AtTop(AtMost(Calculator(form.calculator), kLettersOfCalculator)),
-           Grow(AtMost(PicturePanelView(form.picture_choice, pictures), kLettersOfPanel)),
-           AtTop(Widget(form.searching, Widget(form.progress))), Grow(Print(form.print, pictures))},
-          0),
+      Column({Grow(Sheet(form, pictures)),
+              AtTop(AtMost(Calculator(form.calculator), kLettersOfCalculator)),
+              Grow(AtMost(PicturePanelView(form.picture_choice, pictures), kLettersOfPanel)),
+              AtTop(Widget(form.searching, Widget(form.progress))), Grow(Print(form.print))},
+             0),
       kSpace);
 }
 

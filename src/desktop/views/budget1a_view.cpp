@@ -70,7 +70,7 @@ QWidget* Totals(budget::TotalsPanel& panel, PictureStore& pictures) {
 
 QWidget* View(budget::Budget1a& form, PictureStore& pictures) {
   return YearSheetPage(form, pictures, YearSheetView(form, pictures, Months(form)),
-                       PrintView(form.print, pictures, {Widget(form.print_graph)}),
+                       PrintView(form.print, {Widget(form.print_graph)}),
                        {Totals(form.year_totals, pictures),
                         Widget(form.preparing, Row({Widget(form.cancel_print), Spring()}))});
 }

@@ -37,11 +37,11 @@ QWidget* Beside(forms::PagePreview& sheet, QWidget* content) {
 
 }  // namespace
 
-QWidget* View(planner::Calendar& form, PictureStore& pictures) {
+QWidget* View(planner::Calendar& form, PictureStore&) {
   QWidget* guide_lines =
       Beside(form.preview, Widget(form.display_frame, Flow({Widget(form.guide_lines.option(0)),
                                                             Widget(form.guide_lines.option(1))})));
-  QWidget* sheet = Column({Grow(Widget(form.preview, pictures)), guide_lines,
+  QWidget* sheet = Column({Grow(Widget(form.preview)), guide_lines,
                            Row({Widget(form.zoom), Widget(form.auto_size), Spring()})});
   return Padded(Widget(form.page, Row({Beside(form.preview, Selection(form)),
                                        Grow(Beside(form.preview, Day(form)), 2), Grow(sheet, 3)},

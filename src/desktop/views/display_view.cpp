@@ -52,9 +52,9 @@ QWidget* View(record_book::DisplayScreen& form, PictureStore& pictures) {
                             Widget(form.complete_report), WithIcon("exit", Widget(form.exit))},
                            kTightSpace),
                   }));
-  QWidget* print = PrintView(form.print, pictures,
-                             {Widget(form.with_telephones), Widget(form.list_columns.option(0)),
-                              Widget(form.list_columns.option(1))});
+  QWidget* print =
+      PrintView(form.print, {Widget(form.with_telephones), Widget(form.list_columns.option(0)),
+                             Widget(form.list_columns.option(1))});
   return Padded(
       Column({Grow(sheet), Grow(print), Grow(AtMost(ExportView(form.exporting), kLettersOfPanel)),
               AtTop(AtMost(GridBackgroundView(form.background, pictures), kLettersOfPanel))},

@@ -82,7 +82,7 @@ QWidget* View(EntryScreen& form, PictureStore& pictures) {
                            Widget(form.mode), WithIcon("exit", Widget(form.exit))},
                           kTightSpace)}));
   return Padded(AtMost(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
-                               Grow(PrintView(form.print, pictures))},
+                               Grow(PrintView(form.print))},
                               0),
                        kLettersOfScreen),
                 kSpace);

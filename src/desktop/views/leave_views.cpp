@@ -6,8 +6,7 @@
 namespace tarnwell::desktop {
 
 QWidget* View(leave::LeaveSheet& form, PictureStore& pictures) {
-  return YearSheetPage(form, pictures, YearSheetView(form, pictures),
-                       PrintView(form.print, pictures));
+  return YearSheetPage(form, pictures, YearSheetView(form, pictures), PrintView(form.print));
 }
 
 }  // namespace tarnwell::desktop

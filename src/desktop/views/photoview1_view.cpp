@@ -39,7 +39,7 @@ QWidget* ImageView(PhotoVIEW1& form, PictureStore& pictures) {
       Grow(Widget(form.picture_panel,
                   Column({Grow(AtLeast(kLeastPicture, Widget(form.picture, pictures))),
                           Row({Grow(Wrapped(Widget(form.picture_note))), print_picture,
-                               Widget(form.link)})}))),
+                               Widget(form.show_full), Widget(form.link)})}))),
   });
 }
 
@@ -51,6 +51,12 @@ QWidget* SeveralView(PhotoVIEW1& form) {
                         Grow(Column({Widget(form.chosen_heading), Grow(Widget(form.chosen))}))})),
               Flow({WithIcon("print", Primary(Widget(form.print_several))),
                     Widget(form.leave_several)})}));
+}
+
+QWidget* FullView(PhotoVIEW1& form) {
+  return Widget(form.full, Column({Grow(Widget(form.full_picture)),
+                                   Flow({Widget(form.larger), Widget(form.smaller),
+                                         WithIcon("exit", Widget(form.leave_full))})}));
 }
 
 }  // namespace
@@ -65,12 +71,12 @@ QWidget* View(PhotoVIEW1& form, PictureStore& pictures) {
                     Widget(form.remove), Widget(form.mode), WithIcon("exit", Widget(form.exit)),
                     Low(Widget(form.restore_top)), Low(Widget(form.restore_side))},
                    kTightSpace)}));
-  QWidget* print = PrintView(
-      form.print, pictures,
-      {Widget(form.copies.option(0)), Widget(form.copies.option(1)), Widget(form.copies.option(2)),
-       Widget(form.copies.option(3)), Widget(form.print_title), Widget(form.print_date)});
+  QWidget* print =
+      PrintView(form.print, {Widget(form.copies.option(0)), Widget(form.copies.option(1)),
+                             Widget(form.copies.option(2)), Widget(form.copies.option(3)),
+                             Widget(form.print_title), Widget(form.print_date)});
   return Padded(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
-                        Grow(SeveralView(form)), Grow(print)},
+                        Grow(SeveralView(form)), Grow(FullView(form)), Grow(print)},
                        0),
                 kSpace);
 }

@@ -48,7 +48,7 @@ QWidget* View(PicturePages& form, PictureStore& pictures) {
                        kWideSpace)),
               Flow({Widget(form.pages), Widget(form.page_label), Primary(Widget(form.preview)),
                     Widget(form.cancel)})}));
-  return Padded(Column({Grow(sheet), Grow(PrintView(form.print, pictures))}, 0), kSpace);
+  return Padded(Column({Grow(sheet), Grow(PrintView(form.print))}, 0), kSpace);
 }
 
 }  // namespace tarnwell::desktop

@@ -14,14 +14,15 @@ constexpr QSize kPreview{320, 240};
 QWidget* PicturePanelView(parts::PicturePanel& panel, PictureStore& pictures) {
   QWidget* preview = Widget(panel.preview, pictures);
   preview->setFixedSize(kPreview);
-  return Widget(panel.panel,
-                Column({
-                    Grow(Row({Grow(FolderChooserView(panel.chooser)),
-                              Column({Widget(panel.preview_heading), preview,
-                                      Wrapped(Widget(panel.note)), Spring()})},
-                             kWideSpace)),
-                    Flow({Primary(Widget(panel.enter)), Widget(panel.leave), Widget(panel.remove)}),
-                }));
+  return Widget(
+      panel.panel,
+      Column({
+          Grow(Row({Grow(Column({Grow(FolderChooserView(panel.chooser)), Widget(panel.kinds)})),
+                    Column({Widget(panel.preview_heading), preview, Wrapped(Widget(panel.note)),
+                            Spring()})},
+                   kWideSpace)),
+          Flow({Primary(Widget(panel.enter)), Widget(panel.leave), Widget(panel.remove)}),
+      }));
 }
 
 }  // namespace tarnwell::desktop

@@ -42,8 +42,7 @@ QWidget* Options(print::PrintPanel& panel, std::initializer_list<QWidget*> own_o
 
 }  // namespace
 
-QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
-                   std::initializer_list<QWidget*> own_options) {
+QWidget* PrintView(print::PrintPanel& panel, std::initializer_list<QWidget*> own_options) {
   QWidget* commands = Row({Widget(panel.zoom)});
   if (panel.auto_size) Append(commands, Widget(*panel.auto_size));
   Append(commands, Grow(Widget(panel.progress)));
@@ -55,11 +54,10 @@ QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
   QWidget* beside = ShownWhile(
       panel.preview, [&panel] { return panel.preview.zoom() != forms::Zoom::kEnlarged; },
       ScrolledColumn(Options(panel, own_options)));
-  return Widget(panel.panel,
-                Column({
-                    Grow(Row({Grow(Widget(panel.preview, pictures)), beside}, kWideSpace)),
-                    commands,
-                }));
+  return Widget(panel.panel, Column({
+                                 Grow(Row({Grow(Widget(panel.preview)), beside}, kWideSpace)),
+                                 commands,
+                             }));
 }
 
 }  // namespace tarnwell::desktop

@@ -10,8 +10,7 @@
 namespace tarnwell::desktop {
 
 // The panel "Print Options"; `own_options` are those of the screen, in the order given.
-QWidget* PrintView(print::PrintPanel& panel, PictureStore& pictures,
-                   std::initializer_list<QWidget*> own_options = {});
+QWidget* PrintView(print::PrintPanel& panel, std::initializer_list<QWidget*> own_options = {});
 
 QWidget* ExportView(parts::ExportPanel& panel);
 

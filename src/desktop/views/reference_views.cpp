@@ -87,7 +87,7 @@ QWidget* View(reference::InfoAdv& form, PictureStore&) {
               Grow(Row({Grow(shown), CopyAndPaste(form)}, kWideSpace))}));
 }
 
-QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures) {
+QWidget* View(reference::ToolsandInfo1& form, PictureStore&) {
   const int share = form.text_share();
   QWidget* text =
       Widget(form.text_panel,
@@ -99,8 +99,7 @@ QWidget* View(reference::ToolsandInfo1& form, PictureStore& pictures) {
   QWidget* screen =
       Widget(form.screen, Column({InSize(TextSize::kHeading, Widget(form.title)),
                                   Grow(Row({ToolsSide(form), Grow(text)}, kWideSpace))}));
-  return MainScreenView(form.main_buttons,
-                        Column({Grow(screen), Grow(PrintView(form.print, pictures))}, 0));
+  return MainScreenView(form.main_buttons, Column({Grow(screen), Grow(PrintView(form.print))}, 0));
 }
 
 }  // namespace tarnwell::desktop

@@ -90,10 +90,9 @@ QWidget* Document(workarea::DocumentView& view, workarea::WorksheetsPane& worksh
           kTightSpace));
 }
 
-QWidget* Printing(workarea::DocumentPrinting& printing, PictureStore& pictures) {
-  return PrintView(printing.print, pictures,
-                   {Widget(printing.first), Widget(printing.texts[0]), Widget(printing.texts[1]),
-                    Widget(printing.texts[2])});
+QWidget* Printing(workarea::DocumentPrinting& printing) {
+  return PrintView(printing.print, {Widget(printing.first), Widget(printing.texts[0]),
+                                    Widget(printing.texts[1]), Widget(printing.texts[2])});
 }
 
 }  // namespace
@@ -114,7 +113,7 @@ QWidget* View(workarea::WorkArea1& form, PictureStore& pictures) {
       Column(
           {Row({InSize(TextSize::kHeading, Widget(form.area_title)), Spring(), Widget(form.date)}),
            Grow(areas), AtTop(AtMost(all, kLettersOfNote)),
-           Grow(TitlesView(form.worksheets.titles)), Grow(Printing(form.printing, pictures)),
+           Grow(TitlesView(form.worksheets.titles)), Grow(Printing(form.printing)),
            Grow(AtMost(ExportView(form.to_do.exporting), kLettersOfPanel)),
            AtTop(AtMost(GridBackgroundView(form.to_do.background, pictures), kLettersOfPanel))}));
 }

@@ -54,25 +54,23 @@ QWidget* MonthView(planner::MonthPanel& month, PictureStore& pictures) {
               Row({WithIcon("print", Widget(month.print)), Spring(), Widget(month.close)})}));
 }
 
-QWidget* PagesView(planner::PlannerPages& pages, PictureStore& pictures) {
-  return PrintView(pages.print, pictures,
-                   {Widget(pages.columns.option(0)), Widget(pages.columns.option(1))});
+QWidget* PagesView(planner::PlannerPages& pages) {
+  return PrintView(pages.print, {Widget(pages.columns.option(0)), Widget(pages.columns.option(1))});
 }
 
 }  // namespace
 
 QWidget* View(planner::Zcalandar1& form, PictureStore& pictures) {
   QWidget* import_panel = Widget(form.todo_import.panel, Widget(form.todo_import.progress));
-  QWidget* in_turn =
-      Column({Grow(AtMost(Day(form), kLettersOfRow)),
-              AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
-              Grow(RecurrenceView(form.recurrence)),
-              Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
-              Grow(PagesView(form.pages, pictures)),
-              Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)),
-              AtTop(AtMost(GridBackgroundView(form.background, pictures), kLettersOfPanel)),
-              AtTop(import_panel)},
-             0);
+  QWidget* in_turn = Column(
+      {Grow(AtMost(Day(form), kLettersOfRow)),
+       AtTop(AtMost(CalendarOptions(form.calendar_options), kLettersOfRow)),
+       Grow(RecurrenceView(form.recurrence)),
+       Grow(AtMost(MonthView(form.pages.month, pictures), kLettersOfPanel)),
+       Grow(PagesView(form.pages)), Grow(AtMost(ExportView(form.pages.exporting), kLettersOfPanel)),
+       AtTop(AtMost(GridBackgroundView(form.background, pictures), kLettersOfPanel)),
+       AtTop(import_panel)},
+      0);
   // What covers the rows and the calendar takes the whole width.
   QWidget* side = ShownWhile(
       form.picker, [&form] { return form.picker.visible(); },

@@ -16,6 +16,7 @@
 #include "forms/menu.h"
 #include "forms/page_preview.h"
 #include "forms/panel.h"
+#include "forms/picture_view.h"
 #include "forms/progress_bar.h"
 #include "forms/rich_text_box.h"
 #include "forms/text_box.h"
@@ -31,13 +32,15 @@ QWidget* Widget(forms::TextField& field);
 QWidget* Widget(forms::TextBox& box);
 QWidget* Widget(forms::Label& label);
 QWidget* Widget(forms::Picture& picture, PictureStore& pictures);
+// The wheel and "+" make it larger, dragging moves it.
+QWidget* Widget(forms::PictureView& picture);
 QWidget* Widget(forms::Option& option);
 QWidget* Widget(forms::CheckBox& box);
 QWidget* Widget(forms::ComboBox& combo);
 QWidget* Widget(forms::TypedCombo& combo);
 QWidget* Widget(forms::ListBox& box);
 QWidget* Widget(forms::Grid& grid, PictureStore& pictures);
-QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures);
+QWidget* Widget(forms::PagePreview& preview);
 QWidget* Widget(forms::DatePicker& picker);
 QWidget* Widget(forms::ProgressBar& bar);
 // As large as its place, its letters in the widget's font.

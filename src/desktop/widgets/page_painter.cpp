@@ -6,6 +6,7 @@
 #include "desktop/widgets/broken_picture.h"
 #include "desktop/widgets/chart_drawing.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/machine_pictures.h"
 #include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/text.h"
@@ -46,6 +47,19 @@ void PaintWave(QPainter& painter, const forms::PlacedLine& line) {
   painter.drawPolyline(wave);
 }
 
+// No more of a picture than is seen.
+QSize PixelsSeen(const QPainter& painter, const QRectF& place) {
+  const QSizeF seen = painter.deviceTransform().mapRect(place).size();
+  return seen.boundedTo(place.size() * kMostDotsPerTwip).toSize();
+}
+
+// Signs and drawings keep their edges in a PDF; photographs have none to lose.
+void DrawImage(QPainter& painter, const QRectF& place, const QImage& image, bool keeps_edges) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.setRenderHint(QPainter::LosslessImageRendering, keeps_edges);
+  painter.drawImage(place, image);
+}
+
 }  // namespace
 
 QString TextOf(const forms::PlacedText& text) {
@@ -53,8 +67,7 @@ QString TextOf(const forms::PlacedText& text) {
   return QString::fromUtf8(text.text.data(), static_cast<qsizetype>(text.text.size()));
 }
 
-PagePainter::PagePainter(const forms::Document& document, const PictureStore& pictures)
-    : document_(document), pictures_(pictures) {
+PagePainter::PagePainter(const forms::Document& document) : document_(document) {
   for (const forms::Font& font : document.fonts) {
     const QFont face = PageFont(font);
     faces_.push_back({face, ToQColor(font.color), QFontMetricsF(face).ascent()});
@@ -97,27 +110,22 @@ void PagePainter::PaintMark(QPainter& painter, const forms::PlacedBox& box) {
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedPicture& picture) {
-  const QImage image = Decoded(pictures_.Read(picture.file));
-  if (image.isNull()) return;
   const QRectF box(picture.x, picture.y, picture.width, picture.height);
-  QRectF place({}, QSizeF(image.size()).scaled(box.size(), Qt::KeepAspectRatio));
+  const MachinePicture read = ReadMachinePicture(picture.path, PixelsSeen(painter, box));
+  if (read.image.isNull()) return;
+  QRectF place({}, QSizeF(read.whole).scaled(box.size(), Qt::KeepAspectRatio));
   place.moveCenter(box.center());
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(place, image);
+  DrawImage(painter, place, read.image, read.type != "jpeg");
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedImage& picture) {
   if (!picture.bytes) return;
   const QRectF place(picture.x, picture.y, picture.width, picture.height);
-  const QSizeF shown = painter.deviceTransform().mapRect(place).size();
   const QImage image = Decoded(
       QByteArray::fromRawData(picture.bytes->data(), static_cast<qsizetype>(picture.bytes->size())),
-      shown.boundedTo(place.size() * kMostDotsPerTwip).toSize());
+      PixelsSeen(painter, place));
   if (image.isNull()) return PaintBrokenPicture(painter, place);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  // Signs and drawings keep their edges in a PDF; photographs have none to lose.
-  painter.setRenderHint(QPainter::LosslessImageRendering, picture.bytes->starts_with("\x89PNG"));
-  painter.drawImage(place, image);
+  DrawImage(painter, place, image, picture.bytes->starts_with("\x89PNG"));
 }
 
 void PagePainter::PaintMark(QPainter& painter, const forms::PlacedChart& chart) {

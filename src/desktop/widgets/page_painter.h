@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <vector>
 
-#include "desktop/widgets/pictures.h"
 #include "forms/page.h"
 
 namespace tarnwell::desktop {
@@ -16,7 +15,7 @@ QString TextOf(const forms::PlacedText& text);
 // to stay.
 class PagePainter {
  public:
-  PagePainter(const forms::Document& document, const PictureStore& pictures);
+  explicit PagePainter(const forms::Document& document);
 
   // Counted from 0; nothing where there is no such page.
   void Paint(QPainter& painter, int page);
@@ -36,7 +35,6 @@ class PagePainter {
   void PaintMark(QPainter& painter, const forms::PlacedChart& chart);
 
   const forms::Document& document_;
-  const PictureStore& pictures_;
   std::vector<Face> faces_;  // of Document::fonts
 };
 

@@ -4,8 +4,8 @@
 
 namespace tarnwell::desktop {
 
-QWidget* Widget(forms::PagePreview& preview, PictureStore& pictures) {
-  auto* view = new PageView(pictures);
+QWidget* Widget(forms::PagePreview& preview) {
+  auto* view = new PageView;
   auto* binding = new Binding(view, preview, [view, &preview] { view->Show(preview); });
   view->on_turn = binding->Forward([&preview](int page) { preview.TurnTo(page); });
   return view;

@@ -30,9 +30,8 @@ QToolButton* PagerButton(const QString& sign, const QString& name) {
 
 }  // namespace
 
-PageView::PageView(const PictureStore& pictures)
-    : pictures_(pictures),
-      pager_(new QWidget(this)),
+PageView::PageView()
+    : pager_(new QWidget(this)),
       back_(PagerButton(QStringLiteral("\u2039"), QStringLiteral("Page before"))),
       number_(new QLabel),
       forth_(PagerButton(QStringLiteral("\u203A"), QStringLiteral("Next page"))) {
@@ -168,7 +167,7 @@ QPixmap PageView::PaintSheet(int page) const {
   sheet.fill(Qt::white);
   QPainter painter(&sheet);
   painter.scale(Scale(page) * density, Scale(page) * density);
-  PagePainter(*document_, pictures_).Paint(painter, page);
+  PagePainter(*document_).Paint(painter, page);
   painter.end();
   sheet.setDevicePixelRatio(density);
   return sheet;

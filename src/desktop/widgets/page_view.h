@@ -7,7 +7,6 @@
 #include <functional>
 #include <vector>
 
-#include "desktop/widgets/pictures.h"
 #include "forms/page_preview.h"
 
 namespace tarnwell::desktop {
@@ -17,7 +16,7 @@ namespace tarnwell::desktop {
 // Enlarged it is one page, as wide as the desk.
 class PageView : public QAbstractScrollArea {
  public:
-  explicit PageView(const PictureStore& pictures);
+  PageView();
 
   // The preview as it is now. Needs its document to stay until the next call.
   void Show(const forms::PagePreview& preview);
@@ -42,7 +41,6 @@ class PageView : public QAbstractScrollArea {
   QPixmap PaintSheet(int page) const;
   void PaintGuideLines(QPainter& painter, int page, const QRectF& sheet) const;
 
-  const PictureStore& pictures_;
   QWidget* pager_;
   QToolButton* back_;
   QLabel* number_;

@@ -1,8 +1,11 @@
+#include <QDragEnterEvent>
 #include <QImage>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QUrl>
 #include <functional>
 #include <memory>
 #include <string>
@@ -13,6 +16,7 @@
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/pictures.h"
+#include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -48,6 +52,17 @@ class PictureWidget : public QWidget {
     setFocusPolicy(Qt::StrongFocus);
   }
 
+  void SetOpen(std::function<void()> on_open) {
+    on_open_ = std::move(on_open);
+    setFocusPolicy(Qt::StrongFocus);
+  }
+
+  // A file of this machine may be dropped on it.
+  void SetDrop(std::function<void(const std::string& path)> on_drop) {
+    on_drop_ = std::move(on_drop);
+    setAcceptDrops(true);
+  }
+
   QSize sizeHint() const override { return OwnSize(); }
   QSize minimumSizeHint() const override { return OwnSize() / 4; }
 
@@ -75,8 +90,28 @@ class PictureWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override {
     const int key = event->key();
     const bool clicks = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (!on_click_ || !clicks) return QWidget::keyPressEvent(event);
-    on_click_();
+    const auto& does = on_click_ ? on_click_ : on_open_;
+    if (!does || !clicks) return QWidget::keyPressEvent(event);
+    does();
+  }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    if (!on_open_ || event->button() != Qt::LeftButton) {
+      return QWidget::mouseDoubleClickEvent(event);
+    }
+    on_open_();
+  }
+
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+  }
+
+  void dropEvent(QDropEvent* event) override {
+    const QString file = DroppedFile(*event->mimeData());
+    if (file.isEmpty()) return;
+    event->acceptProposedAction();
+    const std::string path = ToCore(file);
+    on_drop_(FromCore(path) == file ? path : std::string());
   }
 
   void mouseReleaseEvent(QMouseEvent* event) override {
@@ -88,6 +123,12 @@ class PictureWidget : public QWidget {
  private:
   QSize OwnSize() const { return drawing_.isValid() ? drawing_.defaultSize() : photograph_.size(); }
 
+  // The only one; empty for several, and for what doesn't lie on this machine.
+  static QString DroppedFile(const QMimeData& dropped) {
+    const QList<QUrl> urls = dropped.urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+  }
+
   static constexpr double kFrameWidth = 3;
 
   const PictureStore& pictures_;
@@ -95,6 +136,8 @@ class PictureWidget : public QWidget {
   std::shared_ptr<const std::string> content_;
   bool marked_ = false;
   std::function<void()> on_click_;
+  std::function<void()> on_open_;
+  std::function<void(const std::string& path)> on_drop_;
   QSvgRenderer drawing_;
   QImage photograph_;
 };
@@ -108,6 +151,10 @@ QWidget* Widget(forms::Picture& picture, PictureStore& pictures) {
     widget->SetMarked(picture.marked());
   });
   if (picture.on_click) widget->SetClick(binding->Forward([&picture] { picture.Click(); }));
+  if (picture.on_open) widget->SetOpen(binding->Forward([&picture] { picture.Open(); }));
+  if (picture.on_drop) {
+    widget->SetDrop(binding->Forward([&picture](const std::string& path) { picture.Drop(path); }));
+  }
   return widget;
 }
 
