@@ -50,6 +50,7 @@ TEST_F(CarefulTest, OnlyTheSetsOwnFormsGoFromADisk) {
   for (const char* old : {"Name1.hm7", "old.HM2", "x.hb1", "x.HB3", " 2026.Bb1", "Disk4.Bbk"}) {
     rig_.disk(1).Write(old, "old");
   }
+  ASSERT_EQ(::mkdir((rig_.disk(1).path() + "/folder.hb2").c_str(), 0700), 0);
   for (const int mode : {0, 2, 32, 36}) ASSERT_EQ(rig_.BackUp(mode), BackupEnd::kComplete);
   for (const std::string& name : theirs) EXPECT_EQ(rig_.disk(1).Read(name), "mine") << name;
   for (const char* old : {"Name1.hm7", "old.HM2", "x.hb1", "x.HB3", "Disk4.Bbk"}) {
