@@ -134,15 +134,16 @@ std::optional<BackupEnd> BackupRun::FillDisk() {
 }
 
 std::optional<BackupEnd> BackupRun::EndDisk(bool is_last) {
+  // What a restore begins with has to be on the first disk.
+  if (writer_->position() < 0) return BackupEnd::kNotWritable;
   const Step finished = writer_->FinishDisk();
   if (finished == Step::kDiffers) return BackupEnd::kDiffers;
   if (finished == Step::kBadSource) return BackupEnd::kBadSource;
   if (finished == Step::kStopped) return BackupEnd::kStopped;
   is_last = is_last && finished == Step::kDone;
-  // What a restore begins with has to be on the first disk.
-  if (writer_->position() < 0) return BackupEnd::kNotWritable;
-  filled_ = {std::string(set_.tag), number_,           is_last ? 0 : number_ + 1,
-             writer_->position(),   writer_->count(), true};
+  filled_ = {std::string(set_.tag),     number_,
+             is_last ? 0 : number_ + 1, std::max(writer_->position(), 0),
+             writer_->count(),          true};
   if (WriteInfo(*disk_, set_, filled_)) {
     present_ = filled_;
     if (is_last) return BackupEnd::kComplete;

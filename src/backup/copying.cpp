@@ -11,6 +11,16 @@ namespace {
 
 constexpr std::size_t kPiece = 256u << 10;  // bytes between two looks at the window
 
+// Bytes after which a large file is brought to the disk, so that the last flush takes no time in
+// which the window would stand still.
+constexpr std::uint64_t kFlushed = 4u << 20;
+
+bool Write(const Range& to, std::uint64_t done, std::string_view piece) {
+  const std::uint64_t place = to.offset + done;
+  const bool is_due = place / kFlushed != (place + piece.size()) / kFlushed;
+  return to.file.WriteAt(place, piece) && (!is_due || to.file.Flush());
+}
+
 // What `visit` did with each piece of the range, until it isn't kDone.
 template <typename Visit>
 Step ForEachPiece(const Range& range, std::uint64_t size, Attendant& attendant, Visit visit) {
@@ -33,7 +43,7 @@ Step ForEachPiece(const Range& range, std::uint64_t size, Attendant& attendant, 
 
 Step CopyBytes(const Range& from, const Range& to, std::uint64_t size, Attendant& attendant) {
   return ForEachPiece(from, size, attendant, [&](std::uint64_t done, std::string_view piece) {
-    return to.file.WriteAt(to.offset + done, piece) ? Step::kDone : Step::kRefused;
+    return Write(to, done, piece) ? Step::kDone : Step::kRefused;
   });
 }
 

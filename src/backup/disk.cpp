@@ -59,7 +59,9 @@ bool Disk::RemoveAll(const std::function<bool(std::string_view name)>& fits) {
   if (!names) return false;
   bool all = true;
   for (const std::string& name : *names) {
-    if (fits(name)) all = Remove(name) && all;
+    if (!fits(name) || Remove(name)) continue;
+    // A folder of such a name is no file of a set.
+    all = all && !Open(name) && fault() == storage::Fault::kNotPlain;
   }
   return all;
 }

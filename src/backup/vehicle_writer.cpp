@@ -74,7 +74,7 @@ Step VehicleWriter::PutTable() {
   if (!copy) return Step::kRefused;
   const Step step = CopyFile(*table.file, *copy, attendant_);
   if (step == Step::kDone) {
-    report_.copied.emplace_back(file_names::kVehicleSlots);
+    if (report_.copied.empty()) report_.copied.emplace_back(file_names::kVehicleSlots);
     const auto written = disk_->Open("CarMnt1.Ab1");
     return written ? CompareFiles(*written, *table.file, attendant_) : Step::kDiffers;
   }

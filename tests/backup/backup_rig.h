@@ -30,7 +30,10 @@ class DiskChanger : public backup::Attendant {
   void ShowDisk(int number) override { shown.push_back(number); }
   void StartBar(int maximum) override { bar = maximum; }
   void MoveBar(int value) override { EXPECT_LE(value, bar); }
-  bool GoOn() override { return steps_before_stop-- != 0; }
+  bool GoOn() override {
+    if (on_go) on_go();
+    return steps_before_stop-- != 0;
+  }
   bool AskForDisk(int number) override {
     asked.push_back(number);
     if (asked.size() > 40) return false;
@@ -41,6 +44,7 @@ class DiskChanger : public backup::Attendant {
 
   std::string path;
   std::function<bool(int number)> on_ask;
+  std::function<void()> on_go;
   int steps_before_stop = -1;
   std::vector<int> shown;
   std::vector<int> asked;
