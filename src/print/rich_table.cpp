@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 #include "richtext/kept_words.h"
 
@@ -9,7 +10,35 @@ namespace tarnwell::print {
 namespace {
 
 constexpr int kPaperEdge = 100;             // twips that a table keeps off the edge of the sheet
-constexpr std::size_t kMostTogether = 100;  // rows that cells reach over
+constexpr std::size_t kMostTogether = 100;  // rows that cells reach over, or that stay together
+
+bool GoesOn(const richtext::TableRow& row) {
+  return std::ranges::any_of(row.cells, [](const richtext::Cell& cell) {
+    return richtext::HoldsKept("clvmrg", cell.other);
+  });
+}
+
+// The end of the rows from `begin` on that cells of the first one may reach over.
+std::size_t EndOfMerged(const richtext::Table& table, std::size_t begin) {
+  std::size_t end = begin + 1;
+  while (end < table.rows.size() && end - begin < kMostTogether && GoesOn(table.rows[end])) ++end;
+  return end;
+}
+
+bool StaysWithNext(const richtext::TableRow& row) {
+  if (row.cells.empty() || row.cells[0].paragraphs.empty()) return false;
+  return richtext::HoldsKept("keepn", row.cells[0].paragraphs[0].format.other);
+}
+
+// The end of those that begin at `begin` and stay together.
+std::size_t EndOfKept(const richtext::Table& table, std::size_t begin) {
+  std::size_t end = EndOfMerged(table, begin);
+  while (end < table.rows.size() && end - begin < kMostTogether &&
+         StaysWithNext(table.rows[end - 1])) {
+    end = EndOfMerged(table, end);
+  }
+  return end;
+}
 
 }  // namespace
 
@@ -159,16 +188,20 @@ std::vector<RowBox> RichTable::LayOut(std::size_t begin, std::size_t end) {
 bool RichTable::Next() {
   begin_ = end_;
   if (begin_ == table_.rows.size()) return false;
-  const auto goes_on = [](const richtext::TableRow& row) {
-    return std::ranges::any_of(row.cells, [](const richtext::Cell& cell) {
-      return richtext::HoldsKept("clvmrg", cell.other);
-    });
-  };
-  ++end_;
-  while (end_ < table_.rows.size() && end_ - begin_ < kMostTogether && goes_on(table_.rows[end_])) {
-    ++end_;
+  end_ = EndOfMerged(table_, begin_);
+  if (waiting_ == laid_out_.size()) {
+    const std::size_t kept_end = EndOfKept(table_, begin_);
+    laid_out_ = LayOut(begin_, kept_end);
+    waiting_ = 0;
+    int height = 0;
+    for (const RowBox& row : laid_out_) height += row.height();
+    // More than a column can't stay together.
+    if (height <= engine_.column_height()) end_ = kept_end;
   }
-  rows_ = LayOut(begin_, end_);
+  const auto first = laid_out_.begin() + static_cast<std::ptrdiff_t>(waiting_);
+  const auto last = first + static_cast<std::ptrdiff_t>(end_ - begin_);
+  rows_ = {std::make_move_iterator(first), std::make_move_iterator(last)};
+  waiting_ += end_ - begin_;
   return true;
 }
 

@@ -59,7 +59,8 @@ class RichTable {
  public:
   RichTable(RichPrinting& printing, const richtext::Table& table);
 
-  // Takes the next row, and with it those that a cell of it reaches over; false behind the last.
+  // Takes the next row, and with it those that a cell of it reaches over and those that it stays
+  // together with, if they fit in a column; false behind the last.
   bool Next();
   int height() const;
   std::vector<FoundNote> TakeNotes();
@@ -78,6 +79,8 @@ class RichTable {
   std::size_t begin_ = 0;  // the rows in hand
   std::size_t end_ = 0;
   std::vector<RowBox> rows_;
+  std::vector<RowBox> laid_out_;
+  std::size_t waiting_ = 0;  // the first of those laid out that hasn't been in hand
   bool is_fresh_ = false;  // nothing stands in the column but heads
 };
 

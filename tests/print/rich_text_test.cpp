@@ -306,6 +306,28 @@ TEST_F(RichTextTest, AHeadingStaysWithWhatItHeads) {
   EXPECT_EQ(engine.page_count(), 3);
 }
 
+// A heading and the table that it heads go to the next page together, where a page can hold them.
+TEST_F(RichTextTest, RowsThatStayWithTheNextOneAreNotPartedFromItOrTheirHeading) {
+  const auto row = [](const std::string& text, bool stays) {
+    return "\\trowd\\cellx1000\\pard\\intbl" + std::string(stays ? "\\keepn " : " ") + text +
+           "\\cell\\row ";
+  };
+  Start();
+  for (int i = 0; i < 7; ++i) engine.Line("line");
+  Print("\\pard\\keepn Head\\par " + row("a", true) + row("b", true) + row("c", false) +
+        row("d", false));
+  EXPECT_THAT(Texts(0), SizeIs(7));
+  EXPECT_EQ(Texts(1), (Lines{"100,100 Head", "100,340 a", "100,580 b", "100,820 c", "100,1060 d"}));
+
+  Start();
+  std::string tall;
+  for (int i = 0; i < 14; ++i) tall += row(std::to_string(i), true);
+  Print("\\pard Text\\par " + tall + "\\pard z");
+  EXPECT_THAT(Texts(0), SizeIs(10)) << "more than a page is parted where it ends";
+  EXPECT_EQ(Texts(1).front(), "100,100 9");
+  EXPECT_EQ(Texts(1).size(), 6U);
+}
+
 TEST_F(RichTextTest, NarrowAndBrokenTablesStillEnd) {
   for (const char* rtf :
        {"\\trowd\\cellx0\\cellx0\\pard\\intbl abc\\cell def\\cell\\row",
