@@ -40,8 +40,7 @@ BackupEnd BackupRun::Run() {
   if (!writer_) return end;
   const Report& written = writer_->report();
   report_.copied.insert(report_.copied.end(), written.copied.begin(), written.copied.end());
-  report_.left_out.insert(report_.left_out.end(), written.left_out.begin(),
-                          written.left_out.end());
+  report_.left_out.insert(report_.left_out.end(), written.left_out.begin(), written.left_out.end());
   return end;
 }
 
@@ -81,9 +80,9 @@ bool BackupRun::ClearDisk() {
 // They lie on the first disk under their own names.
 bool BackupRun::CopyNameLists() {
   return number_ != 1 || std::ranges::all_of(set_.whole, [this](std::string_view name) {
-    const Step step = CopyWhole(name, name);
-    return step != Step::kRefused && step != Step::kDiffers;
-  });
+           const Step step = CopyWhole(name, name);
+           return step != Step::kRefused && step != Step::kDiffers;
+         });
 }
 
 Step BackupRun::CopyWhole(std::string_view name, std::string_view form) {

@@ -54,7 +54,7 @@ class BackupRun {
   Attendant& attendant_;
   std::unique_ptr<SetWriter> writer_;
   std::unique_ptr<Disk> disk_;
-  int number_ = 1;   // of the disk
+  int number_ = 1;    // of the disk
   DiskInfo filled_;   // of the disk before; number 0 for none
   DiskInfo present_;  // as this run wrote it last
   bool is_cleared_ = false;

@@ -287,9 +287,8 @@ bool IsInfo(const BackupSet& set, std::string_view name) {
 }
 
 bool IsForm(const BackupSet& set, int year, std::string_view name) {
-  return std::ranges::any_of(set.forms, [&](std::string_view form) {
-    return Fits(name, ForYear(form, year));
-  });
+  return std::ranges::any_of(
+      set.forms, [&](std::string_view form) { return Fits(name, ForYear(form, year)); });
 }
 
 }  // namespace tarnwell::backup

@@ -11,11 +11,11 @@ namespace tarnwell::backup {
 
 enum class Step {
   kDone,
-  kEnd,         // there is nothing more to be done
-  kBadSource,   // it can't be read to its end
-  kRefused,     // the disk takes no more
-  kDiffers,     // what was written doesn't read back
-  kStopped,     // by the person
+  kEnd,        // there is nothing more to be done
+  kBadSource,  // it can't be read to its end
+  kRefused,    // the disk takes no more
+  kDiffers,    // what was written doesn't read back
+  kStopped,    // by the person
 };
 
 // A range of a file's bytes.

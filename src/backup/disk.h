@@ -25,8 +25,8 @@ class Disk {
   std::unique_ptr<storage::File> Open(std::string_view name);
   bool Has(std::string_view name) { return names_.Locate(name).has_value(); }
   bool HoldsBytes(std::string_view name);
-  // An empty file in the place of whatever has that name, and null where the disk refuses. It counts
-  // as put there.
+  // An empty file in the place of whatever has that name, and null where the disk refuses. It
+  // counts as put there.
   std::unique_ptr<storage::File> Make(std::string_view name);
   // The file as it is, to be written to; null where there is none.
   std::unique_ptr<storage::File> OpenToWrite(std::string_view name);

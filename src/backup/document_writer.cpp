@@ -85,7 +85,8 @@ Step DocumentWriter::PutNext() {
     report_.copied.push_back(item.file.live);
   } else if (step == Step::kBadSource) {
     if (source.fault != storage::Fault::kMissing) {
-      report_.left_out.push_back({item.file.live, source.file ? storage::Fault::kBroken : source.fault});
+      report_.left_out.push_back(
+          {item.file.live, source.file ? storage::Fault::kBroken : source.fault});
     }
     step = Step::kDone;
   }

@@ -31,8 +31,7 @@ DocumentFile Numbered(std::string live) {
 std::span<const DocumentFile> FixedDocuments() {
   static const DocumentFile kFixed[] = {
       {std::string(file_names::kToDoNames), "ToDoName.hb1"},
-      {std::string(file_names::kDisplaySettings),
-       std::string(file_names::kDisplaySettingsBackup)},
+      {std::string(file_names::kDisplaySettings), std::string(file_names::kDisplaySettingsBackup)},
       {std::string(file_names::kToDoList), "ToDoActv.hb1"},
       {std::string(file_names::kHinv3), "Hinv3.hb1"},
       {std::string(file_names::kDocumentStatus), "Stat1.hb1"},
@@ -76,8 +75,8 @@ std::vector<DocumentFile> HeldNames::Of(const HeldList& list, std::string_view c
 
 std::string HeldNames::FreeName(const HeldList& list, std::string stem) {
   std::string name = stem + std::string(list.form);
-  for (std::size_t letters = stem.size(); !storage::IsPlainFileName(name) ||
-                                          !taken_.insert(text::UpperCase(name)).second;) {
+  for (std::size_t letters = stem.size();
+       !storage::IsPlainFileName(name) || !taken_.insert(text::UpperCase(name)).second;) {
     // Behind a stem that would make the name too long, in the place of its last letters.
     stem = stem.substr(0, letters) + std::string(list.distinction);
     name = stem + std::string(list.form);

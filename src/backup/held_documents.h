@@ -28,9 +28,9 @@ DocumentFile NumberedDocument(int index);
 struct HeldList {
   std::string_view list;
   std::string_view list_form;
-  std::string_view extension;   // of its documents
-  std::string_view form;        // and of their copies
-  std::string_view distinction; // behind a stem that another list's document has already
+  std::string_view extension;    // of its documents
+  std::string_view form;         // and of their copies
+  std::string_view distinction;  // behind a stem that another list's document has already
 };
 std::span<const HeldList> HeldLists();
 

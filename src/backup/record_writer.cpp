@@ -39,8 +39,9 @@ void RecordWriter::StartDisk(Disk& disk, int number) {
   first_ = next_;
   is_refused_ = false;
   for (Source& source : sources_) {
-    const auto planned = std::ranges::find_if(
-        set_.files, [&](const BackupFile& file) { return Filled(file.live, year_) == source.name; });
+    const auto planned = std::ranges::find_if(set_.files, [&](const BackupFile& file) {
+      return Filled(file.live, year_) == source.name;
+    });
     source.form = Filled(planned->form, year_, number);
     source.copy = disk.Make(source.form);
     is_refused_ = is_refused_ || !source.copy;

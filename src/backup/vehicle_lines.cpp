@@ -26,9 +26,9 @@ VehicleLine ReadLine(std::string_view line) {
   VehicleLine read;
   // The last one ends the line: those before are a user's words.
   const std::size_t end = line.rfind(kEnd);
-  read.is_whole = end != std::string_view::npos &&
-                  line.substr(end + kEnd.size()).find_first_not_of(kBehindEnd) ==
-                      std::string_view::npos;
+  read.is_whole =
+      end != std::string_view::npos &&
+      line.substr(end + kEnd.size()).find_first_not_of(kBehindEnd) == std::string_view::npos;
   std::string_view rest = line.substr(0, end);
   while (!rest.empty()) {
     if (read.values.size() == kMostValues) {

@@ -50,8 +50,8 @@ std::vector<std::string> VehicleReader::Check(Disk& disk, const DiskInfo& info) 
     const auto content = ReadAll(disk, file.form);
     const int lines = content ? WholeLines(*content) : 0;
     if (lines >= info.count) continue;
-    wrong.push_back(std::string(file.form) + " has the lines of " + std::to_string(lines) +
-                    " of " + std::to_string(info.count) + " vehicles.");
+    wrong.push_back(std::string(file.form) + " has the lines of " + std::to_string(lines) + " of " +
+                    std::to_string(info.count) + " vehicles.");
   }
   return wrong;
 }
@@ -97,8 +97,8 @@ Step VehicleReader::TakeTable(Disk& disk, storage::Replacement& made) {
   table->resize(std::min(table->size(), count * kRecordLength));
   while (!table->empty()) {
     const std::size_t last = (table->size() - 1) / kRecordLength * kRecordLength;
-    const bool is_blank = table->find_first_not_of(std::string_view("\0 ", 2), last) ==
-                          std::string::npos;
+    const bool is_blank =
+        table->find_first_not_of(std::string_view("\0 ", 2), last) == std::string::npos;
     if (!is_blank) break;
     table->resize(last);
   }

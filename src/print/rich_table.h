@@ -81,7 +81,7 @@ class RichTable {
   std::vector<RowBox> rows_;
   std::vector<RowBox> laid_out_;
   std::size_t waiting_ = 0;  // the first of those laid out that hasn't been in hand
-  bool is_fresh_ = false;  // nothing stands in the column but heads
+  bool is_fresh_ = false;    // nothing stands in the column but heads
 };
 
 // How many rows at the beginning of the table are its head.

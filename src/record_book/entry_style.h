@@ -63,7 +63,7 @@ struct EntryStyle {
   PictureStyle picture;
   settings::PanelColor panel_color;
   bool has_text_color;
-  int help;  // context number
+  int help;                 // context number
   int backup_set;           // parts/backup_menu.h
   std::string_view backup;  // captions of menu entries
   std::string_view restore;

@@ -97,9 +97,7 @@ RecordReader::RecordReader(ProgramFolder& folder, const BookLayout& layout)
   if (!layout.pictures.empty()) pictures_.emplace(folder, layout.pictures, kPictureLength);
 }
 
-bool RecordReader::HasFailed(const RecordFile& file) {
-  return IsUnreadable(file, &fault_);
-}
+bool RecordReader::HasFailed(const RecordFile& file) { return IsUnreadable(file, &fault_); }
 
 std::optional<BookRecord> RecordReader::Read(int record) {
   const std::string bytes = records_.GetStructure(record, StoredSize(layout_));

@@ -73,8 +73,8 @@ class MainWindowTest : public ::testing::Test {
   forms::ProgramVariables variables_;
   MainWindow window_{SampleLook, help_};
   forms::Navigator navigator_;
-  forms::Context context_{folder_,    clock_,    dialogs_,   loop_,     window_,  help_,
-                          clipboard_, pages_,    folders_,   pictures_, speller_, thesaurus_,
+  forms::Context context_{folder_,    clock_,    dialogs_, loop_,      window_,   help_,
+                          clipboard_, pages_,    folders_, pictures_,  speller_,  thesaurus_,
                           modem_,     launcher_, volumes_, variables_, navigator_};
 };
 

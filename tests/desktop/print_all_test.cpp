@@ -11,7 +11,6 @@
 namespace tarnwell::desktop {
 namespace {
 
-
 std::string Rtf(int number) {
   const std::string name = std::to_string(number);
   return "{\\rtf1\\ansi\\pard\\qc\\b Begin " + name + "\\par\\trowd\\cellx3000\\pard\\intbl Row " +

@@ -21,7 +21,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsSupersetOf;
 
-
 forms::Document PagesOf(const richtext::RichDocument& document, forms::TextMetrics& metrics) {
   print::PageEngine engine(metrics);
   engine.Start({.margins = {1440, 1440, 1440, 1440}}, {});

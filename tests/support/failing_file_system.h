@@ -72,8 +72,8 @@ class FailingFileSystem : public storage::FileSystem {
   bool Remove(const std::string& path) override {
     const Disk* disk = DiskOf(path);
     const bool is_locked = disk && disk->is_read_only;
-    return !Fails("remove") && !is_read_only_ &&
-           !Refuses(is_locked, storage::Fault::kReadOnly) && wrapped_.Remove(path);
+    return !Fails("remove") && !is_read_only_ && !Refuses(is_locked, storage::Fault::kReadOnly) &&
+           wrapped_.Remove(path);
   }
   void CopyPermissions(const std::string& from, const std::string& to) override {
     if (!Fails("copy permissions")) wrapped_.CopyPermissions(from, to);
@@ -97,8 +97,7 @@ class FailingFileSystem : public storage::FileSystem {
  private:
   class FailingFile : public storage::File {
    public:
-    FailingFile(FailingFileSystem& owner, std::unique_ptr<storage::File> wrapped,
-                std::string path)
+    FailingFile(FailingFileSystem& owner, std::unique_ptr<storage::File> wrapped, std::string path)
         : owner_(owner), wrapped_(std::move(wrapped)), path_(std::move(path)) {}
 
     std::ptrdiff_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
