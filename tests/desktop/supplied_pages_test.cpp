@@ -34,7 +34,12 @@ TEST(SuppliedPages, EachDocumentTakesThePagesThatItWasWrittenFor) {
       {"EmployPolicy24.Fl1", 2}, {"EmployPolicy25.Fl1", 17}, {"EmployPolicy26.Fl1", 2},
       {"EmployPolicy27.Fl1", 2}, {"EmployPolicy28.Fl1", 3},  {"EmployPolicy29.Fl1", 2},
       {"EmployPolicy30.Fl1", 4}, {"EmployPolicy31.Fl1", 2},  {"EmployPolicy32.Fl1", 2},
-      {"EmployPolicy33.Fl1", 5}, {"DRPln1.Fl1", 22},         {"EmployAction1.Fl2", 3},
+      {"EmployPolicy33.Fl1", 5}, {"EmployPolicy34.Fl1", 5},  {"EmployPolicy35.Fl1", 16},
+      {"EmployPolicy36.Fl1", 4}, {"EmployPolicy37.Fl1", 5},  {"EmployPolicy38.Fl1", 5},
+      {"EmployPolicy39.Fl1", 3}, {"EmployPolicy40.Fl1", 3},  {"EmployPolicy41.Fl1", 4},
+      {"DRPln1.Fl1", 22},        {"EmployAction1.Fl2", 3},   {"Misc1.Fl1", 1},
+      {"Misc2.Fl1", 2},          {"Misc8.Fl1", 3},           {"Misc57.Fl1", 3},
+      {"SamplePol.Dat", 2},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(PagesOf(c.file).pages.size(), c.pages) << c.file;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <vector>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -15,12 +16,15 @@ namespace {
 
 constexpr QSize kMostPixels{5000, 5000};  // a letter at 450 dots an inch
 constexpr double kStep = 1.25;
+constexpr int kLevels = 4;
 
 // Scroll bars and dragging move it, the wheel makes it larger under the pointer.
 class PictureView : public QGraphicsView {
  public:
   PictureView() {
     setScene(&scene_);
+    setBackgroundBrush(palette().window());
+    picture_->setTransformationMode(Qt::SmoothTransformation);
     setDragMode(ScrollHandDrag);
     setTransformationAnchor(AnchorUnderMouse);
     setRenderHint(QPainter::SmoothPixmapTransform);
@@ -30,14 +34,7 @@ class PictureView : public QGraphicsView {
   void Show(const forms::PictureView& picture) {
     if (path_ != picture.path()) {
       path_ = picture.path();
-      scene_.clear();
-      picture_ = nullptr;
-      if (!path_.empty()) {
-        const QImage image = ReadMachinePicture(path_, kMostPixels).image;
-        picture_ = scene_.addPixmap(QPixmap::fromImage(image));
-        picture_->setTransformationMode(Qt::SmoothTransformation);
-        scene_.setSceneRect(picture_->boundingRect());
-      }
+      Take(path_.empty() ? QImage() : ReadMachinePicture(path_, kMostPixels).image);
     }
     steps_ = picture.steps();
     Scale();
@@ -66,19 +63,37 @@ class PictureView : public QGraphicsView {
   }
 
  private:
+  // Each level is half as large as the one before: where much is left out, letters stay legible.
+  void Take(QImage image) {
+    levels_.clear();
+    scene_.setSceneRect(QRectF({}, QSizeF(image.size())));
+    for (int level = 0; level < kLevels && !image.isNull(); ++level) {
+      levels_.push_back(QPixmap::fromImage(image));
+      const QSize half(image.width() / 2, image.height() / 2);
+      image = half.isEmpty() ? QImage()
+                             : image.scaled(half, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    if (levels_.empty()) picture_->setPixmap({});
+  }
+
   // Whole in its place, but never larger than it is; then by the steps.
   void Scale() {
-    if (!picture_ || picture_->pixmap().isNull()) return;
-    const QSizeF own = picture_->boundingRect().size();
+    if (levels_.empty()) return;
+    const QSizeF own = scene_.sceneRect().size();
     const QSizeF room = maximumViewportSize();
     const double whole = std::min({1.0, room.width() / own.width(), room.height() / own.height()});
     const double scale = whole * std::pow(kStep, steps_);
+    std::size_t level = 0;
+    while (level + 1 < levels_.size() && std::ldexp(scale, static_cast<int>(level)) < 0.5) ++level;
+    picture_->setPixmap(levels_[level]);
+    picture_->setScale(std::ldexp(1, static_cast<int>(level)));
     setTransform(QTransform::fromScale(scale, scale));
   }
 
   std::string path_;
   QGraphicsScene scene_;
-  QGraphicsPixmapItem* picture_ = nullptr;  // of the scene
+  QGraphicsPixmapItem* picture_ = scene_.addPixmap({});
+  std::vector<QPixmap> levels_;
   int steps_ = 0;
   int turned_ = 0;  // of the wheel, in eighths of a degree, that make no step yet
 };
