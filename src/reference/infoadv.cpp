@@ -88,6 +88,10 @@ void InfoAdv::ConnectCommands() {
   state.on_pick = [this](int index) { ShowState(static_cast<std::size_t>(index)); };
   const auto open = [this](const std::string& site) { OpenWebSite(*this, context_, site); };
   federal_sites.on_open = state_sites.on_open = open;
+  federal_sites.on_address = state_sites.on_address = [this](const std::string& site) {
+    address.SetText(site);
+    address.Focus();
+  };
   display.on_click =
       address.on_enter = [this] { OpenTypedAddress(*this, context_, address.text()); };
   clear.on_click = [this] {

@@ -13,6 +13,10 @@ SiteButtons::SiteButtons(forms::Container& parent, std::string_view name,
     row.button.on_click = [this, &row] {
       if (on_open) on_open(row.address.caption());
     };
+    row.address.SetToolTip("Copy this address to the right");
+    row.address.on_click = [this, &row] {
+      if (on_address) on_address(row.address.caption());
+    };
   }
 }
 
@@ -21,6 +25,7 @@ void SiteButtons::Show(std::size_t index, std::string_view caption, std::string_
   row.button.SetCaption(caption);
   row.button.SetEnabled(!address.empty());
   row.address.SetCaption(address);
+  row.address.SetVisible(!address.empty());
 }
 
 }  // namespace tarnwell::reference

@@ -29,6 +29,8 @@ class SiteButtons {
   void Show(std::size_t index, std::string_view caption, std::string_view address);
 
   std::function<void(const std::string& address)> on_open;
+  // A person clicked an address.
+  std::function<void(const std::string& address)> on_address;
 
  private:
   struct Row {
