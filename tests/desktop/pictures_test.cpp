@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QImageWriter>
 #include <QMimeData>
+#include <QPainter>
 #include <QTest>
 #include <QUrl>
 #include <QWheelEvent>
@@ -70,6 +71,28 @@ TEST_F(QtPicturesTest, EachFormatIsReadAtTheSizeThatIsNeeded) {
     EXPECT_GT(shown.pixelColor(3, 2).red(), 200);
     EXPECT_GT(shown.pixelColor(16, 2).blue(), 200);
     EXPECT_EQ(Shown(Load(FileOf(type))).size(), QSize(80, 40)) << "never enlarged";
+  }
+}
+
+// Scanners write black and white, and sixteen bits for each colour.
+TEST_F(QtPicturesTest, DeepAndFlatScansAreRead) {
+  QImage scan({80, 40}, QImage::Format_RGB32);
+  scan.fill(Qt::white);
+  QPainter(&scan).fillRect(0, 0, 40, 20, Qt::black);
+  const struct {
+    const char* type;
+    QImage::Format format;
+  } cases[] = {{"png", QImage::Format_RGBA64},   {"tiff", QImage::Format_RGBA64},
+               {"png", QImage::Format_Mono},     {"tiff", QImage::Format_Mono},
+               {"bmp", QImage::Format_Indexed8}, {"jpeg", QImage::Format_Grayscale8}};
+  for (const auto& c : cases) {
+    QBuffer file;
+    file.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(QImageWriter(&file, c.type).write(scan.convertToFormat(c.format)));
+    const QImage shown = Shown(Load(file.buffer(), 20, 20));
+    EXPECT_EQ(shown.size(), QSize(20, 10)) << c.type << " " << c.format;
+    EXPECT_LT(shown.pixelColor(3, 2).lightness(), 20) << c.type << " " << c.format;
+    EXPECT_GT(shown.pixelColor(16, 8).lightness(), 235) << c.type << " " << c.format;
   }
 }
 
