@@ -48,8 +48,7 @@ Backup1::Backup1(forms::Context& context)
       chooser(*this, context),
       set_(SetInHand(context.variables)),
       year_(context.variables.BackupYear) {
-  const std::string name = set_.name.empty() ? "@ Budget" : std::string(set_.name);
-  title.SetCaption((restores() ? "Restore: " : "Backup: ") + ForYear(name, year_));
+  title.SetCaption((restores() ? "Restore: " : "Backup: ") + TitleOf(set_, year_));
   if (restores()) make.SetCaption("&Restore Files");
   progress.SetVisible(false);
   show_files.SetVisible(false);

@@ -271,6 +271,10 @@ std::string ForYear(std::string_view words, int year) {
   return Replaced(std::string(words), '@', std::to_string(year));
 }
 
+std::string TitleOf(const BackupSet& set, int year) {
+  return ForYear(set.name.empty() ? "@ Budget" : set.name, year);
+}
+
 std::string Filled(std::string_view name, int year, int number) {
   return Replaced(ForYear(name, year), '#', std::to_string(number));
 }

@@ -61,6 +61,8 @@ const BackupSet* SetOf(int mode);
 
 // Words of a set, with the year in its place.
 std::string ForYear(std::string_view words, int year);
+// What a person knows the set by, also where its prompts have no name.
+std::string TitleOf(const BackupSet& set, int year);
 // A name, with the year and the number of the disk, or of the vehicle, in their places.
 std::string Filled(std::string_view name, int year, int number = 1);
 

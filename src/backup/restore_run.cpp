@@ -43,7 +43,7 @@ std::vector<std::string> RestoreRun::Check() {
 
 RestoreEnd RestoreRun::Run() {
   attendant_.StartBar(reader_->total(first_));
-  storage::Replacement made(folder_, std::string(set_.name.empty() ? "Budget" : set_.name));
+  storage::Replacement made(folder_, TitleOf(set_, year_));
   if (const auto begun = made.Begin(); !begun) {
     fault_ = begun.fault();
     return RestoreEnd::kNoRoom;

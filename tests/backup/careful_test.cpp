@@ -19,6 +19,7 @@ using tarnwell::testing::TemporaryFolder;
 using ::testing::AnyOf;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
@@ -245,6 +246,20 @@ TEST_F(CarefulTest, AProcessKilledInABackupLeavesNoDiskThatLooksWhole) {
     if (!run.Find() || !run.Check().empty()) continue;
     EXPECT_EQ(rig_.disk(1).Read("Name1.hm1"), live.at("Name1.Fil")) << call;
     EXPECT_EQ(rig_.disk(1).Read("Name3.Fil"), live.at("Name3.Fil")) << call;
+  }
+}
+
+// The next start tells it as it stands there.
+TEST_F(CarefulTest, AnInterruptedRestoreIsNotedInTheWordsThatAPersonKnowsTheSetBy) {
+  for (const auto& [mode, words] : {std::pair{32, "\n2026 Daily Planner\n"},
+                                    {36, "\n2026 Budget\n"},
+                                    {38, "\nAddress Book\n"}}) {
+    ASSERT_EQ(rig_.BackUp(mode), BackupEnd::kComplete);
+    rig_.person.steps_before_stop = 0;
+    std::string journal;
+    rig_.person.on_go = [&] { journal = rig_.live.Read(".tarnwell-replacement"); };
+    EXPECT_EQ(rig_.RestoreAs(mode + 1), RestoreEnd::kStopped) << mode;
+    EXPECT_THAT(journal, HasSubstr(words));
   }
 }
 
