@@ -16,7 +16,7 @@
 namespace tarnwell::planner {
 namespace {
 
-constexpr int kHelp = 3062;
+constexpr int kCalendarHelp = 3062;
 constexpr const char* kSaveTitle = "Save Option";
 constexpr parts::SaveWords kLeaving{kSaveTitle, "Save changes made to data before next action?",
                                     forms::Buttons::kYesNoCancel};
@@ -44,7 +44,7 @@ Calendar::Calendar(forms::Context& context)
   }
   ConnectControls();
   BuildMenus();
-  SetHelpContext(kHelp);
+  SetHelpContext(kCalendarHelp);
   parts::AddHelpMenu(*this, context_);
 }
 

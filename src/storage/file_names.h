@@ -9,6 +9,7 @@
 namespace tarnwell::storage::file_names {
 
 // The store's own files beside the user's; no user's file can have a name that begins so.
+inline constexpr std::size_t kLongestName = 255;  // bytes of UTF-8
 inline constexpr std::string_view kOwnPrefix = ".tarnwell-";
 inline constexpr std::string_view kLock = ".tarnwell-lock";
 inline constexpr std::string_view kRedoNote = ".tarnwell-redo";

@@ -23,7 +23,6 @@ constexpr const char* kLastFieldRule = " _______________________________________
 constexpr int kLeastOwnRows = 6;
 constexpr int kOtherLines = 7;      // headings, and space between them
 constexpr double kLeastSize = 5;    // points
-constexpr double kLargerTitle = 2;  // likewise
 
 int Lines() {
   return static_cast<int>(kLastField + std::size(kActions)) + kLeastOwnRows + kOtherLines;
