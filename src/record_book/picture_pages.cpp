@@ -14,9 +14,9 @@
 namespace tarnwell::record_book {
 namespace {
 
-constexpr int kShownSide = 300;    // pixels, on the screen
-constexpr int kHeadTop = 360;      // twips
-constexpr int kLeastPath = 5;      // characters of a path on a page
+constexpr int kShownSide = 300;  // pixels, on the screen
+constexpr int kHeadTop = 360;    // twips
+constexpr int kLeastPath = 5;    // characters of a path on a page
 
 }  // namespace
 

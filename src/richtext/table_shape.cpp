@@ -10,7 +10,7 @@ namespace tarnwell::richtext {
 namespace {
 
 constexpr std::size_t kMostGridColumns = 63;  // that a grid tells apart
-constexpr int kLeastWidth = 60;           // twips that a cell keeps
+constexpr int kLeastWidth = 60;               // twips that a cell keeps
 
 // What a new cell is like: its look, and an empty paragraph of its first one's.
 Cell EmptyLike(const Cell& like) {

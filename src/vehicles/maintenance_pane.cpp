@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kRows = static_cast<int>(kScheduleRows);
 constexpr int kStandardRows = static_cast<int>(kStandardActions.size());
-constexpr std::size_t kLongestAction = 60;  // characters that can be typed
+constexpr std::size_t kLongestAction = 60;    // characters that can be typed
 constexpr std::size_t kLongestOdometer = 20;  // likewise
 
 forms::GridColumn Number(double share, bool editable = true) {

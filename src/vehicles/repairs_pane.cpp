@@ -9,8 +9,8 @@
 namespace tarnwell::vehicles {
 namespace {
 
-constexpr std::size_t kLongestItem = 100;   // characters that can be typed
-constexpr std::size_t kLongestEntry = 30;   // likewise
+constexpr std::size_t kLongestItem = 100;  // characters that can be typed
+constexpr std::size_t kLongestEntry = 30;  // likewise
 // The blanks behind numbers keep them off the next column.
 constexpr const char* kReadingMask = "#,###,###       ";
 constexpr const char* kBehindCost = "    ";

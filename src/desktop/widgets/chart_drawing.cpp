@@ -16,10 +16,10 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kLettersOnPaper = 12;  // units of a scene for paper
-constexpr double kLeastSide = 40;   // of a scene that is drawn at all
+constexpr int kLettersOnPaper = 12;     // units of a scene for paper
+constexpr double kLeastSide = 40;       // of a scene that is drawn at all
 constexpr double kSideNameShare = 0.3;  // of the width, at most, on either side of a pie
-constexpr double kPieShare = 0.8;   // of its place; the rest is for the slice that stands out
+constexpr double kPieShare = 0.8;       // of its place; the rest is for the slice that stands out
 
 }  // namespace
 
