@@ -18,6 +18,10 @@ inline constexpr std::string_view kReplacementJournal = ".tarnwell-replacement";
 inline constexpr std::string_view kNewPrefix = ".tarnwell-new-";  // likewise
 inline constexpr std::string_view kOldPrefix = ".tarnwell-old-";  // likewise
 
+// What was typed on a screen and not saved, and the form's name in the middle.
+inline constexpr std::string_view kUnsavedPrefix = "Unsaved-";
+inline constexpr std::string_view kUnsavedExtension = ".Fil";
+
 // Settings: colours, display, printer fonts, backgrounds, folders last used.
 inline constexpr std::string_view kGColor1 = "GColor1.Fil";
 inline constexpr std::string_view kGColor2 = "GColor2.Fil";

@@ -47,6 +47,12 @@ bool RecoveryPlanPane::HasPlan() const {
          plan.content != context_.folder.Read(file_names::kRecoveryPlanInformation).content;
 }
 
+std::optional<forms::Draft> RecoveryPlanPane::Place() {
+  return forms::Draft{kPlanTitle, {std::string(file_names::kRecoveryPlan)}, {}};
+}
+
+bool RecoveryPlanPane::GoTo(forms::DraftTexts&) { return true; }
+
 PrintedDocument RecoveryPlanPane::ToPrint() {
   return {.title = kPlanTitle, .text = [this](int) { return PrintedText{view_.text.document()}; }};
 }
