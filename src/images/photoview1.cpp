@@ -9,6 +9,7 @@
 #include "parts/backup_menu.h"
 #include "parts/main_buttons.h"
 #include "record_book/record_store.h"
+#include "storage/file_names.h"
 #include "workarea/areas.h"
 
 namespace tarnwell::images {
@@ -71,6 +72,8 @@ void PhotoVIEW1::Load() {
   for (const auto toolbar : {settings::ImageToolbar::kTop, settings::ImageToolbar::kSide}) {
     ShowToolbar(toolbar, settings::ReadImageToolbarShown(context_.folder, toolbar));
   }
+  const auto wallpaper = settings::ReadImageBackground(context_.folder).wallpaper();
+  wallpaper_ = wallpaper ? storage::file_names::Wallpaper(*wallpaper) : std::string();
   EntryScreen::Load();
 }
 

@@ -58,6 +58,9 @@ class PhotoVIEW1 : public record_book::EntryScreen {
   forms::Command print_several{several, "Command6(2)", "&Print Options"};
   forms::Command leave_several{several, "Command6(3)", "E&xit", {.cancel = true}};
 
+  // The file of the supplied picture behind the screen; empty for none.
+  const std::string& wallpaper() const { return wallpaper_; }
+
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
 
@@ -92,6 +95,7 @@ class PhotoVIEW1 : public record_book::EntryScreen {
 
   std::vector<Sheet> sheets_;
   bool repeats_ = false;  // one image fills its page
+  std::string wallpaper_;
   std::vector<record_book::NameEntry> chosen_;
 };
 

@@ -90,6 +90,14 @@ TEST_F(PhotoVIEW1Test, AnEntryIsChangedOnlyBehindItsCommand) {
   EXPECT_EQ(form().picture_note.caption(), "No Picture Currently Loaded");
 }
 
+TEST_F(PhotoVIEW1Test, TheSuppliedWallpaperLiesBehindTheScreen) {
+  EXPECT_EQ(form().wallpaper(), "");
+  rig.temporary.Write("GColor5.Fil", "\"WP4\"\r\n");
+  rig.navigator().Close(form(), forms::UnloadCause::kCommand);
+  rig.navigator().Show("PhotoVIEW1");
+  EXPECT_EQ(form().wallpaper(), "WP4.jpg");
+}
+
 TEST_F(PhotoVIEW1Test, AFileIsDroppedOnTheFrameOrTheScreenSaysWhyNot) {
   const std::string too_long = "/" + std::string(200, 'a');
   rig.pictures.at[too_long] = rig.pictures.at["/home/ann/a.jpg"];

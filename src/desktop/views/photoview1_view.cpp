@@ -4,6 +4,7 @@
 #include "desktop/views/views.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
+#include "desktop/widgets/wallpaper.h"
 #include "images/photoview1.h"
 
 namespace tarnwell::desktop {
@@ -75,10 +76,12 @@ QWidget* View(PhotoVIEW1& form, PictureStore& pictures) {
       PrintView(form.print, {Widget(form.copies.option(0)), Widget(form.copies.option(1)),
                              Widget(form.copies.option(2)), Widget(form.copies.option(3)),
                              Widget(form.print_title), Widget(form.print_date)});
-  return Padded(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
-                        Grow(SeveralView(form)), Grow(FullView(form)), Grow(print)},
-                       0),
-                kSpace);
+  QWidget* page = Padded(Column({Grow(screen), Grow(PicturePanelView(form.pictures, pictures)),
+                                 Grow(SeveralView(form)), Grow(FullView(form)), Grow(print)},
+                                0),
+                         kWideSpace);
+  return OnWallpaper(
+      form, [&form] { return form.wallpaper(); }, pictures, page);
 }
 
 }  // namespace tarnwell::desktop

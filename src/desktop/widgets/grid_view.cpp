@@ -4,20 +4,14 @@
 #include <algorithm>
 
 #include "desktop/widgets/look.h"
-#include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/text.h"
+#include "desktop/widgets/wallpaper.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 forms::GridPlace PlaceOf(const QModelIndex& index) {
   return index.isValid() ? forms::GridPlace{index.row() + 1, index.column()} : forms::GridPlace();
-}
-
-QColor MeanColor(const QPixmap& picture) {
-  return picture.toImage()
-      .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-      .pixelColor(0, 0);
 }
 
 }  // namespace
@@ -134,12 +128,9 @@ void GridView::ShowLook() {
   look_ = grid_.look();
   QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : QColor(Qt::white));
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  const QImage picture =
-      look_.wallpaper.empty() ? QImage() : Decoded(pictures_.Read(look_.wallpaper));
-  if (!picture.isNull()) {
-    const QPixmap wallpaper = QPixmap::fromImage(picture);
-    palette = PaletteOn(MeanColor(wallpaper));
-    palette.setBrush(QPalette::Base, wallpaper);
+  if (const auto wallpaper = ReadWallpaper(pictures_, look_.wallpaper)) {
+    palette = wallpaper->palette;
+    palette.setBrush(QPalette::Base, wallpaper->picture);
   }
   palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
   viewport()->setPalette(palette);
