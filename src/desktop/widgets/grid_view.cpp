@@ -132,7 +132,7 @@ void GridView::ShowMarks() {
 
 void GridView::ShowLook() {
   look_ = grid_.look();
-  QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : QColor(Qt::white));
+  QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : ColorOf(Tone::kField));
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   const QImage picture =
       look_.wallpaper.empty() ? QImage() : Decoded(pictures_.Read(look_.wallpaper));
