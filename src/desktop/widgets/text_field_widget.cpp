@@ -38,7 +38,9 @@ QWidget* Widget(forms::TextField& field) {
     }
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
-                   binding->Forward([&field](const QString& text) { field.Type(ToCore(text)); }));
+                   binding->Forward([edit, &field](const QString& text) {
+                     edit->Typing([&] { field.Type(ToCore(text)); });
+                   }));
   QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
     edit->took_enter = static_cast<bool>(field.on_enter);
     field.PressEnter();
