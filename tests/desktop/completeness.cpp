@@ -138,7 +138,13 @@ QRect SeenPlace(QWidget& widget, QWidget& page) {
 std::string Describe(QWidget& widget) {
   QString text = widget.accessibleName();
   if (auto* label = qobject_cast<QLabel*>(&widget)) text = label->text();
-  return (widget.objectName() + " \"" + text + "\"").toStdString();
+  // A part of a widget is called after it.
+  QWidget* named = &widget;
+  while (named->parentWidget() &&
+         (named->objectName().isEmpty() || named->objectName().startsWith(QLatin1String("qt_")))) {
+    named = named->parentWidget();
+  }
+  return (named->objectName() + " \"" + text + "\"").toStdString();
 }
 
 }  // namespace
