@@ -6,6 +6,7 @@
 #include "desktop/desktop.h"
 #include "desktop/services/single_instance.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/spoken_role.h"
 #include "desktop/widgets/text.h"
 #include "forms/disk_trouble.h"
 
@@ -39,10 +40,11 @@ void TellWhyNotStarted(const SingleInstance& instance, const QString& folder) {
 
 void QuietQt() { messages_of_qt = qInstallMessageHandler(PassOn); }
 
-void Prepare(QApplication& application) {
+void Prepare(QApplication& application, ToneSet tones) {
   QApplication::setApplicationName(QStringLiteral("Tarnwell"));
   QApplication::setQuitOnLastWindowClosed(false);
-  ApplyLook(application);
+  InstallSpokenRoles();
+  ApplyLook(application, tones);
 }
 
 int RunIn(const Folders& folders) {

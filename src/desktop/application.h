@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "desktop/services/folders.h"
+#include "desktop/widgets/tones.h"
 
 namespace tarnwell::desktop {
 
@@ -14,7 +15,7 @@ void QuietQt();
 
 // The program's name and look. The program ends when its forms say so, not with its last window:
 // between two forms none may be open.
-void Prepare(QApplication& application);
+void Prepare(QApplication& application, ToneSet tones = ToneSet::kLight);
 
 // Runs the program on these folders, or raises the window of the run that has them already. The
 // result is the exit code of the process.

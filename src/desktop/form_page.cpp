@@ -32,7 +32,7 @@ FormPage::FormPage(forms::Form& form, QWidget* view) : form_(form) {
 }
 
 void FormPage::ShowBackground() {
-  const QColor color = ToQColor(form_.background().value_or(forms::kNeutral));
+  const QColor color = GroundOf(form_.background());
   if (palette().color(QPalette::Window) != color) setPalette(PaletteOn(color));
 }
 

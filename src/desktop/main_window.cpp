@@ -51,6 +51,7 @@ MainWindow::MainWindow(MakeLook make_look, forms::HelpViewer& help)
   size_announcement_.callOnTimeout([this] { AnnounceSize(); });
   meet_frame_.setSingleShot(true);
   meet_frame_.callOnTimeout([this] { MeetFrame(); });
+  FollowSurroundings();
 }
 
 MainWindow::~MainWindow() = default;

@@ -45,6 +45,9 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   // The page of the form on top, or nullptr.
   FormPage* TopPage() const;
   forms::HelpViewer& help() { return help_; }
+  // The desktop ends the session. Each screen with something that isn't on the disk asks; false
+  // where something is still unsaved, because a person wants to stay or nobody may be asked.
+  bool EndSession(bool may_ask);
 
   void FormLoaded(forms::Form& form, bool modal) override;
   void FormRaised(forms::Form& form) override;
@@ -70,6 +73,9 @@ class MainWindow : public QMainWindow, public forms::NavigatorObserver, public f
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void FollowSurroundings();
+  bool HasUnsaved() const;
+  void ComeBackOnScreen();
   void ShowChrome(FormPage& page);
   void CloseTop();
   void AnnounceSize();

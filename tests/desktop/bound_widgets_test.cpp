@@ -280,7 +280,7 @@ TEST_F(BoundWidgets, TheCalendarIsUsedByKeysAndByTheMouse) {
   const text::Date clicked = text::MakeDate(2026, 8, 31);
   QTest::mouseClick(calendar, Qt::LeftButton, {}, calendar->PlaceOf(clicked).center());
   EXPECT_EQ(form_.day.date(), clicked);
-  EXPECT_EQ(calendar->accessibleDescription(), QStringLiteral("Monday, August 31, 2026"));
+  EXPECT_TRUE(calendar->accessibleDescription().startsWith("Monday, August 31, 2026. "));
 }
 
 TEST_F(BoundWidgets, TheCalendarsTitleOffersAYear) {

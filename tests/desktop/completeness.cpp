@@ -1,6 +1,7 @@
 #include "desktop/completeness.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -33,6 +34,29 @@ bool MayBeNameless(const forms::Control& control) {
   const auto* label = dynamic_cast<const forms::Label*>(&control);
   const auto* panel = dynamic_cast<const forms::Panel*>(&control);
   return (label && label->caption().empty()) || (panel && panel->caption().empty());
+}
+
+// What a screen reader gets, by the way that it goes.
+std::vector<std::string> SpokenFaults(const forms::Control& control, QWidget& widget) {
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
+  if (!spoken) return {"unknown to a screen reader"};
+  std::vector<std::string> faults;
+  if (spoken->text(QAccessible::Name).isEmpty() && !MayBeNameless(control)) {
+    faults.emplace_back("nameless");
+  }
+  if (widget.focusPolicy() == Qt::NoFocus) return faults;
+  if (spoken->text(QAccessible::Description).isEmpty()) faults.emplace_back("undescribed");
+  const QAccessible::Role role = spoken->role();
+  if (role == QAccessible::NoRole || role == QAccessible::Client) faults.emplace_back("of no kind");
+  const auto* clickable = dynamic_cast<const forms::Clickable*>(&control);
+  if (!clickable || !clickable->on_click || !widget.isEnabled()) return faults;
+  QAccessibleActionInterface* actions = spoken->actionInterface();
+  const bool is_pressed =
+      actions && actions->actionNames().contains(QAccessibleActionInterface::pressAction());
+  const bool is_toggled =
+      actions && actions->actionNames().contains(QAccessibleActionInterface::toggleAction());
+  if (!is_pressed && !is_toggled) faults.emplace_back("not to be pressed");
+  return faults;
 }
 
 bool LineFits(const QLineEdit& line) {
@@ -114,7 +138,13 @@ QRect SeenPlace(QWidget& widget, QWidget& page) {
 std::string Describe(QWidget& widget) {
   QString text = widget.accessibleName();
   if (auto* label = qobject_cast<QLabel*>(&widget)) text = label->text();
-  return (widget.objectName() + " \"" + text + "\"").toStdString();
+  // A part of a widget is called after it.
+  QWidget* named = &widget;
+  while (named->parentWidget() &&
+         (named->objectName().isEmpty() || named->objectName().startsWith(QLatin1String("qt_")))) {
+    named = named->parentWidget();
+  }
+  return (named->objectName() + " \"" + text + "\"").toStdString();
 }
 
 }  // namespace
@@ -133,9 +163,9 @@ std::vector<std::string> NamingFaults(forms::Form& form, QWidget& page) {
   std::vector<std::string> faults;
   for (forms::Control* control : form.AllControls()) {
     QWidget* widget = WidgetOf(*control, page);
-    if (widget && control->visible() && widget->accessibleName().isEmpty() &&
-        !MayBeNameless(*control)) {
-      faults.push_back("nameless: " + control->name());
+    if (!widget || !control->visible()) continue;
+    for (const std::string& fault : SpokenFaults(*control, *widget)) {
+      faults.push_back(fault + ": " + control->name());
     }
   }
   return faults;

@@ -13,7 +13,8 @@ namespace tarnwell::testing {
 // Controls of the form for which no widget (or timer) of their name lies in `page`, and those that
 // have two.
 std::vector<std::string> PlacingFaults(forms::Form& form, QWidget& page);
-// Widgets that a screen reader could only call by their kind.
+// What a screen reader can't name, describe, tell the kind of or press, asked through the interface
+// that it uses.
 std::vector<std::string> NamingFaults(forms::Form& form, QWidget& page);
 // Mnemonics that two visible commands or choices of one panel share.
 std::vector<std::string> MnemonicFaults(forms::Form& form);

@@ -53,6 +53,7 @@ const Sight kSights[] = {
     {"DejaVu Sans", 10, kLaptopScreen, false}, {"DejaVu Sans", 12, kLaptopScreen, false},
     {"DejaVu Sans", 12, kLeastScreen, false},  {"Liberation Sans", 10, kLeastScreen, false},
     {"Noto Sans", 10, kLeastScreen, false},    {"Noto Sans", 14, kLaptopScreen, true},
+    {"DejaVu Sans", 20, kLeastScreen, true},
 };
 
 // Until what the last change asked for has been laid out.

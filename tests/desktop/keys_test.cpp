@@ -8,22 +8,19 @@
 #include <map>
 #include <set>
 
-#include "desktop/main_window.h"
-#include "desktop/views/registry.h"
-#include "desktop/widgets/pictures.h"
+#include "desktop/key_world.h"
 #include "desktop/widgets/text.h"
 #include "forms/mnemonics.h"
 #include "planner/zcalandar1.h"
-#include "program/program.h"
-#include "proofing/vsspell1.h"
-#include "support/fake_services.h"
-#include "support/temporary_folder.h"
 #include "walk/soundness.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 using ::testing::IsEmpty;
+using testing::KeyWorld;
+using testing::kWays;
+using testing::Way;
 
 // More often than a key could go from parent to parent; what goes round comes by here again.
 constexpr int kMostDeliveries = 100;
@@ -39,144 +36,6 @@ class KeyCounter : public QObject {
     return event->type() == QEvent::KeyPress && watched->isWidgetType() &&
            ++deliveries > kMostDeliveries;
   }
-};
-
-// Answers each box so that all stays as it is.
-class CautiousDialogs : public forms::Dialogs {
- public:
-  forms::Answer Message(const forms::MessageBox& box) override {
-    switch (box.buttons) {
-      case forms::Buttons::kOk:
-        return forms::Answer::kOk;
-      case forms::Buttons::kYesNo:
-        return forms::Answer::kNo;
-      case forms::Buttons::kOkCancel:
-      case forms::Buttons::kYesNoCancel:
-        break;
-    }
-    return forms::Answer::kCancel;
-  }
-  std::optional<std::string> Input(const forms::InputBox&) override { return std::nullopt; }
-  std::optional<forms::Color> ChooseColor(forms::Color) override { return std::nullopt; }
-  std::optional<forms::FontParts> ChooseFont(const forms::FontParts&) override { return {}; }
-  std::optional<forms::ChosenPicture> ChoosePicture() override { return {}; }
-};
-
-// Leaves each modal form as soon as it is there, or lets it stand and comes back.
-class HastyLoop : public forms::EventLoop {
- public:
-  explicit HastyLoop(testing::FakeClock& clock) : clock_(clock) {}
-  void Yield() override {}
-  void WaitALittle() override { clock_.AddSeconds(1); }
-  void RunUntil(const std::function<bool()>& done) override {
-    while (!stays && !done()) navigator->Unload(*navigator->top());
-  }
-  forms::Navigator* navigator = nullptr;
-  bool stays = false;
-
- private:
-  testing::FakeClock& clock_;
-};
-
-// A text with many words to ask about.
-class MisspelledText : public proofing::CheckedText {
- public:
-  int parts() override { return 100; }
-  std::string part(int) override { return "dentst"; }
-  void Show(int, std::size_t, std::size_t) override {}
-  void Replace(int, std::size_t, std::size_t, std::string_view) override {}
-};
-
-constexpr const char* kModalForms[] = {"About1", "Backup1", "VSSpell1", "VSThesaurus1"};
-
-// The whole program in its window, with the form over the start screen; the services only pretend.
-class KeyWorld {
- public:
-  explicit KeyWorld(const std::string& name) {
-    window.Follow(program.navigator());
-    loop.navigator = &program.navigator();
-    speller.misspelled = {{"dentst", {"Dentist"}}};
-    program.variables().SplashShown = 99;
-    program.Start();
-    if (std::ranges::find(kModalForms, name) == std::end(kModalForms)) {
-      program.navigator().Show(name);
-      return;
-    }
-    loop.stays = true;
-    session.FindNext();
-    program.navigator().ShowModal(name, [this](forms::Form& form) {
-      if (auto* spelling = dynamic_cast<proofing::VSSpell1*>(&form)) spelling->session = &session;
-    });
-    loop.stays = false;
-  }
-
-  forms::Form& form() { return *program.navigator().top(); }
-
-  testing::TemporaryFolder temporary;
-  storage::ProgramFolder folder{storage::RealFileSystem(), temporary.path(),
-                                TARNWELL_SOURCE_DIR "/data"};
-  testing::FakeClock clock;
-  CautiousDialogs dialogs;
-  HastyLoop loop{clock};
-  testing::FakeHelp help;
-  testing::FakeClipboard clipboard;
-  testing::FakePages pages;
-  testing::FakeFolders folders;
-  testing::FakeSpeller speller;
-  testing::FakeThesaurus thesaurus;
-  MisspelledText text;
-  proofing::SpellingSession session{speller, folder, text};
-  testing::FakePictures pictures;
-  testing::FakeModem modem;
-  testing::FakeLauncher launcher;
-  testing::FakeVolumes volumes;
-  PictureStore store{[](std::string_view) { return QByteArray(); }};
-  MainWindow window{[this](forms::Form& form) { return LookOf(form, store); }, help};
-  program::Program program{{folder, clock, dialogs, loop, window, help, clipboard, pages, folders,
-                            pictures, speller, thesaurus, modem, launcher, volumes}};
-};
-
-// How a person gets from the form to what is on show: names of commands, options and menu entries.
-struct Way {
-  const char* name;
-  const char* form;
-  std::vector<const char*> clicks;
-};
-
-const Way kWays[] = {
-    {"Start", "Startfrm", {}},
-    {"About", "About1", {}},
-    {"Hub", "WorkArea1", {}},
-    {"ToDoExport", "WorkArea1", {"mUExport"}},
-    {"Documents", "WorkArea1", {"SSCommand11(4)", "SSCommand14(0)"}},
-    {"DocumentPrinting", "WorkArea1", {"SSCommand11(4)", "SSCommand14(0)", "SSCommand7"}},
-    {"RecoveryPlan", "WorkArea1", {"SSCommand11(8)"}},
-    {"InformationAdvisor", "InfoAdv", {}},
-    {"StateWebSites", "InfoAdv", {"SSCommand11(2)", "SSOption1(8)"}},
-    {"Tools", "ToolsandInfo1", {}},
-    {"ToolsPrinting", "ToolsandInfo1", {"SSCommand2(1)"}},
-    {"Planner", "Zcalandar1", {}},
-    {"PlannerMonth", "Zcalandar1", {"mOV"}},
-    {"PlannerExport", "Zcalandar1", {"mOV", "mUExport"}},
-    {"PlannerPrinting", "Zcalandar1", {"mOP"}},
-    {"PlannerBackground", "Zcalandar1", {"mOGB"}},
-    {"PlannerOptions", "Zcalandar1", {"mOCal"}},
-    {"PlannerRecurrence", "Zcalandar1", {"Option2(0)"}},
-    {"Calendar", "Calendar", {}},
-    {"Budget", "Budget1a", {}},
-    {"Leave", "SICKLEAVE1", {}},
-    {"Contacts", "ADDBKVIEW1", {}},
-    {"ContactDisplay", "ADDBKDISPLAY", {}},
-    {"ContactDisplayPrinting", "ADDBKDISPLAY", {"Command6"}},
-    {"EmployeeDisplay", "FDisplay1", {}},
-    {"Images", "PhotoVIEW1", {}},
-    {"PicturePages", "ADDBKDISPLAY3", {}},
-    {"Vehicles", "AutoMaint", {}},
-    {"VehicleCreating", "AutoMaint", {"Command7"}},
-    {"VehicleCalculator", "AutoMaint", {"mOGas"}},
-    {"Backup", "Backup1", {}},
-    {"Spelling", "VSSpell1", {}},
-    {"Thesaurus", "VSThesaurus1", {}},
 };
 
 std::vector<int> PlainKeys() {
@@ -229,17 +88,8 @@ class Keys : public ::testing::TestWithParam<Way> {
       dynamic_cast<forms::TextField&>(*planner->Find("Text1(0)")).Type("9:30 AM");
       dynamic_cast<forms::TextField&>(*planner->Find("Text2(0)")).Type("Dentist");
     }
-    for (const char* name : GetParam().clicks) Click(form, name);
-    QCoreApplication::processEvents();
+    Take(GetParam(), form);
     state_ = State();
-  }
-
-  static void Click(forms::Form& form, const char* name) {
-    if (forms::MenuItem* entry = form.menus().Find(name)) return entry->Click();
-    forms::Control* control = form.Find(name);
-    ASSERT_NE(control, nullptr) << name;
-    if (auto* option = dynamic_cast<forms::Option*>(control)) return option->Click();
-    dynamic_cast<forms::Clickable&>(*control).Click();
   }
 
   // What a person could reach, which tells one panel from another.

@@ -310,5 +310,39 @@ TEST_F(MainWindowTest, NoSizeIsLargerThanTheScreen) {
   EXPECT_LE(window_.minimumHeight(), 768);
 }
 
+TEST_F(MainWindowTest, AnEndOfTheSessionLosesNothingUnasked) {
+  navigator_.Show("Lower");
+  EXPECT_TRUE(window_.EndSession(true));  // nothing to save
+  EXPECT_EQ(navigator_.top(), &Form("Lower"));
+  Form("Lower").SetUnsaved(true);
+  EXPECT_FALSE(window_.EndSession(false));
+  EXPECT_EQ(SampleForm::unloads, 0);
+  Form("Lower").stays = true;  // Cancel
+  EXPECT_FALSE(window_.EndSession(true));
+  EXPECT_EQ(SampleForm::unloads, 0);
+  // One above it has nothing to save and only goes.
+  navigator_.Show("Upper");
+  Form("Lower").stays = false;
+  EXPECT_TRUE(window_.EndSession(true));
+  EXPECT_EQ(SampleForm::unloads, 2);
+}
+
+TEST_F(MainWindowTest, AWindowComesBackFromAMonitorThatHasGone) {
+  navigator_.Show("Lower");
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return HasMetItsFrame(); }));
+  const QRect screen = window_.QMainWindow::screen()->availableGeometry();
+  for (const QPoint place : {QPoint(5000, 100), QPoint(-3000, -2000), QPoint(100, 3000)}) {
+    window_.move(place);
+    emit qApp->screenRemoved(nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(window_.frameGeometry().center()); }));
+  }
+  window_.move(30, 40);  // that one can be reached, so it stays
+  const QPoint stays = window_.pos();
+  emit qApp->screenRemoved(nullptr);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(window_.pos(), stays);
+}
+
 }  // namespace
 }  // namespace tarnwell::desktop

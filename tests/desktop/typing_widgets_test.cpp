@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <functional>
 
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/layout.h"
@@ -174,6 +175,39 @@ TEST_F(TypingWidgets, AFieldThatMayNotBeLeftKeepsTheFocusFromAClick) {
   field_.SetText("x");
   QTest::mouseClick(save, Qt::LeftButton);
   EXPECT_EQ(saves, 1);
+}
+
+TEST_F(TypingWidgets, WhatWasTypedIsTakenBackAndDoneAgain) {
+  struct Case {
+    QWidget* widget;
+    std::function<std::string()> text;
+    const char* typed;
+    std::string before;
+  };
+  field_.SetText("1");
+  notes_.SetText("1");
+  name_.SetText("1");
+  const Case cases[] = {
+      {line_, [this] { return field_.text(); }, "12", "1"},
+      {year_box_, [this] { return year_.text(); }, "2025", "2026"},
+      {name_box_, [this] { return name_.text(); }, "Dent", "1"},
+      {notes_box_, [this] { return notes_.text(); }, "12", "1"},
+  };
+  for (const auto& [widget, text, typed, before] : cases) {
+    SCOPED_TRACE(widget->objectName().toStdString());
+    widget->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(widget, QLatin1String(typed));
+    const std::string after = text();
+    for (int i = 0; i < 20 && text() != before; ++i) {
+      QTest::keyClick(widget, Qt::Key_Z, Qt::ControlModifier);
+    }
+    EXPECT_EQ(text(), before);
+    for (int i = 0; i < 20 && text() != after; ++i) {
+      QTest::keyClick(widget, Qt::Key_Y, Qt::ControlModifier);
+    }
+    EXPECT_EQ(text(), after);
+  }
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 
 #include "desktop/services/help_panel.h"
 #include "desktop/widgets/closed_document.h"
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 
 namespace tarnwell::desktop {
@@ -88,8 +89,8 @@ void HtmlHelpViewer::AddBar(HelpPanel& panel) {
   bar->setMovable(false);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
-  QAction* all = bar->addAction(QIcon(QStringLiteral(":/icons/index.svg")), "&All Pages");
-  QAction* back = bar->addAction(QIcon(QStringLiteral(":/icons/back.svg")), "&Back");
+  QAction* all = bar->addAction(IconOf(QStringLiteral("index")), "&All Pages");
+  QAction* back = bar->addAction(IconOf(QStringLiteral("back")), "&Back");
   back->setShortcut(QKeySequence::Back);
   back->setEnabled(false);
   const auto add_key = [this](const QKeySequence& key) {

@@ -15,6 +15,7 @@ constexpr int kLettersOfHead = 150;
 constexpr int kLettersOfVehiclePanel = 120;
 constexpr int kLettersOfCalculator = 90;
 constexpr QSize kPictureSize(160, 100);
+constexpr QSize kLeastTable(200, 120);  // or the page scrolls
 
 QWidget* Head(vehicles::AutoMaint& form) {
   vehicles::InformationPane& information = form.information;
@@ -67,16 +68,17 @@ QWidget* Information(vehicles::InformationPane& pane, PictureStore& pictures) {
 }
 
 QWidget* Maintenance(vehicles::MaintenancePane& pane, PictureStore& pictures) {
-  return Widget(
-      pane.panel,
-      Column({Row({Grow(Column({Widget(pane.intervals), Grow(Widget(pane.grid, pictures))},
-                               kTightSpace)),
-                   AtTop(Widget(pane.calendar))}),
-              Wrapped(Widget(pane.note))}));
+  return Widget(pane.panel,
+                Column({Row({Grow(Column({Widget(pane.intervals),
+                                          Grow(AtLeast(kLeastTable, Widget(pane.grid, pictures)))},
+                                         kTightSpace)),
+                             AtTop(Widget(pane.calendar))}),
+                        Wrapped(Widget(pane.note))}));
 }
 
 QWidget* History(vehicles::HistoryPane& pane, PictureStore& pictures) {
-  return Widget(pane.panel, Column({Widget(pane.heading), Grow(Widget(pane.grid, pictures)),
+  return Widget(pane.panel, Column({Widget(pane.heading),
+                                    Grow(AtLeast(kLeastTable, Widget(pane.grid, pictures))),
                                     Row({Spring(), Widget(pane.sum_title), Widget(pane.sum)}),
                                     Flow({Widget(pane.maintenance), Widget(pane.repairs),
                                           Widget(pane.all), Widget(pane.remove)},
@@ -84,12 +86,12 @@ QWidget* History(vehicles::HistoryPane& pane, PictureStore& pictures) {
 }
 
 QWidget* Fuel(vehicles::FuelPane& pane, PictureStore& pictures) {
-  return Widget(
-      pane.panel,
-      Column({Widget(pane.title),
-              Grow(Row({Grow(Widget(pane.grid, pictures)), AtTop(Widget(pane.calendar))})),
-              Flow({Widget(pane.totals_title), Widget(pane.driven), Widget(pane.fuel),
-                    Widget(pane.rate), Widget(pane.cost), Widget(pane.remove)})}));
+  return Widget(pane.panel,
+                Column({Widget(pane.title),
+                        Grow(Row({Grow(AtLeast(kLeastTable, Widget(pane.grid, pictures))),
+                                  AtTop(Widget(pane.calendar))})),
+                        Flow({Widget(pane.totals_title), Widget(pane.driven), Widget(pane.fuel),
+                              Widget(pane.rate), Widget(pane.cost), Widget(pane.remove)})}));
 }
 
 QWidget* Calculator(vehicles::CalculatorPanel& panel) {
@@ -118,7 +120,7 @@ QWidget* Print(vehicles::VehiclePrint& print) {
 QWidget* Sheet(vehicles::AutoMaint& form, PictureStore& pictures) {
   QWidget* panes = Column(
       {Grow(Information(form.information, pictures)), Grow(Maintenance(form.maintenance, pictures)),
-       Grow(Widget(form.repairs.panel, Widget(form.repairs.grid, pictures))),
+       Grow(Widget(form.repairs.panel, AtLeast(kLeastTable, Widget(form.repairs.grid, pictures)))),
        Grow(History(form.history, pictures)), Grow(Fuel(form.fuel, pictures))},
       0);
   return Widget(

@@ -12,8 +12,11 @@ QWidget* Choice(forms::Panel& frame, forms::OptionGroup& group) {
   return Inline(Widget(frame, Row({Widget(group.option(0)), Widget(group.option(1)), Spring()})));
 }
 
+// The page scrolls before what is offered gets cut.
 QWidget* Selection(planner::Calendar& form) {
-  return Column({Widget(form.picker), Widget(form.import_label), Widget(form.imports), Spring()});
+  QWidget* imports = Widget(form.imports);
+  imports->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
+  return Column({Widget(form.picker), Widget(form.import_label), imports, Spring()});
 }
 
 QWidget* Day(planner::Calendar& form) {

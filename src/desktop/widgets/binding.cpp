@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/widgets/text.h"
+#include "forms/spoken.h"
 
 namespace tarnwell::desktop {
 
@@ -28,6 +29,7 @@ void Binding::Show() {
   if (widget_->parentWidget() || !control_.visible()) widget_->setVisible(control_.visible());
   DropLostFocus();
   widget_->setToolTip(FromCore(control_.tool_tip()));
+  widget_->setAccessibleDescription(FromCore(forms::DescriptionOf(control_)));
   if (show_) show_();
   // Only when the control has just got the focus: a change of its text must not fetch the focus
   // back from an open menu.

@@ -30,7 +30,7 @@ void CardWidget::paintEvent(QPaintEvent*) {
 QWidget* Card(QWidget* content, int space) {
   auto* card = new CardWidget;
   card->SetCard(true);
-  card->setPalette(PaletteOn(Qt::white));
+  card->setPalette(PaletteOn(ColorOf(Tone::kCard)));
   auto* layout = new TightLayout(QBoxLayout::TopToBottom, card);
   layout->setContentsMargins(space, space, space, space);
   layout->addWidget(content);

@@ -8,6 +8,7 @@
 #include <QScopedValueRollback>
 #include <QTimer>
 
+#include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -94,6 +95,11 @@ void CellEditing::ShowTyped(const QString& text) {
 
 void CellEditing::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
+  if (index.data(Qt::ForegroundRole).isValid()) {
+    const QColor ground = option->widget->palette().color(QPalette::Window);
+    const QColor letters = Readable(option->palette.color(QPalette::Text), ground);
+    option->palette.setColor(QPalette::Text, letters);
+  }
   if (index.row() + 1 == grid_.highlight()) option->state |= QStyle::State_Selected;
 }
 

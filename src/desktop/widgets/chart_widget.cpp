@@ -6,6 +6,7 @@
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/chart_drawing.h"
+#include "desktop/widgets/spoken_role.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -19,6 +20,7 @@ class ChartView : public QGraphicsView {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setRenderHint(QPainter::Antialiasing);
     setBackgroundBrush(Qt::white);
+    SetSpokenRole(this, QAccessible::Chart);
     setFocusPolicy(Qt::NoFocus);  // the list beside it is for the keys
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   }

@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QListView>
+#include <QPainter>
 #include <QRadioButton>
 #include <QWheelEvent>
 
@@ -66,6 +67,22 @@ class DropDown : public QComboBox {
   bool entered_ = false;
 };
 
+// A choice whose focus is seen however it got it; the style shows it after Tab alone.
+template <typename Button>
+class FramedChoice : public Button {
+ public:
+  using Button::Button;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    Button::paintEvent(event);
+    if (!Button::hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(Button::palette().color(QPalette::Link));
+    painter.drawRect(Button::rect().adjusted(0, 0, -1, -1));
+  }
+};
+
 }  // namespace
 
 void FitWidth(QComboBox* box, std::size_t items) {
@@ -89,7 +106,7 @@ bool ShowItems(QComboBox* box, const std::vector<std::string>& items) {
 // The group of the controls decides what is chosen, wherever its options lie; Qt's own exclusive
 // groups, which go by parent widget, stay off.
 QWidget* Widget(forms::Option& option) {
-  auto* button = new QRadioButton(FromCore(option.caption()));
+  auto* button = new FramedChoice<QRadioButton>(FromCore(option.caption()));
   button->setAutoExclusive(false);
   auto* binding = new Binding(button, option, [button, &option] {
     button->setChecked(option.chosen());
@@ -101,7 +118,7 @@ QWidget* Widget(forms::Option& option) {
 }
 
 QWidget* Widget(forms::CheckBox& box) {
-  auto* button = new QCheckBox;
+  auto* button = new FramedChoice<QCheckBox>;
   auto* binding = new Binding(button, box, [button, &box] {
     button->setText(FromCore(box.caption()));
     button->setChecked(box.checked());

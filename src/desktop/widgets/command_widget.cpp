@@ -5,6 +5,7 @@
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
+#include "desktop/widgets/icons.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/menus.h"
 #include "desktop/widgets/text.h"
@@ -53,7 +54,7 @@ QWidget* Listed(QWidget* button) {
 
 QWidget* WithIcon(const char* icon, QWidget* button) {
   if (auto* push_button = qobject_cast<QAbstractButton*>(button)) {
-    push_button->setIcon(QIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(icon))));
+    push_button->setIcon(IconOf(QLatin1String(icon)));
   }
   return button;
 }

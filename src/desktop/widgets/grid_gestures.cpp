@@ -11,11 +11,6 @@
 namespace tarnwell::desktop {
 namespace {
 
-bool IsRedo(const QKeyEvent& key) {
-  return const_cast<QKeyEvent&>(key).matches(QKeySequence::Redo) ||
-         (key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_Y);
-}
-
 bool Moves(int key) {
   return (key >= Qt::Key_Home && key <= Qt::Key_PageDown);  // the arrows lie between
 }

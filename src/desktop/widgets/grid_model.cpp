@@ -5,6 +5,7 @@
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/text.h"
+#include "forms/spoken.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -90,6 +91,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::EditRole:
       return FromCore(grid_.text(row, index.column()));
+    case Qt::AccessibleTextRole:
+      return FromCore(forms::SpokenCell(grid_, row, index.column()));
     case Qt::TextAlignmentRole:
       return AlignmentOf(grid_.column(index.column()).align);
     case Qt::ForegroundRole:

@@ -126,7 +126,7 @@ void GridView::ShowMarks() {
 
 void GridView::ShowLook() {
   look_ = grid_.look();
-  QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : QColor(Qt::white));
+  QPalette palette = PaletteOn(look_.color ? ToQColor(*look_.color) : ColorOf(Tone::kField));
   palette.setColor(QPalette::Base, palette.color(QPalette::Window));
   if (const auto wallpaper = ReadWallpaper(pictures_, look_.wallpaper)) {
     palette = wallpaper->palette;

@@ -9,6 +9,7 @@
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_fonts.h"
+#include "desktop/widgets/spoken_role.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -22,14 +23,28 @@ class TextLabel : public QLabel {
   bool is_link = false;
   std::function<void()> on_click;
 
+  void SetColor(const QColor& color) {
+    color_ = color;
+    ShowColor();
+  }
+
   // The keyboard reaches a label that can be clicked.
   void SetClickable() {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    SetSpokenRole(this, is_link ? QAccessible::Link : QAccessible::PushButton, true);
     setMargin(kFocusFrame);
   }
 
  protected:
+  // Around it lies another ground.
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange) {
+      ShowColor();
+    }
+  }
+
   void enterEvent(QEnterEvent* event) override {
     QLabel::enterEvent(event);
     ShowLink(true);
@@ -54,7 +69,7 @@ class TextLabel : public QLabel {
     QLabel::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
-    painter.setPen(QPen(kAccent, kFocusFrame));
+    painter.setPen(QPen(palette().color(QPalette::Link), kFocusFrame));
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
   }
 
@@ -71,6 +86,15 @@ class TextLabel : public QLabel {
   }
 
  private:
+  void ShowColor() {
+    if (!color_.isValid()) return;
+    const QColor letters = Readable(color_, palette().color(QPalette::Window));
+    if (letters == palette().color(QPalette::WindowText)) return;
+    QPalette colors;
+    colors.setColor(QPalette::WindowText, letters);
+    setPalette(colors);
+  }
+
   void ShowLink(bool shown) {
     if (!is_link) return;
     QFont letters = font();
@@ -80,6 +104,8 @@ class TextLabel : public QLabel {
     if (shown) colors.setColor(QPalette::WindowText, palette().color(QPalette::Link));
     setPalette(colors);
   }
+
+  QColor color_;  // where it has one of its own
 };
 
 QFont FontOf(forms::LabelRole role) {
@@ -105,12 +131,6 @@ QFont SampleFont(const forms::Font& font) {
   return sample;
 }
 
-void ShowColor(QLabel& label, const QColor& color) {
-  QPalette palette = label.palette();
-  palette.setColor(QPalette::WindowText, color);
-  label.setPalette(palette);
-}
-
 // A user's name may be one word without end: it can be broken where it is very long.
 QString WithBreaks(QString text) {
   constexpr int kLongestWord = 24;  // letters
@@ -131,17 +151,15 @@ QWidget* Widget(forms::Label& label) {
   widget->setTextFormat(Qt::PlainText);
   widget->setFont(FontOf(label.role()));
   widget->is_link = label.role() == forms::LabelRole::kLink;
+  if (label.on_click) widget->SetClickable();
   auto* binding = new Binding(widget, label, [widget, &label] {
     const QString text = widget->is_caption ? Spoken(label.caption()) : FromCore(label.caption());
     widget->setText(widget->wordWrap() ? WithBreaks(text) : text);
     if (label.font()) widget->setFont(SampleFont(*label.font()));
-    if (label.color()) ShowColor(*widget, ToQColor(*label.color()));
+    if (label.color()) widget->SetColor(ToQColor(*label.color()));
     if (!label.caption().empty()) widget->setAccessibleName(text);
   });
-  if (label.on_click) {
-    widget->SetClickable();
-    widget->on_click = binding->Forward([&label] { label.Click(); });
-  }
+  if (label.on_click) widget->on_click = binding->Forward([&label] { label.Click(); });
   return widget;
 }
 

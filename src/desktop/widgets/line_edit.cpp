@@ -3,6 +3,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <cstdlib>
 
@@ -15,8 +16,18 @@ void LineEdit::ShowText(const std::string& shown, std::size_t most_typed) {
   if (text() == wanted) return;
   const auto before_cursor = ToCore(text().left(cursorPosition())).size();
   // What the program sets may be longer than what can be typed.
-  setMaxLength(static_cast<int>(std::max(most_typed, shown.size())));
-  setText(wanted);
+  // A length that is told anew ends what can be taken back.
+  const auto most = static_cast<int>(std::max(most_typed, shown.size()));
+  if (most != maxLength()) setMaxLength(most);
+  if (is_typing_) {
+    const QSignalBlocker quiet(this);
+    const bool is_completed = wanted.startsWith(text());
+    const qsizetype typed = is_completed ? text().size() : 0;
+    is_completed ? end(false) : selectAll();
+    insert(wanted.mid(typed));
+  } else {
+    setText(wanted);
+  }
   setCursorPosition(hasFocus() ? static_cast<int>(std::min(before_cursor, shown.size())) : 0);
 }
 
@@ -36,6 +47,7 @@ void LineEdit::MarkOnEntry() {
 void LineEdit::keyPressEvent(QKeyEvent* event) {
   if (on_arrow && event->key() == Qt::Key_Up) return on_arrow(-1);
   if (on_arrow && event->key() == Qt::Key_Down) return on_arrow(1);
+  if (IsRedo(*event) && !isReadOnly()) return redo();
   took_enter = false;
   QLineEdit::keyPressEvent(event);
   if (took_enter) event->accept();

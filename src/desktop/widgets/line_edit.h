@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <functional>
 #include <optional>
 #include <string>
@@ -16,6 +17,14 @@ class LineEdit : public QLineEdit {
   void ShowText(const std::string& text, std::size_t most_typed);
   // Follows what the form asks for, once.
   void ShowSelection(const forms::TextSelection& asked);
+
+  // While `take` runs, what is shown belongs to what a person types and is taken back with it.
+  template <typename Take>
+  void Typing(Take take) {
+    const QScopedValueRollback typing(is_typing_, true);
+    take();
+  }
+  bool is_typing() const { return is_typing_; }
 
   bool selects_on_entry = false;
   // Where there is one the arrows aren't the line's.
@@ -37,6 +46,7 @@ class LineEdit : public QLineEdit {
     int begin;
     int end;
   };
+  bool is_typing_ = false;
   std::optional<Marked> asked_;  // since the line was left the last time
   int followed_ = 0;
   bool entered_by_mouse_ = false;

@@ -7,7 +7,9 @@
 #include <QFont>
 #include <QPalette>
 #include <QWidget>
+#include <optional>
 
+#include "desktop/widgets/tones.h"
 #include "forms/color.h"
 
 namespace tarnwell::desktop {
@@ -26,21 +28,22 @@ QFont ScaledFont(TextSize size);
 // The label, in a font of that size.
 QWidget* InSize(TextSize size, QWidget* label);
 
-inline const QColor kAccent{0x1F, 0x5F, 0xBF};
-// The text of a selected main button.
-inline const QColor kSelectedText{0x55, 0x55, 0xFF};
-
 QColor ToQColor(forms::Color color);
 forms::Color FromQColor(const QColor& color);
 
 // WCAG contrast of two colours, 1 to 21.
 double Contrast(const QColor& a, const QColor& b);
+// The colour, or as much of it as can be read on that ground.
+QColor Readable(const QColor& color, const QColor& ground);
+// What a person chose to lie behind the controls; without a choice, or with "Default", the look's.
+QColor GroundOf(const std::optional<forms::Color>& chosen);
 // A palette whose text reads well on any background that a person may have chosen.
 QPalette PaletteOn(const QColor& background);
 
 // A yes-or-no property that the style sheet paints by, such as "selected".
 void SetMark(QWidget* widget, const char* mark, bool on);
 
-void ApplyLook(QApplication& application);
+// Before the first widget is made.
+void ApplyLook(QApplication& application, ToneSet tones = ToneSet::kLight);
 
 }  // namespace tarnwell::desktop

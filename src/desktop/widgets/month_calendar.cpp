@@ -10,16 +10,13 @@
 #include <algorithm>
 
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/spoken_role.h"
 
 namespace tarnwell::desktop {
 namespace {
 
 using std::chrono::months;
 
-const QColor kInk(0x1C, 0x25, 0x30);
-const QColor kFaint(0x76, 0x80, 0x8B);
-const QColor kLine(0xAE, 0xB8, 0xC2);
-const QColor kTodayRing(0xC0, 0x39, 0x2B);
 constexpr int kPaneGap = 14;
 constexpr int kMargin = 6;
 constexpr int kYearsAround = 10;
@@ -77,6 +74,7 @@ struct MonthCalendar::Metrics {
 
 MonthCalendar::MonthCalendar() {
   setFocusPolicy(Qt::StrongFocus);
+  SetSpokenRole(this, QAccessible::Table);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -124,7 +122,9 @@ void MonthCalendar::Show(std::optional<text::Date> date, std::optional<text::Dat
   look_ = look;
   if (turns && PaneOf(*date) < 0) first_shown_ = Clamped(MonthOfDate(*date));
   if (!date && first_time) first_shown_ = Clamped(MonthOfDate(*today));
-  setAccessibleDescription(date ? SpokenDate(*date) : QString());
+  // The day is what a person wants to hear first.
+  if (date)
+    setAccessibleDescription(SpokenDate(*date) + QStringLiteral(". ") + accessibleDescription());
   if (resized) updateGeometry();
   update();
 }
@@ -245,8 +245,8 @@ void MonthCalendar::keyPressEvent(QKeyEvent* event) {
 void MonthCalendar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(isEnabled() ? QColor(Qt::white) : QColor(0xF6, 0xF7, 0xF8));
-  painter.setPen(QPen(hasFocus() ? kAccent : kLine, hasFocus() ? 2 : 1));
+  painter.setBrush(ColorOf(isEnabled() ? Tone::kField : Tone::kFieldOff));
+  painter.setPen(QPen(ColorOf(hasFocus() ? Tone::kAccent : Tone::kEdge), hasFocus() ? 2 : 1));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
   for (int pane = 0; pane < look_.months; ++pane) {
     PaintHead(painter, pane);
@@ -261,14 +261,14 @@ void MonthCalendar::PaintHead(QPainter& painter, int pane) const {
   QFont bold = font();
   bold.setWeight(QFont::DemiBold);
   painter.setFont(bold);
-  painter.setPen(kInk);
+  painter.setPen(ColorOf(Tone::kInk));
   painter.drawText(metrics.Head(pane), Qt::AlignCenter, MonthTitle(ShownMonth(pane)));
   if (pane == 0) painter.drawText(metrics.Back(), Qt::AlignCenter, QStringLiteral("\u2039"));
   if (pane == (metrics.folded ? 0 : look_.months - 1)) {
     painter.drawText(metrics.Forth(look_.months), Qt::AlignCenter, QStringLiteral("\u203A"));
   }
   painter.setFont(font());
-  painter.setPen(kFaint);
+  painter.setPen(ColorOf(Tone::kFaint));
   for (int column = 0; column < kDaysOfWeek; ++column) {
     // Qt counts Monday as 1 and Sunday as 7.
     const int weekday = (static_cast<int>(look_.first_weekday) + column + 6) % kDaysOfWeek + 1;
@@ -292,22 +292,23 @@ void MonthCalendar::PaintDay(QPainter& painter, const QRect& place, text::Date d
   const bool picked = day == date_;
   if (picked) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isEnabled() ? kAccent : kFaint);
+    painter.setBrush(ColorOf(isEnabled() ? Tone::kMark : Tone::kMarkOff));
     painter.drawRoundedRect(inside, 5, 5);
   }
   if (look_.mark_today && day == today_) {
-    painter.setPen(QPen(kTodayRing, 1.5));
+    painter.setPen(QPen(ColorOf(Tone::kAlarm), 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(inside, 5, 5);
   }
-  painter.setPen(picked ? QColor(Qt::white) : isEnabled() ? kInk : kFaint);
+  const Tone ink = isEnabled() ? Tone::kInk : Tone::kFaint;
+  painter.setPen(ColorOf(picked ? (isEnabled() ? Tone::kOnMark : Tone::kOnMarkOff) : ink));
   painter.drawText(place, Qt::AlignCenter, QString::number(text::DayOf(day)));
 }
 
 void MonthCalendar::PaintWeekNumbers(QPainter& painter, int pane) const {
   const Metrics metrics = Measure();
   const auto days = DaysOfSheet(ShownMonth(pane), look_.first_weekday);
-  painter.setPen(kFaint);
+  painter.setPen(ColorOf(Tone::kFaint));
   for (int row = 0; row < kWeeksOfSheet; ++row) {
     const text::Date first = days[static_cast<std::size_t>(row * kDaysOfWeek)];
     if (MonthOfDate(first) > ShownMonth(pane)) break;
@@ -315,14 +316,14 @@ void MonthCalendar::PaintWeekNumbers(QPainter& painter, int pane) const {
                      QString::number(WeekNumber(first, look_.first_weekday)));
   }
   const QRect column = metrics.WeekNumber(pane, 1).united(metrics.WeekNumber(pane, kWeeksOfSheet));
-  painter.setPen(kLine);
+  painter.setPen(ColorOf(Tone::kEdge));
   painter.drawLine(column.topRight(), column.bottomRight());
 }
 
 void MonthCalendar::PaintFoot(QPainter& painter) const {
   const Metrics metrics = Measure();
   if (metrics.foot_height == 0) return;
-  painter.setPen(kAccent);
+  painter.setPen(ColorOf(Tone::kAccent));
   painter.drawText(metrics.Foot(look_.months), Qt::AlignCenter,
                    English().toString(ToQDate(*today_), QStringLiteral("'Today:' MM/dd/yyyy")));
 }

@@ -8,6 +8,7 @@
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/page_painter.h"
+#include "desktop/widgets/spoken_role.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -15,7 +16,6 @@ namespace {
 constexpr double kFullSize = 1.0 / 15;  // pixels a twip on a display of standard density
 constexpr double kLargest = 2 * kFullSize;
 constexpr int kDeskEdge = 12;
-const QColor kDesk(0xDD, 0xE1, 0xE6);
 const QColor kSheetEdge(0xAE, 0xB8, 0xC2);
 const QColor kGuideLine(0x6A, 0x8F, 0xC8);
 
@@ -36,9 +36,10 @@ PageView::PageView()
       number_(new QLabel),
       forth_(PagerButton(QStringLiteral("\u203A"), QStringLiteral("Next page"))) {
   setFocusPolicy(Qt::StrongFocus);
+  SetSpokenRole(this, QAccessible::Document);
   setFrameShape(QFrame::StyledPanel);
   pager_->setAutoFillBackground(true);
-  pager_->setPalette(PaletteOn(Qt::white));
+  pager_->setPalette(PaletteOn(ColorOf(Tone::kCard)));
   auto* layout = new QHBoxLayout(pager_);
   layout->setContentsMargins(kTightSpace, kTightSpace, kTightSpace, kTightSpace);
   layout->addStretch(1);
@@ -187,7 +188,7 @@ void PageView::PaintGuideLines(QPainter& painter, int page, const QRectF& sheet)
 
 void PageView::paintEvent(QPaintEvent*) {
   QPainter painter(viewport());
-  painter.fillRect(viewport()->rect(), kDesk);
+  painter.fillRect(viewport()->rect(), ColorOf(Tone::kDesk));
   if (!document_ || document_->pages.empty()) return;
   const std::vector<QRect> places = Places();
   for (std::size_t i = 0; i < places.size(); ++i) {

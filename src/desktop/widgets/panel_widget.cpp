@@ -32,7 +32,7 @@ class PanelWidget : public CardWidget {
     const int above = inline_ ? kTightSpace : margin;
     layout_->setContentsMargins(margin, above, margin, above);
     SetCard(card);
-    if (card) setPalette(PaletteOn(background ? ToQColor(*background) : QColor(Qt::white)));
+    if (card) setPalette(PaletteOn(background ? GroundOf(background) : ColorOf(Tone::kCard)));
   }
 
   void SetInline() {

@@ -10,6 +10,7 @@
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
 #include "desktop/widgets/machine_pictures.h"
+#include "desktop/widgets/spoken_role.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -29,6 +30,7 @@ class PictureView : public QGraphicsView {
     setTransformationAnchor(AnchorUnderMouse);
     setRenderHint(QPainter::SmoothPixmapTransform);
     setFocusPolicy(Qt::StrongFocus);
+    SetSpokenRole(this, QAccessible::Graphic);
   }
 
   void Show(const forms::PictureView& picture) {

@@ -16,6 +16,7 @@
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/picture_files.h"
 #include "desktop/widgets/pictures.h"
+#include "desktop/widgets/spoken_role.h"
 #include "desktop/widgets/text.h"
 
 namespace tarnwell::desktop {
@@ -26,6 +27,7 @@ class PictureWidget : public QWidget {
  public:
   explicit PictureWidget(const PictureStore& pictures) : pictures_(pictures) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    SetSpokenRole(this, QAccessible::Graphic);
   }
 
   void Show(const forms::Picture& picture) {
@@ -49,12 +51,12 @@ class PictureWidget : public QWidget {
   void SetClick(std::function<void()> on_click) {
     on_click_ = std::move(on_click);
     setCursor(Qt::PointingHandCursor);
-    setFocusPolicy(Qt::StrongFocus);
+    SetPressed();
   }
 
   void SetOpen(std::function<void()> on_open) {
     on_open_ = std::move(on_open);
-    setFocusPolicy(Qt::StrongFocus);
+    SetPressed();
   }
 
   // A file of this machine may be dropped on it.
@@ -79,7 +81,7 @@ class PictureWidget : public QWidget {
       painter.drawImage(place, photograph_);
     }
     if (marked_) {
-      painter.setPen(QPen(kAccent, kFrameWidth));
+      painter.setPen(QPen(ColorOf(Tone::kAccent), kFrameWidth));
       painter.drawRect(QRectF(place).adjusted(1, 1, -1, -1));
     }
     if (!hasFocus()) return;
@@ -121,6 +123,11 @@ class PictureWidget : public QWidget {
   }
 
  private:
+  void SetPressed() {
+    setFocusPolicy(Qt::StrongFocus);
+    SetSpokenRole(this, QAccessible::PushButton, true);
+  }
+
   QSize OwnSize() const { return drawing_.isValid() ? drawing_.defaultSize() : photograph_.size(); }
 
   // The only one; empty for several, and for what doesn't lie on this machine.

@@ -13,7 +13,9 @@
 
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/rich_text_view.h"
+#include "desktop/widgets/text.h"
 #include "forms/kept_signs.h"
+#include "forms/spoken.h"
 #include "richtext/paragraphs.h"
 
 namespace tarnwell::desktop {
@@ -210,7 +212,12 @@ bool RichTextView::viewportEvent(QEvent* event) {
 
 // For those who don't see the signs.
 void RichTextView::DescribeKept() {
-  if (std::exchange(described_, renderer_.kept().size()) == renderer_.kept().size()) return;
+  const QString hint = FromCore(forms::DescriptionOf(box_));
+  const auto tell = [&] {
+    setAccessibleDescription(kept_told_.isEmpty() ? hint
+                                                  : kept_told_ + QStringLiteral(". ") + hint);
+  };
+  if (std::exchange(described_, renderer_.kept().size()) == renderer_.kept().size()) return tell();
   QStringList tips;
   for (const richtext::KeptThing& thing : renderer_.kept()) {
     if (tips.size() == kMostDescribed) break;
@@ -218,8 +225,8 @@ void RichTextView::DescribeKept() {
     tips << QString::fromStdString(forms::TipOf(thing));
   }
   tips.sort();
-  const QString all = tips.join(QStringLiteral(". "));
-  if (accessibleDescription() != all) setAccessibleDescription(all);
+  kept_told_ = tips.join(QStringLiteral(". "));
+  tell();
 }
 
 }  // namespace tarnwell::desktop

@@ -143,6 +143,7 @@ void RichTextView::Show() {
     }
   }
   ShowSelection();
+  DescribeKept();
 }
 
 void RichTextView::ShowAll() {
@@ -160,7 +161,6 @@ void RichTextView::ShowAll() {
   moveCursor(QTextCursor::Start);
   if (!renderer_.is_done()) next_part_.start();
   described_ = -1;
-  DescribeKept();
 }
 
 void RichTextView::Follow() {

@@ -122,6 +122,7 @@ class RichTextView : public QTextEdit {
   bool shows_pages_ = false;
   bool makes_room_ = false;
   qsizetype described_ = -1;  // signs of the renderer
+  QString kept_told_;         // of those
   int own_range_ = 0;         // of the scroll bar, for Qt's text alone
   QTimer next_part_;
   std::optional<std::size_t> known_;  // spans of the box that are shown

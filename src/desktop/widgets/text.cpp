@@ -22,6 +22,11 @@ QString Spoken(std::string_view caption) {
   return FromCore(spoken).trimmed();
 }
 
+bool IsRedo(const QKeyEvent& event) {
+  const std::string name = KeyName(event);
+  return name == "Ctrl+Y" || name == "Ctrl+Shift+Z";
+}
+
 std::string KeyName(const QKeyEvent& event) {
   const auto modifiers = event.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier);
   return QKeySequence(static_cast<int>(modifiers) | event.key())

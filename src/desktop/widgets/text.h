@@ -18,6 +18,9 @@ std::string ToCore(const QString& text);
 // A caption as it is spoken: without the marks of its mnemonic, "&&" as one ampersand.
 QString Spoken(std::string_view caption);
 
+// The keys that do again what was taken back: on every desktop the same two.
+bool IsRedo(const QKeyEvent& event);
+
 // The name of a key with those held down beside it, as menus have it: "Ctrl+Shift+Z".
 std::string KeyName(const QKeyEvent& event);
 

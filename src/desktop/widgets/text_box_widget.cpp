@@ -69,6 +69,7 @@ class PlainTextEdit : public QPlainTextEdit {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
+    if (IsRedo(*event) && !isReadOnly()) return redo();
     const bool is_enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (is_enter) on_enter();
     if (!is_enter || !took_enter) QPlainTextEdit::keyPressEvent(event);

@@ -10,11 +10,13 @@ namespace tarnwell::desktop {
 namespace {
 
 void ShowColor(QLineEdit* edit, const forms::TextField& field) {
-  const QPalette usual = QApplication::palette(edit);
+  QColor letters = QApplication::palette(edit).color(QPalette::Text);
+  if (field.color()) letters = ToQColor(*field.color());
+  // It was chosen for a white field.
+  if (CurrentTones() != ToneSet::kLight) letters = Readable(letters, ColorOf(Tone::kField));
   QPalette palette = edit->palette();
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-    palette.setColor(group, QPalette::Text,
-                     field.color() ? ToQColor(*field.color()) : usual.color(QPalette::Text));
+    palette.setColor(group, QPalette::Text, letters);
   }
   if (palette != edit->palette()) edit->setPalette(palette);
 }
@@ -36,7 +38,9 @@ QWidget* Widget(forms::TextField& field) {
     }
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
-                   binding->Forward([&field](const QString& text) { field.Type(ToCore(text)); }));
+                   binding->Forward([edit, &field](const QString& text) {
+                     edit->Typing([&] { field.Type(ToCore(text)); });
+                   }));
   QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
     edit->took_enter = static_cast<bool>(field.on_enter);
     field.PressEnter();

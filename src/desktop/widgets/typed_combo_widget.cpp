@@ -34,9 +34,12 @@ class TypedDropDown : public QComboBox {
     const int begin = line_->selectionStart();
     const int length = line_->selectionLength();
     FitWidth(this, combo.items().size());
-    if (!ShowItems(this, combo.items()) && currentIndex() == combo.selected()) return;
+    selected_ = combo.selected();
+    // A new item in the line would end what a person can take back; the list opens on it all the
+    // same.
+    if (!ShowItems(this, combo.items())) return;
     // Qt puts the item into the line.
-    setCurrentIndex(combo.selected());
+    setCurrentIndex(selected_);
     line_->setText(text);
     line_->setCursorPosition(cursor);
     if (begin >= 0) line_->setSelection(begin, length);
@@ -45,7 +48,9 @@ class TypedDropDown : public QComboBox {
   void showPopup() override {
     may_open = true;
     if (on_open) on_open();
-    if (may_open) QComboBox::showPopup();
+    if (!may_open) return;
+    if (currentIndex() != selected_) setCurrentIndex(selected_);
+    QComboBox::showPopup();
   }
 
   std::function<void()> on_open;  // says in `may_open` whether the list comes
@@ -82,6 +87,7 @@ class TypedDropDown : public QComboBox {
 
  private:
   LineEdit* line_ = new LineEdit;
+  int selected_ = -1;  // the entry that stands in the line
 };
 
 }  // namespace
@@ -95,7 +101,9 @@ QWidget* Widget(forms::TypedCombo& combo) {
     box->line().ShowSelection(combo.selection());
   });
   QObject::connect(&box->line(), &QLineEdit::textEdited, binding,
-                   binding->Forward([&combo](const QString& text) { combo.Type(ToCore(text)); }));
+                   binding->Forward([box, &combo](const QString& text) {
+                     box->line().Typing([&] { combo.Type(ToCore(text)); });
+                   }));
   QObject::connect(box, &QComboBox::activated, binding,
                    binding->Forward([&combo](int index) { combo.Pick(index); }));
   box->on_open = binding->Forward([box, &combo] { box->may_open = combo.Open(); });

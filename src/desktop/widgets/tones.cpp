@@ -1,0 +1,65 @@
+#include "desktop/widgets/tones.h"
+
+#include <cstddef>
+#include <iterator>
+
+namespace tarnwell::desktop {
+namespace {
+
+// Light, dark, black, white. Letters stand at 4.5 to 1 or more on what they are written on.
+constexpr QRgb kToneColors[][4] = {
+    {0x1C2530, 0xE6EAEE, 0xFFFFFF, 0x000000},  // kInk
+    {0x5F6974, 0xA3AEB9, 0xC8C8C8, 0x4A4A4A},  // kFaint
+    {0xF0F2F4, 0x1F2429, 0x000000, 0xFFFFFF},  // kGround
+    {0xFFFFFF, 0x282E35, 0x000000, 0xFFFFFF},  // kCard
+    {0xFFFFFF, 0x171B1F, 0x000000, 0xFFFFFF},  // kField
+    {0xF1F2F4, 0x2B3138, 0x000000, 0xFFFFFF},  // kFieldOff
+    {0xF0F5FB, 0x222A33, 0x1A1A00, 0xF0F0FF},  // kFieldHover
+    {0xDFE9F5, 0x2C3B4F, 0x333300, 0xE0E0FF},  // kFieldDown
+    {0xF4F6F8, 0x1D2226, 0x0C0C0C, 0xF4F4F4},  // kStripe
+    {0xAEB8C2, 0x5F6B76, 0x808080, 0x767676},  // kEdge
+    {0xD3D8DD, 0x434C55, 0x606060, 0xA0A0A0},  // kEdgeOff
+    {0x7F97B2, 0x9DB4CE, 0xFFFF00, 0x0000A0},  // kEdgeHover
+    {0xDDE1E6, 0x3D464F, 0x707070, 0x808080},  // kLine
+    {0x1F5FBF, 0x9CC4FF, 0xFFFF00, 0x0000A0},  // kAccent
+    {0x1F5FBF, 0x2F66B3, 0xFFFF00, 0x0000A0},  // kMark
+    {0xFFFFFF, 0xFFFFFF, 0x000000, 0xFFFFFF},  // kOnMark
+    {0x2A6DD0, 0x3870C0, 0xFFFF80, 0x0000C0},  // kMarkHover
+    {0x184C9A, 0x275796, 0xE0E000, 0x000080},  // kMarkDown
+    {0xFFC83D, 0xFFC83D, 0xFF0000, 0xFFC83D},  // kMarkFocus
+    {0xC3CEDC, 0x39444F, 0x000000, 0xFFFFFF},  // kMarkOff
+    {0x4E5863, 0xB4BEC8, 0xC8C8C8, 0x4A4A4A},  // kOnMarkOff
+    {0xCFE0F7, 0x2A4468, 0x4D4D00, 0xC8C8FF},  // kChosen
+    {0xF4F5FF, 0x20233A, 0x000000, 0xFFFFFF},  // kSelected
+    {0x5555FF, 0xAAB4FF, 0xFFFF00, 0x0000A0},  // kOnSelected
+    {0xFFF6A0, 0x4A4410, 0x4D4D00, 0xFFF6A0},  // kInHand
+    {0xEEF1F4, 0x2D343B, 0x000000, 0xFFFFFF},  // kHead
+    {0xE4E8EC, 0x2B3138, 0x000000, 0xFFFFFF},  // kTrack
+    {0x6B7885, 0x8B98A5, 0xFFFFFF, 0x000000},  // kHandle
+    {0x4F5B67, 0xB0BBC6, 0xFFFF00, 0x0000A0},  // kHandleHover
+    {0xFBFBFC, 0x1A1E22, 0x000000, 0xFFFFFF},  // kChrome
+    {0xE1EAF6, 0x33486A, 0xFFFF00, 0x0000A0},  // kMenuHover
+    {0x1C2530, 0xFFFFFF, 0x000000, 0xFFFFFF},  // kOnMenuHover
+    {0xFFFFE6, 0x33331F, 0x000000, 0xFFFFFF},  // kTip
+    {0x9CC0EE, 0x2F66B3, 0x5A5A00, 0xB0B0FF},  // kProgress
+    {0x6A3FA0, 0xC9A8F5, 0xFF9CFF, 0x800080},  // kVisited
+    {0xA33A2C, 0xFF8A78, 0xFF9CFF, 0xA00000},  // kAlarm
+    {0xDDE1E6, 0x12161A, 0x202020, 0xD0D0D0},  // kDesk
+};
+static_assert(std::size(kToneColors) == kTones);
+
+ToneSet current_tones = ToneSet::kLight;  // there is one application
+
+}  // namespace
+
+QColor ColorOf(ToneSet set, Tone tone) {
+  return QColor(kToneColors[static_cast<std::size_t>(tone)][static_cast<std::size_t>(set)]);
+}
+
+ToneSet CurrentTones() { return current_tones; }
+
+void SetCurrentTones(ToneSet set) { current_tones = set; }
+
+QColor ColorOf(Tone tone) { return ColorOf(current_tones, tone); }
+
+}  // namespace tarnwell::desktop
