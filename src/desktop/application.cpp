@@ -41,11 +41,15 @@ void QuietQt() { messages_of_qt = qInstallMessageHandler(PassOn); }
 
 void Prepare(QApplication& application) {
   QApplication::setApplicationName(QStringLiteral("Tarnwell"));
+  // So that a desktop knows whose the windows are, and shows their icon:
+  // packaging/tarnwell.desktop.
+  QApplication::setDesktopFileName(QStringLiteral("tarnwell"));
   QApplication::setQuitOnLastWindowClosed(false);
   ApplyLook(application);
 }
 
 int RunIn(const Folders& folders) {
+  KeepTogether(folders);
   SingleInstance instance(folders.user);
   if (!instance.first()) {
     if (instance.CallFirst()) return 0;
