@@ -24,8 +24,8 @@ QWidget* View(shell::Splash1& form, PictureStore& pictures) {
 QWidget* View(shell::About1& form, PictureStore& pictures) {
   return Padded(Column({
       Row({Widget(form.logo, pictures),
-           Column({Spring(), Widget(form.product), Widget(form.version), Widget(form.maker),
-                   Spring()})},
+           Grow(Column({Spring(), Widget(form.product), Widget(form.version), Widget(form.maker),
+                        Spring()}))},
           kPageSpace),
       Row({Grow(Widget(form.data_place)), AtTop(Widget(form.open_folder))}),
       Grow(AtLeast(kLeastLicenses, Widget(form.licenses))),
