@@ -42,12 +42,16 @@ void QuietQt() { messages_of_qt = qInstallMessageHandler(PassOn); }
 
 void Prepare(QApplication& application, ToneSet tones) {
   QApplication::setApplicationName(QStringLiteral("Tarnwell"));
+  // So that a desktop knows whose the windows are, and shows their icon:
+  // packaging/tarnwell.desktop.
+  QApplication::setDesktopFileName(QStringLiteral("tarnwell"));
   QApplication::setQuitOnLastWindowClosed(false);
   InstallSpokenRoles();
   ApplyLook(application, tones);
 }
 
 int RunIn(const Folders& folders) {
+  KeepTogether(folders);
   SingleInstance instance(folders.user);
   if (!instance.first()) {
     if (instance.CallFirst()) return 0;

@@ -18,7 +18,7 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
       speller_(DictionaryFolders(folders)),
       thesaurus_(ThesaurusFolders(folders), speller_),
       modem_(outside.ports),
-      launcher_(outside.open),
+      launcher_(folders.user, outside.open),
       volumes_(outside.disks),
       window_([this](forms::Form& form) { return LookOf(form, picture_store_); }, help_),
       program_({folder_, clock_, dialogs_, loop_, window_, help_, clipboard_, pages_, folders_,

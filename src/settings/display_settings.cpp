@@ -42,6 +42,10 @@ storage::Outcome WriteDefaultWindowSize(storage::ProgramFolder& folder) {
   return WriteSize<std::int16_t>(folder, kDefaultHeight, kDefaultWidth);
 }
 
+bool IsFirstStart(storage::ProgramFolder& folder) {
+  return !folder.Exists(storage::file_names::kHinv3);
+}
+
 storage::TaggedValue ReadStartBackground(storage::ProgramFolder& folder) {
   return storage::RecordFile(folder, storage::file_names::kHinv3, kStartRecordLength)
       .GetTagged(kStartBackground);

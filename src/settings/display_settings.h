@@ -15,6 +15,10 @@ struct Display {
   double width = 0;
 };
 
+// Nobody has started the program on this folder before. To be asked before anything else is read:
+// every start makes the file of the start screen's background.
+bool IsFirstStart(storage::ProgramFolder& folder);
+
 Display ReadDisplay(storage::ProgramFolder& folder);
 
 storage::Outcome WriteSmallerScreen(storage::ProgramFolder& folder, bool smaller_screen);

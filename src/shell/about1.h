@@ -3,6 +3,7 @@
 #include "forms/command.h"
 #include "forms/form.h"
 #include "forms/label.h"
+#include "forms/text_box.h"
 
 namespace tarnwell::shell {
 
@@ -14,7 +15,13 @@ class About1 : public forms::Form {
   forms::Label product;
   forms::Label version;
   forms::Label maker;
+  forms::Label data_place{*this, "Label4"};
+  forms::Command open_folder{*this, "Command2", "Open &Folder"};
+  forms::TextBox licenses{*this, "Text1", {.spoken_name = "Licenses"}};
   forms::Command close;
+
+ private:
+  void OpenFolder();
 };
 
 }  // namespace tarnwell::shell

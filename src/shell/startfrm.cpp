@@ -9,6 +9,7 @@
 #include "parts/color_choice.h"
 #include "parts/help_menu.h"
 #include "settings/display_settings.h"
+#include "shell/data_place.h"
 #include "shell/reminder.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
@@ -40,6 +41,7 @@ forms::Size NormalWindowSize(const settings::Display& stored) {
 Startfrm::Startfrm(forms::Context& context)
     : Form(context, forms::form_names::kStartfrm, "Tarnwell") {
   hidden_title.SetVisible(false);
+  data_place.SetVisible(false);
   reminder.SetVisible(false);
 
   emblem.SetSpokenName("Begin");
@@ -83,6 +85,15 @@ void Startfrm::BuildMenus() {
   SetPopupMenu(options);
   SetHelpContext(parts::kProgramOverview);
   parts::AddHelpMenu(*this, context_);
+}
+
+void Startfrm::Load() {
+  // Asked before anything is read, as that makes the files of the settings.
+  if (settings::IsFirstStart(context_.folder)) {
+    data_place.SetCaption(DataPlaceText(context_.folders.ProgramPath()));
+    data_place.SetVisible(true);
+  }
+  RunLoadRoutine();
 }
 
 void Startfrm::RunLoadRoutine() {

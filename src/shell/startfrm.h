@@ -19,6 +19,7 @@ class Startfrm : public forms::Form {
   forms::Label purpose{center, "Label3", "Everything a small company keeps, in one place"};
   forms::Label today{center, "Label4", {}, forms::LabelRole::kHeading};
   forms::Label hidden_title{center, "Label8"};
+  forms::Label data_place{center, "Label9", {}, forms::LabelRole::kNote};  // at the first start
   forms::Picture emblem{center, "Image1", "tarnwell.svg"};
   forms::Picture scene{center, "Image2", "start-scene.svg"};
   forms::Command begin{center, "Command2", "&Click to Begin Program"};
@@ -33,7 +34,7 @@ class Startfrm : public forms::Form {
   forms::Command view_planner{reminder, "Command3", "&View"};
   forms::Command close_reminder{reminder, "Command4", "&Close"};
 
-  void Load() override { RunLoadRoutine(); }
+  void Load() override;
   void Activate() override;
   bool QueryUnload(forms::UnloadCause cause) override;
   void Resized() override;

@@ -15,6 +15,7 @@
 #include "desktop/services/qt_modem.h"
 #include "parts/phone_dialer.h"
 #include "support/form_rig.h"
+#include "support/temporary_folder.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -192,7 +193,8 @@ TEST(QtModem, ReceivesNothingThatCameBeforeTheNumberWasSent) {
 
 TEST(QtLauncher, TakesAddressesOfTheWebAndOfMailOnly) {
   std::string opened;
-  QtLauncher launcher([&](const QUrl& url) {
+  const testing::TemporaryFolder folder;
+  QtLauncher launcher(QString::fromStdString(folder.path()), [&](const QUrl& url) {
     opened = url.toEncoded().toStdString();
     return true;
   });
@@ -229,6 +231,13 @@ TEST(QtLauncher, TakesAddressesOfTheWebAndOfMailOnly) {
     EXPECT_EQ(launcher.WriteMail(one.typed), !one.mail.empty()) << one.typed;
     EXPECT_EQ(opened, one.mail) << one.typed;
   }
+  EXPECT_TRUE(launcher.OpenProgramFolder());
+  EXPECT_EQ(opened, "file://" + folder.path());
+  // A file in its place, which the system might run, is not opened.
+  opened.clear();
+  folder.Write("note", "");
+  const QString file = QString::fromStdString(folder.path() + "/note");
+  EXPECT_FALSE(QtLauncher(file, [](const QUrl&) { return true; }).OpenProgramFolder());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "shell/startfrm.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -8,6 +9,8 @@
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
 #include "settings/display_settings.h"
+#include "shell/about1.h"
+#include "shell/data_place.h"
 #include "storage/record_file.h"
 #include "support/failing_file_system.h"
 #include "support/program_rig.h"
@@ -43,6 +46,28 @@ TEST_F(StartfrmTest, AFirstRunIsMaximisedAndBlueWithTodaysDateAndWithoutAReminde
   EXPECT_EQ(form().focus(), &form().begin);
   EXPECT_EQ(rig.window.hourglasses, 0);
   EXPECT_EQ(rig.program->variables().SplashShown, 99);
+}
+
+TEST(DataPlaceTextTest, ALongPathIsBrokenBehindANameWhereItCanBe) {
+  const std::string head = "All that you enter is kept in this folder:\n";
+  const std::string name(30, 'n');
+  const std::string endless(50, 'n');
+  const struct {
+    std::string path, lines;
+  } cases[] = {{"/home/ann/Tarnwell", "/home/ann/Tarnwell"},
+               {"/" + name + "/" + name + "/T", "/" + name + "/\n" + name + "/T"},
+               {"/" + endless, "/" + endless.substr(7) + "\n" + endless.substr(43)}};
+  for (const auto& one : cases) EXPECT_EQ(DataPlaceText(one.path), head + one.lines);
+}
+
+TEST_F(StartfrmTest, TheFirstStartAloneTellsWhereTheDataIs) {
+  Start();
+  EXPECT_TRUE(form().data_place.Reachable());
+  EXPECT_THAT(form().data_place.caption(), ::testing::HasSubstr("/home/ann/Tarnwell"));
+  rig.ClickMenu("mOPDefault");  // runs the load routine again
+  EXPECT_TRUE(form().data_place.Reachable());
+  Start();
+  EXPECT_FALSE(form().data_place.visible());
 }
 
 TEST_F(StartfrmTest, TheSplashStaysFourSecondsAndComesOnce) {
@@ -262,6 +287,24 @@ TEST_F(StartfrmTest, AboutIsModalAndHelpOpensByNumber) {
   EXPECT_EQ(rig.top(), "Startfrm");
   rig.ClickMenu("mHI");
   EXPECT_EQ(rig.help.shown, std::vector<int>{1000});
+}
+
+TEST_F(StartfrmTest, AboutTellsWhereTheDataIsAndOpensTheFolder) {
+  Start();
+  rig.loop.during_modal = [&] {
+    auto& about = rig.Get<About1>("About1");
+    EXPECT_THAT(about.data_place.caption(), ::testing::HasSubstr("/home/ann/Tarnwell"));
+    about.open_folder.Click();
+    EXPECT_THAT(rig.launcher.launched, ::testing::ElementsAre("program folder"));
+    rig.launcher.refuse = true;
+    rig.dialogs.ExpectWarning(
+        "Data Folder", "No program on this computer could open this folder:\n/home/ann/Tarnwell");
+    about.open_folder.Click();
+    about.licenses.Type("");
+    EXPECT_FALSE(about.licenses.text().empty());
+    about.close.Click();
+  };
+  rig.ClickMenu("mHAbout");
 }
 
 }  // namespace

@@ -243,6 +243,7 @@ class FakeLauncher : public forms::Launcher {
  public:
   bool OpenWeb(std::string_view address) override { return Take("web ", address); }
   bool WriteMail(std::string_view address) override { return Take("mail ", address); }
+  bool OpenProgramFolder() override { return Take("program folder", ""); }
 
   std::vector<std::string> launched;
   bool refuse = false;

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include "desktop/widgets/text.h"
@@ -42,7 +43,13 @@ QString SuppliedFolder(const QString& executable_folder) {
 Folders ChooseFolders(const QString& executable_folder, const QString& per_user) {
   const bool portable = IsPortable(executable_folder);
   if (!portable) QDir().mkpath(per_user);
-  return {portable ? executable_folder : per_user, SuppliedFolder(executable_folder)};
+  return {portable ? executable_folder : per_user, SuppliedFolder(executable_folder), portable};
+}
+
+void KeepTogether(const Folders& folders) {
+  if (folders.portable) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folders.user);
+  }
 }
 
 Folders ChooseFolders() {

@@ -1,6 +1,7 @@
 #include "desktop/services/qt_launcher.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 
 #include "desktop/widgets/text.h"
 
@@ -32,6 +33,11 @@ bool QtLauncher::WriteMail(std::string_view address) {
   url.setScheme(QStringLiteral("mailto"));
   url.setPath(text);
   return open_(url);
+}
+
+bool QtLauncher::OpenProgramFolder() {
+  const QFileInfo folder(program_folder_);
+  return folder.isDir() && open_(QUrl::fromLocalFile(folder.absoluteFilePath()));
 }
 
 }  // namespace tarnwell::desktop

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QString>
 #include <QUrl>
 #include <functional>
+#include <utility>
 
 #include "forms/launcher.h"
 
@@ -13,12 +15,15 @@ class QtLauncher : public forms::Launcher {
   using Opener = std::function<bool(const QUrl&)>;
   static bool OpenWithSystem(const QUrl& address);
 
-  explicit QtLauncher(Opener open = OpenWithSystem) : open_(std::move(open)) {}
+  explicit QtLauncher(const QString& program_folder, Opener open = OpenWithSystem)
+      : program_folder_(program_folder), open_(std::move(open)) {}
 
   bool OpenWeb(std::string_view address) override;
   bool WriteMail(std::string_view address) override;
+  bool OpenProgramFolder() override;
 
  private:
+  QString program_folder_;
   Opener open_;
 };
 

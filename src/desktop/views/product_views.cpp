@@ -5,6 +5,11 @@
 #include "shell/splash1.h"
 
 namespace tarnwell::desktop {
+namespace {
+
+constexpr QSize kLeastLicenses{480, 160};  // pixels
+
+}  // namespace
 
 QWidget* View(shell::Splash1& form, PictureStore& pictures) {
   return Card(Padded(Row(
@@ -19,9 +24,11 @@ QWidget* View(shell::Splash1& form, PictureStore& pictures) {
 QWidget* View(shell::About1& form, PictureStore& pictures) {
   return Padded(Column({
       Row({Widget(form.logo, pictures),
-           Column({Spring(), Widget(form.product), Widget(form.version), Widget(form.maker),
-                   Spring()})},
+           Grow(Column({Spring(), Widget(form.product), Widget(form.version), Widget(form.maker),
+                        Spring()}))},
           kPageSpace),
+      Row({Grow(Widget(form.data_place)), AtTop(Widget(form.open_folder))}),
+      Grow(AtLeast(kLeastLicenses, Widget(form.licenses))),
       Row({Spring(), Primary(Widget(form.close))}),
   }));
 }

@@ -18,6 +18,7 @@ QWidget* Center(shell::Startfrm& form, PictureStore& pictures) {
       Primary(Widget(form.begin)),
       Row({Widget(form.full_screen), Widget(form.smaller_screen), Spring(),
            WithIcon("exit", Widget(form.exit))}),
+      Widget(form.data_place),
   });
   return Widget(form.center,
                 Card(Row({Widget(form.scene, pictures), words}, kPageSpace + kWideSpace)));
