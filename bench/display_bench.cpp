@@ -42,12 +42,6 @@ constexpr double kLongestPages = 1000;  // likewise, for 1,000 pages
 constexpr double kMostBytes = 100;      // a cell, beyond its text
 constexpr DisplayOption kAddress{.caption = "Address", .entry = 2, .is_address = true};
 
-bool Tell(const char* title, double taken, double aim, const char* unit = "ms") {
-  std::printf("%-50s %9.2f %s, aim %.0f%s\n", title, taken, unit, aim,
-              taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
 double Slowest(const std::function<void(int)>& work) {
   double slowest = 0;
   for (int i = 0; i < kTimes; ++i) {

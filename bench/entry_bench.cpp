@@ -54,11 +54,6 @@ bool MeasureFiles(storage::ProgramFolder& folder) {
   return table.Print();
 }
 
-bool Tell(const char* title, double taken, double aim) {
-  std::printf("%-50s %9.2f ms, aim %.0f%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
 bool MeasureScreen(forms::Navigator& navigator) {
   navigator.Show(forms::form_names::kContactEntry);
   auto& form = static_cast<record_book::EntryScreen&>(*navigator.top());

@@ -108,6 +108,7 @@ class IdleModem : public forms::Modem {
 class IdleLauncher : public forms::Launcher {
   bool OpenWeb(std::string_view) override { return false; }
   bool WriteMail(std::string_view) override { return false; }
+  bool OpenProgramFolder() override { return false; }
 };
 
 class IdleVolumes : public forms::Volumes {

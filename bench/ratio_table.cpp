@@ -22,6 +22,23 @@ double Median(std::vector<double> values) {
 
 }  // namespace
 
+const char* Verdict(double measured, double aim) {
+  if (measured <= aim) return "";
+  return Stands(measured, aim) ? "  missed" : "  missed by more than a third";
+}
+
+bool Tell(const char* title, double measured, double aim, const char* unit) {
+  std::printf("%-58s %10.3f %s, aim %g%s\n", title, measured, unit, aim, Verdict(measured, aim));
+  return Stands(measured, aim);
+}
+
+bool TellWorst(const char* title, std::vector<double> measured, double aim, const char* unit) {
+  const double worst = *std::ranges::max_element(measured);
+  std::printf("%-58s %10.3f %s median, %.3f %s worst of %zu, aim %g%s\n", title, Median(measured),
+              unit, worst, unit, measured.size(), aim, Verdict(worst, aim));
+  return Stands(worst, aim);
+}
+
 void RatioTable::Measure(std::string title, double aim, int rounds, const Work& ours,
                          const Work& bare) {
   bare();
@@ -44,10 +61,9 @@ bool RatioTable::Print() const {
   std::printf("%-58s %10s %10s %7s %6s\n", "", "ours ms", "bare ms", "ratio", "aim");
   bool is_good = true;
   for (const Row& row : rows_) {
-    const bool is_met = row.ratio <= row.aim;
-    is_good = is_good && is_met;
+    is_good = is_good && Stands(row.ratio, row.aim);
     std::printf("%-58s %10.3f %10.3f %7.2f %6.2f%s\n", row.title.c_str(), row.ours, row.bare,
-                row.ratio, row.aim, is_met ? "" : "  missed");
+                row.ratio, row.aim, Verdict(row.ratio, row.aim));
   }
   return is_good;
 }

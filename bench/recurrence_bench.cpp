@@ -179,8 +179,8 @@ int Run(const std::string& parent) {
   const bool is_met = table.Print();
   const double gap = planner.longest_gap();
   std::printf("Longest gap between two yields: %.2f ms, aim %.0f ms%s\n", gap, kLongestGap,
-              gap < kLongestGap ? "" : "  missed");
-  return is_met && gap < kLongestGap ? 0 : 1;
+              Verdict(gap, kLongestGap));
+  return is_met && Stands(gap, kLongestGap) ? 0 : 1;
 }
 
 }  // namespace

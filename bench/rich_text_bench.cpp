@@ -56,15 +56,6 @@ std::string MakeDocument() {
   return rtf + "}\n";
 }
 
-// Prints the median and the worst; false if the worst is above the aim.
-bool Judge(const char* title, std::vector<double> times, double aim) {
-  std::ranges::sort(times);
-  const bool is_met = times.back() <= aim;
-  std::printf("%-58s %10.3f ms median, %.3f ms worst of %zu, aim %.0f%s\n", title,
-              times[times.size() / 2], times.back(), times.size(), aim, is_met ? "" : "  missed");
-  return is_met;
-}
-
 double PressNext(Editor& editor, int number) {
   const std::pair<int, QString> kKinds[] = {{Qt::Key_A, QStringLiteral("a")},
                                             {Qt::Key_Space, QStringLiteral(" ")},
@@ -79,7 +70,7 @@ bool MeasureOpening(Editor& editor, const std::string& bytes) {
   for (int i = 0; i < kOpenings; ++i) {
     times.push_back(Editor::Time([&] { editor.Open(bytes); }));
   }
-  return Judge("Read 300 pages and show the first screen", std::move(times), kLongestOpening);
+  return TellWorst("Read 300 pages and show the first screen", std::move(times), kLongestOpening);
 }
 
 // While the rest of the document is still on its way to the screen.
@@ -92,8 +83,8 @@ bool MeasureFirstKeys(Editor& editor, const std::string& bytes) {
   std::vector<double> letters;
   editor.Open(bytes);
   for (int i = 0; i < 3 * kKeys; ++i) letters.push_back(PressNext(editor, i));
-  const bool steps = Judge("An arrow key in the first second", std::move(arrows), kLongestKey);
-  return Judge("A key from the first screen on", std::move(letters), kLongestKey) && steps;
+  const bool steps = TellWorst("An arrow key in the first second", std::move(arrows), kLongestKey);
+  return TellWorst("A key from the first screen on", std::move(letters), kLongestKey) && steps;
 }
 
 bool MeasureKeys(Editor& editor, const std::string& bytes) {
@@ -104,7 +95,7 @@ bool MeasureKeys(Editor& editor, const std::string& bytes) {
     editor.GoTo(place);
     for (int i = 0; i < kKeys; ++i) times.push_back(PressNext(editor, i));
   }
-  return Judge("A key in 300 pages", std::move(times), kLongestKey);
+  return TellWorst("A key in 300 pages", std::move(times), kLongestKey);
 }
 
 bool MeasureTable(Editor& editor, const std::string& bytes) {
@@ -117,7 +108,7 @@ bool MeasureTable(Editor& editor, const std::string& bytes) {
     const bool back = i % 2 != 0;
     times.push_back(editor.ChangeTable(25, back ? 5000 : 4320, back ? 4320 : 5000));
   }
-  return Judge("A table changed in 300 pages", std::move(times), kLongestKey);
+  return TellWorst("A table changed in 300 pages", std::move(times), kLongestKey);
 }
 
 bool MeasureBold(Editor& editor, const std::string& bytes) {
@@ -127,7 +118,7 @@ bool MeasureBold(Editor& editor, const std::string& bytes) {
     const double all = editor.Press(Qt::Key_A, {}, Qt::ControlModifier);
     times.push_back(all + editor.Press(Qt::Key_B, {}, Qt::ControlModifier));
   }
-  return Judge("Select all of 300 pages and make it bold", std::move(times), kLongestOfAll);
+  return TellWorst("Select all of 300 pages and make it bold", std::move(times), kLongestOfAll);
 }
 
 // What the bar above a document asks at each move of the cursor, and for a selection of everything.
@@ -139,7 +130,7 @@ bool MeasureLook(Editor& editor, const std::string& bytes) {
        {richtext::Range{{1, 3}, {1, 3}}, {{last, 3}, {last, 3}}, {{0, 0}, {last, 3}}}) {
     times.push_back(editor.TimeOfLook(place));
   }
-  return Judge("The state at the cursor in 300 pages", std::move(times), kLongestLook);
+  return TellWorst("The state at the cursor in 300 pages", std::move(times), kLongestLook);
 }
 
 std::string ReadBare(const std::string& path, std::size_t size) {

@@ -47,9 +47,9 @@ long Median(std::vector<long> values) {
 bool ReportMemory(const std::vector<long>& ours, const std::vector<long>& bare) {
   constexpr double kAim = 1.5;
   const double ratio = static_cast<double>(Median(ours)) / static_cast<double>(Median(bare));
-  std::printf("Peak memory: %ld KiB against %ld KiB, ratio %.2f, aim %.2f\n", Median(ours),
-              Median(bare), ratio, kAim);
-  return ratio <= kAim;
+  std::printf("Peak memory: %ld KiB against %ld KiB, ratio %.2f, aim %.2f%s\n", Median(ours),
+              Median(bare), ratio, kAim, Verdict(ratio, kAim));
+  return Stands(ratio, kAim);
 }
 
 int Run(const std::filesystem::path& programs) {

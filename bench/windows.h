@@ -30,12 +30,6 @@ inline double MedianOf(int times, const std::function<void(int)>& work) {
   return taken[taken.size() / 2];
 }
 
-// Prints a time beside the most that it should be, both in milliseconds. False where it is more.
-inline bool Tell(const char* title, double taken, double aim) {
-  std::printf("%-50s %8.3f ms, aim %g%s\n", title, taken, aim, taken <= aim ? "" : "  missed");
-  return taken <= aim;
-}
-
 // Their main(): the program's look, where QT_QPA_PLATFORM says, "offscreen" if nothing does. `run`
 // gets the folder to work in.
 inline int RunInWindows(int count, char** arguments, int (*run)(const std::string& folder)) {

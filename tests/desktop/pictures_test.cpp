@@ -12,6 +12,8 @@
 #include <QUrl>
 #include <QWheelEvent>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "desktop/services/page_output.h"
 #include "desktop/services/qt_pictures.h"
@@ -94,6 +96,25 @@ TEST_F(QtPicturesTest, DeepAndFlatScansAreRead) {
     EXPECT_LT(shown.pixelColor(3, 2).lightness(), 20) << c.type << " " << c.format;
     EXPECT_GT(shown.pixelColor(16, 8).lightness(), 235) << c.type << " " << c.format;
   }
+}
+
+// One in the four colours of a printer, and two pages as a fax machine packs them.
+TEST_F(QtPicturesTest, OtherProgramsScansAreReadAndOfSeveralPagesTheFirst) {
+  const auto load = [&](const char* name) {
+    std::ifstream file(std::string(TARNWELL_TEST_DATA "/pictures/") + name, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator(file), {}};
+    return Shown(Load(QByteArray::fromStdString(bytes)));
+  };
+  const QImage four_colors = load("cmyk.jpg");
+  ASSERT_EQ(four_colors.size(), QSize(32, 16));
+  const QColor red = four_colors.pixelColor(4, 2);
+  EXPECT_TRUE(red.red() > 180 && red.blue() < 60) << red.name().toStdString();
+  const QColor blue = four_colors.pixelColor(28, 12);
+  EXPECT_TRUE(blue.blue() > 180 && blue.red() < 60) << blue.name().toStdString();
+  const QImage first_page = load("two-pages.tif");
+  ASSERT_EQ(first_page.size(), QSize(24, 12));
+  EXPECT_EQ(first_page.pixelColor(2, 2).lightness(), 0);
+  EXPECT_EQ(first_page.pixelColor(20, 9).lightness(), 255);
 }
 
 TEST_F(QtPicturesTest, AnUprightPictureStandsUpright) {
