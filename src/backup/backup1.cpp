@@ -24,11 +24,6 @@ const BackupSet& SetInHand(const forms::ProgramVariables& variables) {
   return set ? *set : BackupSets().front();
 }
 
-std::string WithoutSlash(std::string path) {
-  if (path.size() > 1 && path.ends_with('/')) path.pop_back();
-  return path;
-}
-
 // "1.4 GB"
 std::string SizeText(std::uint64_t bytes) {
   constexpr std::array kUnits = {"bytes", "KB", "MB", "GB", "TB"};

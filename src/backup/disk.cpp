@@ -9,14 +9,11 @@
 #include "text/letters.h"
 
 namespace tarnwell::backup {
-namespace {
 
 std::string WithoutSlash(std::string path) {
   while (path.size() > 1 && path.ends_with('/')) path.pop_back();
   return path;
 }
-
-}  // namespace
 
 Disk::Disk(storage::FileSystem& files, std::string_view path)
     : files_(files), path_(WithoutSlash(text::ToUtf8(path).bytes())), names_(files, path_) {}

@@ -14,6 +14,9 @@
 
 namespace tarnwell::backup {
 
+// A path without the "/" behind it; "/" stays.
+std::string WithoutSlash(std::string path);
+
 // Names are texts of code page 1252 and are found whatever their capitals. None leads out of the
 // folder.
 class Disk {

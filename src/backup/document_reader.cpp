@@ -9,8 +9,6 @@
 namespace tarnwell::backup {
 namespace {
 
-constexpr int kBarLead = 5;
-constexpr int kBarTotal = 168;
 constexpr std::string_view kTest = "Test1.hb1";
 
 }  // namespace

@@ -9,10 +9,6 @@
 namespace tarnwell::backup {
 namespace {
 
-// The bar's place of an index, and its maximum.
-constexpr int kBarLead = 5;
-constexpr int kBarTotal = 168;
-
 constexpr std::string_view kExtensions[] = {".Fl2", ".Fla", ".Fl5", ".Fl6", ".Fl7"};
 
 }  // namespace

@@ -21,6 +21,9 @@ struct DocumentFile {
 std::span<const DocumentFile> FixedDocuments();
 
 inline constexpr int kDocumentPositions = 162;  // the last index
+// The progress bar's place of an index lies so far ahead of it, and its maximum.
+inline constexpr int kBarLead = 5;
+inline constexpr int kBarTotal = 168;
 // The file with that index, from 0; an empty name where there is none.
 DocumentFile NumberedDocument(int index);
 

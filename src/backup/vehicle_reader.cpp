@@ -8,14 +8,13 @@
 #include "backup/vehicle_writer.h"
 #include "storage/file_names.h"
 #include "text/letters.h"
+#include "vehicles/vehicle_slots.h"
 
 namespace tarnwell::backup {
 namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr std::size_t kRecordLength = 150;  // bytes
-constexpr int kMostSlots = 30'000;
 constexpr std::string_view kTable = "CarMnt1.Ab1";
 
 std::optional<std::string> ReadAll(Disk& disk, std::string_view name) {
@@ -57,7 +56,7 @@ std::vector<std::string> VehicleReader::Check(Disk& disk, const DiskInfo& info) 
 }
 
 int VehicleReader::total(const DiskInfo& first) const {
-  return std::min(first.count, kMostSlots) * static_cast<int>(set_.files.size());
+  return std::min(first.count, vehicles::kMostSlots) * static_cast<int>(set_.files.size());
 }
 
 VehicleReader::Span VehicleReader::SlotsOf(int kind, int before, int position) const {
@@ -74,7 +73,7 @@ Step VehicleReader::TakeDisk(Disk& disk, const DiskInfo& info, storage::Replacem
     report_ = {};
     missing_.clear();
     next_ = 0;
-    slots_ = std::min(info.count, kMostSlots);
+    slots_ = std::min(info.count, vehicles::kMostSlots);
     if (const Step table = TakeTable(disk, made); table != Step::kDone) return table;
   }
   // Another backup's disk has another number of vehicles, or ends before this one begins.
@@ -94,9 +93,10 @@ Step VehicleReader::TakeTable(Disk& disk, storage::Replacement& made) {
   auto table = ReadAll(disk, kTable);
   if (!table || table->empty()) return Step::kBadSource;
   const auto count = static_cast<std::size_t>(slots_);
-  table->resize(std::min(table->size(), count * kRecordLength));
+  table->resize(std::min(table->size(), count * vehicles::kSlotRecordLength));
   while (!table->empty()) {
-    const std::size_t last = (table->size() - 1) / kRecordLength * kRecordLength;
+    const std::size_t last =
+        (table->size() - 1) / vehicles::kSlotRecordLength * vehicles::kSlotRecordLength;
     const bool is_blank =
         table->find_first_not_of(std::string_view("\0 ", 2), last) == std::string::npos;
     if (!is_blank) break;

@@ -14,9 +14,6 @@ namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr std::uint64_t kRecordLength = 150;  // bytes
-constexpr int kMostSlots = 30'000;
-
 std::string Written(std::string_view line) {
   storage::SequentialWriter writer;
   writer.WriteText(line);
@@ -42,10 +39,11 @@ bool IsVehicleFile(std::string_view name) {
 
 int SlotCount(storage::ProgramFolder& folder) {
   const std::uint64_t bytes = folder.Length(file_names::kVehicleSlots);
-  auto slots = static_cast<int>(
-      std::min<std::uint64_t>((bytes + kRecordLength - 1) / kRecordLength, kMostSlots));
+  auto slots = static_cast<int>(std::min<std::uint64_t>(
+      (bytes + vehicles::kSlotRecordLength - 1) / vehicles::kSlotRecordLength,
+      vehicles::kMostSlots));
   for (const vehicles::Vehicle& vehicle : vehicles::ReadVehicles(folder).vehicles) {
-    slots = std::max(slots, std::min(vehicle.slot, kMostSlots));
+    slots = std::max(slots, std::min(vehicle.slot, vehicles::kMostSlots));
   }
   return slots;
 }

@@ -103,6 +103,14 @@ storage::Outcome Budget1a::WriteYear(int year) {
                          {.rows = ShownRows(), .income = months_.income, .rest = rest_});
 }
 
+std::vector<std::string> Budget1a::TextsBeside() const {
+  return {months_.income.begin(), months_.income.end()};
+}
+
+void Budget1a::PutTextsBeside(std::vector<std::string> texts) {
+  std::ranges::move(texts, months_.income.begin());
+}
+
 void Budget1a::Recompute(int) {
   months_ = ComputeMonths(ShownRows(), months_.income);
   for (std::size_t month = 0; month < kMonths; ++month) {

@@ -34,6 +34,8 @@ class Budget1a : public year_sheet::YearSheet {
  protected:
   storage::Fault ReadYear(int year) override;
   storage::Outcome WriteYear(int year) override;
+  std::vector<std::string> TextsBeside() const override;
+  void PutTextsBeside(std::vector<std::string> texts) override;
   std::string FileOf(int year) const override;
   void Recompute(int row) override;
   void InsertRow(int row) override;

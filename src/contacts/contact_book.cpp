@@ -13,7 +13,7 @@ constexpr std::size_t kWidth = 40;
 constexpr std::size_t kCommentsWidth = 230;
 constexpr int kComments = kContactEntries - 1;
 
-constexpr auto kFields = [] {
+constexpr auto kStored = [] {
   std::array<StoredField, kContactEntries + 1> fields{};
   for (int entry = 0; entry < kComments; ++entry) {
     fields[static_cast<std::size_t>(entry)] = {kWidth, entry};
@@ -31,7 +31,7 @@ const record_book::BookLayout& ContactBook() {
       .record_length = 1190,
       .index = storage::file_names::kContactIndex,
       .pictures = storage::file_names::kContactPictures,
-      .fields = kFields,
+      .fields = kStored,
       .entries = kContactEntries,
       .two_names = false,
       .clears_on_deletion = false,

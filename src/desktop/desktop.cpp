@@ -29,6 +29,10 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
                    &window_, [this] { folder_.CloseNote(); });
 }
 
-void Desktop::Start() { program_.Start(); }
+void Desktop::Start() {
+  program_.Start();
+  QObject::connect(&keeping_, &QTimer::timeout, &window_, [this] { program_.KeepDrafts(); });
+  keeping_.start(program::Drafts::kEvery);
+}
 
 }  // namespace tarnwell::desktop

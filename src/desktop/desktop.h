@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <QTimer>
+
 #include "desktop/main_window.h"
 #include "desktop/services/folders.h"
 #include "desktop/services/html_help_viewer.h"
@@ -63,7 +65,8 @@ class Desktop {
   QtLauncher launcher_;
   QtVolumes volumes_;
   MainWindow window_;
-  program::Program program_;  // goes first: its forms need all the others
+  program::Program program_;  // goes before all above: its forms need them
+  QTimer keeping_;            // of what is typed and not saved
 };
 
 }  // namespace tarnwell::desktop

@@ -7,7 +7,7 @@ namespace {
 
 using record_book::StoredField;
 
-constexpr StoredField kFields[] = {
+constexpr StoredField kStored[] = {
     {21, 0},  {21, 1},   {30, 2},
     {30, 3},  {25, 4},   {20, 5},
     {10, 6},  {20, 7},   {20, 8},
@@ -24,7 +24,7 @@ const record_book::BookLayout& EmployeeBook() {
       .record_length = 1002,
       .index = storage::file_names::kEmployeeIndex,
       .pictures = storage::file_names::kEmployeePictures,
-      .fields = kFields,
+      .fields = kStored,
       .entries = kEmployeeEntries,
       .two_names = true,
       .clears_on_deletion = true,

@@ -11,6 +11,7 @@
 #include "forms/color.h"
 #include "forms/context.h"
 #include "forms/control.h"
+#include "forms/draft.h"
 #include "forms/menu.h"
 
 namespace tarnwell::forms {
@@ -30,6 +31,13 @@ class Form : public Container {
   virtual void Unload() {}
   // The window has a new size, or was maximised or restored.
   virtual void Resized() {}
+
+  // What a person has typed and not saved, as far as the form can give it back after a crash. Asked
+  // while it is unsaved(), at any moment between two gestures; nothing may change by it.
+  virtual std::optional<Draft> TakeDraft() { return std::nullopt; }
+  // Shows that again, as typed and not saved. The form was just shown and the files are those that
+  // the draft was typed upon. False where it can't be; what is shown then is as it was loaded.
+  virtual bool PutDraft(DraftTexts /*texts*/) { return false; }
 
   const std::string& name() const { return name_; }
   const std::string& caption() const { return caption_; }

@@ -9,7 +9,7 @@
 namespace tarnwell::forms {
 namespace {
 
-const std::string kEmpty;
+const std::string kNoText;
 
 bool IsBlank(std::string_view text) { return text.find_first_not_of(' ') == text.npos; }
 
@@ -36,7 +36,7 @@ void GridCells::Clear() {
 
 const std::string& GridCells::text(int row, int column) const {
   const std::vector<std::string>& cells = RowAt(row).cells;
-  return cells.empty() ? kEmpty : cells[static_cast<std::size_t>(column)];
+  return cells.empty() ? kNoText : cells[static_cast<std::size_t>(column)];
 }
 
 bool GridCells::SetText(int row, int column, std::string_view text) {

@@ -30,6 +30,7 @@ class EventLoop {
 };
 
 // A twip is a twentieth of a point; a pixel of a standard display has 15 of them.
+inline constexpr double kTwipsPerPoint = 20;
 inline constexpr int kTwipsPerPixel = 15;
 
 struct Size {

@@ -5,7 +5,7 @@
 namespace tarnwell::images {
 namespace {
 
-constexpr record_book::StoredField kFields[] = {
+constexpr record_book::StoredField kStored[] = {
     {50, 0}, {50, 1}, {kLongestPath, record_book::kPicturePath}};
 
 }  // namespace
@@ -16,7 +16,7 @@ const record_book::BookLayout& ImageBook() {
       .record_length = 300,
       .index = storage::file_names::kImageIndex,
       .pictures = {},
-      .fields = kFields,
+      .fields = kStored,
       .entries = 2,
       .two_names = false,
       .clears_on_deletion = false,

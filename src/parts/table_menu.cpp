@@ -24,7 +24,7 @@ constexpr const char* kTitle = "Insert Table";
 constexpr std::size_t kLongestSize = 20;  // letters
 
 // "3 x 4": two numbers with anything between them. Empty for what is no size of a table.
-std::optional<std::pair<int, int>> SizeOf(const std::string& text) {
+std::optional<std::pair<int, int>> RowsAndColumnsOf(const std::string& text) {
   constexpr const char* kDigits = "0123456789";
   int numbers[2] = {0, 0};
   std::size_t at = 0;
@@ -83,7 +83,7 @@ void TableMenu::Insert() {
   box.max_length = kLongestSize;
   const auto typed = context_.dialogs.Input(box);
   if (typed) {
-    if (const auto size = SizeOf(*typed)) {
+    if (const auto size = RowsAndColumnsOf(*typed)) {
       text_.InsertTable(size->first, size->second);
     } else {
       forms::ShowMessage(

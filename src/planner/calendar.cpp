@@ -10,13 +10,14 @@
 #include "print/print_pages.h"
 #include "settings/planner_settings.h"
 #include "settings/print_settings.h"
+#include "storage/file_names.h"
 #include "storage/sequential_file.h"
 #include "text/date_mask.h"
 
 namespace tarnwell::planner {
 namespace {
 
-constexpr int kHelp = 3062;
+constexpr int kCalendarHelp = 3062;
 constexpr const char* kSaveTitle = "Save Option";
 constexpr parts::SaveWords kLeaving{kSaveTitle, "Save changes made to data before next action?",
                                     forms::Buttons::kYesNoCancel};
@@ -44,7 +45,7 @@ Calendar::Calendar(forms::Context& context)
   }
   ConnectControls();
   BuildMenus();
-  SetHelpContext(kHelp);
+  SetHelpContext(kCalendarHelp);
   parts::AddHelpMenu(*this, context_);
 }
 
@@ -192,6 +193,35 @@ parts::SaveResult Calendar::Save() {
   SetChanges(false, false);
   SetStatus(TitleOf(loaded_) + " has been saved.");
   return parts::SaveResult::kSaved;
+}
+
+std::optional<forms::Draft> Calendar::TakeDraft() {
+  forms::Draft draft{
+      "Calendar - " + TitleOf(loaded_),
+      {storage::file_names::CalendarSheet(text::YearOf(loaded_), text::MonthOf(loaded_))},
+      {}};
+  draft.Add(loaded_);
+  const MonthSheet sheet = Written();
+  for (const DayLines& day : sheet.days) {
+    for (const std::string& line : day) draft.Add(line);
+  }
+  return draft;
+}
+
+// In the font that is stored.
+bool Calendar::PutDraft(forms::DraftTexts texts) {
+  const auto day = texts.NextDate();
+  if (!day) return false;
+  picker.SetDate(*day);
+  LoadMonth(*day);
+  if (!is_readable_) return false;
+  for (DayLines& lines_of_day : sheet_.days) {
+    for (std::string& line : lines_of_day) line = texts.Next();
+  }
+  SetChanges(false, true);
+  ShowDay(*day);
+  Redraw();
+  return true;
 }
 
 void Calendar::DeleteMonth() {

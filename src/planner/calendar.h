@@ -51,6 +51,8 @@ class Calendar : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  private:
   void ConnectControls();

@@ -8,7 +8,7 @@
 namespace tarnwell::planner {
 namespace {
 
-constexpr int kRecordLength = 900;
+constexpr int kDayLength = 900;
 constexpr std::size_t kStoredBytes = 850;
 constexpr std::size_t kTimeWidth = 10;
 constexpr std::size_t kEntryWidth = 50;
@@ -16,7 +16,7 @@ constexpr std::size_t kMarkerWidth = 10;
 constexpr const char* kMarker = "Full";
 
 storage::RecordFile OpenYear(storage::ProgramFolder& folder, text::Date date) {
-  return storage::RecordFile(folder, PlannerYearFileName(text::YearOf(date)), kRecordLength);
+  return storage::RecordFile(folder, PlannerYearFileName(text::YearOf(date)), kDayLength);
 }
 
 int RecordOf(text::Date date) { return DayRecordNumber(text::MonthOf(date), text::DayOf(date)); }

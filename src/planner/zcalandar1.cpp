@@ -17,7 +17,7 @@
 namespace tarnwell::planner {
 namespace {
 
-constexpr int kHelp = 3060;
+constexpr int kPlannerHelp = 3060;
 
 // Every half hour from 6:00 AM to 10:00 PM.
 std::vector<std::string> TimesOffered() {
@@ -130,7 +130,7 @@ void Zcalandar1::BuildMenus() {
   utilities.AddEntry("mUExport", "Export File in Excel/Spreadsheet Format",
                      {[this] { pages.ExportMonth("Daily Planner.xls"); }, {&pages.month.panel}});
   SetPopupMenu(options);
-  SetHelpContext(kHelp);
+  SetHelpContext(kPlannerHelp);
   parts::AddHelpMenu(*this, context_);
 }
 

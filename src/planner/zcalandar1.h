@@ -64,6 +64,8 @@ class Zcalandar1 : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  private:
   enum class SaveNote { kShown, kNone };  // whether a save is confirmed with a box

@@ -55,6 +55,32 @@ bool Zcalandar1::QueryUnload(forms::UnloadCause cause) {
          colors.Leave(buttons);
 }
 
+std::optional<forms::Draft> Zcalandar1::TakeDraft() {
+  if (!loaded_) return std::nullopt;
+  forms::Draft draft{std::string(kTitle) + " - " + date_caption.caption(),
+                     {PlannerYearFileName(text::YearOf(*loaded_))},
+                     {}};
+  draft.Add(*loaded_);
+  for (const DayRow& row : Rows()) {
+    draft.Add(row.time);
+    draft.Add(row.entry);
+  }
+  return draft;
+}
+
+bool Zcalandar1::PutDraft(forms::DraftTexts texts) {
+  const auto date = texts.NextDate();
+  if (!date) return false;
+  picker.SetDate(*date);
+  ShowDay(date);
+  if (loaded_ != date) return false;
+  DayRows rows;
+  for (DayRow& row : rows) row = {texts.Next(), texts.Next()};
+  ShowRows(rows);
+  MarkChanged();
+  return true;
+}
+
 void Zcalandar1::StoreSortTime(int option) {
   const auto stored = settings::WriteSortTime(context_.folder, option);
   if (!stored) forms::TellNotSaved(context_, "The Sort Time choice", stored.fault());

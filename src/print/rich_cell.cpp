@@ -8,7 +8,7 @@
 namespace tarnwell::print {
 namespace {
 
-constexpr int kLeastText = 200;  // twips of a cell's text, however narrow the cell
+constexpr int kLeastCellText = 200;  // twips of a cell's text, however narrow the cell
 
 richtext::Cell LookOf(const richtext::Cell& cell) {
   richtext::Cell look;
@@ -41,7 +41,8 @@ RichCell::RichCell(RichPrinting& printing, const richtext::Cell& cell, const Cel
     : look_(LookOf(cell)),
       place_(place),
       box_(printing,
-           std::max(place.right - place.left - place.inside.left - place.inside.right, kLeastText),
+           std::max(place.right - place.left - place.inside.left - place.inside.right,
+                    kLeastCellText),
            most_height) {
   box_.Add(cell.paragraphs);
 }

@@ -65,10 +65,15 @@ Program::Program(const forms::Services& services) : context_{services, variables
   RegisterForms(navigator_);
 }
 
+Program::~Program() {
+  if (navigator_.ended()) drafts_.Forget();
+}
+
 void Program::Start() {
   context_.folder.Recover();
   if (!backup::SettleInterruptedRestore(context_)) return navigator_.EndProgram();
   navigator_.Show(forms::form_names::kStartfrm);
+  if (!navigator_.ended()) drafts_.Offer();
 }
 
 }  // namespace tarnwell::program

@@ -1,5 +1,7 @@
 // How the entry screen keeps, changes and deletes a record.
 
+#include <algorithm>
+
 #include "forms/disk_trouble.h"
 #include "record_book/entry_screen.h"
 #include "record_book/record_store.h"
@@ -126,6 +128,39 @@ void EntryScreen::Delete() {
   }
   Enter(State::kNoRecord);
   search.Focus();
+}
+
+std::optional<forms::Draft> EntryScreen::TakeDraft() {
+  const BookLayout& book = *style_.book;
+  forms::Draft draft{std::string(is_entry() ? style_.entry_caption : style_.view_caption),
+                     {std::string(book.records), std::string(book.index)},
+                     {}};
+  if (!TextOf(0).empty()) draft.title += " - " + TextOf(0);
+  draft.Add(record_);
+  draft.Add(picture_path_);
+  for (int entry = 0; entry <= last_entry(); ++entry) draft.Add(TextOf(entry));
+  return draft;
+}
+
+bool EntryScreen::PutDraft(forms::DraftTexts texts) {
+  const int record = texts.NextNumber();
+  if (!ShowScreen(record == 0)) return false;
+  if (record != 0) {
+    const auto found = std::ranges::find(entries_, record, &NameEntry::record);
+    if (found == entries_.end()) return false;
+    const int place = static_cast<int>(found - entries_.begin());
+    names.Select(place);
+    searched_ = names.text();
+    search.SetText(searched_);
+    Read(place);
+    if (record_ != record) return false;
+    Enter(State::kModifying);
+  }
+  ShowPicture(texts.Next());
+  for (int entry = 0; entry <= last_entry(); ++entry) SetTextOf(entry, texts.Next());
+  question_.SetUnsaved(true);
+  EnableCommands();
+  return true;
 }
 
 }  // namespace tarnwell::record_book

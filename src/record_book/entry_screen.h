@@ -63,6 +63,8 @@ class EntryScreen : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  protected:
   virtual void OpenSheet();

@@ -14,9 +14,9 @@
 namespace tarnwell::record_book {
 namespace {
 
-constexpr int kPictureSide = 300;  // pixels, on the screen
-constexpr int kHeadTop = 360;      // twips
-constexpr int kLeastPath = 5;      // characters of a path on a page
+constexpr int kShownSide = 300;  // pixels, on the screen
+constexpr int kHeadTop = 360;    // twips
+constexpr int kLeastPath = 5;    // characters of a path on a page
 
 }  // namespace
 
@@ -116,7 +116,7 @@ void PicturePages::ShowPicked() {
       path = read->picture;
     }
   }
-  const parts::ShownPicture loaded = parts::LoadShown(context_, path, kPictureSide, kPictureSide);
+  const parts::ShownPicture loaded = parts::LoadShown(context_, path, kShownSide, kShownSide);
   picture.SetContent(loaded.picture.png);
   picture_note.SetCaption(loaded.note);
 }

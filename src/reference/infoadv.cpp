@@ -13,8 +13,8 @@
 namespace tarnwell::reference {
 namespace {
 
-constexpr int kScreenHelp = 3066;
-constexpr const char* kTitle = "Information Advisor";
+constexpr int kAdvisorHelp = 3066;
+constexpr const char* kAdvisorTitle = "Information Advisor";
 constexpr std::size_t kLongestEntry = 2000;  // characters
 
 struct SideText {
@@ -53,7 +53,7 @@ std::string AsCaption(std::string_view label) {
 
 InfoAdv::InfoAdv(forms::Context& context)
     : MainScreen(
-          context, forms::form_names::kInfoAdv, kTitle, parts::kInformationAdvisor,
+          context, forms::form_names::kInfoAdv, kAdvisorTitle, parts::kInformationAdvisor,
           {"&Company Data", "&Employee Data", "&Tools and Program Information", "&Exit Program"}),
       copy_note(copy_and_paste, "Label2",
                 "(Copy and Paste Web Address from Info on left to View Web Site or PDF)",
@@ -75,8 +75,8 @@ InfoAdv::InfoAdv(forms::Context& context)
   ConnectCommands();
   parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
                           {.set = parts::kDocumentsSet});
-  SetHelpContext(kScreenHelp);
-  parts::AddHelpMenu(*this, context_, {{"&Information Advisor", kScreenHelp}});
+  SetHelpContext(kAdvisorHelp);
+  parts::AddHelpMenu(*this, context_, {{"&Information Advisor", kAdvisorHelp}});
 }
 
 void InfoAdv::ConnectCommands() {
@@ -114,7 +114,7 @@ void InfoAdv::Load() {
 
 void InfoAdv::Choose(Side shown) {
   for (std::size_t i = 0; i < sides.size(); ++i) sides[i].SetSelected(i == shown);
-  SetCaption(std::string(kTitle) + " - " + kSideTexts[shown].caption);
+  SetCaption(std::string(kAdvisorTitle) + " - " + kSideTexts[shown].caption);
   federal.SetVisible(shown == kFederal);
   states.SetVisible(shown == kState);
   std::string told = shown == kFederal ? federal_links_.trouble : state_links_.trouble;

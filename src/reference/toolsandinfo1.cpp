@@ -19,15 +19,15 @@ namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr int kScreenHelp = 3014;
-constexpr const char* kTitle = "Tools and Program Information";
+constexpr int kToolsHelp = 3014;
+constexpr const char* kToolsTitle = "Tools and Program Information";
 constexpr int kShareOfFullScreen = 85;
 constexpr int kWholeShare = 100;
 
 }  // namespace
 
 ToolsandInfo1::ToolsandInfo1(forms::Context& context)
-    : MainScreen(context, forms::form_names::kToolsandInfo1, kTitle,
+    : MainScreen(context, forms::form_names::kToolsandInfo1, kToolsTitle,
                  parts::kToolsAndProgramInformation,
                  {"&Comapny Data", "&Employee Data", "&Information Advisor", "&Exit Program"}),
       link_note(link_panel, "Label3",
@@ -39,10 +39,10 @@ ToolsandInfo1::ToolsandInfo1(forms::Context& context)
   ConnectTexts();
   parts::AddBackupEntries(menus().AddSubmenu("mU", "&Utilities"), context_,
                           {.set = parts::kDocumentsSet});
-  SetHelpContext(kScreenHelp);
+  SetHelpContext(kToolsHelp);
   parts::AddHelpMenu(
       *this, context_,
-      {{"&Tools and Program Information", kScreenHelp}, {"&Print", print::kPrintHelp}});
+      {{"&Tools and Program Information", kToolsHelp}, {"&Print", print::kPrintHelp}});
 }
 
 void ToolsandInfo1::ConnectForms() {
@@ -104,7 +104,7 @@ void ToolsandInfo1::ShowText(forms::Command& button, std::string_view file) {
   for (forms::Command* one : {&disclaimer, &program_information, &incident_report}) {
     one->SetSelected(one == &button);
   }
-  SetCaption(std::string(kTitle) + " - " + button.caption());
+  SetCaption(std::string(kToolsTitle) + " - " + button.caption());
   const std::string told = ShowInformationText(context_.folder, file, text);
   text_trouble.SetCaption(told);
   text_trouble.SetVisible(!told.empty());

@@ -7,11 +7,10 @@
 
 #include "richtext/editor.h"
 #include "richtext/paragraphs.h"
+#include "richtext/table_grid.h"
 
 namespace tarnwell::richtext {
 namespace {
-
-constexpr int kNearly = 60;  // twips; see GridOf
 
 bool StandsAt(const Cell& cell, int edge) { return std::abs(cell.right_edge - edge) <= kNearly; }
 

@@ -16,8 +16,6 @@
 namespace tarnwell::richtext {
 namespace {
 
-bool IsOpaque(const Run& run) { return std::holds_alternative<Opaque>(run.content); }
-
 template <typename Visit>
 void ForEachParagraphOf(std::vector<Block>& blocks, Visit visit) {
   for (Block& block : blocks) {

@@ -4,13 +4,12 @@
 #include <cstddef>
 
 #include "richtext/script_words.h"
+#include "text/letters.h"
 
 namespace tarnwell::richtext {
 namespace {
 
 constexpr std::size_t kMostKept = 512;
-
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 }  // namespace
 
@@ -47,7 +46,7 @@ std::size_t FindKept(std::string_view name, std::string_view kept) {
   for (std::size_t place = 0; place < kept.size(); ++place) {
     if (kept[place] != '\\' || kept.substr(place + 1, name.size()) != name) continue;
     const std::size_t behind = place + 1 + name.size();
-    if (behind >= kept.size() || !IsLetter(kept[behind])) return place;
+    if (behind >= kept.size() || !text::IsAsciiLetter(kept[behind])) return place;
   }
   return std::string_view::npos;
 }

@@ -11,7 +11,7 @@ namespace tarnwell::richtext {
 namespace {
 
 constexpr int kDeepest = 8;
-constexpr int kLeastRoom = 1440;  // twips that text keeps of its line
+constexpr int kLeastLine = 1440;  // twips that text keeps of its line
 constexpr const char* kBullet = "\u2022";
 
 // Levels count by numbers and by letters in turn. A list of another program's stays as it counts.
@@ -111,7 +111,7 @@ void Editor::SetList(const Range& range, ListKind kind) {
 
 void Editor::Indent(const Range& range, int steps) {
   const Page& page = document_.page;
-  const int most = std::max(page.width - page.left_margin - page.right_margin - kLeastRoom, 0);
+  const int most = std::max(page.width - page.left_margin - page.right_margin - kLeastLine, 0);
   Rewrite(range, [=](const std::vector<Block>& above, std::vector<Block>& paragraphs) {
     std::vector<Block> before = above;
     for (Block& block : paragraphs) {

@@ -4,14 +4,13 @@
 #include <charconv>
 #include <limits>
 
+#include "text/letters.h"
+
 namespace tarnwell::richtext {
 namespace {
 
 constexpr int kLeast = std::numeric_limits<int>::min();
 constexpr int kMostNumber = 1'000'000;
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
 // The counting part of a marker: its last digits, or a letter that stands alone.
 struct Counter {
@@ -21,13 +20,13 @@ struct Counter {
 
 Counter FindCounter(std::string_view marker) {
   std::size_t end = marker.size();
-  while (end > 0 && !IsDigit(marker[end - 1])) --end;
+  while (end > 0 && !text::IsAsciiDigit(marker[end - 1])) --end;
   std::size_t begin = end;
-  while (begin > 0 && IsDigit(marker[begin - 1])) --begin;
+  while (begin > 0 && text::IsAsciiDigit(marker[begin - 1])) --begin;
   if (begin != end) return {begin, end - begin};
-  const auto letter = std::ranges::find_if(marker, IsLetter);
+  const auto letter = std::ranges::find_if(marker, text::IsAsciiLetter);
   const auto at = static_cast<std::size_t>(letter - marker.begin());
-  if (letter == marker.end() || std::ranges::count_if(marker, IsLetter) != 1) return {};
+  if (letter == marker.end() || std::ranges::count_if(marker, text::IsAsciiLetter) != 1) return {};
   return {at, 1};
 }
 
@@ -46,7 +45,7 @@ const ListItem* ItemOf(const Block& block) {
 std::string Shape(const std::string& marker) {
   const Counter counter = FindCounter(marker);
   std::string shape = marker;
-  const bool is_letter = counter.size > 0 && !IsDigit(marker[counter.begin]);
+  const bool is_letter = counter.size > 0 && !text::IsAsciiDigit(marker[counter.begin]);
   return shape.replace(counter.begin, counter.size, is_letter ? "a" : "1");
 }
 
@@ -61,7 +60,7 @@ std::string CountedOn(const std::string& marker, int by) {
   if (counter.size == 0) return marker;
   const std::string_view old = std::string_view(marker).substr(counter.begin, counter.size);
   std::string counted;
-  if (IsDigit(old.front())) {
+  if (text::IsAsciiDigit(old.front())) {
     int number = kMostNumber;
     std::from_chars(old.data(), old.data() + old.size(), number);
     if (number >= kMostNumber) return marker;

@@ -35,6 +35,10 @@ bool Continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 
 
 }  // namespace
 
+bool IsTable(const RichDocument& document, std::size_t block) {
+  return block < document.blocks.size() && std::holds_alternative<Table>(document.blocks[block]);
+}
+
 int CountParagraphs(const Block& block) {
   const auto* const table = std::get_if<Table>(&block);
   if (table == nullptr) return 1;
@@ -93,6 +97,8 @@ const Paragraph& ParagraphAt(const RichDocument& document, const Place& place) {
 const Paragraph& ParagraphAt(const RichDocument& document, int paragraph) {
   return ParagraphAt(document, FindPlace(document, paragraph));
 }
+
+bool IsOpaque(const Run& run) { return std::holds_alternative<Opaque>(run.content); }
 
 std::string_view ShownText(const Run& run) {
   if (const auto* const text = std::get_if<std::string>(&run.content)) return *text;

@@ -34,6 +34,9 @@ struct Place {
   }
 };
 
+// False behind the last block.
+bool IsTable(const RichDocument& document, std::size_t block);
+
 int CountParagraphs(const Block& block);
 int CountParagraphs(const RichDocument& document);
 
@@ -49,6 +52,7 @@ const Cell& CellAt(const RichDocument& document, const Place& place);
 const Paragraph& ParagraphAt(const RichDocument& document, const Place& place);
 const Paragraph& ParagraphAt(const RichDocument& document, int paragraph);
 
+bool IsOpaque(const Run& run);
 std::string_view ShownText(const Run& run);
 std::string ShownText(const Paragraph& paragraph);
 int ShownLength(const Paragraph& paragraph);

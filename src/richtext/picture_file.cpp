@@ -8,7 +8,6 @@
 namespace tarnwell::richtext {
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
 constexpr std::string_view kPngBegins("\x89PNG\r\n\x1a\n", 8);
 
 struct Pixels {

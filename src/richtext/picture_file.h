@@ -12,6 +12,7 @@ namespace tarnwell::richtext {
 // kMostPixels.
 std::optional<Picture> PictureFromFile(std::string bytes, int most_width, int most_height);
 
+inline constexpr int kTwipsPerPixel = 15;  // at 96 pixels an inch
 inline constexpr long long kMostPixels = 50'000'000;
 
 }  // namespace tarnwell::richtext

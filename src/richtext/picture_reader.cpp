@@ -4,13 +4,12 @@
 #include <array>
 #include <utility>
 
+#include "richtext/picture_file.h"
 #include "richtext/rtf_capture.h"
 #include "richtext/rtf_tokenizer.h"
 
 namespace tarnwell::richtext {
 namespace {
-
-constexpr int kTwipsPerPixel = 15;
 
 constexpr std::array<signed char, 256> MakeHexValues() {
   std::array<signed char, 256> values{};

@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <limits>
 
+#include "text/letters.h"
+
 namespace tarnwell::richtext {
 namespace {
 
-bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 int HexValue(char c) {
-  if (IsDigit(c)) return c - '0';
+  if (text::IsAsciiDigit(c)) return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
@@ -63,7 +62,7 @@ Token Tokenizer::TakeText() {
 Token Tokenizer::TakeControl() {
   const std::size_t sign = place_ + 1;
   if (sign >= source_.size()) return Make(TokenKind::kEnd, place_, place_, place_);
-  if (IsLetter(source_[sign])) return TakeWord();
+  if (text::IsAsciiLetter(source_[sign])) return TakeWord();
   if (source_[sign] == '\'') return TakeByte();
   return Make(TokenKind::kSymbol, sign, sign + 1, sign + 1);
 }
@@ -83,12 +82,12 @@ Token Tokenizer::TakeByte() {
 Token Tokenizer::TakeWord() {
   const std::size_t name = place_ + 1;
   std::size_t end = name;
-  while (end < source_.size() && IsLetter(source_[end])) ++end;
+  while (end < source_.size() && text::IsAsciiLetter(source_[end])) ++end;
   const std::size_t name_end = end;
   std::size_t digits = end;
   if (digits < source_.size() && source_[digits] == '-') ++digits;
   std::size_t digits_end = digits;
-  while (digits_end < source_.size() && IsDigit(source_[digits_end])) ++digits_end;
+  while (digits_end < source_.size() && text::IsAsciiDigit(source_[digits_end])) ++digits_end;
   const bool has_number = digits_end > digits;
   if (has_number) end = digits_end;
   const std::size_t number_end = end;

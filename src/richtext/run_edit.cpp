@@ -10,8 +10,6 @@
 namespace tarnwell::richtext {
 namespace {
 
-bool IsOpaque(const Run& run) { return std::holds_alternative<Opaque>(run.content); }
-
 int LengthOf(const Run& run) { return static_cast<int>(ShownText(run).size()); }
 
 // The last shown run that ends at or before `offset` or holds it; null for none.

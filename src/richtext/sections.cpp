@@ -10,7 +10,7 @@
 namespace tarnwell::richtext {
 namespace {
 
-constexpr int kMostColumns = 20;
+constexpr int kMostTextColumns = 20;
 
 std::shared_ptr<const std::string> BodyOf(const KeptPiece& piece) {
   return std::make_shared<const std::string>("\\uc" + std::to_string(piece.unicode_skip) +
@@ -74,7 +74,7 @@ class SectionReader {
     if (name == "margbsxn") page.bottom_margin = length;
     if (name == "headery") section_.header_distance = length;
     if (name == "footery") section_.footer_distance = length;
-    if (name == "cols") section_.columns = std::clamp(word.number, 1, kMostColumns);
+    if (name == "cols") section_.columns = std::clamp(word.number, 1, kMostTextColumns);
     if (name == "colsx") section_.column_gap = length;
     if (name == "titlepg") section_.has_first_page = !word.has_number || word.number != 0;
     TakeBreak(name);

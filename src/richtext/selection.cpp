@@ -8,10 +8,6 @@
 namespace tarnwell::richtext {
 namespace {
 
-bool IsTable(const RichDocument& document, std::size_t block) {
-  return block < document.blocks.size() && std::holds_alternative<Table>(document.blocks[block]);
-}
-
 Range WholeCell(const Cell& cell, int first_paragraph) {
   const int last = first_paragraph + static_cast<int>(cell.paragraphs.size()) - 1;
   return {{first_paragraph, 0}, {last, ShownLength(cell.paragraphs.back())}};

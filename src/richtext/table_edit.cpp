@@ -55,10 +55,6 @@ int TextWidth(const RichDocument& document) {
   return page.width - page.left_margin - page.right_margin;
 }
 
-bool IsTable(const RichDocument& document, std::size_t block) {
-  return block < document.blocks.size() && std::holds_alternative<Table>(document.blocks[block]);
-}
-
 }  // namespace
 
 std::optional<Range> NextCell(const RichDocument& document, Position position, bool forward) {

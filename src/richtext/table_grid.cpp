@@ -8,7 +8,6 @@ namespace {
 
 using Rows = std::vector<const TableRow*>;
 
-constexpr int kNearly = 60;  // twips
 constexpr std::size_t kMostColumns = 64;
 constexpr int kUsualWidth = 1440;
 

@@ -6,6 +6,8 @@
 
 namespace tarnwell::richtext {
 
+inline constexpr int kNearly = 60;  // twips; edges that lie no further apart count as one
+
 // A table as a grid with the edges of all its rows, so that each cell takes one or more columns.
 struct TableGrid {
   int left_edge = 0;                    // twips from the page's left margin

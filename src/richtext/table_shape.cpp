@@ -9,8 +9,8 @@
 namespace tarnwell::richtext {
 namespace {
 
-constexpr std::size_t kMostColumns = 63;  // that a grid tells apart
-constexpr int kLeastWidth = 60;           // twips that a cell keeps
+constexpr std::size_t kMostGridColumns = 63;  // that a grid tells apart
+constexpr int kLeastWidth = 60;               // twips that a cell keeps
 
 // What a new cell is like: its look, and an empty paragraph of its first one's.
 Cell EmptyLike(const Cell& like) {
@@ -91,7 +91,7 @@ class Reshaping {
 
   // `like_left`: the new column is like the one to its left.
   TableCell InsertColumn(int column, bool like_left, int text_width) {
-    if (shape_.grid().widths.size() >= kMostColumns) return {area_.row, 0};
+    if (shape_.grid().widths.size() >= kMostGridColumns) return {area_.row, 0};
     const int neighbour = like_left ? column - 1 : column;
     const int width = shape_.EdgeOf(neighbour + 1) - shape_.EdgeOf(neighbour);
     TableCell cursor{area_.row, 0};

@@ -13,8 +13,6 @@ std::string Numbered(std::string_view stem, int number, std::string_view extensi
   return std::string(stem).append(std::to_string(number)).append(extension);
 }
 
-constexpr std::size_t kLongestName = 255;  // bytes of UTF-8
-
 // In the middle of a name, on the file systems of other machines too.
 bool FitsInName(char letter) {
   constexpr std::string_view kForbiddenElsewhere = "*?\"<>|";

@@ -9,6 +9,7 @@
 namespace tarnwell::storage::file_names {
 
 // The store's own files beside the user's; no user's file can have a name that begins so.
+inline constexpr std::size_t kLongestName = 255;  // bytes of UTF-8
 inline constexpr std::string_view kOwnPrefix = ".tarnwell-";
 inline constexpr std::string_view kLock = ".tarnwell-lock";
 inline constexpr std::string_view kRedoNote = ".tarnwell-redo";
@@ -16,6 +17,10 @@ inline constexpr std::string_view kSavePrefix = ".tarnwell-save-";  // and eight
 inline constexpr std::string_view kReplacementJournal = ".tarnwell-replacement";
 inline constexpr std::string_view kNewPrefix = ".tarnwell-new-";  // likewise
 inline constexpr std::string_view kOldPrefix = ".tarnwell-old-";  // likewise
+
+// What was typed on a screen and not saved, and the form's name in the middle.
+inline constexpr std::string_view kUnsavedPrefix = "Unsaved-";
+inline constexpr std::string_view kUnsavedExtension = ".Fil";
 
 // Settings: colours, display, printer fonts, backgrounds, folders last used.
 inline constexpr std::string_view kGColor1 = "GColor1.Fil";

@@ -10,8 +10,6 @@
 namespace tarnwell::storage {
 namespace {
 
-constexpr std::size_t kLongestName = 255;  // bytes of UTF-8
-
 // The code page leaves five places of its upper half to control characters.
 bool IsForbidden(char letter) {
   const auto code = static_cast<unsigned char>(letter);
@@ -41,9 +39,9 @@ std::string LinksFolder(const std::string& supplied_folder) {
 }  // namespace
 
 bool IsPlainFileName(std::string_view name) {
-  return !name.empty() && name != "." && name != ".." && name.size() <= kLongestName &&
+  return !name.empty() && name != "." && name != ".." && name.size() <= file_names::kLongestName &&
          std::none_of(name.begin(), name.end(), IsForbidden) && !IsOwnName(name) &&
-         text::ToUtf8(name).bytes().size() <= kLongestName;
+         text::ToUtf8(name).bytes().size() <= file_names::kLongestName;
 }
 
 ProgramFolder::ProgramFolder(FileSystem& files, std::string user_folder,

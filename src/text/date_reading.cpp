@@ -23,7 +23,7 @@ struct Part {
 };
 
 // A date is at most three numbers or names and a weekday.
-struct Parts {
+struct DateParts {
   std::array<Part, 4> parts;
   std::size_t count = 0;
 };
@@ -64,8 +64,8 @@ std::optional<Part> ReadNumber(std::string_view digits) {
 }
 
 // Cuts the text into its parts. Between two of them stand blanks and at most one mark.
-std::optional<Parts> Cut(std::string_view text) {
-  Parts cut;
+std::optional<DateParts> Cut(std::string_view text) {
+  DateParts cut;
   TakeRun(text, kBlanks);
   while (!text.empty()) {
     if (cut.count == cut.parts.size()) return std::nullopt;
@@ -119,7 +119,7 @@ std::string_view WithoutClockTime(std::string_view text) {
 }
 
 // `most` parts are a date with its weekday.
-void DropWeekday(Parts& cut, std::size_t most) {
+void DropWeekday(DateParts& cut, std::size_t most) {
   if (cut.count != most) return;
   if (cut.parts.front().kind == Kind::kWeekday) {
     for (std::size_t i = 1; i < cut.count; ++i) cut.parts[i - 1] = cut.parts[i];
@@ -146,7 +146,7 @@ std::optional<Date> MakeChecked(const Part& year, const Part& month, const Part&
 
 // Without `year` the text has to have one.
 std::optional<Date> Read(std::string_view text, const std::optional<Part>& year) {
-  std::optional<Parts> cut = Cut(WithoutClockTime(text));
+  std::optional<DateParts> cut = Cut(WithoutClockTime(text));
   if (!cut) return std::nullopt;
   DropWeekday(*cut, 4);
   if (year) DropWeekday(*cut, 3);

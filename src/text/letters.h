@@ -18,6 +18,11 @@ std::string LowerCase(std::string_view text);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
+inline constexpr bool IsAsciiDigit(char c) { return c >= '0' && c <= '9'; }
+inline constexpr bool IsAsciiLetter(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
 // Below 0, 0 or above 0, by the upper-cased characters' codes: the order of a sorted list.
 int CompareIgnoringCase(std::string_view a, std::string_view b);
 

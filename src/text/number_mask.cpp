@@ -19,13 +19,13 @@ std::size_t CountPlaces(std::string_view part) {
 }
 
 // A mask cut at its point.
-struct Parts {
+struct MaskParts {
   std::string_view integer;
   bool has_point;
   std::string_view fraction;
 };
 
-Parts Split(std::string_view mask) {
+MaskParts Split(std::string_view mask) {
   const std::size_t point = mask.find('.');
   if (point == kNone) return {mask, false, {}};
   return {mask.substr(0, point), true, mask.substr(point + 1)};
@@ -33,7 +33,7 @@ Parts Split(std::string_view mask) {
 
 // Fills the places from the right. The leftmost place takes all digits that are left over; without
 // a place they stand right in front of the point.
-std::string FillInteger(const Parts& mask, std::string digits) {
+std::string FillInteger(const MaskParts& mask, std::string digits) {
   const std::string_view part = mask.integer;
   const std::size_t first = part.find_first_of("0#");
   const std::size_t last = part.find_last_of("0#");
@@ -92,7 +92,7 @@ std::string FormatNumber(double value, std::string_view mask) {
   const bool currency = EqualIgnoringCase(mask, "Currency");
   if (currency) mask = "$#,##0.00";
 
-  const Parts parts = Split(mask);
+  const MaskParts parts = Split(mask);
   const auto percents = static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '%'));
   const RoundedDecimal number = RoundDecimal(value, 2 * percents, CountPlaces(parts.fraction));
   std::string text = FillInteger(parts, number.integer);

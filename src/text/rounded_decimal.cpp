@@ -9,12 +9,12 @@ namespace tarnwell::text {
 namespace {
 
 // The number 0.DIGITS x 10^point.
-struct Digits {
+struct DecimalDigits {
   std::string digits;
   std::int64_t point;
 };
 
-Digits ShortestDigits(double magnitude) {
+DecimalDigits ShortestDigits(double magnitude) {
   char buffer[32];
   const auto written =
       std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific);
@@ -41,7 +41,7 @@ bool CarryUp(std::string& digits) {
   return true;
 }
 
-void RoundTo(Digits& number, std::size_t places) {
+void RoundTo(DecimalDigits& number, std::size_t places) {
   const std::int64_t wanted = number.point + static_cast<std::int64_t>(places);
   if (wanted < 0) {
     number = {"", -static_cast<std::int64_t>(places)};
@@ -61,7 +61,7 @@ bool RoundedDecimal::IsZero() const {
 
 RoundedDecimal RoundDecimal(double value, std::size_t shift, std::size_t places) {
   if (value == 0) return {"", std::string(places, '0')};
-  Digits number = ShortestDigits(std::abs(value));
+  DecimalDigits number = ShortestDigits(std::abs(value));
   number.point += static_cast<std::int64_t>(shift);
   RoundTo(number, places);
   if (number.point <= 0) {

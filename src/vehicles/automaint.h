@@ -69,6 +69,8 @@ class AutoMaint : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  private:
   static constexpr int kHelpPage = 3070;

@@ -34,6 +34,8 @@ double NumberIn(std::string_view cell) {
   return text::LeadingNumber(number);
 }
 
+float SingleIn(std::string_view cell) { return static_cast<float>(NumberIn(cell)); }
+
 std::string WholeText(std::string_view cell) {
   return text::FormatNumber(NumberIn(cell), "#,###,###");
 }

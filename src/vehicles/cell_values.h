@@ -14,6 +14,8 @@ namespace tarnwell::vehicles {
 // The number that a cell begins with; commas between its digits, a currency sign before it and
 // brackets around a negative amount don't end it: 12000 for "12,000 mi". 0 for none.
 double NumberIn(std::string_view cell);
+// The same in single precision, as the fuel tracker computes.
+float SingleIn(std::string_view cell);
 
 // That number without decimals, by "#,###,###": "12,000". Empty for 0.
 std::string WholeText(std::string_view cell);

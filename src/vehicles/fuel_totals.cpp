@@ -10,8 +10,6 @@
 namespace tarnwell::vehicles {
 namespace {
 
-float Single(std::string_view cell) { return static_cast<float>(NumberIn(cell)); }
-
 // How many rows stand before a run of blank ones that ends the tracker.
 template <typename IsBlank>
 std::size_t RowsBeforeEnd(std::span<const FuelEntry> entries, IsBlank is_blank) {
@@ -24,7 +22,7 @@ std::size_t RowsBeforeEnd(std::span<const FuelEntry> entries, IsBlank is_blank) 
 }
 
 bool HasNoFigures(const FuelEntry& entry) {
-  return Single(entry.driven) <= 0 && Single(entry.rate) <= 0 && Single(entry.cost) <= 0;
+  return SingleIn(entry.driven) <= 0 && SingleIn(entry.rate) <= 0 && SingleIn(entry.cost) <= 0;
 }
 
 }  // namespace
@@ -38,9 +36,9 @@ FuelTotals TotalFuel(std::span<const FuelEntry> entries) {
   FuelTotals totals;
   for (const FuelEntry& entry : entries.first(RowsBeforeEnd(entries, HasNoFigures))) {
     if (HasNoFigures(entry)) continue;
-    totals.driven += Single(entry.driven);
-    totals.fuel += Single(entry.fuel);
-    totals.cost += Single(entry.cost);
+    totals.driven += SingleIn(entry.driven);
+    totals.fuel += SingleIn(entry.fuel);
+    totals.cost += SingleIn(entry.cost);
   }
   if (totals.fuel > 0) totals.rate = totals.driven / totals.fuel;
   return totals;
@@ -60,7 +58,7 @@ TripResult ComputeTrip(const Trip& trip) {
                            ? std::abs(WholeNumber(trip.current) - WholeNumber(trip.previous))
                            : WholeNumber(trip.driven);
   TripResult result{text::FormatNumber(driven, "#,###,###"), {}};
-  const float fuel = Single(trip.fuel);
+  const float fuel = SingleIn(trip.fuel);
   if (fuel > 0) result.rate = text::FormatNumber(driven / fuel, "####.##");
   return result;
 }

@@ -14,8 +14,8 @@ namespace {
 
 constexpr int kRows = static_cast<int>(kScheduleRows);
 constexpr int kStandardRows = static_cast<int>(kStandardActions.size());
-constexpr std::size_t kLongestAction = 60;  // characters that can be typed
-constexpr std::size_t kLongestNumber = 20;  // likewise
+constexpr std::size_t kLongestAction = 60;    // characters that can be typed
+constexpr std::size_t kLongestOdometer = 20;  // likewise
 
 forms::GridColumn Number(double share, bool editable = true) {
   return {.title = "",
@@ -23,7 +23,7 @@ forms::GridColumn Number(double share, bool editable = true) {
           .align = forms::GridAlign::kRight,
           .editable = editable,
           .numeric = true,
-          .max_length = kLongestNumber};
+          .max_length = kLongestOdometer};
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 namespace tarnwell::vehicles {
 namespace {
 
-constexpr std::size_t kLongestItem = 100;   // characters that can be typed
-constexpr std::size_t kLongestNumber = 30;  // likewise
+constexpr std::size_t kLongestItem = 100;  // characters that can be typed
+constexpr std::size_t kLongestEntry = 30;  // likewise
 // The blanks behind numbers keep them off the next column.
 constexpr const char* kReadingMask = "#,###,###       ";
 constexpr const char* kBehindCost = "    ";
@@ -35,12 +35,12 @@ RepairsPane::RepairsPane(forms::Container& parent, Tracker& tracker)
                     .align = forms::GridAlign::kRight,
                     .editable = true,
                     .numeric = true,
-                    .max_length = kLongestNumber},
+                    .max_length = kLongestEntry},
                    {.title = "Date",
                     .share = 0.14,
                     .align = forms::GridAlign::kCenter,
                     .editable = true,
-                    .max_length = kLongestNumber},
+                    .max_length = kLongestEntry},
                    {.title = "Repairs and Expenditures",
                     .share = 0.5,
                     .editable = true,
@@ -50,7 +50,7 @@ RepairsPane::RepairsPane(forms::Container& parent, Tracker& tracker)
                     .align = forms::GridAlign::kRight,
                     .editable = true,
                     .numeric = true,
-                    .max_length = kLongestNumber}},
+                    .max_length = kLongestEntry}},
                   1);
   ShowUnit();
   grid.on_validate = [this](int row, int column, std::string& text) {

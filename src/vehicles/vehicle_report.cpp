@@ -23,7 +23,6 @@ using print::Align;
 using print::Cell;
 using print::PageEngine;
 
-constexpr double kLargerTitle = 2;          // points
 constexpr int kGap = 160;                   // twips, between sections
 constexpr int kBorderInside = 60;           // twips, between a border and what lies in it
 constexpr std::size_t kPrintedAction = 21;  // characters

@@ -27,6 +27,8 @@ struct PrintedVehicle {
   bool HasSchedule() const;
 };
 
+inline constexpr double kLargerTitle = 2;  // points more than the text
+
 // At the head of each page: "2019 Ford E150 Van (Van 2)".
 std::string VehicleTitle(const PrintedVehicle& vehicle);
 // The same in the report of all vehicles: "2019 Ford E150 Van (VIN - 1FT)".

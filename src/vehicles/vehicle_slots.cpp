@@ -16,8 +16,6 @@ using storage::ProgramFolder;
 using storage::RecordFile;
 namespace file_names = storage::file_names;
 
-constexpr int kRecordLength = 150;
-constexpr int kMostSlots = 30'000;
 constexpr std::size_t kSlotDigits = 6;  // at the end of a record
 constexpr std::string_view kEmpty = "EMPTY";
 
@@ -40,7 +38,7 @@ Vehicle VehicleOf(int number, std::string_view record) {
 int RecordCount(ProgramFolder& folder) {
   const auto bytes = folder.Length(file_names::kVehicleSlots);
   return static_cast<int>(
-      std::min<std::uint64_t>((bytes + kRecordLength - 1) / kRecordLength, kMostSlots));
+      std::min<std::uint64_t>((bytes + kSlotRecordLength - 1) / kSlotRecordLength, kMostSlots));
 }
 
 std::vector<std::string> FilesOf(int slot) {
@@ -64,7 +62,7 @@ bool CanBeGiven(ProgramFolder& folder, int slot, const std::vector<Vehicle>& veh
 }
 
 Outcome PutRecord(ProgramFolder& folder, int record, std::string_view text) {
-  RecordFile table(folder, file_names::kVehicleSlots, kRecordLength);
+  RecordFile table(folder, file_names::kVehicleSlots, kSlotRecordLength);
   return table.Finish(table.PutText(record, text));
 }
 
@@ -80,7 +78,7 @@ bool CanBeVehicleName(std::string_view name) { return !IsFree(name); }
 
 VehicleTable ReadVehicles(ProgramFolder& folder) {
   const int records = RecordCount(folder);
-  RecordFile table(folder, file_names::kVehicleSlots, kRecordLength);
+  RecordFile table(folder, file_names::kVehicleSlots, kSlotRecordLength);
   VehicleTable read;
   for (int record = 1; record <= records; ++record) {
     const std::string text = table.GetText(record);

@@ -13,6 +13,8 @@
 
 namespace tarnwell::vehicles {
 
+inline constexpr int kSlotRecordLength = 150;  // bytes
+inline constexpr int kMostSlots = 30'000;
 inline constexpr std::size_t kLongestVehicleName = 100;  // characters
 
 struct Vehicle {

@@ -21,9 +21,8 @@ constexpr const char* kOwnAction = "__________________";
 constexpr const char* kFieldRule = " ___________________________";
 constexpr const char* kLastFieldRule = " ____________________________________________";
 constexpr int kLeastOwnRows = 6;
-constexpr int kOtherLines = 7;      // headings, and space between them
-constexpr double kLeastSize = 5;    // points
-constexpr double kLargerTitle = 2;  // likewise
+constexpr int kOtherLines = 7;    // headings, and space between them
+constexpr double kLeastSize = 5;  // points
 
 int Lines() {
   return static_cast<int>(kLastField + std::size(kActions)) + kLeastOwnRows + kOtherLines;

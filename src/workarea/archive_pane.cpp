@@ -9,7 +9,7 @@
 namespace tarnwell::workarea {
 namespace {
 
-constexpr const char* kSelectTitle = "Archive Select";
+constexpr const char* kArchiveSelect = "Archive Select";
 
 // Blanks are something to keep.
 bool IsEmpty(const forms::RichTextBox& text) {
@@ -46,7 +46,7 @@ PaneMenu ArchivePane::Menu() {
 void ArchivePane::Create(std::string_view title) {
   forms::Form& form = view_.panel.form();
   const auto refuse = [&](const char* why) {
-    form.Message({kSelectTitle, why, forms::Icon::kExclamation});
+    form.Message({kArchiveSelect, why, forms::Icon::kExclamation});
   };
   if (text::Trim(title).empty()) return refuse("Appropriate Form Name is Missing!");
   if (IsEmpty(view_.text)) {

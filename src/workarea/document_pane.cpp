@@ -28,4 +28,16 @@ PaneMenu DocumentPane::Menu() {
           {"mOS", forms::ActionOf(view_.save)}};
 }
 
+std::optional<forms::Draft> DocumentPane::TakeDraft() {
+  auto draft = view_.unsaved() ? Place() : std::nullopt;
+  if (draft) draft->Add(view_.Bytes());
+  return draft;
+}
+
+bool DocumentPane::PutDraft(forms::DraftTexts& texts) {
+  if (!GoTo(texts) || view_.access() != DocumentView::Access::kEdit) return false;
+  view_.PutUnsaved(texts.Next());
+  return true;
+}
+
 }  // namespace tarnwell::workarea

@@ -138,6 +138,11 @@ bool DocumentView::OpenTemplate(std::string_view file) {
   return true;
 }
 
+void DocumentView::PutUnsaved(std::string bytes) {
+  Show(std::move(bytes));
+  question_.SetUnsaved(true);
+}
+
 void DocumentView::Show(std::string bytes) {
   text.SetDocument(richtext::ReadRichText(bytes));
   stored_ = {};

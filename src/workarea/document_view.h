@@ -94,6 +94,8 @@ class DocumentView {
 
   // Holds as long as edited text is on show that isn't saved.
   bool unsaved() const { return question_.unsaved(); }
+  // Shows that document, as typed and not saved, in the place of the one that is open.
+  void PutUnsaved(std::string bytes);
   // What was written isn't kept after all.
   void MarkUnsaved() { question_.SetUnsaved(true); }
   // Offers to save what is unsaved. False when that was wanted and didn't work.

@@ -118,6 +118,26 @@ std::string DocumentsPane::FileOf(int text) const {
   }
 }
 
+std::optional<forms::Draft> DocumentsPane::Place() {
+  if (!document_ || text_ == kDisclaimerText) return std::nullopt;
+  forms::Draft draft{title_, {FileOf(text_)}, {}};
+  draft.Add(number());
+  draft.Add(text_);
+  return draft;
+}
+
+bool DocumentsPane::GoTo(forms::DraftTexts& place) {
+  const int wanted = place.NextNumber();
+  const int text = place.NextNumber();
+  for (std::size_t i = 0; i < group_->documents.size(); ++i) {
+    if (group_->base + group_->documents[i].index == wanted) Choose(*group_, i);
+  }
+  if (!document_ || number() != wanted) return false;
+  view_.views.Choose(text);
+  PickView(text);
+  return text_ == text;
+}
+
 PrintedDocument DocumentsPane::ToPrint() {
   return {title_, text_, true, [this](int text) {
             if (text == text_) return PrintedText{view_.text.document()};

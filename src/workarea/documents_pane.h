@@ -36,6 +36,8 @@ class DocumentsPane : public DocumentPane {
   PrintedDocument ToPrint() override;
 
  private:
+  std::optional<forms::Draft> Place() override;
+  bool GoTo(forms::DraftTexts& place) override;
   void Show(Area area) override;
   void Hide() override;
   void Choose(const DocumentGroup& group, std::size_t place);

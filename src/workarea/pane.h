@@ -1,8 +1,10 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string_view>
 
+#include "forms/draft.h"
 #include "forms/menu.h"
 #include "workarea/areas.h"
 
@@ -26,6 +28,10 @@ class Pane {
   virtual bool OfferToSave() = 0;
   // Something would take the pane's place. False when it has to stay.
   virtual bool Settle() = 0;
+
+  // What is typed and not saved, as forms::Form has it; the pane is in hand.
+  virtual std::optional<forms::Draft> TakeDraft() { return std::nullopt; }
+  virtual bool PutDraft(forms::DraftTexts& /*texts*/) { return false; }
 
   // Of the entries that the pane works with. The others are dead while it is in hand.
   virtual PaneMenu Menu() = 0;

@@ -8,7 +8,7 @@ namespace {
 
 namespace file_names = storage::file_names;
 
-constexpr const char* kTitle = "Disaster Recovery Plan";
+constexpr const char* kPlanTitle = "Disaster Recovery Plan";
 
 void ShowInformation(forms::Context& context) {
   forms::ShowMessage(
@@ -31,7 +31,7 @@ void ShowInformation(forms::Context& context) {
 
 void RecoveryPlanPane::Show(Area) {
   view_.ShowChoices(false, false);
-  view_.heading.SetCaption(std::string(" Document: ") + kTitle);
+  view_.heading.SetCaption(std::string(" Document: ") + kPlanTitle);
   view_.tools.StartSearch(kInsertionMark);
   const bool has_plan = HasPlan();
   view_.Open(has_plan ? file_names::kRecoveryPlan : file_names::kRecoveryPlanInformation,
@@ -47,8 +47,14 @@ bool RecoveryPlanPane::HasPlan() const {
          plan.content != context_.folder.Read(file_names::kRecoveryPlanInformation).content;
 }
 
+std::optional<forms::Draft> RecoveryPlanPane::Place() {
+  return forms::Draft{kPlanTitle, {std::string(file_names::kRecoveryPlan)}, {}};
+}
+
+bool RecoveryPlanPane::GoTo(forms::DraftTexts&) { return true; }
+
 PrintedDocument RecoveryPlanPane::ToPrint() {
-  return {.title = kTitle, .text = [this](int) { return PrintedText{view_.text.document()}; }};
+  return {.title = kPlanTitle, .text = [this](int) { return PrintedText{view_.text.document()}; }};
 }
 
 bool RecoveryPlanPane::Save() {

@@ -23,6 +23,8 @@ class RecoveryPlanPane : public DocumentPane {
   std::function<void()> on_exit;
 
  private:
+  std::optional<forms::Draft> Place() override;
+  bool GoTo(forms::DraftTexts& place) override;
   void Show(Area area) override;
   bool HasPlan() const;
 

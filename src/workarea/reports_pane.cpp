@@ -74,6 +74,31 @@ void ReportsPane::Begin(const std::string& like, std::string_view reminder) {
   names_.name.Focus();
 }
 
+// Under the name that was typed, or the one that was picked.
+std::optional<forms::Draft> ReportsPane::Place() {
+  const std::string name = parts::UserNames::AsListed(Title());
+  forms::Draft draft{std::string(kind_->title) + (name.empty() ? "" : " - " + name), {}, {}};
+  if (!name.empty()) draft.files.push_back(documents().FileOf(name));
+  draft.Add(shown_);
+  draft.Add(names_.name.text());
+  return draft;
+}
+
+bool ReportsPane::GoTo(forms::DraftTexts& place) {
+  const std::string listed = place.Next();
+  if (listed.empty()) {
+    view_.OpenNew();
+    shown_.clear();
+    view_.tools.StartSearch(kInsertionMark);
+    SetState(State::kName);
+  } else {
+    if (!documents().IsListed(listed)) return false;
+    ShowDocument(listed);
+  }
+  names_.name.SetText(place.Next());
+  return true;
+}
+
 bool ReportsPane::IsUpdate(const std::string& name) {
   return !shown_.empty() &&
          text::EqualIgnoringCase(documents().FileOf(name), documents().FileOf(shown_));

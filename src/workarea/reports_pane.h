@@ -18,6 +18,8 @@ class ReportsPane : public NamedPane {
   void InsertTemplate() override;
 
  private:
+  std::optional<forms::Draft> Place() override;
+  bool GoTo(forms::DraftTexts& place) override;
   void Show(Area area) override;
   void ShowDocument(const std::string& name) override;
   std::string KindWord() const override { return std::string(kind_->title); }

@@ -1,5 +1,6 @@
 #include "workarea/rule_references.h"
 
+#include "forms/control_array.h"
 #include "print/table.h"
 #include "storage/file_names.h"
 
@@ -12,18 +13,14 @@ constexpr std::string_view kTexts[] = {
     storage::file_names::kRuleInformation,
 };
 
-std::string Member(const char* name, int index) {
-  return std::string(name) + "(" + std::to_string(index) + ")";
-}
-
 const RuleRow& RowOf(int index) { return RuleRows()[static_cast<std::size_t>(index)]; }
 
 }  // namespace
 
 RuleButton::RuleButton(forms::Container& parent, int index)
-    : standard(parent, Member("Label15", index),
+    : standard(parent, forms::MemberName("Label15", index),
                std::string(RowOf(index).standard).append("  ").append(RowOf(index).section)),
-      button(parent, Member("SSCommand13", index), RowOf(index).specification) {}
+      button(parent, forms::MemberName("SSCommand13", index), RowOf(index).specification) {}
 
 RuleReferences::RuleReferences(forms::Container& rows_parent, DocumentView& view)
     : frame(view.panel, "SSFrame3", "References"), panel(rows_parent, "SSPanel10"), view_(view) {

@@ -1,18 +1,13 @@
 #include "workarea/titles_panel.h"
 
+#include "forms/control_array.h"
+
 namespace tarnwell::workarea {
-namespace {
-
-std::string Member(const char* name, int number) {
-  return std::string(name) + "(" + std::to_string(number) + ")";
-}
-
-}  // namespace
-
 TitleRow::TitleRow(forms::Container& parent, int number)
-    : label(parent, Member("Label12", number), "Risk Analyis # " + std::to_string(number)),
-      current(parent, Member("Label13", number)),
-      change(parent, Member("Text3", number),
+    : label(parent, forms::MemberName("Label12", number),
+            "Risk Analyis # " + std::to_string(number)),
+      current(parent, forms::MemberName("Label13", number)),
+      change(parent, forms::MemberName("Text3", number),
              {.max_length = kLongestWorksheetTitle,
               .spoken_name = "Change Title of Button " + std::to_string(number) + " To"}) {}
 

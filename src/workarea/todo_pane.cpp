@@ -7,6 +7,7 @@
 #include "forms/form.h"
 #include "proofing/grid_corrections.h"
 #include "proofing/spelling.h"
+#include "storage/file_names.h"
 #include "text/date_mask.h"
 #include "text/letters.h"
 #include "workarea/todo_report.h"
@@ -115,6 +116,24 @@ bool ToDoPane::OfferToSave() {
 bool ToDoPane::Settle() {
   sheet.grid.EndEdit();
   return question_.Settle(kLeaving);
+}
+
+std::optional<forms::Draft> ToDoPane::TakeDraft() {
+  if (!question_.unsaved()) return std::nullopt;
+  forms::Draft draft{heading.caption(), {std::string(storage::file_names::kToDoList)}, {}};
+  for (const ToDoRow& row : sheet.Rows()) {
+    for (const auto& cell : {row.item, row.to_do, row.actual, row.review}) draft.Add(cell);
+  }
+  return draft;
+}
+
+bool ToDoPane::PutDraft(forms::DraftTexts& texts) {
+  if (!sheet.grid.enabled()) return false;
+  std::vector<ToDoRow> rows(texts.left() / std::size(kToDoTitles));
+  for (ToDoRow& row : rows) row = {texts.Next(), texts.Next(), texts.Next(), texts.Next()};
+  sheet.Fill(rows);
+  question_.SetUnsaved(true);
+  return true;
 }
 
 parts::SaveResult ToDoPane::Save(SaveKind kind) {

@@ -47,6 +47,8 @@ class ToDoPane : public Pane {
   void Leave() override;
   bool OfferToSave() override;
   bool Settle() override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts& texts) override;
   PaneMenu Menu() override;
 
   bool unsaved() const { return question_.unsaved(); }

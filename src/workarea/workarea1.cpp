@@ -220,6 +220,18 @@ bool WorkArea1::QueryUnload(forms::UnloadCause) {
   return (!pane_ || pane_->Settle()) && colors.Leave(forms::Buttons::kYesNo);
 }
 
+std::optional<forms::Draft> WorkArea1::TakeDraft() {
+  auto draft = pane_ ? pane_->TakeDraft() : std::nullopt;
+  if (draft) draft->texts.insert(draft->texts.begin(), std::to_string(area_));
+  return draft;
+}
+
+bool WorkArea1::PutDraft(forms::DraftTexts texts) {
+  const auto area = static_cast<Area>(texts.NextNumber());
+  GoTo(area);
+  return pane_ && area_ == area && pane_->PutDraft(texts);
+}
+
 Pane* WorkArea1::PaneOf(Area area) {
   const auto found = std::ranges::find_if(panes_, [=](Pane* pane) { return pane->Has(area); });
   return found == panes_.end() ? nullptr : *found;

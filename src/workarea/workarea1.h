@@ -44,6 +44,8 @@ class WorkArea1 : public forms::Form {
   void Load() override;
   void Activate() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  private:
   void BuildMenus();

@@ -7,12 +7,12 @@
 namespace tarnwell::workarea {
 namespace {
 
-constexpr int kRecordLength = 20;
+constexpr int kTitleLength = 20;
 
 }  // namespace
 
 storage::Outcome WorksheetTitles::Read(storage::ProgramFolder& folder) {
-  storage::RecordFile file(folder, storage::file_names::kWorksheetTitles, kRecordLength);
+  storage::RecordFile file(folder, storage::file_names::kWorksheetTitles, kTitleLength);
   for (int number = 1; number <= kWorksheetCount; ++number) {
     titles_[static_cast<std::size_t>(number)] = file.GetText(number);
   }
@@ -25,7 +25,7 @@ storage::Outcome WorksheetTitles::Read(storage::ProgramFolder& folder) {
 storage::Outcome WorksheetTitles::Change(storage::ProgramFolder& folder, const NewTitles& titles) {
   storage::Outcome changed;
   {
-    storage::RecordFile file(folder, storage::file_names::kWorksheetTitles, kRecordLength);
+    storage::RecordFile file(folder, storage::file_names::kWorksheetTitles, kTitleLength);
     bool all_put = true;
     for (int number = 1; number <= kWorksheetCount && all_put; ++number) {
       const std::string& title = titles[static_cast<std::size_t>(number) - 1];

@@ -100,16 +100,16 @@ void WorksheetsPane::Paint() {
   }
 }
 
-void WorksheetsPane::ShowHeading() {
+std::string WorksheetsPane::Heading() const {
   const std::string title = stored_.Caption(number_);
-  view_.heading.SetCaption(std::string(kAreaTitle) + (title.empty() ? "" : " - " + title));
+  return std::string(kAreaTitle) + (title.empty() ? "" : " - " + title);
 }
 
 void WorksheetsPane::Choose(int number) {
   if (number == number_ || !view_.Settle()) return;
   number_ = number;
   Paint();
-  ShowHeading();
+  view_.heading.SetCaption(Heading());
   status_.Show(WorksheetRecord(number));
   view_.Open(file_names::Worksheet(number), DocumentView::Access::kEdit);
   view_.tools.StartSearch(kInsertionMark);
@@ -136,6 +136,20 @@ void WorksheetsPane::CloseDocument() {
   status_.Close();
   view_.Clear();
   view_.heading.SetCaption("");
+}
+
+std::optional<forms::Draft> WorksheetsPane::Place() {
+  if (number_ == 0) return std::nullopt;
+  forms::Draft draft{Heading(), {file_names::Worksheet(number_)}, {}};
+  draft.Add(number_);
+  return draft;
+}
+
+bool WorksheetsPane::GoTo(forms::DraftTexts& place) {
+  const int number = place.NextNumber();
+  if (number < 1 || number > kWorksheetCount) return false;
+  Choose(number);
+  return number_ == number;
 }
 
 bool WorksheetsPane::Save() {
@@ -183,7 +197,7 @@ bool WorksheetsPane::ChangeTitles(const NewTitles& changed) {
   const auto written = stored_.Change(context_.folder, changed);
   view_.panel.form().SetStatus({});
   ShowTitles();
-  if (number_ != 0) ShowHeading();
+  if (number_ != 0) view_.heading.SetCaption(Heading());
   if (!written) forms::TellNotSaved(context_, "The titles", written.fault());
   return static_cast<bool>(written);
 }

@@ -38,6 +38,8 @@ class WorksheetsPane : public DocumentPane {
   PrintedDocument ToPrint() override;
 
  private:
+  std::optional<forms::Draft> Place() override;
+  bool GoTo(forms::DraftTexts& place) override;
   void Show(Area area) override;
   void Hide() override;
   void ShowTitles();
@@ -47,7 +49,7 @@ class WorksheetsPane : public DocumentPane {
   void OpenReference(int reference);
   void ShowStatus(bool shown);
   void Paint();
-  void ShowHeading();
+  std::string Heading() const;
   void ExplainTerms();
 
   forms::Context& context_;

@@ -217,6 +217,39 @@ parts::SaveResult YearSheet::Save() {
   return parts::SaveResult::kSaved;
 }
 
+std::optional<forms::Draft> YearSheet::TakeDraft() {
+  const Rows rows = ShownRows();
+  const std::vector<std::string> beside = TextsBeside();
+  forms::Draft draft{
+      std::string(style_.box_title) + " " + std::to_string(shown_year_), {FileOf(shown_year_)}, {}};
+  draft.Add(shown_year_);
+  draft.Add(static_cast<int>(beside.size()));
+  for (const std::string& text : beside) draft.Add(text);
+  for (const Row& row : rows) draft.texts.insert(draft.texts.end(), row.begin(), row.end());
+  return draft;
+}
+
+bool YearSheet::PutDraft(forms::DraftTexts texts) {
+  const int year = texts.NextNumber();
+  if (TypedYear(std::to_string(year), style_.years) != year) return false;
+  ShowYear(year);
+  if (!is_readable_) return false;
+  std::vector<std::string> beside(TextsBeside().size());
+  if (texts.NextNumber() != static_cast<int>(beside.size())) return false;
+  for (std::string& text : beside) text = texts.Next();
+  PutTextsBeside(std::move(beside));
+  const auto cells = static_cast<std::size_t>(grid.columns() - kName);
+  Rows rows(texts.left() / cells, Row(cells));
+  for (Row& row : rows) {
+    for (std::string& cell : row) cell = texts.Next();
+  }
+  Fill(rows);
+  Recompute(0);
+  MarkChanged();
+  GoToStart();
+  return true;
+}
+
 bool YearSheet::AskToCopyYear(std::string_view words) {
   const std::string from = std::to_string(shown_year_);
   return Confirmed({"Copy Year",

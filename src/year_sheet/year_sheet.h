@@ -83,6 +83,8 @@ class YearSheet : public forms::Form {
 
   void Load() override;
   bool QueryUnload(forms::UnloadCause cause) override;
+  std::optional<forms::Draft> TakeDraft() override;
+  bool PutDraft(forms::DraftTexts texts) override;
 
  protected:
   // What a sheet does its own way. Years and rows are those on show.
@@ -91,6 +93,9 @@ class YearSheet : public forms::Form {
   virtual storage::Fault ReadYear(int year) = 0;
   virtual storage::Outcome WriteYear(int year) = 0;
   virtual std::string FileOf(int year) const = 0;
+  // What a person types beside the grid.
+  virtual std::vector<std::string> TextsBeside() const { return {}; }
+  virtual void PutTextsBeside(std::vector<std::string> /*texts*/) {}
   // A row has changed, or with 0 any number of them: computes what follows from it.
   virtual void Recompute(int row) = 0;
   // Both are told which row, from 1.

@@ -16,7 +16,7 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 using ::testing::StartsWith;
 
-constexpr const char* kTitle = "Employee Sick Leave Tracker";
+constexpr const char* kSheetTitle = "Employee Sick Leave Tracker";
 
 std::string Question(const char* year) {
   return "Save changes made to " + std::string(year) +
@@ -38,7 +38,7 @@ class LeaveSheetTest : public ::testing::Test {
     form().years.PressEnter();
   }
   void ExpectQuestion(Answer answer, const char* year = "2026") {
-    rig.dialogs.ExpectYesNoCancel(kTitle, Question(year), answer);
+    rig.dialogs.ExpectYesNoCancel(kSheetTitle, Question(year), answer);
   }
   void ExpectCopyQuestion(const char* text, Answer answer) {
     rig.dialogs.Expect({"Copy Year", text, forms::Icon::kQuestion, forms::Buttons::kYesNo, 2},

@@ -18,7 +18,8 @@ namespace {
 using year_sheet::Row;
 using year_sheet::Rows;
 
-constexpr LeaveFiles kFiles{storage::file_names::SickLeave, storage::file_names::SickLeaveRows};
+constexpr LeaveFiles kSickLeaveFiles{storage::file_names::SickLeave,
+                                     storage::file_names::SickLeaveRows};
 
 Row AnnLee() {
   return {"Ann Lee", ".50", "", "", "",     "",     "",      "",
@@ -39,14 +40,14 @@ std::string Blank(int rows) {
 
 class LeaveYearTest : public ::testing::Test {
  protected:
-  LeaveYear Read(int year = 2026) { return ReadLeaveYear(folder_, kFiles, year); }
+  LeaveYear Read(int year = 2026) { return ReadLeaveYear(folder_, kSickLeaveFiles, year); }
 
   testing::TemporaryFolder disk_;
   storage::ProgramFolder folder_{storage::RealFileSystem(), disk_.path()};
 };
 
 TEST_F(LeaveYearTest, AYearLiesOnTheDiskAsItsPageSays) {
-  ASSERT_TRUE(WriteLeaveYear(folder_, kFiles, 2026, FiftyWith(AnnLee())));
+  ASSERT_TRUE(WriteLeaveYear(folder_, kSickLeaveFiles, 2026, FiftyWith(AnnLee())));
   const std::string row = testing::FileOf(testing::ReadFormatExample("leave-year.md"));
   ASSERT_EQ(row.size(), 92u);
   EXPECT_EQ(disk_.Read("2026.Sl1"), row + Blank(49));
@@ -70,7 +71,7 @@ TEST_F(LeaveYearTest, CountsOfRowsAreHeldToWhatASheetTakes) {
 }
 
 TEST_F(LeaveYearTest, AShortSheetIsBlankBehindItsEnd) {
-  ASSERT_TRUE(WriteLeaveYear(folder_, kFiles, 2026, FiftyWith(AnnLee())));
+  ASSERT_TRUE(WriteLeaveYear(folder_, kSickLeaveFiles, 2026, FiftyWith(AnnLee())));
   const std::string whole = disk_.Read("2026.Sl1");
   for (std::size_t length = 0; length <= 92; ++length) {
     disk_.Write("2026.Sl1", whole.substr(0, length));
@@ -81,7 +82,7 @@ TEST_F(LeaveYearTest, AShortSheetIsBlankBehindItsEnd) {
 }
 
 TEST_F(LeaveYearTest, ARefusedSaveLeavesTheOldYear) {
-  ASSERT_TRUE(WriteLeaveYear(folder_, kFiles, 2026, FiftyWith(AnnLee())));
+  ASSERT_TRUE(WriteLeaveYear(folder_, kSickLeaveFiles, 2026, FiftyWith(AnnLee())));
   const std::string before = disk_.Read("2026.Sl1");
   Row other = AnnLee();
   other[1] = "9.00";
@@ -89,7 +90,7 @@ TEST_F(LeaveYearTest, ARefusedSaveLeavesTheOldYear) {
     testing::FailingFileSystem files(storage::RealFileSystem());
     storage::ProgramFolder folder(files, disk_.path());
     files.AllowBytes(bytes);
-    EXPECT_FALSE(WriteLeaveYear(folder, kFiles, 2026, FiftyWith(other))) << bytes;
+    EXPECT_FALSE(WriteLeaveYear(folder, kSickLeaveFiles, 2026, FiftyWith(other))) << bytes;
     EXPECT_EQ(disk_.Read("2026.Sl1"), before) << bytes;
   }
 }
@@ -98,7 +99,7 @@ TEST_F(LeaveYearTest, TheNextYearBeginsWithNamesAndDaysAuthorised) {
   disk_.Write("2027.Sl1", "old");
   Rows sixty(60, Row(16));
   sixty[0] = sixty[59] = AnnLee();
-  ASSERT_TRUE(WriteNamesOfNextYear(folder_, kFiles, 2026, sixty));
+  ASSERT_TRUE(WriteNamesOfNextYear(folder_, kSickLeaveFiles, 2026, sixty));
   EXPECT_EQ(disk_.Read("2026.Sl2"), "\"61\"\r\n");
   EXPECT_FALSE(folder_.Exists("2027.Sl2"));
   std::string ann = "\"Ann Lee\"\r\n";
@@ -107,7 +108,7 @@ TEST_F(LeaveYearTest, TheNextYearBeginsWithNamesAndDaysAuthorised) {
   EXPECT_EQ(disk_.Read("2027.Sl1"), ann + Blank(58) + ann + Blank(1));
   EXPECT_EQ(Read(2027).rows.size(), 50u);  // the next year isn't counted
   // Again: what a person had is still there.
-  ASSERT_TRUE(WriteNamesOfNextYear(folder_, kFiles, 2026, FiftyWith({})));
+  ASSERT_TRUE(WriteNamesOfNextYear(folder_, kSickLeaveFiles, 2026, FiftyWith({})));
   EXPECT_EQ(disk_.Read("2027.Sl1.old"), "old");
 }
 

@@ -15,10 +15,10 @@ namespace {
 using forms::Answer;
 using ::testing::Contains;
 
-constexpr const char* kTitle = "Save Option";
+constexpr const char* kSaveTitle = "Save Option";
 constexpr const char* kQuestion = "Save changes made to data before next action?";
 
-const forms::MessageBox kDeleteMonth{kTitle, "Delete March 2026 calendar entries and file?",
+const forms::MessageBox kDeleteMonth{kSaveTitle, "Delete March 2026 calendar entries and file?",
                                      forms::Icon::kQuestion, forms::Buttons::kYesNo, 2};
 
 std::string TrimText(const char* begin) {
@@ -85,13 +85,13 @@ TEST_F(CalendarTest, WhatIsTypedIsDrawnAtOnceAndWrittenBySave) {
 
 TEST_F(CalendarTest, LeavingTypedLinesAsks) {
   form().lines[0].Type("dropped");
-  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel(kSaveTitle, kQuestion, Answer::kNo);
   PickDay(10);
   EXPECT_FALSE(form().unsaved());
   PickDay(9);
   EXPECT_EQ(form().lines[0].text(), "");
   form().lines[0].Type("kept");
-  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kYes);
+  rig.dialogs.ExpectYesNoCancel(kSaveTitle, kQuestion, Answer::kYes);
   PickDay(1, 4);
   EXPECT_EQ(Stored(9)[0], "kept");
   EXPECT_EQ(form().lines[0].text(), "");
@@ -100,13 +100,13 @@ TEST_F(CalendarTest, LeavingTypedLinesAsks) {
   const std::function<void()> ways[] = {[&] { PickDay(2, 4); }, [&] { PickDay(1, 5); },
                                         [&] { form().exit.Click(); }, [&] { rig.CloseWindow(); }};
   for (const auto& leave : ways) {
-    rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kCancel);
+    rig.dialogs.ExpectYesNoCancel(kSaveTitle, kQuestion, Answer::kCancel);
     leave();
     ASSERT_EQ(rig.top(), "Calendar");
     EXPECT_EQ(form().lines[0].text(), "still here");
     EXPECT_EQ(form().picker.date(), text::MakeDate(2026, 4, 1));
   }
-  rig.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kNo);
+  rig.dialogs.ExpectYesNoCancel(kSaveTitle, kQuestion, Answer::kNo);
   rig.CloseWindow();
   EXPECT_EQ(rig.top(), "Startfrm");
 }
@@ -222,7 +222,7 @@ TEST_F(CalendarTest, WhatTheDiskRefusesOrCantReadIsKeptAndTold) {
   };
   refusal();
   calendar.save.Click();
-  full.dialogs.ExpectYesNoCancel(kTitle, kQuestion, Answer::kYes);
+  full.dialogs.ExpectYesNoCancel(kSaveTitle, kQuestion, Answer::kYes);
   refusal();
   full.dialogs.ExpectLeaveUnsaved(Answer::kNo);
   calendar.picker.SelectDay(text::MakeDate(2026, 5, 1));

@@ -4,14 +4,10 @@
 
 #include <vector>
 
+#include "planner/filled_day.h"
+
 namespace tarnwell::planner {
 namespace {
-
-DayRows RowsOf(const std::vector<DayRow>& filled) {
-  DayRows rows;
-  std::copy(filled.begin(), filled.end(), rows.begin());
-  return rows;
-}
 
 TEST(DaySort, PutsTheHoursOfTheDayInOrder) {
   const DayRows mixed = RowsOf({{"10:00 PM", "j"},

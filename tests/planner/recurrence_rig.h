@@ -10,6 +10,7 @@
 
 #include "forms/form_names.h"
 #include "planner/day_store.h"
+#include "planner/filled_day.h"
 #include "planner/zcalandar1.h"
 #include "support/program_rig.h"
 
@@ -29,9 +30,7 @@ class RecurrencePanelTest : public ::testing::Test {
     Open(kToday);
   }
   void SaveRows(Date date, const std::vector<DayRow>& filled) {
-    DayRows rows;
-    std::copy(filled.begin(), filled.end(), rows.begin());
-    ASSERT_TRUE(WriteDay(rig.folder, date, rows));
+    ASSERT_TRUE(WriteDay(rig.folder, date, RowsOf(filled)));
   }
   // A new run of the program, with the panel open for the first row of the date.
   void Open(Date date) {

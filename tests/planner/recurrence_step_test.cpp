@@ -6,6 +6,8 @@
 #include <random>
 #include <vector>
 
+#include "planner/filled_day.h"
+
 namespace tarnwell::planner {
 namespace {
 
@@ -29,12 +31,6 @@ class FakeDayBook : public DayBook {
   bool writable = true;
   int writes = 0;
 };
-
-DayRows RowsOf(const std::vector<DayRow>& filled) {
-  DayRows rows;
-  std::copy(filled.begin(), filled.end(), rows.begin());
-  return rows;
-}
 
 // All rows taken; the last one with a time and, if asked for, a text.
 DayRows TakenDay(const std::string& last_text) {

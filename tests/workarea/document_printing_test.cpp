@@ -12,7 +12,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::string Rtf(const std::string& text) { return "{\\rtf1\\ansi\\pard " + text + "\\par}"; }
+std::string PlainRtf(const std::string& text) { return "{\\rtf1\\ansi\\pard " + text + "\\par}"; }
 
 class DocumentPrintingTest : public ::testing::Test {
  protected:
@@ -22,7 +22,7 @@ class DocumentPrintingTest : public ::testing::Test {
     Press("SSCommand11(2)");
   }
   void Write(int number, const std::string& text) {
-    rig.temporary.Write("EmployPolicy" + std::to_string(number) + ".Fl2", Rtf(text));
+    rig.temporary.Write("EmployPolicy" + std::to_string(number) + ".Fl2", PlainRtf(text));
   }
   WorkArea1& hub() { return rig.Get<WorkArea1>("WorkArea1"); }
   void Press(std::string_view name) { dynamic_cast<forms::Command&>(*hub().Find(name)).Click(); }
@@ -132,7 +132,7 @@ TEST_F(DocumentPrintingTest, WhatCantBeReadIsNamedInsteadOfPrinted) {
 }
 
 TEST_F(DocumentPrintingTest, TheDocumentOnShowIsPrintedAsItStandsWithTheTextsTicked) {
-  rig.temporary.Write("EmployComment0.Fl2", Rtf("Remarks"));
+  rig.temporary.Write("EmployComment0.Fl2", PlainRtf("Remarks"));
   Press("SSCommand14(0)");
   rig.dialogs.ExpectNote("Print", "There are currently No Entries to Print!");
   hub().document.print_options.Click();

@@ -10,14 +10,14 @@
 
 #include "desktop/widgets/page_painter.h"
 #include "desktop/widgets/text.h"
+#include "forms/services.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 constexpr int kClipboardDpi = 150;
 
-int ToTwips(double points) { return static_cast<int>(std::lround(points * kTwipsPerPoint)); }
+int ToTwips(double points) { return static_cast<int>(std::lround(points * forms::kTwipsPerPoint)); }
 
 void PaintSheet(QPainter& painter, PagePainter& pages, int page, double pixels_per_twip) {
   painter.save();
@@ -29,10 +29,11 @@ void PaintSheet(QPainter& painter, PagePainter& pages, int page, double pixels_p
 }  // namespace
 
 QPageLayout LayoutOf(const forms::PageSetup& setup) {
-  const QSizeF paper(setup.paper_width / kTwipsPerPoint, setup.paper_height / kTwipsPerPoint);
-  const QMarginsF margins(setup.margins.left / kTwipsPerPoint, setup.margins.top / kTwipsPerPoint,
-                          setup.margins.right / kTwipsPerPoint,
-                          setup.margins.bottom / kTwipsPerPoint);
+  const QSizeF paper(setup.paper_width / forms::kTwipsPerPoint,
+                     setup.paper_height / forms::kTwipsPerPoint);
+  const QMarginsF margins(
+      setup.margins.left / forms::kTwipsPerPoint, setup.margins.top / forms::kTwipsPerPoint,
+      setup.margins.right / forms::kTwipsPerPoint, setup.margins.bottom / forms::kTwipsPerPoint);
   return {QPageSize(paper, QPageSize::Point, QString(), QPageSize::FuzzyMatch),
           setup.landscape ? QPageLayout::Landscape : QPageLayout::Portrait, margins,
           QPageLayout::Point};

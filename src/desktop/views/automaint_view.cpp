@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLettersOfFile = 40;
 constexpr int kLettersOfHead = 150;
-constexpr int kLettersOfPanel = 120;
+constexpr int kLettersOfVehiclePanel = 120;
 constexpr int kLettersOfCalculator = 90;
 constexpr QSize kPictureSize(160, 100);
 
@@ -142,7 +142,7 @@ QWidget* View(vehicles::AutoMaint& form, PictureStore& pictures) {
   return Padded(
       Column({Grow(Sheet(form, pictures)),
               AtTop(AtMost(Calculator(form.calculator), kLettersOfCalculator)),
-              Grow(AtMost(PicturePanelView(form.picture_choice, pictures), kLettersOfPanel)),
+              Grow(AtMost(PicturePanelView(form.picture_choice, pictures), kLettersOfVehiclePanel)),
               AtTop(Widget(form.searching, Widget(form.progress))), Grow(Print(form.print))},
              0),
       kSpace);

@@ -42,7 +42,7 @@ QWidget* Months(budget::Budget1a& form) {
   return Card(table, kTightSpace);
 }
 
-QWidget* Choice(forms::Panel& frame, forms::OptionGroup& group) {
+QWidget* Choices(forms::Panel& frame, forms::OptionGroup& group) {
   QWidget* options = Row({});
   for (int i = 0; i < group.size(); ++i) Append(options, Widget(group.option(i)));
   return Inline(Widget(frame, options));
@@ -58,8 +58,8 @@ QWidget* Totals(budget::TotalsPanel& panel, PictureStore& pictures) {
   QWidget* list = Column({sums, Widget(panel.hint), Grow(Widget(panel.items, pictures)),
                           Wrapped(Widget(panel.base_note))});
   QWidget* graph = Column(
-      {Grow(Widget(panel.chart)), Flow({Choice(panel.kind_frame, panel.kind),
-                                        Choice(panel.orientation_frame, panel.orientation)})});
+      {Grow(Widget(panel.chart)), Flow({Choices(panel.kind_frame, panel.kind),
+                                        Choices(panel.orientation_frame, panel.orientation)})});
   return Widget(
       panel.panel,
       Column({Grow(Row({Grow(AtMost(list, kLettersOfItems), 2), Grow(graph, 3)}, kWideSpace)),

@@ -6,7 +6,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-enum Column { kTime, kPicker, kEntry, kRecurrence };
+enum RowColumn { kTime, kPicker, kEntry, kRecurrence };
 
 constexpr int kLettersOfTime = 9;
 

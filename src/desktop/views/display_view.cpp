@@ -9,7 +9,6 @@ namespace tarnwell::desktop {
 namespace {
 
 constexpr int kLettersOfSearch = 40;
-constexpr int kLettersOfPanel = 150;
 constexpr int kLettersOfDialing = 12;
 constexpr QSize kPicture{32, 32};
 

@@ -9,7 +9,7 @@ namespace {
 
 using record_book::PicturePages;
 
-constexpr int kPictureSide = 180;  // pixels
+constexpr int kCellSide = 180;  // pixels
 constexpr int kLettersOfMonth = 10;
 
 QWidget* Criteria(PicturePages& form) {
@@ -31,7 +31,7 @@ QWidget* Criteria(PicturePages& form) {
 
 QWidget* Picture(PicturePages& form, PictureStore& pictures) {
   QWidget* picture = Widget(form.picture, pictures);
-  picture->setFixedSize(kPictureSide, kPictureSide);
+  picture->setFixedSize(kCellSide, kCellSide);
   return Column({picture, Wrapped(Widget(form.picture_note)), Spring()});
 }
 

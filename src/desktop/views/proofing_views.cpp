@@ -8,12 +8,12 @@ namespace tarnwell::desktop {
 namespace {
 
 // A word and the two ends of its sentence fit, whatever they are.
-constexpr int kLetters = 88;
+constexpr int kLettersOfText = 88;
 constexpr int kLines = 24;
 
 QWidget* InDialogueSize(QWidget* content) {
   const QFontMetrics text = content->fontMetrics();
-  return AtLeast({kLetters * text.averageCharWidth(), kLines * text.height()}, content);
+  return AtLeast({kLettersOfText * text.averageCharWidth(), kLines * text.height()}, content);
 }
 
 }  // namespace

@@ -47,11 +47,6 @@ QWidget* CopyAndPaste(reference::InfoAdv& form) {
                 kLettersOfCopyAndPaste);
 }
 
-QWidget* InSize(TextSize size, QWidget* label) {
-  label->setFont(ScaledFont(size));
-  return label;
-}
-
 QWidget* ToolsSide(reference::ToolsandInfo1& form) {
   QWidget* buttons =
       Widget(form.side, Column({Listed(WithIcon("advisor", Widget(form.disclaimer))),

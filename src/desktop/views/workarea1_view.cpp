@@ -14,7 +14,6 @@ namespace {
 
 constexpr int kLettersOfNote = 90;
 constexpr int kLettersOfNames = 32;
-constexpr int kLettersOfPanel = 150;
 
 QWidget* Areas(workarea::AreaButtonColumn& areas) {
   QWidget* column = Column({}, kTightSpace);
@@ -45,11 +44,6 @@ QWidget* Names(workarea::NamesPanel& names) {
 }
 
 // Beside a document every line of text counts: its title and its tools are smaller than elsewhere.
-QWidget* InSize(TextSize size, QWidget* label) {
-  label->setFont(ScaledFont(size));
-  return label;
-}
-
 QWidget* Compact(QWidget* button) {
   SetMark(button, "compact", true);
   return button;

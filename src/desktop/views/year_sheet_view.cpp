@@ -11,7 +11,6 @@ namespace {
 constexpr int kLettersOfBox = 40;
 constexpr int kLeastLettersOfYears = 11;  // with the arrow of the list
 constexpr int kLettersOfLocation = 9;
-constexpr int kLettersOfPanel = 150;
 
 }  // namespace
 

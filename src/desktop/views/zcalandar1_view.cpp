@@ -12,7 +12,6 @@ namespace {
 
 // A day's row, in letters: wider, and the eye loses the line.
 constexpr int kLettersOfRow = 105;
-constexpr int kLettersOfPanel = 150;
 
 QWidget* Day(planner::Zcalandar1& form) {
   QWidget* sort_time = Inline(Widget(

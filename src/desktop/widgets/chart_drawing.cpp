@@ -16,10 +16,10 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kLetters = 12;        // units of a scene for paper
-constexpr double kLeastSide = 40;   // of a scene that is drawn at all
-constexpr double kNameShare = 0.3;  // of the width, at most, on either side of a pie
-constexpr double kPieShare = 0.8;   // of its place; the rest is for the slice that stands out
+constexpr int kLettersOnPaper = 12;     // units of a scene for paper
+constexpr double kLeastSide = 40;       // of a scene that is drawn at all
+constexpr double kSideNameShare = 0.3;  // of the width, at most, on either side of a pie
+constexpr double kPieShare = 0.8;       // of its place; the rest is for the slice that stands out
 
 }  // namespace
 
@@ -66,7 +66,7 @@ void ChartDrawing::DrawPie(const forms::ChartPicture& picture, ChartLabels& labe
   }
   series->append(slices);
   series->setPieSize(kPieShare);
-  const double width = labels.WidthOf(names, size_.width() * kNameShare);
+  const double width = labels.WidthOf(names, size_.width() * kSideNameShare);
   chart_->addSeries(series);
   const QRectF place(width, labels.line_height(), size_.width() - 2 * width,
                      size_.height() - 2 * labels.line_height());
@@ -92,9 +92,9 @@ void ChartDrawing::DrawPie(const forms::ChartPicture& picture, ChartLabels& labe
 void ChartDrawing::Paint(QPainter& painter, const QRectF& place, const forms::ChartPicture& picture,
                          double letters) {
   QFont font = QApplication::font();
-  font.setPixelSize(kLetters);
+  font.setPixelSize(kLettersOnPaper);
   font.setHintingPreference(QFont::PreferNoHinting);
-  const double scale = letters / kLetters;
+  const double scale = letters / kLettersOnPaper;
   ChartDrawing drawing(picture, place.size() / scale, font);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);

@@ -9,7 +9,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kGap = 4;       // between an edge and its labels
+constexpr double kLabelGap = 4;  // between an edge and its labels
 constexpr double kBetween = 4;   // between two labels beside each other
 constexpr double kSlack = 0.01;  // what rounding may add
 
@@ -36,7 +36,7 @@ QSizeF ChartLabels::SizeOf(const Label& label, double most) const {
 double ChartLabels::WidthOf(const std::vector<Label>& labels, double most) const {
   double widest = 0;
   for (const Label& label : labels) widest = std::max(widest, SizeOf(label, most).width());
-  return widest + kGap;
+  return widest + kLabelGap;
 }
 
 bool ChartLabels::AllFitLevel(const std::vector<Label>& labels) const {
@@ -67,9 +67,9 @@ void ChartLabels::Above(const std::vector<Label>& labels, double edge, double he
 
 void ChartLabels::Beside(const std::vector<Label>& labels, double edge, double width, bool left) {
   for (const Label& label : ByWeight(labels)) {
-    QRectF place({}, SizeOf(label, width - kGap));
+    QRectF place({}, SizeOf(label, width - kLabelGap));
     place.moveTop(label.at - place.height() / 2);
-    left ? place.moveRight(edge - kGap) : place.moveLeft(edge + kGap);
+    left ? place.moveRight(edge - kLabelGap) : place.moveLeft(edge + kLabelGap);
     Write(label, place, false);
   }
 }
@@ -77,19 +77,20 @@ void ChartLabels::Beside(const std::vector<Label>& labels, double edge, double w
 void ChartLabels::AtEdge(const std::vector<Label>& labels, double edge, double height, bool below) {
   const bool upright = !AllFitLevel(labels);
   for (const Label& label : ByWeight(labels)) {
-    const QSizeF size = SizeOf(label, upright ? height - kGap : bounds_.width());
+    const QSizeF size = SizeOf(label, upright ? height - kLabelGap : bounds_.width());
     QRectF place({}, upright ? size.transposed() : size);
     place.moveLeft(label.at - place.width() / 2);
-    below ? place.moveTop(edge + kGap) : place.moveBottom(edge - kGap);
+    below ? place.moveTop(edge + kLabelGap) : place.moveBottom(edge - kLabelGap);
     Write(label, place, upright);
   }
 }
 
 bool ChartLabels::Around(const Label& label, const QPointF& point, const QPointF& middle,
                          double width) {
-  QRectF place({}, SizeOf(label, width - kGap));
+  QRectF place({}, SizeOf(label, width - kLabelGap));
   place.moveTop(point.y() - place.height() / 2);
-  point.x() < middle.x() ? place.moveRight(point.x() - kGap) : place.moveLeft(point.x() + kGap);
+  point.x() < middle.x() ? place.moveRight(point.x() - kLabelGap)
+                         : place.moveLeft(point.x() + kLabelGap);
   return Write(label, place, false);
 }
 

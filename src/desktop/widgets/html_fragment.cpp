@@ -10,19 +10,18 @@
 
 #include "desktop/widgets/closed_document.h"
 #include "desktop/widgets/html_lists.h"
+#include "forms/services.h"
 #include "richtext/limits.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
-constexpr int kTwipsPerPoint = 20;
 constexpr int kTwipsPerLevel = 360;
 constexpr int kTableWidth = 8640;  // twips, the text's width of a usual page
 constexpr int kMostLevel = 8;
 
 int Twips(double pixels) {
-  return std::clamp(static_cast<int>(std::lround(pixels * kTwipsPerPixel)), 0,
+  return std::clamp(static_cast<int>(std::lround(pixels * forms::kTwipsPerPixel)), 0,
                     richtext::kLongestLength);
 }
 
@@ -36,7 +35,7 @@ int HalfPointsOf(const QTextCharFormat& format) {
   double points = format.fontPointSize();
   const QFont font = format.font();
   if (points <= 0 && format.hasProperty(QTextFormat::FontPixelSize)) {
-    points = static_cast<double>(font.pixelSize() * kTwipsPerPixel) / kTwipsPerPoint;
+    points = static_cast<double>(font.pixelSize() * forms::kTwipsPerPixel) / forms::kTwipsPerPoint;
   }
   if (points <= 0) points = 12;
   constexpr double kSteps[] = {0.7, 0.85, 1, 1.2, 1.5, 2, 2.4};
@@ -161,7 +160,7 @@ richtext::Cell CellFrom(const QTextTableCell& cell, bool has_border) {
   if (has_border) {
     richtext::Border border;
     border.style = "brdrs";
-    border.width = kTwipsPerPixel;
+    border.width = forms::kTwipsPerPixel;
     out.top = out.left = out.bottom = out.right = border;
   }
   return out;

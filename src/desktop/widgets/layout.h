@@ -16,6 +16,8 @@
 
 namespace tarnwell::desktop {
 
+inline constexpr int kLettersOfPanel = 150;  // the width of a panel that covers a screen
+
 // One place in a row or a column. A widget goes in as it is.
 struct Cell {
   Cell(QWidget* content) : widget(content) {}  // NOLINT: implicit, so that views read well

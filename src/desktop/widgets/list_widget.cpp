@@ -14,7 +14,7 @@
 namespace tarnwell::desktop {
 namespace {
 
-constexpr std::ptrdiff_t kMostMeasured = 64;  // texts, the longest ones
+constexpr std::ptrdiff_t kMostTextsMeasured = 64;  // texts, the longest ones
 
 // All rows are of one height and as wide as the widest text, so that a long list is shown without
 // measuring each.
@@ -82,7 +82,7 @@ class List : public QListView {
   }
   void MeasureAll() {
     std::vector<std::string_view> texts(box_.items().begin(), box_.items().end());
-    const auto measured = std::min(std::ssize(texts), kMostMeasured);
+    const auto measured = std::min(std::ssize(texts), kMostTextsMeasured);
     std::ranges::partial_sort(texts, texts.begin() + measured, std::greater(),
                               &std::string_view::size);
     rows_->Forget();

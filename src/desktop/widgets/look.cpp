@@ -186,6 +186,11 @@ QFont ScaledFont(TextSize size) {
   return font;
 }
 
+QWidget* InSize(TextSize size, QWidget* label) {
+  label->setFont(ScaledFont(size));
+  return label;
+}
+
 QColor ToQColor(forms::Color color) {
   return {color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF};
 }

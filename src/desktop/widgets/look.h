@@ -23,6 +23,8 @@ enum class TextSize { kNote, kText, kStrong, kHeading, kTitle };
 
 // In steps from the application's font, so that a person's larger system font enlarges all.
 QFont ScaledFont(TextSize size);
+// The label, in a font of that size.
+QWidget* InSize(TextSize size, QWidget* label);
 
 inline const QColor kAccent{0x1F, 0x5F, 0xBF};
 // The text of a selected main button.

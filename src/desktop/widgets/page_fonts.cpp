@@ -5,11 +5,11 @@
 #include <cmath>
 
 #include "desktop/widgets/text.h"
+#include "forms/services.h"
 
 namespace tarnwell::desktop {
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 constexpr std::size_t kFontsKept = 64;
 
 QFont Styled(const forms::Font& font) {
@@ -47,7 +47,7 @@ QFont ScreenFont(const forms::Font& font) {
 
 QFont PageFont(const forms::Font& font) {
   QFont page = Styled(font);
-  page.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * kTwipsPerPoint))));
+  page.setPixelSize(std::max(1, static_cast<int>(std::lround(font.size * forms::kTwipsPerPoint))));
   page.setHintingPreference(QFont::PreferNoHinting);
   page.setStyleStrategy(QFont::PreferNoShaping);
   page.setKerning(false);

@@ -30,7 +30,7 @@ constexpr const char* kPageBreak = "\f";
 // More than a key goes.
 constexpr int kBlocksOfPage = 150;
 constexpr int kBlocksOfStep = 3;
-constexpr std::size_t kMoreWork = 100;                                  // of the renderer
+constexpr std::size_t kMoreWorkOfKey = 100;                             // of the renderer
 constexpr richtext::Position kEnd{std::numeric_limits<int>::max(), 0};  // or before it
 
 bool MovesCursor(const QKeyEvent& event) {
@@ -95,7 +95,7 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   const bool moves = MovesCursor(*event);
   const bool goes_far = event->key() == Qt::Key_PageDown || event->key() == Qt::Key_PageUp;
   const int needed = textCursor().blockNumber() + (goes_far ? kBlocksOfPage : kBlocksOfStep);
-  while (!renderer_.is_done() && document()->blockCount() < needed) ShowMore(kMoreWork);
+  while (!renderer_.is_done() && document()->blockCount() < needed) ShowMore(kMoreWorkOfKey);
   if (PressCommandKey(*event) || PressTab(*event) || PressEraseKey(*event) ||
       PressTextKey(*event)) {
     return event->accept();

@@ -6,11 +6,10 @@
 #include <utility>
 
 #include "desktop/widgets/picture_files.h"
+#include "forms/services.h"
 
 namespace tarnwell::desktop {
 namespace {
-
-constexpr int kTwipsPerPixel = 15;
 
 QString NameOf(const QByteArray& file) {
   return QStringLiteral("picture:") +
@@ -27,8 +26,8 @@ QTextImageFormat PictureFormat(const richtext::Picture& picture, const QByteArra
   if (!pixels.isValid()) {
     width = height = formats.Pixels(richtext::kBrokenPicture);
   } else if (width <= 0 || height <= 0) {
-    width = pixels.width() * formats.Pixels(kTwipsPerPixel);
-    height = pixels.height() * formats.Pixels(kTwipsPerPixel);
+    width = pixels.width() * formats.Pixels(forms::kTwipsPerPixel);
+    height = pixels.height() * formats.Pixels(forms::kTwipsPerPixel);
   }
   if (pixels.isValid()) {
     width *= std::max(1, picture.scale_x) / 100.0;
