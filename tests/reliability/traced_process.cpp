@@ -37,11 +37,19 @@ bool IsAboutFiles(std::uint64_t call) {
   return std::ranges::find(kCalls, call) != std::end(kCalls);
 }
 
-// Bytes of a write in the first page that it touches; all of them where there is only one.
-std::uint64_t FirstPart(const __ptrace_syscall_info& info) {
+// Bytes of a write that end where a page does, `most` or fewer; all of them where they fit. The
+// machine takes a page whole or not at all.
+std::uint64_t WholePages(const __ptrace_syscall_info& info, std::uint64_t most) {
   const std::uint64_t size = info.entry.args[2];
+  if (size <= most) return size;
   const std::uint64_t offset = info.entry.nr == SYS_pwrite64 ? info.entry.args[3] : 0;
-  return std::min(size, kPage - offset % kPage);
+  const std::uint64_t end = (offset + most) / kPage * kPage;
+  return end > offset ? end - offset : 0;
+}
+
+// Bytes of a write in the first page that it touches; all of them where there is only one.
+std::uint64_t FirstPage(const __ptrace_syscall_info& info) {
+  return WholePages(info, kPage - (info.entry.nr == SYS_pwrite64 ? info.entry.args[3] % kPage : 0));
 }
 
 class Tracer {
@@ -91,7 +99,7 @@ class Tracer {
   }
 
   void Entered(const __ptrace_syscall_info& info) {
-    if (IsWrite(info.entry.nr)) LimitWrite(info.entry.args[2]);
+    if (IsWrite(info.entry.nr)) LimitWrite(info);
     if (!CanMeet(info)) return;
     ++run_.calls;
     const bool goes_on = disturbance_.kind == Kind::kRefuseOnward;
@@ -99,7 +107,7 @@ class Tracer {
     run_.is_met = true;
     if (disturbance_.kind == Kind::kKill) return Kill();
     if (disturbance_.kind != Kind::kTear) return Refuse(disturbance_.error);
-    Set(offsetof(user_regs_struct, rdx), FirstPart(info));
+    Set(offsetof(user_regs_struct, rdx), FirstPage(info));
     ends_behind_ = true;
   }
 
@@ -110,16 +118,17 @@ class Tracer {
       case Kind::kKill:
         return true;
       case Kind::kTear:
-        return IsWrite(info.entry.nr) && FirstPart(info) < info.entry.args[2];
+        return IsWrite(info.entry.nr) && FirstPage(info) < info.entry.args[2];
       default:
         return IsAboutFiles(info.entry.nr);
     }
   }
 
-  void LimitWrite(std::uint64_t size) {
+  void LimitWrite(const __ptrace_syscall_info& info) {
+    const std::uint64_t size = info.entry.args[2];
     run_.written += size;
-    const std::uint64_t fits = std::min(size, disturbance_.room);
-    disturbance_.room -= fits;
+    const std::uint64_t fits = WholePages(info, disturbance_.room);
+    disturbance_.room = fits == size ? disturbance_.room - size : 0;
     if (fits == size) return;
     run_.is_met = true;
     if (fits == 0) return Refuse(ENOSPC);

@@ -20,7 +20,8 @@ struct Disturbance {
   Kind kind = Kind::kNone;
   int call = 0;  // from 1, of the calls that this kind of disturbance can meet
   int error = 0;
-  // Bytes that all writes together may take. The rest finds the disk full.
+  // Bytes that all writes together may take. Of the write that asks for more only whole pages are
+  // made, and from then on the disk is full, for what lies on it already too.
   std::uint64_t room = std::numeric_limits<std::uint64_t>::max();
 };
 
