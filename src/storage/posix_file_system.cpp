@@ -178,11 +178,16 @@ class PosixFileSystem : public FileSystem {
       return std::nullopt;
     }
     std::vector<std::string> names;
-    while (const dirent* entry = ::readdir(stream.get())) {
+    for (;;) {
+      errno = 0;  // the end of the folder and a failure look alike but for this
+      const dirent* entry = ::readdir(stream.get());
+      if (!entry) break;
       const std::string_view name = entry->d_name;
       if (name != "." && name != "..") names.emplace_back(name);
     }
-    return names;
+    if (errno == 0) return names;
+    Failed(errno);
+    return std::nullopt;
   }
 
   Fault fault() const override { return fault_; }

@@ -115,7 +115,9 @@ VehicleSheet ReadSheet(storage::ProgramFolder& folder, int slot, std::string_vie
 storage::Outcome WriteSheet(storage::ProgramFolder& folder, int slot, const VehicleSheet& sheet,
                             std::string_view date_style) {
   const std::string name = file_names::VehicleSheet(slot);
-  if (const std::string kept = file_names::Replaced(name); sheet.is_older && !folder.Exists(kept)) {
+  const std::string kept = file_names::Replaced(name);
+  if (sheet.is_older && !folder.Open(kept, storage::OpenMode::kRead)) {
+    if (folder.fault() != storage::Fault::kMissing) return folder.fault();
     if (const storage::Outcome copied = folder.Copy(name, kept); !copied) return copied;
   }
   storage::SequentialWriter file;

@@ -11,6 +11,7 @@
 namespace tarnwell::vehicles {
 namespace {
 
+using storage::Fault;
 using storage::Outcome;
 using storage::ProgramFolder;
 using storage::RecordFile;
@@ -35,30 +36,33 @@ Vehicle VehicleOf(int number, std::string_view record) {
           text::TrimRight(text::Left(trimmed, kLongestVehicleName))};
 }
 
-int RecordCount(ProgramFolder& folder) {
-  const auto bytes = folder.Length(file_names::kVehicleSlots);
-  return static_cast<int>(
-      std::min<std::uint64_t>((bytes + kSlotRecordLength - 1) / kSlotRecordLength, kMostSlots));
-}
-
 std::vector<std::string> FilesOf(int slot) {
   return {file_names::VehicleSheet(slot), file_names::VehicleFuel(slot),
           file_names::VehicleMaintenance(slot), file_names::VehicleRepairs(slot)};
 }
 
-bool IsBlank(ProgramFolder& folder, std::string_view name) {
+// Of a file that holds something or isn't ours: kNotPlain. Any other fault is the disk's.
+Outcome IsBlank(ProgramFolder& folder, std::string_view name) {
   storage::SequentialReader file(folder, name);
-  if (file.is_unreadable()) return false;
-  while (!file.AtEnd()) {
-    if (!text::Trim(file.Next()).empty()) return false;
+  if (file.is_unreadable()) {
+    const bool is_kept = file.fault() == Fault::kNotPermitted || file.fault() == Fault::kTooLarge;
+    return is_kept ? Fault::kNotPlain : file.fault();
   }
-  return true;
+  while (!file.AtEnd()) {
+    if (!text::Trim(file.Next()).empty()) return Fault::kNotPlain;
+  }
+  return {};
 }
 
-bool CanBeGiven(ProgramFolder& folder, int slot, const std::vector<Vehicle>& vehicles) {
-  return std::ranges::find(vehicles, slot, &Vehicle::slot) == vehicles.end() &&
-         std::ranges::all_of(FilesOf(slot),
-                             [&](const std::string& name) { return IsBlank(folder, name); });
+Outcome CanBeGiven(ProgramFolder& folder, int slot, const std::vector<Vehicle>& vehicles) {
+  const auto has = [&](int Vehicle::*number) {
+    return std::ranges::find(vehicles, slot, number) != vehicles.end();
+  };
+  if (has(&Vehicle::record) || has(&Vehicle::slot)) return Fault::kNotPlain;
+  for (const std::string& name : FilesOf(slot)) {
+    if (const Outcome blank = IsBlank(folder, name); !blank) return blank;
+  }
+  return {};
 }
 
 Outcome PutRecord(ProgramFolder& folder, int record, std::string_view text) {
@@ -77,9 +81,13 @@ Outcome Empty(ProgramFolder& folder, std::string_view name, std::string_view bla
 bool CanBeVehicleName(std::string_view name) { return !IsFree(name); }
 
 VehicleTable ReadVehicles(ProgramFolder& folder) {
-  const int records = RecordCount(folder);
   RecordFile table(folder, file_names::kVehicleSlots, kSlotRecordLength);
   VehicleTable read;
+  int records = 0;
+  table.Scan(1, [&](int record, std::string_view) {
+    records = record;
+    return record < kMostSlots;
+  });
   for (int record = 1; record <= records; ++record) {
     const std::string text = table.GetText(record);
     if (!IsFree(text)) read.vehicles.push_back(VehicleOf(record, text));
@@ -90,11 +98,11 @@ VehicleTable ReadVehicles(ProgramFolder& folder) {
 
 TakenSlot TakeSlot(ProgramFolder& folder, std::string_view name) {
   const VehicleTable table = ReadVehicles(folder);
-  if (table.fault != storage::Fault::kNone) return {0, table.fault};
+  if (table.fault != Fault::kNone) return {0, table.fault};
   int slot = 1;
-  while (std::ranges::find(table.vehicles, slot, &Vehicle::record) != table.vehicles.end() ||
-         !CanBeGiven(folder, slot, table.vehicles)) {
-    if (++slot > kMostSlots) return {0, storage::Fault::kFull};
+  for (Outcome free; !(free = CanBeGiven(folder, slot, table.vehicles));) {
+    if (free.fault() != Fault::kNotPlain) return {0, free};
+    if (++slot > kMostSlots) return {0, Fault::kFull};
   }
   std::string record(text::Left(text::Trim(name), kLongestVehicleName));
   record.resize(kLongestVehicleName, ' ');
@@ -110,7 +118,7 @@ TakenSlot TakeSlot(ProgramFolder& folder, std::string_view name) {
 
 Outcome DeleteVehicle(ProgramFolder& folder, const Vehicle& vehicle) {
   const VehicleTable table = ReadVehicles(folder);
-  if (table.fault != storage::Fault::kNone) return table.fault;
+  if (table.fault != Fault::kNone) return table.fault;
   // The record first: what is no longer listed can be emptied later, but a vehicle that is listed
   // without its files would be lost.
   if (const Outcome freed = PutRecord(folder, vehicle.record, FreeRecord()); !freed) return freed;

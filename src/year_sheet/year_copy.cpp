@@ -8,8 +8,11 @@ using storage::file_names::Replaced;
 
 storage::Outcome KeepReplaced(storage::ProgramFolder& folder, std::string_view name) {
   const std::string kept = Replaced(name);
-  if (!folder.Exists(name) || folder.Exists(kept)) return {};
-  return folder.Copy(name, kept);
+  if (folder.Open(kept, storage::OpenMode::kRead)) return {};
+  // A folder that can't be read isn't one without the file.
+  if (folder.fault() != storage::Fault::kMissing) return folder.fault();
+  const storage::Outcome copied = folder.Copy(name, kept);
+  return copied.fault() == storage::Fault::kMissing ? storage::Outcome{} : copied;
 }
 
 storage::Outcome CopyYearFile(storage::ProgramFolder& folder, std::string_view from,
