@@ -173,6 +173,7 @@ int Run(const std::string& parent) {
        {MeasureOpening, MeasureFirstKeys, MeasureKeys, MeasureTable, MeasureBold, MeasureLook}) {
     is_quick = measure(editor, bytes) && is_quick;
   }
+  editor.Press(Qt::Key_A, QStringLiteral("a"));
   table.Measure(
       "Save 300 pages that were changed", 2, 9,
       [&] {

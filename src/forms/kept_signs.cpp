@@ -33,6 +33,8 @@ std::string_view SignOf(const richtext::KeptThing& thing) {
       return "comment";
     case KeptKind::kHiddenText:
       return "hidden text";
+    case KeptKind::kDeletedText:
+      return "deleted text";
   }
   return "";
 }

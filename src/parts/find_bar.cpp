@@ -4,7 +4,7 @@
 
 #include "forms/form.h"
 #include "richtext/paragraphs.h"
-#include "text/code_page_1252.h"
+#include "text/utf8.h"
 
 namespace tarnwell::parts {
 
@@ -47,7 +47,7 @@ void FindBar::Open() {
   if (!panel.enabled()) return;
   const std::string selected = text_.SelectedText();
   const bool is_a_line = selected.find('\n') == std::string::npos;
-  if (!selected.empty() && is_a_line) find.SetText(text::FromUtf8(text::Utf8(selected)));
+  if (!selected.empty() && is_a_line) find.SetWords(text::Utf8(selected));
   panel.SetVisible(true);
   find.Focus();
   find.SelectAll();
@@ -60,7 +60,7 @@ void FindBar::Close() {
 }
 
 richtext::Search FindBar::Wanted() const {
-  return {text::ToUtf8(find.text()).bytes(), whole_words.checked(), match_capitals.checked()};
+  return {find.words().bytes(), whole_words.checked(), match_capitals.checked()};
 }
 
 void FindBar::Next() {
@@ -77,7 +77,7 @@ void FindBar::Previous() {
 }
 
 void FindBar::Show(const std::optional<richtext::Range>& place, bool began_again) {
-  if (!place) return Note("\"" + find.text() + "\" was not found.");
+  if (!place) return NoteNothing();
   Note(began_again ? "The search went on at the other end of the document." : "");
   text_.Select(*place);
 }
@@ -86,7 +86,7 @@ void FindBar::Replace() {
   if (find.text().empty()) return;
   const richtext::Range selected = text_.selection();
   if (richtext::FindNext(text_.document(), Wanted(), selected.from) == selected) {
-    const std::string words = text::ToUtf8(replace.text()).bytes();
+    const std::string words = replace.words().bytes();
     words.empty() ? text_.Erase(selected) : text_.Type(words);
   }
   Next();
@@ -94,10 +94,14 @@ void FindBar::Replace() {
 
 void FindBar::ReplaceAll() {
   if (find.text().empty()) return;
-  const int count = text_.ReplaceAll(Wanted(), text::ToUtf8(replace.text()).bytes());
-  Note(count == 0   ? "\"" + find.text() + "\" was not found."
-       : count == 1 ? "1 place was replaced."
-                    : std::to_string(count) + " places were replaced.");
+  const int count = text_.ReplaceAll(Wanted(), replace.words().bytes());
+  if (count == 0) return NoteNothing();
+  Note(count == 1 ? "1 place was replaced." : std::to_string(count) + " places were replaced.");
+}
+
+// The status bar can't show words of every script.
+void FindBar::NoteNothing() {
+  Note((find.IsText() ? "\"" + find.text() + "\" was" : "These words were") + " not found.");
 }
 
 void FindBar::Note(const std::string& note) {

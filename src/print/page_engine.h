@@ -49,7 +49,8 @@ class PageEngine {
   int page_height() const { return paper_.height(); }
   int top() const { return paper_.margins.top; }
   int bottom() const {
-    return std::min(page_height() - paper_.margins.bottom - reserved_, column_limit_);
+    const int bottom = page_height() - paper_.margins.bottom - reserved_;
+    return column_ + 1 < columns_ ? std::min(bottom, column_limit_) : bottom;
   }
   // Keeps so much more free at the foot of the column in hand.
   void Reserve(int height) { reserved_ += height; }
@@ -74,9 +75,10 @@ class PageEngine {
   // Columns from the present position on, and from the head of later pages.
   void SetColumns(int count, int gap);
   int columns() const { return columns_; }
-  // Nothing stands in the column in hand yet.
-  // Columns that begin at the present position end `height` below it, on this page.
+  // Columns that begin at the present position end `height` below it, on this page; the last one
+  // goes on as far as it must.
   void LimitColumns(int height) { column_limit_ = column_top_ + height; }
+  // Nothing stands in the column in hand yet.
   bool at_column_top() const { return y_ <= column_top_; }
   // The next column, or the first one of a new page.
   void NextColumn();

@@ -192,14 +192,16 @@ bool ParagraphLines::Next(RichLine& line) {
   return true;
 }
 
-// The frame's upper and lower side take room of their own.
+// The frame's level lines take room of their own.
 void ParagraphLines::SetFrame(bool is_first, RichLine& line) const {
   const richtext::ParagraphFrame& sides = frame_->sides;
   line.frame = frame_;
   line.begins_frame = is_first && !room_.joints.above;
+  line.goes_on_with_frame = is_first && room_.joints.above;
   line.ends_frame = line.end == RichLine::End::kParagraph && !room_.joints.below;
-  if (line.begins_frame) {
-    const int above = sides.top.distance + sides.top.border.width;
+  if (is_first) {
+    const richtext::ParagraphFrame::Side& side = line.begins_frame ? sides.top : sides.between;
+    const int above = side.distance + side.border.width;
     line.base += above;
     line.height += above;
   }

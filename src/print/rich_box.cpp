@@ -1,8 +1,11 @@
 #include "print/rich_box.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "print/rich_table.h"
+#include "print/text_boxes.h"
+#include "richtext/kept_words.h"
 #include "richtext/nested_table.h"
 
 namespace tarnwell::print {
@@ -51,14 +54,21 @@ void RichBox::AddNested(const std::string& tables) {
 }
 
 void RichBox::AddParagraph(const richtext::Paragraph& paragraph, FrameJoints joints) {
+  if (printing_.depth < kMostNested) {
+    ++printing_.depth;
+    for (const richtext::Table& box : TextBoxesOf(printing_, paragraph)) AddTable(box);
+    --printing_.depth;
+  }
   PrintedText::Printed printed;
   const bool changes = PrintedText::Changes(paragraph);
   if (changes) printed = printing_.text.Of(paragraph);
   const richtext::Paragraph& shown = changes ? printed.paragraph : paragraph;
+  const bool stays_with_next = richtext::HoldsKept("keepn", paragraph.format.other);
   int gap = last_gap_ + paragraph.format.space_before;
   ParagraphLines lines(shown, printing_.styles, {room_.width, room_.height, joints});
   for (Item item; lines.Next(item.line); item = {}) {
     item.gap = std::exchange(gap, 0);
+    item.stays_with_next = stays_with_next;
     if (joints.above) item.line.frame_above = item.gap;
     items_->push_back(std::move(item));
   }
@@ -89,6 +99,39 @@ int RichBox::HeightOf(std::size_t count) const {
   int height = 0;
   for (std::size_t i = next_; i < next_ + count; ++i) height += (*items_)[i].height();
   return height;
+}
+
+int RichBox::LevelHeight(int columns) const {
+  int most = HeightLeft();
+  for (int least = most / std::max(columns, 1); least < most;) {
+    const int middle = least + (most - least) / 2;
+    if (FitsIn(columns, middle)) {
+      most = middle;
+    } else {
+      least = middle + 1;
+    }
+  }
+  return most;
+}
+
+bool RichBox::FitsIn(int columns, int height) const {
+  int column = 1;
+  int used = 0;
+  int together = 0;  // the items that stay with the one in hand, and that one
+  int gap = 0;       // above the first of them
+  for (std::size_t i = next_; i < items_->size(); ++i) {
+    const Item& item = (*items_)[i];
+    if (together == 0) gap = item.gap;
+    together += item.height();
+    if (item.stays_with_next && i + 1 < items_->size()) continue;
+    if (used > 0 && used + together > height) {
+      if (++column > columns) return false;
+      used = -gap;
+    }
+    used += std::exchange(together, 0);
+    if (used > height) return false;
+  }
+  return true;
 }
 
 void RichBox::PlaceNext(std::size_t count, int x, int y) {

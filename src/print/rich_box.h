@@ -30,6 +30,8 @@ class RichBox {
   // How high the next `count` of them are.
   int HeightOf(std::size_t count) const;
   std::size_t count_left() const { return items_->size() - next_; }
+  // The least height of so many columns that hold what isn't placed yet.
+  int LevelHeight(int columns) const;
   // The next `count` of them stand somewhere else.
   void Drop(std::size_t count) { next_ += count; }
   bool is_done() const { return count_left() == 0; }
@@ -44,12 +46,14 @@ class RichBox {
     RichLine line;
     std::shared_ptr<RowBox> row;  // in the line's place
     int gap = 0;                  // above it
+    bool stays_with_next = false;
     int height() const { return gap + line.height; }
   };
 
   void AddParagraph(const richtext::Paragraph& paragraph, FrameJoints joints);
   void AddNested(const std::string& tables);
   void AddTable(const richtext::Table& table);
+  bool FitsIn(int columns, int height) const;
 
   RichPrinting& printing_;
   RichRoom room_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "print/rich_table.h"
+#include "print/text_boxes.h"
 #include "richtext/kept_words.h"
 
 namespace tarnwell::print {
@@ -19,6 +20,7 @@ constexpr int kMostPagesOfNotes = 1000;
 void RichTextFlow::Add(const richtext::Paragraph& paragraph, FrameJoints joints) {
   const richtext::ParagraphFormat& format = paragraph.format;
   if (format.page_break_before && has_content_ && !breaks_) AskForPage();
+  for (const richtext::Table& box : TextBoxesOf(printing_, paragraph)) Add(box);
   const bool stays_with_next = richtext::HoldsKept("keepn", format.other);
   PrintedText::Printed printed;
   const bool changes = PrintedText::Changes(paragraph);
@@ -68,7 +70,7 @@ void RichTextFlow::Add(const richtext::Table& table) {
   }
 }
 
-void RichTextFlow::Begin(std::size_t number, int height) {
+void RichTextFlow::Begin(std::size_t number, ColumnLevel level) {
   const Section& section = pages_->sections()[number];
   const bool fits_here = pages_->HasSamePaper(number);
   if (section.begin == Section::Begin::kHere && fits_here && !breaks_) {
@@ -76,7 +78,7 @@ void RichTextFlow::Begin(std::size_t number, int height) {
     engine_.MoveTo(std::max(engine_.y(), engine_.deepest()));
     engine_.Skip(std::exchange(gap_, 0));
     pages_->Begin(number, true);
-    SetColumns(section, height);
+    SetColumns(section, level);
   } else if (section.begin == Section::Begin::kColumn && fits_here && !breaks_) {
     PlaceKept(0);
     engine_.NextColumn();
@@ -84,16 +86,15 @@ void RichTextFlow::Begin(std::size_t number, int height) {
   } else {
     if (!breaks_) AskForPage();
     asked_section_ = number;
-    asked_height_ = height;
+    asked_level_ = level;
   }
 }
 
-void RichTextFlow::SetColumns(const Section& section, int height) {
+void RichTextFlow::SetColumns(const Section& section, ColumnLevel level) {
   if (section.columns == 1 && engine_.columns() == 1) return;
   engine_.SetColumns(section.columns, section.column_gap);
-  const int level = height / section.columns + height / 20;
-  const bool fits = engine_.y() + level < engine_.bottom();
-  if (height > 0 && section.columns > 1 && fits) engine_.LimitColumns(level);
+  const bool fits = engine_.y() + level.height + level.notes <= engine_.bottom();
+  if (level.height > 0 && fits) engine_.LimitColumns(level.height);
 }
 
 void RichTextFlow::End() {
@@ -148,7 +149,7 @@ void RichTextFlow::GoToAskedPage() {
     pages_->Begin(number, false);
   }
   engine_.NewPage();
-  SetColumns(section, asked_height_);
+  SetColumns(section, asked_level_);
 }
 
 void RichTextFlow::Take(Line line, bool stays_with_next) {

@@ -10,6 +10,12 @@
 
 namespace tarnwell::print {
 
+// What columns that end level need, in twips.
+struct ColumnLevel {
+  int height = 0;  // 0: they needn't end level
+  int notes = 0;   // of all of their notes together
+};
+
 class RichTextFlow {
  public:
   // Without `pages` they are the engine's own, and sections have no columns.
@@ -18,11 +24,10 @@ class RichTextFlow {
 
   void Add(const richtext::Paragraph& paragraph, FrameJoints joints);
   void Add(const richtext::Table& table);
-  // The section of that number follows. `height` is that of all of its text, or 0 where its columns
-  // aren't to end level.
-  void Begin(std::size_t number, int height);
+  // The section of that number follows.
+  void Begin(std::size_t number, ColumnLevel level);
   // From the position on.
-  void SetColumns(const richtext::Section& section, int height);
+  void SetColumns(const richtext::Section& section, ColumnLevel level);
   // Places what waits, and the notes.
   void End();
 
@@ -51,7 +56,7 @@ class RichTextFlow {
   int gap_ = 0;                               // below the last paragraph
   bool breaks_ = false;                       // what comes next begins a page
   std::optional<std::size_t> asked_section_;  // which begins with it
-  int asked_height_ = 0;
+  ColumnLevel asked_level_;
   bool has_content_ = false;
 };
 

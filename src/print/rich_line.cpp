@@ -165,6 +165,9 @@ class LinePlacer {
     PlaceBorder(engine_, sides.right.border, {right, top, right, bottom});
     if (line_.begins_frame) PlaceBorder(engine_, sides.top.border, {left, top, right, top});
     if (line_.ends_frame) PlaceBorder(engine_, sides.bottom.border, {left, bottom, right, bottom});
+    if (line_.goes_on_with_frame) {
+      PlaceBorder(engine_, sides.between.border, {left, y_, right, y_});
+    }
   }
 
   void PlaceTab(const LinePiece& tab) {

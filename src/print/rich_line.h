@@ -42,6 +42,7 @@ struct RichLine {
   std::shared_ptr<const RichFrame> frame;  // null: there is none
   bool begins_frame = false;
   bool ends_frame = false;
+  bool goes_on_with_frame = false;  // of the paragraph before
   int frame_above = 0;  // twips above the line that its frame fills too
 };
 

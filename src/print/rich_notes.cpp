@@ -6,7 +6,6 @@
 namespace tarnwell::print {
 namespace {
 
-constexpr int kLineRoom = 160;     // twips, of the line above the notes
 constexpr int kLineLength = 2880;  // at the most
 
 }  // namespace
@@ -34,7 +33,7 @@ bool RichNotes::HasFoot() const {
 
 int RichNotes::HeightOf(const std::vector<RichBox>& notes) const {
   if (notes.empty()) return 0;
-  int height = HasFoot() ? 0 : kLineRoom;
+  int height = HasFoot() ? 0 : kRoomAboveNotes;
   for (const RichBox& note : notes) height += note.HeightLeft();
   return height;
 }
@@ -43,8 +42,8 @@ void RichNotes::Add(std::vector<RichBox> notes, bool has_room) {
   if (notes.empty()) return;
   if (!HasFoot()) {
     const int bottom = engine_.page_height() - engine_.paper().margins.bottom;
-    feet_.push_back({engine_.page_count() - 1, engine_.left(), bottom, kLineRoom, {}});
-    if (!has_room) engine_.Reserve(kLineRoom);
+    feet_.push_back({engine_.page_count() - 1, engine_.left(), bottom, kRoomAboveNotes, {}});
+    if (!has_room) engine_.Reserve(kRoomAboveNotes);
   }
   Foot& foot = feet_.back();
   for (RichBox& note : notes) {
@@ -70,9 +69,9 @@ void RichNotes::Finish() {
     engine_.OnPage(foot.page, [&] {
       int y = foot.bottom - foot.height;
       const int width = std::min(kLineLength, engine_.right() - foot.left);
-      engine_.Add(forms::PlacedLine{foot.left, y + kLineRoom / 2, foot.left + std::max(width, 1),
-                                    y + kLineRoom / 2});
-      y += kLineRoom;
+      engine_.Add(forms::PlacedLine{foot.left, y + kRoomAboveNotes / 2,
+                                    foot.left + std::max(width, 1), y + kRoomAboveNotes / 2});
+      y += kRoomAboveNotes;
       for (auto& [note, count] : foot.notes) {
         const int height = note.count_left() == count ? note.HeightLeft() : note.HeightOf(count);
         note.PlaceNext(count, foot.left, y);

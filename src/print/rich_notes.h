@@ -8,6 +8,9 @@
 
 namespace tarnwell::print {
 
+// Of the line above the notes of a column, in twips.
+inline constexpr int kRoomAboveNotes = 160;
+
 class RichNotes {
  public:
   explicit RichNotes(RichPrinting& printing) : printing_(printing), engine_(printing.engine) {}

@@ -42,6 +42,13 @@ int RichPages::NextNumber() const {
   return pages_.empty() ? 1 : pages_.back().number + 1;
 }
 
+int RichPages::ColumnWidth(std::size_t section) const {
+  const int columns = sections_[section].columns;
+  const forms::PageSetup paper = PaperOf(sections_[section]);
+  const int text = paper.width() - paper.margins.left - paper.margins.right;
+  return std::max((text - (columns - 1) * sections_[section].column_gap) / columns, 1);
+}
+
 bool RichPages::HasSamePaper(std::size_t section) const {
   const forms::PageSetup paper = PaperOf(sections_[section]);
   return pages_.empty() ||

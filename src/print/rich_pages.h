@@ -26,6 +26,8 @@ class RichPages {
   void Begin(std::size_t section, bool goes_on);
   // What the section's first page, which is the next one, is counted as.
   int NextNumber() const;
+  // Of one of the section's columns, in twips.
+  int ColumnWidth(std::size_t section) const;
   // Whether the section lies on the same paper as the one in hand.
   bool HasSamePaper(std::size_t section) const;
 

@@ -16,19 +16,26 @@ bool EndsLevel(const std::vector<Section>& sections, std::size_t number) {
          sections[number + 1].begin == Section::Begin::kHere;
 }
 
-int HeightOf(RichPrinting& printing, const richtext::RichDocument& document,
-             const std::vector<Section>& sections, std::size_t number) {
-  if (!EndsLevel(sections, number)) return 0;
-  const Section& section = sections[number];
-  const int text = section.page.width - section.page.left_margin - section.page.right_margin;
-  const int width = (text - (section.columns - 1) * section.column_gap) / section.columns;
-  RichBox box(printing, std::max(width, 1), std::max(printing.engine.column_height(), 1));
-  for (std::size_t i = section.first_block; i < sections[number + 1].first_block; ++i) {
-    if (const auto* const one = std::get_if<richtext::Paragraph>(&document.blocks[i])) {
-      if (!PrintedText::Changes(*one)) box.Add(std::span(one, 1));
-    }
+ColumnLevel LevelOf(RichPrinting& printing, const richtext::RichDocument& document,
+                    const RichPages& pages, std::size_t number) {
+  const std::vector<Section>& sections = pages.sections();
+  if (!EndsLevel(sections, number)) return {};
+  const int most_height = std::max(printing.engine.column_height(), 1);
+  RichBox box(printing, pages.ColumnWidth(number), most_height);
+  const PrintedText text = printing.text;  // its notes are counted when they are placed
+  const auto begin = document.blocks.begin();
+  box.Add({begin + static_cast<std::ptrdiff_t>(sections[number].first_block),
+           begin + static_cast<std::ptrdiff_t>(sections[number + 1].first_block)});
+  ColumnLevel level{box.LevelHeight(sections[number].columns)};
+  for (const FoundNote& found : box.TakeNotes()) {
+    if (found.is_endnote) continue;
+    level.notes = std::max(level.notes, kRoomAboveNotes);
+    RichBox note(printing, pages.ColumnWidth(number), most_height);
+    note.Add(printing.parts.Read(found.rtf).blocks);
+    level.notes += note.HeightLeft();
   }
-  return box.HeightLeft();
+  printing.text = text;
+  return level;
 }
 
 FrameJoints JointsAt(const RichStyles& styles, const std::vector<richtext::Block>& blocks,
@@ -46,13 +53,12 @@ FrameJoints JointsAt(const RichStyles& styles, const std::vector<richtext::Block
 void AddBlocks(RichPrinting& printing, const richtext::RichDocument& document, RichPages* pages) {
   RichTextFlow flow(printing, pages);
   std::size_t section = 0;
-  if (pages)
-    flow.SetColumns(pages->sections()[0], HeightOf(printing, document, pages->sections(), 0));
+  if (pages) flow.SetColumns(pages->sections()[0], LevelOf(printing, document, *pages, 0));
   for (std::size_t i = 0; i < document.blocks.size(); ++i) {
     if (pages && section + 1 < pages->sections().size() &&
         i == pages->sections()[section + 1].first_block) {
       ++section;
-      flow.Begin(section, HeightOf(printing, document, pages->sections(), section));
+      flow.Begin(section, LevelOf(printing, document, *pages, section));
     }
     if (const auto* const table = std::get_if<richtext::Table>(&document.blocks[i])) {
       flow.Add(*table);

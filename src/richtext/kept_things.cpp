@@ -7,6 +7,7 @@
 
 #include "richtext/field_link.h"
 #include "richtext/kept_pieces.h"
+#include "richtext/kept_words.h"
 #include "richtext/nested_table.h"
 #include "richtext/paragraphs.h"
 #include "richtext/rich_text_reader.h"
@@ -72,7 +73,7 @@ KeptThing ThingOf(const KeptPiece& piece, KeptKind kind) {
 
 }  // namespace
 
-std::vector<KeptThing> KeptThings(const Opaque& opaque) {
+std::vector<KeptThing> KeptThings(const Opaque& opaque, std::string_view words) {
   if (opaque.resets_paragraph) {
     return {{KeptKind::kNestedTable, Unnested(opaque.rtf), {}}};
   }
@@ -90,7 +91,9 @@ std::vector<KeptThing> KeptThings(const Opaque& opaque) {
   }
   // Text that isn't shown stands in it as it is.
   if (pieces.empty() && !opaque.rtf.empty()) {
-    things.push_back({KeptKind::kHiddenText, "\\uc1 " + opaque.rtf, {}});
+    const bool is_deleted = HoldsKept("deleted", words);
+    const KeptKind kind = is_deleted ? KeptKind::kDeletedText : KeptKind::kHiddenText;
+    things.push_back({kind, "\\uc1 " + opaque.rtf, {}});
   }
   return things;
 }

@@ -21,6 +21,7 @@ enum class KeptKind {
   kPageNumber,
   kComment,
   kHiddenText,
+  kDeletedText,  // by a change that is tracked
 };
 
 struct KeptThing {
@@ -29,8 +30,9 @@ struct KeptThing {
   std::string name;  // the author of a comment, the first word of a field; may be empty
 };
 
-// In their order. Bookmarks, entries of an index and the like show nothing.
-std::vector<KeptThing> KeptThings(const Opaque& opaque);
+// In their order. Bookmarks, entries of an index and the like show nothing. `words` are those that
+// the format of their run keeps.
+std::vector<KeptThing> KeptThings(const Opaque& opaque, std::string_view words = {});
 
 // What `rtf` shows as one line of UTF-8, at most `most` bytes of it.
 std::string TextOfPart(std::string_view rtf, std::size_t most);

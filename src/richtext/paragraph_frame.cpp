@@ -17,7 +17,9 @@ class FrameReader {
   ParagraphFrame Read(std::string_view words) && {
     for (const KeptPiece& word : KeptPieces(words)) Take(word);
     if (ground_ || shading_ > 0) frame_.fill = Shaded(shading_, ink_, ground_);
-    for (ParagraphFrame::Side* const side : All()) {
+    std::vector<ParagraphFrame::Side*> sides = All();
+    sides.push_back(&frame_.between);
+    for (ParagraphFrame::Side* const side : sides) {
       const std::string& style = side->border.style;
       if (style.empty() || style == "brdrnone" || style == "brdrnil") *side = {};
     }
@@ -36,7 +38,8 @@ class FrameReader {
     if (name == "brdrl") open_ = {&frame_.left};
     if (name == "brdrb") open_ = {&frame_.bottom};
     if (name == "brdrr") open_ = {&frame_.right};
-    if (name == "brdrbtw" || name == "brdrbar") open_.clear();
+    if (name == "brdrbtw") open_ = {&frame_.between};
+    if (name == "brdrbar") open_.clear();
     if (name == "cbpat") ground_ = ColorAt(word.number);
     if (name == "cfpat") ink_ = ColorAt(word.number);
     if (name == "shading") shading_ = std::clamp(word.number, 0, 10'000);

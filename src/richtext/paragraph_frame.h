@@ -14,6 +14,7 @@ struct ParagraphFrame {
     bool operator==(const Side&) const = default;
   };
   Side top, left, bottom, right;
+  Side between;  // above each paragraph that goes on with the frame of the one before
   std::optional<Color> fill;
 
   bool is_empty() const { return *this == ParagraphFrame{}; }

@@ -98,6 +98,16 @@ TEST_F(Writing, KeysWorkWhereverTheSystemHasAnotherUseForThem) {
   EXPECT_THAT(folder_.Read("EmployPolicy0.Fl2"), HasSubstr("one two"));
 }
 
+TEST_F(Writing, AWordOfAnotherScriptIsFoundAsItIsTyped) {
+  hub().document.text.Type("?? \u0414\u0430");
+  Key(Qt::Key_F, Qt::ControlModifier);
+  QInputMethodEvent typed;
+  typed.setCommitString(QStringLiteral("\u0434\u0430"));
+  QApplication::sendEvent(desktop_.window().focusWidget(), &typed);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(hub().document.text.SelectedText(), "\u0414\u0430");
+}
+
 TEST_F(Writing, TheMouseReachesBarAndMenus) {
   Type("ab");
   QTest::mouseClick(&Of("Toolbar1Button(12)"), Qt::LeftButton);

@@ -4,6 +4,7 @@
 
 #include "parts/find_bar.h"
 #include "parts/format_bar.h"
+#include "richtext/plain_text.h"
 #include "richtext/rich_text_reader.h"
 #include "richtext/rich_text_writer.h"
 #include "richtext/sketch.h"
@@ -223,6 +224,34 @@ TEST_F(WritingBars, WordsAreFoundFromTheCursorOnAndRoundTheEnd) {
   EXPECT_FALSE(find.panel.visible());
   EXPECT_EQ(rig.form.status(), "");
   EXPECT_TRUE(text.focused());
+}
+
+TEST_F(WritingBars, WordsOfAnyScriptAreFoundAndReplaced) {
+  const struct {
+    const char* text;
+    const char* typed;
+    const char* found;
+    const char* replaced;
+  } cases[] = {
+      {"a?? \u0414\u043E\u0433\u043E\u0432\u043E\u0440 b",
+       "\u0434\u043E\u0433\u043E\u0432\u043E\u0440", "\u0414\u043E\u0433\u043E\u0432\u043E\u0440",
+       "a?? \u5951\u7D04 b"},
+      {"?? \u4F1A\u793E\u306E", "\u4F1A\u793E", "\u4F1A\u793E", "?? \u5951\u7D04\u306E"},
+      {"?\U0001F600?", "\U0001F600", "\U0001F600", "?\u5951\u7D04?"},
+  };
+  EXPECT_TRUE(rig.form.PressKey("Ctrl+F"));
+  find.replace.TypeWords(text::Utf8("\u5951\u7D04"));
+  for (const auto& c : cases) {
+    text.SetDocument(richtext::FromPlainText(c.text));
+    find.find.TypeWords(text::Utf8(c.typed));
+    find.next.Click();
+    EXPECT_EQ(text.SelectedText(), c.found);
+    EXPECT_TRUE(rig.form.PressKey("Ctrl+F"));
+    EXPECT_EQ(find.find.words().bytes(), c.found);
+    find.replace_one.Click();
+    EXPECT_EQ(richtext::PlainText(text.document()), c.replaced);
+    EXPECT_EQ(rig.form.status(), "These words were not found.");
+  }
 }
 
 TEST_F(WritingBars, AllPlacesAreReplacedAsOneStepInTheirOwnFormats) {

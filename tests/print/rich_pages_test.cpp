@@ -79,6 +79,17 @@ TEST_F(RichPagesTest, HeadersAndFootersStandOnThePagesThatTheyAreFor) {
        "\\pard\\fs20 a\\sect\\sectd\\sbknone\\cols2\\colsx200 b\\par c\\par d\\par "
        "e\\sect\\sectd\\sbknone f\\par",
        {{"100,100 a", "100,340 b", "100,580 c", "2200,340 d", "2200,580 e", "100,820 f"}}},
+      {"of which one is longer",
+       "\\pard\\fs20 a\\sect\\sectd\\sbknone\\cols2\\colsx200 b\\par c\\par "
+       "d\\sect\\sectd\\sbknone "
+       "e\\par",
+       {{"100,100 a", "100,340 b", "100,580 c", "2200,340 d", "100,820 e"}}},
+      {"with a table and a note",
+       "\\pard\\fs20 a\\sect\\sectd\\sbknone\\cols2\\colsx200\\trowd\\cellx1000\\pard\\intbl\\fs20 "
+       "b\\cell\\row\\trowd\\cellx1000\\pard\\intbl c\\cell\\row\\pard d{\\footnote\\pard\\fs20 "
+       "n}\\par e\\sect\\sectd\\sbknone f\\par",
+       {{"100,100 a", "100,340 b", "100,580 c", "2200,340 d", "2200,580 e", "100,820 f",
+         "2200,2260 n"}}},
   };
   for (const auto& c : cases) {
     Print(c.rtf);
@@ -160,6 +171,13 @@ TEST_F(RichPagesTest, FramesAreDrawnAroundTheParagraphsThatShareThem) {
   ASSERT_EQ(lines.size(), 2u);
   EXPECT_EQ(lines[0], (forms::PlacedLine{100, 100, 4100, 100, forms::kBlack, 20}));
   EXPECT_EQ(lines[1], (forms::PlacedLine{100, 780, 4100, 780, forms::kBlack, 20}));
+
+  Print(
+      "\\pard\\brdrbtw\\brdrs\\brdrw20\\brsp80\\fs20 "
+      "a\\par\\pard\\brdrbtw\\brdrs\\brdrw20\\brsp80\\sb60 b\\par\\pard c\\par");
+  EXPECT_EQ(Texts(), (Pages{{"100,100 a", "100,500 b", "100,740 c"}}));
+  EXPECT_THAT(All<forms::PlacedLine>(),
+              ElementsAre(forms::PlacedLine{100, 400, 4100, 400, forms::kBlack, 20}));
 }
 
 TEST_F(RichPagesTest, UnderlinesAndCapitalsLookAsTheyAreCalled) {
@@ -206,6 +224,57 @@ TEST_F(RichPagesTest, MergedCellsAndTablesInsideCellsAreDrawnAsOne) {
   Print("\\trowd\\clpadt200\\clpadfl3\\clpadl50\\clpadft3\\clpadb60\\clpadfb3\\cellx2000" + row +
         "a\\cell\\row\\pard\\fs20 b\\par");
   EXPECT_EQ(Texts(), (Pages{{"300,150 a", "100,450 b"}}));
+}
+
+TEST_F(RichPagesTest, TrackedChangesPrintAsIfTheyWereAccepted) {
+  Print(
+      "\\pard\\fs20 a{\\deleted\\revauthdel1 gone}{\\revised\\revauth1  new}{\\*\\annotation no} "
+      "b\\par");
+  std::string text;
+  for (const auto& one : All<forms::PlacedText>()) text += one.text;
+  EXPECT_EQ(text, "a new b");
+}
+
+TEST_F(RichPagesTest, TextBoxesAndFloatingPicturesStandAboveTheirParagraphs) {
+  const std::string place = "\\shpleft500\\shptop0\\shpright1500\\shpbottom600";
+  const std::string box = "{\\shp{\\*\\shpinst" + place;
+  const std::string text = "{\\shptxt\\pard\\fs20 box\\par}}}";
+  const struct {
+    const char* what;
+    std::string rtf;
+    Pages pages;
+    std::size_t lines;
+  } cases[] = {
+      {"a box", "\\pard\\fs20 a" + box + text + "b\\par", {{"744,100 box", "100,340 ab"}}, 4},
+      {"from the edge, without lines",
+       "\\pard\\fs20 " + box + "\\shpbxpage{\\sp{\\sn fLine}{\\sv 0}}" + text + "a\\par",
+       {{"644,100 box", "100,340 a"}},
+       0},
+      {"of the older kind",
+       "\\pard\\fs20 {\\*\\do\\dptxbx{\\dptxbxtext\\pard\\fs20 "
+       "box\\par}\\dpx500\\dpy0\\dpxsize1000\\dpysize600}a\\par",
+       {{"744,100 box", "100,340 a"}},
+       4},
+      {"in a header",
+       "{\\header\\pard\\fs20 " + box + text + "h\\par}\\pard\\fs20 a\\par",
+       {{"100,480 a", "744,0 box", "100,240 h"}},
+       4},
+      {"a drawing without a text", "\\pard\\fs20 " + box + "}}a\\par", {{"100,100 a"}}, 0},
+  };
+  for (const auto& c : cases) {
+    Print(c.rtf);
+    EXPECT_EQ(Texts(), c.pages) << c.what;
+    EXPECT_EQ(All<forms::PlacedLine>().size(), c.lines) << c.what;
+  }
+  Print("\\pard\\fs20 " + box +
+        "{\\sp{\\sn pib}{\\sv {\\pict\\pngblip "
+        "89504e470d0a1a0a0000000d49484452000003e80000000a}}}}}a\\par");
+  const auto pictures = All<forms::PlacedImage>();
+  ASSERT_EQ(pictures.size(), 1u);
+  EXPECT_EQ(pictures[0].x, 600);
+  EXPECT_EQ(pictures[0].width, 1000);
+  EXPECT_EQ(pictures[0].height, 600);
+  EXPECT_EQ(Texts(), (Pages{{"100,700 a"}}));
 }
 
 }  // namespace

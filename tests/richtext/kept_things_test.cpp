@@ -36,6 +36,7 @@ TEST(KeptThings, AreWhatAPersonWouldSee) {
       EXPECT_EQ(TextOfPart(things.front().rtf, 100), c.text);
     }
   }
+  EXPECT_EQ(KeptThings({"gone"}, "\\deleted\\revauthdel1")[0].kind, KeptKind::kDeletedText);
 }
 
 Table TableOf(const std::vector<std::vector<int>>& rows) {

@@ -22,6 +22,7 @@
 #include "forms/text_box.h"
 #include "forms/text_field.h"
 #include "forms/typed_combo.h"
+#include "forms/words_field.h"
 
 namespace tarnwell::desktop {
 
@@ -29,6 +30,7 @@ class PictureStore;
 
 QWidget* Widget(forms::Command& command);
 QWidget* Widget(forms::TextField& field);
+QWidget* Widget(forms::WordsField& field);
 QWidget* Widget(forms::TextBox& box);
 QWidget* Widget(forms::Label& label);
 QWidget* Widget(forms::Picture& picture, PictureStore& pictures);

@@ -180,7 +180,7 @@ QPointF RichTextExtras::OriginOf(const QTextBlock& block) const {
 RichTextExtras::Framed RichTextExtras::FrameOf(const QTextBlock& block) const {
   Framed framed;
   framed.frame = ShownFrame::Of(block.blockFormat());
-  const auto& [top, left, bottom, right] = framed.frame.sides;
+  const auto& [top, left, bottom, right, between] = framed.frame.sides;
   const QTextLayout& text = *block.layout();
   const QTextLine first = text.lineAt(0);
   double begin = first.x();
@@ -213,9 +213,9 @@ void RichTextExtras::PaintBelow(QPainter& painter) const {
 
 void RichTextExtras::PaintAbove(QPainter& painter, const QColor& ink) const {
   for (const Framed& framed : frames_) {
-    const auto& [top, left, bottom, right] = framed.frame.sides;
+    const auto& [top, left, bottom, right, between] = framed.frame.sides;
     const QRectF& place = framed.place;
-    if (framed.begins) PaintLine(painter, top, QLineF(place.topLeft(), place.topRight()));
+    PaintLine(painter, framed.begins ? top : between, QLineF(place.topLeft(), place.topRight()));
     PaintLine(painter, left, QLineF(place.topLeft(), place.bottomLeft()));
     PaintLine(painter, right, QLineF(place.topRight(), place.bottomRight()));
     if (framed.ends) PaintLine(painter, bottom, QLineF(place.bottomLeft(), place.bottomRight()));

@@ -222,7 +222,7 @@ void RichTextFormats::AddFrame(const richtext::ParagraphFormat& format,
   ShownFrame shown;
   if (frame.fill) shown.fill = ColorOf(*frame.fill);
   std::size_t next = 0;
-  for (const auto* given : {&frame.top, &frame.left, &frame.bottom, &frame.right}) {
+  for (const auto* given : {&frame.top, &frame.left, &frame.bottom, &frame.right, &frame.between}) {
     ShownFrame::Side& line = shown.sides[next++];
     line.distance = Pixels(given->distance);
     if (!IsLine(given->border)) continue;

@@ -35,7 +35,8 @@ enum RichTextProperty {
 // Stands in Qt's text for what the document only keeps.
 inline constexpr int kKeptObject = QTextFormat::UserObject + 1;
 
-// What is drawn around and behind a block: top, left, bottom, right. Lengths are pixels.
+// What is drawn around and behind a block: top, left, bottom, right, and between it and one before
+// it in the same frame. Lengths are pixels.
 struct ShownFrame {
   struct Side {
     double width = 0;  // 0: no line
@@ -44,7 +45,7 @@ struct ShownFrame {
     Qt::PenStyle style = Qt::SolidLine;
     bool is_double = false;
   };
-  std::array<Side, 4> sides;
+  std::array<Side, 5> sides;
   QColor fill;  // invalid: none
 
   QVariant ToVariant() const;

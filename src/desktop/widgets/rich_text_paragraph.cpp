@@ -103,7 +103,7 @@ void RichTextRenderer::InsertPicture(const richtext::Picture& picture, QTextCurs
 void RichTextRenderer::InsertSigns(const richtext::Run& run, int& notes, QTextCursor& cursor) {
   const auto& opaque = std::get<richtext::Opaque>(run.content);
   int number = 0;
-  for (richtext::KeptThing& thing : richtext::KeptThings(opaque)) {
+  for (richtext::KeptThing& thing : richtext::KeptThings(opaque, run.format.other)) {
     const QByteArray rtf = QByteArray::fromStdString(opaque.rtf);
     const QByteArray hash = QCryptographicHash::hash(rtf, QCryptographicHash::Sha1).toHex();
     const QString name = QStringLiteral("%1/%2").arg(QString::fromLatin1(hash)).arg(number++);

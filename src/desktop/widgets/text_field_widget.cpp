@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <algorithm>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/bound_widgets.h"
@@ -21,14 +22,14 @@ void ShowColor(QLineEdit* edit, const forms::TextField& field) {
   if (palette != edit->palette()) edit->setPalette(palette);
 }
 
-}  // namespace
-
-QWidget* Widget(forms::TextField& field) {
+// `show` shows the field's text, `type` gives it what a person typed.
+template <typename Show, typename Type>
+QWidget* LineOf(forms::TextField& field, Show show, Type type) {
   auto* edit = new LineEdit;
   edit->selects_on_entry = field.select_on_entry();
   edit->setMaxLength(static_cast<int>(field.max_length()));
-  auto* binding = new Binding(edit, field, [edit, &field] {
-    edit->ShowText(field.text(), field.max_length());
+  auto* binding = new Binding(edit, field, [edit, &field, show] {
+    show(*edit);
     edit->ShowSelection(field.selection());
     ShowColor(edit, field);
     SetMark(edit, "marked", field.marked());
@@ -38,8 +39,8 @@ QWidget* Widget(forms::TextField& field) {
     }
   });
   QObject::connect(edit, &QLineEdit::textEdited, binding,
-                   binding->Forward([edit, &field](const QString& text) {
-                     edit->Typing([&] { field.Type(ToCore(text)); });
+                   binding->Forward([edit, type](const QString& text) {
+                     edit->Typing([&] { type(text); });
                    }));
   QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
     edit->took_enter = static_cast<bool>(field.on_enter);
@@ -50,6 +51,27 @@ QWidget* Widget(forms::TextField& field) {
   }
   edit->on_click = binding->Forward([&field] { field.Click(); });
   return edit;
+}
+
+}  // namespace
+
+QWidget* Widget(forms::TextField& field) {
+  return LineOf(
+      field, [&field](LineEdit& edit) { edit.ShowText(field.text(), field.max_length()); },
+      [&field](const QString& text) { field.Type(ToCore(text)); });
+}
+
+QWidget* Widget(forms::WordsField& field) {
+  return LineOf(
+      field,
+      [&field](LineEdit& edit) {
+        const QString words = QString::fromStdString(field.words().bytes());
+        if (edit.text() == words) return;
+        edit.setMaxLength(
+            std::max(static_cast<int>(field.max_length()), static_cast<int>(words.size())));
+        edit.setText(words);
+      },
+      [&field](const QString& text) { field.TypeWords(text::Utf8(text.toStdString())); });
 }
 
 }  // namespace tarnwell::desktop
