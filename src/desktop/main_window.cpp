@@ -23,6 +23,8 @@ constexpr std::chrono::milliseconds kSweepAgain{50};
 // How long a window manager may take to maximise a new window.
 constexpr std::chrono::milliseconds kManagersTime{150};
 
+const QString kStatus = QStringLiteral("Status");
+
 int ToPixels(int twips) { return (twips + forms::kTwipsPerPixel - 1) / forms::kTwipsPerPixel; }
 
 QSize ToPixels(forms::Size size) { return {ToPixels(size.width), ToPixels(size.height)}; }
@@ -42,7 +44,7 @@ MainWindow::MainWindow(MakeLook make_look, forms::HelpViewer& help)
       status_(new QLabel) {
   setCentralWidget(stack_);
   status_->setTextFormat(Qt::PlainText);
-  status_->setAccessibleName(QStringLiteral("Status"));
+  status_->setAccessibleDescription(kStatus);
   status_->setContentsMargins(kSpace, 0, kSpace, 0);
   statusBar()->addWidget(status_, 1);
   sweep_.setInterval(kSweepAgain);
@@ -147,6 +149,8 @@ void MainWindow::ShowChrome(FormPage& page) {
   const QString mark = page.form().unsaved() ? QStringLiteral("* ") : QString();
   setWindowTitle(mark + FromCore(page.form().caption()));
   status_->setText(FromCore(page.form().status()));
+  // A name of its own would be read in the place of the text.
+  status_->setAccessibleName(status_->text().isEmpty() ? kStatus : status_->text());
   QList<QAction*> actions;
   for (const auto& menu : page.menus()) actions << menu->menuAction();
   if (menuBar()->actions() != actions) {

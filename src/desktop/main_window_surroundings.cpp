@@ -19,7 +19,8 @@ constexpr QSize kGrip{80, 20};  // pixels
 
 void MainWindow::FollowSurroundings() {
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
-    const bool may_ask = !HasUnsaved() || manager.allowsInteraction();
+    if (EndEditUnderKeys() && !HasUnsaved()) return;
+    const bool may_ask = manager.allowsInteraction();
     if (!EndSession(may_ask)) manager.cancel();
     if (may_ask) manager.release();
   });

@@ -31,6 +31,11 @@ std::string Letters(std::size_t most) {
   return "at most " + std::to_string(most) + (most == 1 ? " character" : " characters");
 }
 
+std::string WithoutMark(std::string caption) {
+  std::erase(caption, '&');
+  return text::Trim(caption);
+}
+
 // The keys that work it from elsewhere, or how it is worked once one is there.
 std::string KeysOf(const Control& control, std::string_view otherwise) {
   std::vector<std::string> keys;
@@ -141,6 +146,7 @@ std::string HintOf(const Control& control) {
 
 std::string DescriptionOf(const Control& control) {
   std::string tip = text::Trim(control.tool_tip());
+  if (tip == WithoutMark(CaptionOf(control))) tip.clear();  // that is its name
   const std::string hint = HintOf(control);
   if (tip.empty() || hint.empty()) return tip + hint;
   if (std::ispunct(static_cast<unsigned char>(tip.back())) == 0) tip += '.';

@@ -140,13 +140,13 @@ void WorkArea1::BuildMenus() {
 }
 
 void WorkArea1::Load() {
-  date.SetCaption(text::FormatDate(context_.clock.Today(), "mmmm d, yyyy"));
   colors.Load();
   main_buttons.PaintSelected(parts::kCompanyData);
   ShowMainArea(parts::kCompanyData);
 }
 
 void WorkArea1::Activate() {
+  date.SetCaption(text::FormatDate(context_.clock.Today(), "mmmm d, yyyy"));
   const forms::Size size = context_.window.size();
   context_.variables.FormHeight = Twips(size.height);
   context_.variables.FormWidth = Twips(size.width);

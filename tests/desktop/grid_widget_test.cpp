@@ -129,6 +129,20 @@ TEST_F(GridWidget, AGridIsWalkedAndEditedWhereItsColumnsAllow) {
   EXPECT_THAT(selected, ElementsAre(11, 21, 23));
 }
 
+TEST_F(GridWidget, AScreenReaderHearsACellWithItsRowAndColumn) {
+  grid.SetText(2, 0, "Rent");
+  grid.SetText(2, 1, "300");
+  ShowGrid();
+  QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(table);
+  ASSERT_TRUE(spoken && spoken->tableInterface());
+  const auto name_of = [&](int row, int column) {
+    return spoken->tableInterface()->cellAt(row, column)->text(QAccessible::Name);
+  };
+  EXPECT_EQ(name_of(1, 1), QStringLiteral("Rent, Item: 300"));
+  EXPECT_EQ(name_of(1, 2), QStringLiteral("Rent, Jan: empty"));
+  EXPECT_EQ(name_of(0, 1), QStringLiteral("Row 1, Item: empty"));
+}
+
 TEST_F(GridWidget, TabGoesOnEditingInTheNextCellThatCanBe) {
   ShowGrid();
   Click(1, 1);

@@ -79,7 +79,7 @@ void ExpectReadableDialogue(const std::function<void()>& open) {
   EXPECT_GT(seen, 3);
 }
 
-TEST_F(DarkDesktop, EveryDialogueIsReadable) {
+void ExpectReadableDialogues() {
   MessageDialogs dialogs;
   QtPages pages;
   forms::Document document;
@@ -89,6 +89,14 @@ TEST_F(DarkDesktop, EveryDialogueIsReadable) {
   ExpectReadableDialogue([&] { dialogs.ChooseFont({}); });
   ExpectReadableDialogue([&] { pages.Print(document); });
   ExpectReadableDialogue([&] { pages.ChooseSetup(document.setup); });
+}
+
+TEST_F(DarkDesktop, EveryDialogueIsReadableInEverySetOfColours) {
+  for (const ToneSet set : kToneSets) {
+    ApplyLook(*qApp, set);
+    ExpectReadableDialogues();
+  }
+  ApplyLook(*qApp);
 }
 
 TEST_F(DarkDesktop, AScrollBarIsSeenOnEveryPanel) {

@@ -2,13 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -308,6 +311,14 @@ TEST_F(MainWindowTest, NoSizeIsLargerThanTheScreen) {
   EXPECT_EQ(window.room(), (forms::Size{1024 * 15, 768 * 15}));
   EXPECT_EQ(window.size(), window.room());
   EXPECT_LE(window_.minimumHeight(), 768);
+}
+
+TEST_F(MainWindowTest, AScreenReaderIsToldWhatTheStatusBarSays) {
+  navigator_.Show("Lower");
+  Form("Lower").SetStatus("3 items");
+  auto* status = window_.statusBar()->findChild<QLabel*>();
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(status)->text(QAccessible::Name),
+            QStringLiteral("3 items"));
 }
 
 TEST_F(MainWindowTest, AnEndOfTheSessionLosesNothingUnasked) {

@@ -22,8 +22,8 @@ using testing::Way;
 
 class Tabs : public ::testing::TestWithParam<Way> {
  protected:
-  Tabs() {
-    Take(GetParam(), world_.form());
+  Tabs() : bare_(Usable()) {
+    Take(GetParam(), form_);
     for (forms::Control* control : form_.AllControls()) {
       QWidget* widget = page_.findChild<QWidget*>(FromCore(control->name()));
       if (!widget) continue;
@@ -33,6 +33,15 @@ class Tabs : public ::testing::TestWithParam<Way> {
         if (!first_) first_ = widget;
       }
     }
+  }
+
+  // What a person could use, which tells one panel from another.
+  std::set<const forms::Control*> Usable() {
+    std::set<const forms::Control*> usable;
+    for (const forms::Control* control : form_.AllControls()) {
+      if (control->Reachable()) usable.insert(control);
+    }
+    return usable;
   }
 
   // The control that has the keys, by its name; those of what stands in it count for it.
@@ -74,6 +83,7 @@ class Tabs : public ::testing::TestWithParam<Way> {
   testing::KeyWorld world_{GetParam().form};
   forms::Form& form_ = world_.form();
   FormPage& page_ = *world_.window.PageOf(form_);
+  std::set<const forms::Control*> bare_;  // on the screen before anything was opened on it
   std::map<QWidget*, std::string> controls_;
   std::set<std::string> reachable_;
   QWidget* first_ = nullptr;
@@ -103,6 +113,22 @@ TEST_P(Tabs, ComeToEveryControlAndBack) {
   }
   // Once round, from the end to the beginning.
   EXPECT_LE(backwards.size(), 1u) << ::testing::PrintToString(backwards);
+}
+
+TEST_P(Tabs, EscLeadsOutOfWhatWasOpened) {
+  constexpr int kMostSteps = 5;
+  const forms::Navigator& navigator = world_.program.navigator();
+  // An area of a main screen is left by the main buttons.
+  const auto is_out = [&] {
+    if (navigator.ended() || navigator.top() != &form_) return true;
+    const forms::Control* main_button = form_.Find("SSCommand4(0)");
+    return Usable() == bare_ || (main_button && main_button->Reachable());
+  };
+  for (int i = 0; i < kMostSteps && !is_out(); ++i) {
+    QTest::keyClick(page_.window()->windowHandle(), Qt::Key_Escape);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_TRUE(is_out());
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryScreen, Tabs, ::testing::ValuesIn(kWays),

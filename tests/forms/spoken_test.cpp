@@ -27,7 +27,7 @@ class SpokenForm : public Form {
 
   Command save{*this, "Command1", "&Save", {.tool_tip = " Save it ", .is_default = true}};
   Command exit{*this, "Command2", "Exit", {.cancel = true}};
-  Command plain{*this, "Command3", "Print"};
+  Command plain{*this, "Command3", "Print", {.tool_tip = "  Print  "}};
   Command chosen{*this, "Command4", "Company"};
   CheckBox active{*this, "Check1", "&Active"};
   TextField city{*this, "Text1", {.max_length = 8}};

@@ -272,6 +272,18 @@ TEST_F(PrintPanelTest, OnlyALongJobShowsHowFarItIs) {
   EXPECT_TRUE(print.close.Reachable());
 }
 
+TEST_F(PrintPanelTest, ALongJobShowsHowFarItIsThoughTheClockIsSetBack) {
+  auto job = Job();
+  int steps_seen = 0;
+  job.build = [&](PageEngine&) {
+    rig.clock.AddSeconds(-3600);
+    print.ReportProgress(1, 2);
+  };
+  rig.loop.on_yield = [&] { ++steps_seen; };
+  print.Open(job);
+  EXPECT_EQ(steps_seen, 1);
+}
+
 TEST_F(PrintPanelTest, AJobThatIsCancelledWhileItBuildsLeavesNoPages) {
   auto job = Job();
   job.can_be_cancelled = true;

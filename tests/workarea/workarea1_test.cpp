@@ -39,6 +39,15 @@ TEST_F(WorkArea1Test, ADocumentIsStartedFromItsTemplateSavedAndFoundAgain) {
   EXPECT_EQ(Shown(), "Signed: This agreement");
 }
 
+TEST_F(WorkArea1Test, TheDateIsTodaysAfterMidnight) {
+  Open();
+  EXPECT_EQ(hub().date.caption(), "March 9, 2026");
+  rig.clock.now.date = text::MakeDate(2026, 3, 10);
+  rig.navigator().Show("Zcalandar1");
+  rig.navigator().Unload(*rig.navigator().top());
+  EXPECT_EQ(hub().date.caption(), "March 10, 2026");
+}
+
 TEST_F(WorkArea1Test, ATemplateReplacesATextOnlyOnYes) {
   rig.temporary.Write("EmployPolicy0.Fl1", Rtf("Template"));
   rig.temporary.Write("EmployPolicy0.Fl2", Rtf("Mine"));

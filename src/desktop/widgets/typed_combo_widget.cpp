@@ -96,6 +96,9 @@ QWidget* Widget(forms::TypedCombo& combo) {
   auto* box = new TypedDropDown;
   box->line().setMaxLength(static_cast<int>(combo.max_length()));
   auto* binding = new Binding(box, combo, [box, &combo] {
+    // The line is one of its own to a screen reader.
+    box->line().setAccessibleName(box->accessibleName());
+    box->line().setAccessibleDescription(box->accessibleDescription());
     box->ShowList(combo);
     box->line().ShowText(combo.text(), combo.max_length());
     box->line().ShowSelection(combo.selection());
