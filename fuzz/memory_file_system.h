@@ -15,38 +15,41 @@ namespace tarnwell::fuzz {
 
 class MemoryFileSystem : public storage::FileSystem {
  public:
-  // One folder; a path's part up to the last slash doesn't count.
+  // By their paths.
   std::map<std::string, std::shared_ptr<std::string>> contents;
 
   std::unique_ptr<storage::File> Open(const std::string& path, storage::OpenMode mode) override {
     const bool may_make =
         mode == storage::OpenMode::kCreate || mode == storage::OpenMode::kCreateFresh;
-    auto entry = contents.find(NameOf(path));
+    auto entry = contents.find(path);
     if (entry != contents.end() && mode == storage::OpenMode::kCreateFresh) return nullptr;
     if (entry == contents.end()) {
       if (!may_make) return nullptr;
-      entry = contents.emplace(NameOf(path), std::make_shared<std::string>()).first;
+      entry = contents.emplace(path, std::make_shared<std::string>()).first;
     }
     return std::make_unique<MemoryFile>(entry->second);
   }
-  bool Exists(const std::string& path) override { return contents.count(NameOf(path)) != 0; }
+  bool Exists(const std::string& path) override { return contents.count(path) != 0; }
   bool Rename(const std::string& from, const std::string& to) override {
-    const auto entry = contents.find(NameOf(from));
+    const auto entry = contents.find(from);
     if (entry == contents.end()) return false;
-    contents[NameOf(to)] = entry->second;
+    contents[to] = entry->second;
     contents.erase(entry);
     return true;
   }
   bool Remove(const std::string& path) override {
-    contents.erase(NameOf(path));
+    contents.erase(path);
     return true;
   }
   void CopyPermissions(const std::string&, const std::string&) override {}
   bool FlushFolder(const std::string&) override { return true; }
   bool MakeFolder(const std::string&) override { return true; }
-  std::optional<std::vector<std::string>> List(const std::string&) override {
+  std::optional<std::vector<std::string>> List(const std::string& folder) override {
     std::vector<std::string> names;
-    for (const auto& entry : contents) names.push_back(entry.first);
+    for (const auto& entry : contents) {
+      const std::size_t slash = entry.first.find_last_of('/');
+      if (entry.first.substr(0, slash) == folder) names.push_back(entry.first.substr(slash + 1));
+    }
     return names;
   }
   storage::Fault fault() const override { return storage::Fault::kMissing; }
@@ -75,10 +78,6 @@ class MemoryFileSystem : public storage::FileSystem {
 
     std::shared_ptr<std::string> content_;
   };
-
-  static std::string NameOf(const std::string& path) {
-    return path.substr(path.find_last_of('/') + 1);
-  }
 };
 
 }  // namespace tarnwell::fuzz

@@ -54,7 +54,7 @@ void Check(std::string_view data) {
   const auto length = static_cast<std::size_t>(static_cast<unsigned char>(data[0])) + 1;
   const std::string content(data.substr(1));
   fuzz::MemoryFileSystem files;
-  files.contents["a.fil"] = std::make_shared<std::string>(content);
+  files.contents["memory/a.fil"] = std::make_shared<std::string>(content);
   ProgramFolder folder(files, "memory");
   RecordFile file(folder, "A.Fil", static_cast<int>(length));
   RecordFile copy(folder, "copy.fil", static_cast<int>(length));

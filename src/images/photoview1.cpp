@@ -103,7 +103,7 @@ void PhotoVIEW1::ConnectToolbars() {
                                                 {side_remove, remove, "Delete"}}) {
     button.SetToolTip(spoken);
     button.SetSpokenName(spoken);
-    button.on_click = [&command] { command.Click(); };
+    button.on_click = [&own = command] { own.Click(); };
   }
   hide_side.SetToolTip("Hide toolbar");
   hide_side.SetSpokenName("Hide side toolbar");
