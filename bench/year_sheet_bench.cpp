@@ -15,6 +15,7 @@
 
 #include "bench_folder.h"
 #include "budget/budget1a.h"
+#include "budget/budget_year.h"
 #include "desktop/desktop.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <optional>
+#include <string_view>
 
 #include "backup/attendant.h"
 #include "backup/backup_sets.h"

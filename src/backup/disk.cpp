@@ -6,7 +6,6 @@
 #include "storage/file_names.h"
 #include "storage/program_folder.h"
 #include "text/code_page_1252.h"
-#include "text/letters.h"
 
 namespace tarnwell::backup {
 

@@ -1,6 +1,7 @@
 #include "backup/record_reader.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace tarnwell::backup {
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "storage/sequential_file.h"
-#include "text/letters.h"
 
 namespace tarnwell::backup {
 namespace {

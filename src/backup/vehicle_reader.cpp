@@ -7,6 +7,7 @@
 #include "backup/vehicle_lines.h"
 #include "backup/vehicle_writer.h"
 #include "storage/file_names.h"
+#include "storage/sequential_file.h"
 #include "text/letters.h"
 #include "vehicles/vehicle_slots.h"
 

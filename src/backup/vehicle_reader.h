@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "backup/set_reader.h"
-#include "storage/sequential_file.h"
 
 namespace tarnwell::backup {
 

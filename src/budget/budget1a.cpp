@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "budget/budget_report.h"
+#include "budget/budget_year.h"
 #include "forms/form_names.h"
 #include "parts/backup_menu.h"
 #include "parts/sheet_rows.h"

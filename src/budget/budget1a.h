@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "budget/budget_report.h"
-#include "budget/budget_year.h"
 #include "budget/totals_panel.h"
 #include "forms/choice.h"
 #include "forms/control_array.h"

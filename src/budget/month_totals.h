@@ -4,7 +4,6 @@
 
 #include <array>
 #include <string>
-#include <vector>
 
 #include "forms/color.h"
 #include "year_sheet/rows.h"

@@ -1,5 +1,6 @@
 #include "budget/totals_panel.h"
 
+#include <string>
 #include <utility>
 
 namespace tarnwell::budget {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <string>
 
 #include "budget/year_totals.h"
 #include "forms/chart.h"

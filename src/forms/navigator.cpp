@@ -8,8 +8,6 @@ void Navigator::Register(std::string_view name, Factory factory) {
   factories_[std::string(name)] = std::move(factory);
 }
 
-bool Navigator::Knows(std::string_view name) const { return factories_.contains(name); }
-
 std::vector<std::string> Navigator::Names() const {
   std::vector<std::string> names;
   for (const auto& [name, factory] : factories_) names.push_back(name);

@@ -29,8 +29,6 @@ class Navigator {
   using Preparation = std::function<void(Form&)>;
 
   void Register(std::string_view name, Factory factory);
-  // A form without a factory can't be shown, so nothing may offer it.
-  bool Knows(std::string_view name) const;
   std::vector<std::string> Names() const;
 
   void SetContext(Context& context) { context_ = &context; }

@@ -1,7 +1,5 @@
 #include "images/image_pages.h"
 
-#include <array>
-
 namespace tarnwell::images {
 namespace {
 

@@ -6,6 +6,7 @@
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "images/image_book.h"
+#include "images/image_pages.h"
 #include "parts/backup_menu.h"
 #include "parts/main_buttons.h"
 #include "record_book/record_store.h"

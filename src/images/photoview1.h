@@ -1,11 +1,9 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <vector>
 
 #include "forms/picture_view.h"
-#include "images/image_pages.h"
 #include "record_book/entry_screen.h"
 #include "settings/picture_settings.h"
 

@@ -6,7 +6,6 @@
 
 #include "forms/choice.h"
 #include "forms/command.h"
-#include "forms/context.h"
 #include "forms/label.h"
 #include "forms/menu.h"
 #include "forms/panel.h"

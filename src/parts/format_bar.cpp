@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <initializer_list>
+#include <optional>
 #include <sstream>
 
 #include "forms/disk_trouble.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "forms/form_names.h"
 #include "forms/navigator.h"
 
 namespace tarnwell::parts {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <utility>
 
 #include "forms/disk_trouble.h"
 #include "forms/message.h"

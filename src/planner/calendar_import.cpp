@@ -4,6 +4,7 @@
 
 #include "forms/disk_trouble.h"
 #include "planner/calendar.h"
+#include "planner/day_sort.h"
 #include "planner/day_store.h"
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <string>
 #include <vector>
 
 #include "forms/command.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <string>
 #include <string_view>
 
 #include "forms/choice.h"

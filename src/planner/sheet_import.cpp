@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "planner/sheet_lines.h"
 #include "storage/sequential_file.h"
 
 namespace tarnwell::planner {

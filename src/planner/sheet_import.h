@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "planner/day_rows.h"
+#include "planner/day_sort.h"
 #include "planner/month_sheet.h"
-#include "planner/sheet_lines.h"
 #include "planner/todo_import.h"
 
 namespace tarnwell::planner {

@@ -1,6 +1,7 @@
 #include "planner/sheet_lines.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 #include <vector>
 

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "planner/day_sort.h"

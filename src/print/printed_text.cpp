@@ -6,7 +6,6 @@
 #include "richtext/capitals.h"
 #include "richtext/field_link.h"
 #include "richtext/kept_pieces.h"
-#include "richtext/kept_words.h"
 #include "richtext/sections.h"
 
 namespace tarnwell::print {

@@ -1,7 +1,6 @@
 #include "print/rich_text.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "print/rich_flow.h"
 

@@ -1,5 +1,7 @@
 #include "program/drafts.h"
 
+#include <string_view>
+
 #include "forms/message.h"
 #include "forms/navigator.h"
 #include "storage/file_names.h"

@@ -5,7 +5,6 @@
 #include <chrono>
 #include <map>
 #include <string>
-#include <string_view>
 
 #include "forms/context.h"
 #include "forms/form.h"

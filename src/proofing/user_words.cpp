@@ -1,7 +1,5 @@
 #include "proofing/user_words.h"
 
-#include <vector>
-
 #include "proofing/capitals.h"
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"

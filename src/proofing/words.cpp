@@ -1,7 +1,6 @@
 #include "proofing/words.h"
 
 #include <algorithm>
-#include <array>
 
 #include "proofing/addresses.h"
 #include "text/code_page_1252.h"

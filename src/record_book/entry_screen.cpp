@@ -6,7 +6,6 @@
 #include "forms/navigator.h"
 #include "print/report.h"
 #include "record_book/record_store.h"
-#include "text/letters.h"
 
 namespace tarnwell::record_book {
 namespace {

@@ -4,7 +4,6 @@
 
 #include "print/picture_size.h"
 #include "print/report.h"
-#include "text/letters.h"
 
 namespace tarnwell::record_book {
 namespace {

@@ -1,6 +1,7 @@
 #include "record_book/picture_pages.h"
 
 #include <algorithm>
+#include <string>
 
 #include "forms/disk_trouble.h"
 #include "forms/navigator.h"

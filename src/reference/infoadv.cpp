@@ -1,6 +1,7 @@
 #include "reference/infoadv.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "forms/form_names.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "forms/choice.h"
 #include "forms/command.h"
 #include "forms/control_array.h"

@@ -1,7 +1,5 @@
 #include "shell/about1.h"
 
-#include <string>
-
 #include "forms/form_names.h"
 #include "forms/navigator.h"
 #include "shell/data_place.h"

@@ -7,15 +7,12 @@ int SecondsOf(forms::Clock& clock) {
   return static_cast<int>(clock.Now().time_of_day.count() % 60);
 }
 
-// Only the seconds of the minute are looked at, so that a wait across midnight ends as well.
-void Pause(int seconds, forms::Clock& clock, forms::EventLoop& loop) {
-  const int start = SecondsOf(clock);
-  while ((SecondsOf(clock) - start + 60) % 60 < seconds) loop.WaitALittle();
-}
-
 }  // namespace
 
-void Pause1(forms::Clock& clock, forms::EventLoop& loop) { Pause(1, clock, loop); }
-void Pause2(forms::Clock& clock, forms::EventLoop& loop) { Pause(2, clock, loop); }
+// Only the seconds of the minute are looked at, so that a wait across midnight ends as well.
+void Pause2(forms::Clock& clock, forms::EventLoop& loop) {
+  const int start = SecondsOf(clock);
+  while ((SecondsOf(clock) - start + 60) % 60 < 2) loop.WaitALittle();
+}
 
 }  // namespace tarnwell::shell

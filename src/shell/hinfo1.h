@@ -1,4 +1,4 @@
-// Small routines that every area may call.
+// The wait that the splash screen is seen for.
 
 #pragma once
 
@@ -6,8 +6,7 @@
 
 namespace tarnwell::shell {
 
-// Wait until the clock's seconds have moved on by 1 or 2; input is handled meanwhile.
-void Pause1(forms::Clock& clock, forms::EventLoop& loop);
+// Waits until the clock's seconds have moved on by 2; input is handled meanwhile.
 void Pause2(forms::Clock& clock, forms::EventLoop& loop);
 
 }  // namespace tarnwell::shell

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/color.h"
 #include "forms/disk_trouble.h"
 #include "forms/form_names.h"
 #include "forms/navigator.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "forms/color.h"
 #include "forms/command.h"
 #include "forms/form.h"
 #include "forms/label.h"

@@ -181,12 +181,6 @@ std::unique_ptr<File> Replacement::Make(std::string_view name) {
   return file;
 }
 
-std::unique_ptr<File> Replacement::Reopen(std::string_view name) {
-  const auto made = made_.find(text::UpperCase(name));
-  return made == made_.end() ? nullptr
-                             : files_.Open(PathOf(made->second.sibling), OpenMode::kReadWrite);
-}
-
 // The journal's lines: first the user's files that are there, then those that take their place.
 Outcome Replacement::Plan(std::vector<std::string>& lines) {
   std::vector<std::string> going = removed_;

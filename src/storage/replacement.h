@@ -33,8 +33,6 @@ class Replacement {
   // writes it, flushes it and closes it. Null for a name that isn't plain, or on a bad disk.
   std::unique_ptr<File> Make(std::string_view name);
   bool HasMade(std::string_view name) const;
-  // What was made for that name, to be read or written further; null when nothing was.
-  std::unique_ptr<File> Reopen(std::string_view name);
   // The user's file of that name goes, unless one was made for it.
   void Remove(std::string_view name) { removed_.emplace_back(name); }
   // Where it fails everything is as it was, but for is_stuck().

@@ -101,7 +101,6 @@ class AutoMaint : public forms::Form {
   void PickFile();
   void OpenVehicle(const Vehicle& vehicle);
   void CloseVehicle();
-  void ShowHistories();
   void ReportCutFiles();
   void Create();
   void ViewExisting();

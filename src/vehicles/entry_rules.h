@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
 #include "forms/context.h"
 #include "forms/date_picker.h"

@@ -1,6 +1,5 @@
 #include "vehicles/fuel_cells.h"
 
-#include "text/leading_number.h"
 #include "text/letters.h"
 #include "text/number_mask.h"
 #include "vehicles/cell_values.h"

@@ -1,7 +1,5 @@
 #include "vehicles/maintenance_pane.h"
 
-#include <algorithm>
-
 #include "parts/sheet_rows.h"
 #include "storage/sequential_file.h"
 #include "text/letters.h"

@@ -1,6 +1,7 @@
 #include "vehicles/vehicle_report.h"
 
 #include <algorithm>
+#include <string_view>
 #include <tuple>
 #include <utility>
 

@@ -1,11 +1,9 @@
 #include "vehicles/vehicle_sheet.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"
-#include "text/leading_number.h"
 #include "text/letters.h"
 #include "vehicles/cell_values.h"
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 #include "print/report.h"
 #include "vehicles/vehicle_report.h"

@@ -5,7 +5,6 @@
 
 #include "forms/disk_trouble.h"
 #include "forms/message.h"
-#include "parts/help_menu.h"
 #include "print/report.h"
 #include "print/rich_text.h"
 #include "richtext/plain_text.h"

@@ -1,7 +1,6 @@
 #include "workarea/rule_table.h"
 
 #include <algorithm>
-#include <cstddef>
 
 #include "text/letters.h"
 

@@ -1,5 +1,6 @@
 #include "workarea/status_choice.h"
 
+#include <string>
 #include <vector>
 
 #include "forms/disk_trouble.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
 
 #include "forms/context.h"

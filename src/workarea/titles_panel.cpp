@@ -1,5 +1,7 @@
 #include "workarea/titles_panel.h"
 
+#include <string>
+
 #include "forms/control_array.h"
 
 namespace tarnwell::workarea {

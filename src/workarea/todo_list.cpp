@@ -1,7 +1,6 @@
 #include "workarea/todo_list.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "storage/file_names.h"
 #include "storage/sequential_file.h"

@@ -8,7 +8,6 @@
 #include "parts/backup_menu.h"
 #include "parts/help_menu.h"
 #include "parts/sheet_rows.h"
-#include "print/report.h"
 #include "proofing/grid_corrections.h"
 #include "proofing/spelling.h"
 #include "storage/file_names.h"

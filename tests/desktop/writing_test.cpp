@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QStandardPaths>
 #include <QTest>
+#include <QTextEdit>
 #include <fstream>
 #include <iterator>
 

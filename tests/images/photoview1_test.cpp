@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "images/image_book.h"
+#include "images/image_pages.h"
 #include "record_book/record_store.h"
 #include "support/fixed_metrics.h"
 #include "support/format_page.h"

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 #include "parts/find_bar.h"
 #include "parts/format_bar.h"
 #include "richtext/plain_text.h"

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "planner/sheet_import.h"
+#include "planner/sheet_lines.h"
 #include "support/format_page.h"
 #include "support/temporary_folder.h"
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string_view>
 
 #include "budget/budget1a.h"
 #include "leave/leave_sheet.h"

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "contacts/contact_book.h"
 #include "employees/employee_book.h"
 #include "record_book/record_store.h"

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <string>
+
 #include "reference/reference_rig.h"
 #include "richtext/plain_text.h"
 

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "forms/color.h"
 #include "planner/day_store.h"
 #include "planner/zcalandar1.h"
 #include "settings/display_settings.h"
