@@ -9,11 +9,17 @@
 #include <vector>
 
 #include "bench_folder.h"
+#include "desktop/desktop.h"
 #include "desktop/services/page_output.h"
 #include "desktop/widgets/page_fonts.h"
 #include "desktop/widgets/text.h"
+#include "forms/form_names.h"
+#include "forms/navigator.h"
+#include "images/image_book.h"
 #include "images/image_pages.h"
 #include "ratio_table.h"
+#include "record_book/entry_screen.h"
+#include "record_book/record_store.h"
 #include "windows.h"
 
 namespace tarnwell::bench {
@@ -48,6 +54,40 @@ void Decode(const std::vector<std::string>& files, QSize size) {
   }
 }
 
+// An arrow key held down over the list of 1,000 images, and one after the other looked at.
+bool MeasureMoving(const std::string& folder, const std::vector<std::string>& files) {
+  constexpr int kEntries = 1000;
+  constexpr int kLooked = 40;
+  constexpr double kLongestMove = 50;  // milliseconds
+  storage::ProgramFolder user(storage::RealFileSystem(), folder);
+  for (int i = 0; i < kEntries; ++i) {
+    const std::string& file = files[static_cast<std::size_t>(i) % files.size()];
+    Check(static_cast<bool>(WriteNew(user, images::ImageBook(), record_book::kFirstRecord + i,
+                                     {{"Title " + std::to_string(i), "2026"}, file})),
+          "write the images");
+  }
+  desktop::Desktop desktop({QString::fromStdString(folder), QString()});
+  desktop.navigator().Show(forms::form_names::kPhotoView);
+  auto& form = static_cast<record_book::EntryScreen&>(*desktop.navigator().top());
+  form.mode.Click();
+  QApplication::processEvents();
+  std::vector<double> moves;
+  std::vector<double> looks;
+  for (int i = 0; i < kEntries; ++i) {
+    moves.push_back(Milliseconds([&] {
+      form.names.Pick(i);
+      QApplication::processEvents();
+    }));
+    if (i % (kEntries / kLooked) != 0) continue;
+    looks.push_back(Milliseconds([&] {
+      form.view.Click();
+      QApplication::processEvents();
+    }));
+  }
+  const bool is_good = TellWorst("An arrow key over 1,000 images, painted", moves, kLongestMove);
+  return TellWorst("An image of 12 megapixels looked at, painted", looks, kLongestMove) && is_good;
+}
+
 int Run(const std::string& folder) {
   const BenchFolder place(folder);
   std::vector<std::string> files;
@@ -70,7 +110,8 @@ int Run(const std::string& folder) {
   table.Measure("a page of 8 photographs of 12 megapixels", kAim, 5, page, [&] {
     Decode(files, {height * 4 / 3, height});
   });
-  return table.Print() ? 0 : 1;
+  const bool is_good = MeasureMoving(place.path(), files);
+  return table.Print() && is_good ? 0 : 1;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
 
 #include "desktop/services/dictionary_folders.h"
 #include "desktop/views/registry.h"
@@ -31,7 +32,9 @@ Desktop::Desktop(const Folders& folders, const Outside& outside)
 
 void Desktop::Start() {
   program_.Start();
-  QObject::connect(&keeping_, &QTimer::timeout, &window_, [this] { program_.KeepDrafts(); });
+  const auto keep = [this] { program_.KeepDrafts(); };
+  QObject::connect(&keeping_, &QTimer::timeout, &window_, keep);
+  QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window_, keep);
   keeping_.start(program::Drafts::kEvery);
 }
 

@@ -23,6 +23,8 @@ std::string_view ReasonOf(storage::Fault fault) {
       return "something else has the name of its file";
     case Fault::kInUse:
       return "it is in use, or too many files are open";
+    case Fault::kNoAnswer:
+      return "its disk or network doesn't answer";
     case Fault::kNone:
     case Fault::kBroken:
       break;

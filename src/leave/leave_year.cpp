@@ -13,14 +13,18 @@ namespace {
 constexpr int kCells = kBalance;  // of a row
 constexpr int kHeadings = 1;      // a count of rows has the heading in it
 
+// The number of rows that the file's text tells.
+int CountIn(storage::SequentialReader& file) {
+  const double counted = text::LeadingNumber(file.Next()) - kHeadings;
+  return static_cast<int>(std::clamp(counted, double{kLeastRows}, double{kMostRows}));
+}
+
 }  // namespace
 
 LeaveYear ReadLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year) {
   storage::SequentialReader count(folder, files.row_count(year));
   storage::SequentialReader sheet(folder, files.sheet(year));
-  const double counted = text::LeadingNumber(count.Next()) - kHeadings;
-  const int rows = static_cast<int>(std::clamp(counted, double{kLeastRows}, double{kMostRows}));
-  LeaveYear read{year_sheet::ReadRows(sheet, rows, kCells)};
+  LeaveYear read{year_sheet::ReadRows(sheet, CountIn(count), kCells)};
   if (count.is_unreadable()) read.fault = count.fault();
   if (sheet.is_unreadable()) read.fault = sheet.fault();
   if (read.fault != storage::Fault::kNone) read.rows.assign(kLeastRows, year_sheet::Row(kCells));
@@ -36,10 +40,18 @@ storage::Outcome WriteRowCount(storage::ProgramFolder& folder, const LeaveFiles&
 
 storage::Outcome WriteLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year,
                                 const year_sheet::Rows& rows) {
+  const int count = static_cast<int>(rows.size());
+  storage::SequentialReader before(folder, files.row_count(year));
+  const bool grows = count > CountIn(before);
+  // The count is never below the rows of the sheet: what lies behind it isn't read, and would go
+  // with the next save.
+  if (grows) {
+    if (const auto written = WriteRowCount(folder, files, year, count); !written) return written;
+  }
   storage::SequentialWriter file;
   year_sheet::WriteRows(file, rows);
-  if (const auto written = file.Save(folder, files.sheet(year)); !written) return written;
-  return WriteRowCount(folder, files, year, static_cast<int>(rows.size()));
+  if (const auto written = file.Save(folder, files.sheet(year)); !written || grows) return written;
+  return WriteRowCount(folder, files, year, count);
 }
 
 storage::Outcome WriteNamesOfNextYear(storage::ProgramFolder& folder, const LeaveFiles& files,

@@ -38,7 +38,7 @@ struct LeaveYear {
 };
 LeaveYear ReadLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year);
 
-// The sheet, and behind it the count of its rows.
+// The sheet and the count of its rows, in the order in which the count is never too low.
 storage::Outcome WriteLeaveYear(storage::ProgramFolder& folder, const LeaveFiles& files, int year,
                                 const year_sheet::Rows& rows);
 // The count alone, which the sheet's file doesn't follow before it is saved.

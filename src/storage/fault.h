@@ -14,6 +14,7 @@ enum class Fault {
   kTooLarge,      // larger than what is read as a whole
   kNotPlain,      // a link, a folder, a pipe: nothing that the program made
   kInUse,         // another program holds it, or too many files are open
+  kNoAnswer,      // the disk or the network keeps silent
   kBroken,        // the disk failed
 };
 

@@ -13,12 +13,14 @@
 #include <QWheelEvent>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <iterator>
 
 #include "desktop/services/page_output.h"
 #include "desktop/services/qt_pictures.h"
 #include "desktop/shown_widget.h"
 #include "desktop/widgets/machine_pictures.h"
+#include "desktop/widgets/patient_reading.h"
 #include "support/temporary_folder.h"
 
 namespace tarnwell::desktop {
@@ -115,6 +117,26 @@ TEST_F(QtPicturesTest, OtherProgramsScansAreReadAndOfSeveralPagesTheFirst) {
   ASSERT_EQ(first_page.size(), QSize(24, 12));
   EXPECT_EQ(first_page.pixelColor(2, 2).lightness(), 0);
   EXPECT_EQ(first_page.pixelColor(20, 9).lightness(), 255);
+}
+
+TEST(PatientReading, ASilentFolderIsWaitedForOnceAndNoLongerThanItsTime) {
+  std::promise<void> server;
+  const std::shared_future<void> back = server.get_future().share();
+  const auto read = [&](const char* folder, const char* content) {
+    return ReadPatiently(
+        folder,
+        [=] {
+          return FileRead{content, Fault::kNone};
+        },
+        std::chrono::minutes(1));
+  };
+  const FileRead silent = ReadPatiently(
+      "/net", [back] { return back.wait(), FileRead{}; }, std::chrono::milliseconds(1));
+  EXPECT_EQ(silent.fault, Fault::kNoAnswer);
+  EXPECT_EQ(read("/net", "late").fault, Fault::kNoAnswer);
+  EXPECT_EQ(read("/home", "here").content, "here");
+  server.set_value();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return read("/net", "back").content == "back"; }));
 }
 
 TEST_F(QtPicturesTest, AnUprightPictureStandsUpright) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -92,6 +93,29 @@ TEST_F(LeaveYearTest, ARefusedSaveLeavesTheOldYear) {
     files.AllowBytes(bytes);
     EXPECT_FALSE(WriteLeaveYear(folder, kSickLeaveFiles, 2026, FiftyWith(other))) << bytes;
     EXPECT_EQ(disk_.Read("2026.Sl1"), before) << bytes;
+  }
+}
+
+TEST_F(LeaveYearTest, NoMomentOfASaveHasRowsThatArentRead) {
+  const auto with_rows = [](int rows) { return Rows(static_cast<std::size_t>(rows), AnnLee()); };
+  testing::FailingFileSystem files{storage::RealFileSystem()};
+  storage::ProgramFolder failing(files, disk_.path());
+  for (const auto& [from, to] : {std::pair{50, 52}, {52, 50}}) {
+    bool is_saved = false;
+    for (int call = 1; !is_saved; ++call) {
+      ASSERT_LT(call, 200);
+      disk_.Remove("2026.Sl1");
+      disk_.Remove("2026.Sl2");
+      ASSERT_TRUE(WriteLeaveYear(folder_, kSickLeaveFiles, 2026, with_rows(from)));
+      const std::string before = disk_.Read("2026.Sl1");
+      files.FailFrom(files.calls() + call);
+      is_saved = static_cast<bool>(WriteLeaveYear(failing, kSickLeaveFiles, 2026, with_rows(to)));
+      files.Recover();
+      const int rows = disk_.Read("2026.Sl1") == before ? from : to;
+      const Rows read = Read().rows;
+      EXPECT_GE(read.size(), static_cast<std::size_t>(rows)) << call;
+      EXPECT_EQ(std::ranges::count(read, AnnLee()), rows) << call;
+    }
   }
 }
 

@@ -1,11 +1,13 @@
 #include "desktop/widgets/machine_pictures.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
+#include <utility>
 
+#include "desktop/widgets/patient_reading.h"
 #include "desktop/widgets/text.h"
-#include "storage/file_system.h"
 
 namespace tarnwell::desktop {
 namespace {
@@ -28,27 +30,31 @@ QByteArray TypeOf(const QByteArray& file) {
   return file.startsWith("RIFF") && file.mid(8, 4) == "WEBP" ? "webp" : "";
 }
 
-// A link is followed: a person chose it.
-storage::Fault ReadFile(const std::string& path, QByteArray& content) {
-  const QString canonical = QFileInfo(FromCore(path)).canonicalFilePath();
-  if (canonical.isEmpty()) return storage::Fault::kMissing;
-  storage::FileSystem& files = storage::RealFileSystem();
-  const auto file = files.Open(canonical.toStdString(), storage::OpenMode::kRead);
-  const auto size = file ? file->Size() : std::nullopt;
-  if (!size) return files.fault();
-  if (*size > kMostPictureBytes) return storage::Fault::kTooLarge;
-  content.resize(static_cast<qsizetype>(*size));
-  const auto count = file->ReadAt(0, {content.data(), static_cast<std::size_t>(content.size())});
-  if (count < 0) return files.fault();
-  content.truncate(count);
-  return storage::Fault::kNone;
+// A link is followed: a person chose it. What isn't a file, such as a pipe, isn't opened.
+FileRead ReadFile(const QString& path) {
+  const QFileInfo info(path);
+  if (!info.exists()) return {{}, storage::Fault::kMissing};
+  if (!info.isFile()) return {{}, storage::Fault::kNotPlain};
+  if (info.size() > static_cast<qint64>(kMostPictureBytes)) return {{}, storage::Fault::kTooLarge};
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    const bool is_denied = file.error() == QFileDevice::PermissionsError || !info.isReadable();
+    return {{}, is_denied ? storage::Fault::kNotPermitted : storage::Fault::kInUse};
+  }
+  FileRead read{file.read(static_cast<qint64>(kMostPictureBytes)), storage::Fault::kNone};
+  if (file.error() != QFileDevice::NoError) read.fault = storage::Fault::kBroken;
+  return read;
 }
 
 // Decodes it as large as fits into `most`; nothing where that is empty.
 MachinePicture Read(const std::string& path, QSize most) {
   MachinePicture picture;
+  const QString place = FromCore(path);
+  const std::string folder = place.section(QLatin1Char('/'), 0, -2).toStdString();
+  FileRead read = ReadPatiently(folder, [place] { return ReadFile(place); });
+  picture.fault = read.fault;
   QBuffer file;
-  picture.fault = ReadFile(path, file.buffer());
+  file.setData(std::move(read.content));
   const QByteArray type = TypeOf(file.buffer());
   if (type.isEmpty()) return picture;
   file.open(QIODevice::ReadOnly);
