@@ -43,7 +43,7 @@ struct RichLine {
   bool begins_frame = false;
   bool ends_frame = false;
   bool goes_on_with_frame = false;  // of the paragraph before
-  int frame_above = 0;  // twips above the line that its frame fills too
+  int frame_above = 0;              // twips above the line that its frame fills too
 };
 
 // Nothing for a border that isn't there.

@@ -38,10 +38,9 @@ QWidget* LineOf(forms::TextField& field, Show show, Type type) {
       edit->setFocusPolicy(field.locked() ? Qt::ClickFocus : Qt::StrongFocus);
     }
   });
-  QObject::connect(edit, &QLineEdit::textEdited, binding,
-                   binding->Forward([edit, type](const QString& text) {
-                     edit->Typing([&] { type(text); });
-                   }));
+  QObject::connect(
+      edit, &QLineEdit::textEdited, binding,
+      binding->Forward([edit, type](const QString& text) { edit->Typing([&] { type(text); }); }));
   QObject::connect(edit, &QLineEdit::returnPressed, binding, binding->Forward([edit, &field] {
     edit->took_enter = static_cast<bool>(field.on_enter);
     field.PressEnter();
